@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QString>
+
+#include "host/KZFoundation/KZHostExport.h"
+
+// Keys and values of telemetry records.
+
+KZ_HOST_EXPORT extern const QString TelemetryKey_MetricName;
+KZ_HOST_EXPORT extern const QString TelemetryKey_Values;
+KZ_HOST_EXPORT extern const QString TelemetryKey_FeatureName;
+KZ_HOST_EXPORT extern const QString TelemetryKey_ActionFrom;
+KZ_HOST_EXPORT extern const QString TelemetryKey_ClickFrom;
+KZ_HOST_EXPORT extern const QString TelemetryKey_Boolean;
+KZ_HOST_EXPORT extern const QString TelemetryKey_MeetingAlertMinutes;
+KZ_HOST_EXPORT extern const QString TelemetryKey_CalendarListDaysCount;
+KZ_HOST_EXPORT extern const QString TelemetryValue_MetricName_KZMetric;
+KZ_HOST_EXPORT extern const QString TelemetryValue_ActionFrom_APP;
+KZ_HOST_EXPORT extern const QString TelemetryValue_ActionFrom_Outlook;
+KZ_HOST_EXPORT extern const QString TelemetryValue_ClickFrom_Preferences;
+KZ_HOST_EXPORT extern const QString TelemetryValue_BooleanTrue;
+KZ_HOST_EXPORT extern const QString TelemetryValue_BooleanFalse;
+KZ_HOST_EXPORT extern const QString TelemetryValue_FeatureName_Click_Preferences;
+KZ_HOST_EXPORT extern const QString TelemetryValue_FeatureName_Click_CheckForUpdates;
+KZ_HOST_EXPORT extern const QString TelemetryValue_FeatureName_Click_JoinByNumber;
+KZ_HOST_EXPORT extern const QString TelemetryValue_FeatureName_Click_CalendarSourceNone;
+KZ_HOST_EXPORT extern const QString TelemetryValue_FeatureName_Click_CalendarSourceMivra;
+KZ_HOST_EXPORT extern const QString TelemetryValue_FeatureName_Click_CalendarSourceGoogle;
+KZ_HOST_EXPORT extern const QString TelemetryValue_FeatureName_Click_CalendarSourceOutlook;
+KZ_HOST_EXPORT extern const QString TelemetryValue_FeatureName_Click_ApplyExchangeAccount;
+KZ_HOST_EXPORT extern const QString TelemetryValue_FeatureName_Click_EditGuestInfo;
+KZ_HOST_EXPORT extern const QString TelemetryValue_FeatureName_Click_EditMeetingNowSettings;
+KZ_HOST_EXPORT extern const QString TelemetryValue_FeatureName_Click_PreferenceMeetingAlert;
+KZ_HOST_EXPORT extern const QString TelemetryValue_FeatureName_Click_PreferenceMeetingAlertMinutes;
+KZ_HOST_EXPORT extern const QString TelemetryValue_FeatureName_Click_SelectCalendarListDays;
+KZ_HOST_EXPORT extern const QString TelemetryValue_FeatureName_Click_PreferenceVideoDeviceAutodetect;

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QLabel>
+
+#include "host/KZFoundation/KZHostExport.h"
+
+// A notice inside a pane: a coloured strip with an icon and a text that wraps. It takes its parent's width and the
+// height that the text needs, at the parent's upper edge.
+class KZ_HOST_EXPORT MarigoldWarningView : public QWidget {
+  Q_OBJECT
+
+ public:
+  MarigoldWarningView();
+
+  void setIsInfo(bool isInfo);  // information instead of a warning
+  void setWarningText(const QString& text);
+  QString warningText() const;
+
+  // The height that the text needs at that width.
+  int heightForWidth(int width) const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QLabel* m_text;
+  bool m_isInfo = false;
+};

@@ -1,0 +1,22 @@
+#include "host/KZFoundation/KZConstantRegistry.h"
+
+#include <QHash>
+
+namespace {
+
+// Constants register while the library's globals are initialised, so the table must exist on first use.
+QHash<QString, QString>& constants() {
+  static QHash<QString, QString> table;
+  return table;
+}
+
+}  // namespace
+
+QString registeredConstant(const char* name, const char* text) {
+  const QString key = QString::fromLatin1(name);
+  const QString constant = QString::fromLatin1(text ? text : name);
+  constants().insert(key, constant);
+  return constant;
+}
+
+QString constantNamed(const QString& name) { return constants().value(name); }

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QIcon>
+
+#include "host/KZFoundation/KZHostExport.h"
+
+// A button that is nothing but an image for each of its states.
+class KZ_HOST_EXPORT FlatImageButton : public QAbstractButton {
+  Q_OBJECT
+
+ public:
+  struct ImageNames {
+    QString normal;
+    QString hover;
+    QString pressed;
+    QString focus;
+    QString disabled;
+  };
+
+  FlatImageButton();
+
+  // Names of images below that folder; see KZRetinaHelper. A name without image draws nothing.
+  void setImageNames(const ImageNames& names, const QString& imageBundle);
+  const ImageNames& imageNames() const { return m_names; }
+
+  QSize sizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  ImageNames m_names;
+  QString m_bundle;
+};

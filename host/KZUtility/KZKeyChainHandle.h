@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <memory>
+#include <optional>
+
+#include "host/KZFoundation/KZHostExport.h"
+
+// Where secrets are kept. Calls are synchronous and bounded in time; any thread.
+class KZ_HOST_EXPORT KZKeychainBackend {
+ public:
+  enum class Status { Done, NotFound, Unavailable };
+  struct Item {
+    QString service;
+    QString account;
+  };
+  struct Answer {
+    Status status = Status::NotFound;
+    QByteArray secret;
+  };
+
+  KZKeychainBackend();
+  virtual ~KZKeychainBackend();
+  Q_DISABLE_COPY_MOVE(KZKeychainBackend)
+
+  [[nodiscard]] virtual Answer read(const Item& item) = 0;
+  [[nodiscard]] virtual Status write(const Item& item, const QByteArray& secret) = 0;
+  [[nodiscard]] virtual Status remove(const Item& item) = 0;
+};
+
+// The host's keychain. Secrets go to the platform's keychain; while it is missing, locked or silent they live in
+// memory for this run, with one warning trace. Never in a file. Any thread.
+class KZ_HOST_EXPORT KZKeyChainHandle {
+ public:
+  enum class Storage { Memory, System };
+
+  static KZKeyChainHandle& sharedInstance();
+
+  // Memory until the host says otherwise. Choosing again forgets what was in memory.
+  void useStorage(Storage storage);
+
+  // The saved on-premise credential; each text is null when absent.
+  void getOutlookUsername(QString* username, QString* password);
+  void commitOutlookUsername(const QString& username, const QString& password);
+  void removeOutlookCredential();
+
+  // The saved online account's data; nothing when absent.
+  std::optional<QByteArray> getOutlookOnlineData();
+  void commitOutlookOnlineData(const QByteArray& data);
+
+  // One generic password item, as the platform's keychain has it.
+  [[nodiscard]] KZKeychainBackend::Answer copyGenericPassword(const KZKeychainBackend::Item& item);
+  [[nodiscard]] KZKeychainBackend::Status deleteGenericPassword(const KZKeychainBackend::Item& item);
+
+ private:
+  KZKeyChainHandle();
+  ~KZKeyChainHandle();
+
+  struct Private;
+  std::unique_ptr<Private> d;
+};

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <memory>
+
+#include "host/KZFoundation/Dictionary.h"
+#include "host/KZFoundation/KZHostExport.h"
+
+class PropertyListFile;
+
+// The host's settings store: an XML property list, read once and written atomically at every change. A value that
+// cannot be written stays in memory for this run, with an error trace; a file that cannot be read is never
+// overwritten. Keys that nobody here knows survive. Main thread only.
+class KZ_HOST_EXPORT KZPlistFileHandle : public QObject {
+  Q_OBJECT
+
+ public:
+  static KZPlistFileHandle& sharedInstance();
+
+  // Reads the store in that folder, which is made when missing. Before the first call the store is in memory only.
+  void open(const QString& folder);
+  // Forgets everything and is in memory only again; the file stays.
+  void close();
+  QString filePath() const;  // null while in memory only
+
+  // Keys as in the file. A missing value removes the key.
+  bool isPlistKeyExist(const QString& key) const;
+  QVariant value(const QString& key) const;
+  void setValue(const QString& key, const QVariant& value);
+
+  // Empty when absent or of another type.
+  Dictionary preferenceInfo() const;
+  Dictionary meetingNotification() const;
+  Dictionary videoDevice() const;
+  Dictionary calendarIntegration() const;
+  void setPreferenceInfo(const Dictionary& info);
+  void setMeetingNotification(const Dictionary& settings);
+  void setVideoDevice(const Dictionary& settings);
+  void setCalendarIntegration(const Dictionary& settings);
+
+  // Null when absent or of another type.
+  QString siteName() const;
+  QString cdnUrl() const;
+  QString userName() const;
+  QString displayName() const;
+  void setSiteName(const QString& name);
+  void setCdnUrl(const QString& url);
+  void setUserName(const QString& name);
+  void setDisplayName(const QString& name);
+
+  // False when absent; ask `isPlistKeyExist` with KZLaunchAtLogin or KZEnableOutlookKZPlugin first.
+  bool launchAtLogin() const;
+  bool enableOutlookKZPlugin() const;
+  void setLaunchAtLogin(bool isOn);
+  void setEnableOutlookKZPlugin(bool isOn);
+
+ Q_SIGNALS:
+  // After the value is in force, whether or not the disk took it.
+  void valueChanged(const QString& key, const QVariant& before, const QVariant& after);
+
+ private:
+  KZPlistFileHandle();
+  ~KZPlistFileHandle() override;
+
+  Dictionary m_values;
+  std::unique_ptr<PropertyListFile> m_file;
+};

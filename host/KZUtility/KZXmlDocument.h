@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include "host/KZFoundation/KZHostExport.h"
+
+// Hostile XML, read in bounded time and memory: at most 1 MiB and 256 levels, no document type, no entities beyond
+// the five of XML itself.
+class KZ_HOST_EXPORT KZXmlDocument {
+ public:
+  // The string value of the first element found by `path` below the first child of the root named `first`.
+  // Null when the text is not well-formed, is refused, or has no such element.
+  static QString firstText(const QString& xml, const QString& first, const QStringList& path);
+};

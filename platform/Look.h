@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QColor>
+#include <QPalette>
+
+#include "platform/PlatformExport.h"
+
+class QStyle;
+class QWidget;
+
+// The look of our own windows. It follows the application's palette (light, dark, high contrast) and never changes
+// the application itself. Main thread only.
+
+enum class LookScheme { Light, Dark, HighContrastLight, HighContrastDark };
+
+// Colours that carry a meaning; drawn legibly in every scheme.
+enum class SystemColor { Text, Red, Blue };
+
+PLATFORM_EXPORT LookScheme lookSchemeFor(const QPalette& palette);
+PLATFORM_EXPORT const QPalette& lookPalette(LookScheme scheme);
+PLATFORM_EXPORT QColor lookColor(SystemColor color, LookScheme scheme);
+
+// One style object for the process, owned by the application object.
+PLATFORM_EXPORT QStyle* lookStyle();
+
+// Gives a top-level window the look's palette and keeps it in step with the application's.
+PLATFORM_EXPORT void dressWindow(QWidget* window);

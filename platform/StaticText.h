@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QLabel>
+
+#include "platform/Frame.h"
+#include "platform/Look.h"
+#include "platform/PlatformExport.h"
+#include "platform/Text.h"
+
+// A one-line text that cannot be edited or selected. A text that does not fit ends in "…"; the whole is its tool tip.
+class PLATFORM_EXPORT StaticText : public QLabel {
+  Q_OBJECT
+
+ public:
+  StaticText(const QString& text, FontRole role, double size, Qt::Alignment alignment = Qt::AlignLeft);
+
+  void setSystemColor(SystemColor color);
+  SystemColor systemColor() const { return m_color; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  bool event(QEvent* event) override;
+
+ private:
+  SystemColor m_color = SystemColor::Text;
+};

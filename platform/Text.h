@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QFont>
+#include <QString>
+
+#include "platform/Frame.h"
+#include "platform/PlatformExport.h"
+
+// Texts are measured in the very fonts that they are drawn in.
+enum class FontRole { Label, System, BoldSystem };
+
+inline constexpr double systemFontSize = 13;  // the platform's default size, in points
+
+PLATFORM_EXPORT QFont fontFor(FontRole role, double size);
+
+// Width as measured, height rounded up. An empty text has no width.
+PLATFORM_EXPORT Size sizeOfText(const QString& text, FontRole role, double size);
