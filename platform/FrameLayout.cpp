@@ -1,1 +1,198 @@
 #include "platform/FrameLayout.h"
+
+#include <QEvent>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QScreen>
+#include <QVariant>
+#include <cmath>
+#include <optional>
+
+#include "platform/Look.h"
+
+namespace {
+
+constexpr char kFrameProperty[] = "platformFrame";
+constexpr char kNextKeyViewProperty[] = "platformNextKeyView";
+
+struct Placement {
+  Frame frame;
+  VerticalAnchor anchor = VerticalAnchor::Bottom;
+};
+
+std::optional<Placement> placementOf(const QWidget* view) {
+  const QVariant kept = view->property(kFrameProperty);
+  return kept.isValid() ? std::optional(kept.value<Placement>()) : std::nullopt;
+}
+
+void keep(QWidget* view, const Placement& placement) {
+  view->setProperty(kFrameProperty, QVariant::fromValue(placement));
+}
+
+double heightOf(const QWidget* view) { return frameOf(view).height; }
+
+// Edges are rounded, not sizes, so that neighbours that touch in points touch in pixels.
+QRect geometryIn(const QWidget* parent, const Frame& frame) {
+  const double height = heightOf(parent);
+  const int left = qRound(frame.x);
+  const int right = qRound(frame.maxX());
+  const int top = qRound(height - frame.maxY());
+  const int bottom = qRound(height - frame.y);
+  return {left, top, right - left, bottom - top};
+}
+
+QSize roundedSize(const Frame& frame) {
+  return {static_cast<int>(std::ceil(frame.width)), static_cast<int>(std::ceil(frame.height))};
+}
+
+// Keeps the subviews of one view where their frames say.
+class Placer final : public QObject {
+ public:
+  static Placer* of(const QWidget* parent) {
+    return static_cast<Placer*>(parent->findChild<QObject*>(QStringLiteral("platformPlacer"), Qt::FindDirectChildrenOnly));
+  }
+
+  static Placer& ensured(QWidget* parent) {
+    Placer* placer = of(parent);
+    return placer ? *placer : *new Placer(parent);
+  }
+
+  void add(QWidget* child) {
+    remove(child);
+    m_children.append(child);
+  }
+
+  void remove(const QObject* child) {
+    m_children.removeIf([child](const QPointer<QWidget>& known) { return !known || known == child; });
+  }
+
+  QList<QWidget*> children() const {
+    QList<QWidget*> alive;
+    for (const QPointer<QWidget>& child : m_children)
+      if (child && child->parentWidget() == m_view) alive.append(child);
+    return alive;
+  }
+
+  // Brings the geometry up to date; Top-anchored views first move by what the height has changed.
+  void place() {
+    const double height = heightOf(m_view);
+    const double growth = height - m_height;
+    m_height = height;
+    for (QWidget* child : children()) {
+      std::optional<Placement> placement = placementOf(child);
+      if (!placement) continue;
+      if (placement->anchor == VerticalAnchor::Top && growth != 0) {
+        placement->frame.y += growth;
+        keep(child, *placement);
+      }
+      child->setGeometry(geometryIn(m_view, placement->frame));
+    }
+  }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Resize) place();
+    if (event->type() == QEvent::ChildRemoved) remove(static_cast<QChildEvent*>(event)->child());
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  explicit Placer(QWidget* view) : QObject(view), m_view(view), m_height(heightOf(view)) {
+    setObjectName(QStringLiteral("platformPlacer"));
+    view->installEventFilter(this);
+  }
+
+  QWidget* m_view;
+  double m_height;
+  QList<QPointer<QWidget>> m_children;
+};
+
+// Sends Tab to the view that was named as the next one.
+class KeyViewLink final : public QObject {
+ public:
+  explicit KeyViewLink(QWidget* from) : QObject(from) { from->installEventFilter(this); }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() != QEvent::KeyPress) return false;
+    const auto* key = static_cast<QKeyEvent*>(event);
+    if (key->key() != Qt::Key_Tab || key->modifiers() != Qt::NoModifier) return false;
+    QWidget* next = nextKeyViewOf(static_cast<QWidget*>(watched));
+    if (!next || !next->isVisible() || !next->isEnabled()) return false;
+    next->setFocus(Qt::TabFocusReason);
+    return true;
+  }
+};
+
+void dressInStyle(QWidget* view) {
+  view->setStyle(lookStyle());
+  for (QWidget* part : view->findChildren<QWidget*>()) part->setStyle(lookStyle());
+}
+
+}  // namespace
+
+Q_DECLARE_METATYPE(Placement)
+
+void addSubview(QWidget* parent, QWidget* child, const Frame& frame, VerticalAnchor anchor) {
+  Placer& placer = Placer::ensured(parent);
+  const bool isHidden = child->testAttribute(Qt::WA_WState_ExplicitShowHide) && child->isHidden();
+  if (child->parentWidget() != parent) {
+    child->setParent(parent);
+    dressInStyle(child);
+  }
+  keep(child, {.frame = frame, .anchor = anchor});
+  placer.add(child);
+  child->setGeometry(geometryIn(parent, frame));
+  child->raise();
+  if (!isHidden) child->show();
+}
+
+void removeFromSuperview(QWidget* view) {
+  view->hide();
+  if (Placer* placer = view->parentWidget() ? Placer::of(view->parentWidget()) : nullptr) placer->remove(view);
+}
+
+void setFrame(QWidget* view, const Frame& frame) {
+  Placement placement = placementOf(view).value_or(Placement());
+  placement.frame = frame;
+  keep(view, placement);
+  if (view->isWindow()) {
+    view->resize(roundedSize(frame));
+  } else {
+    view->setGeometry(geometryIn(view->parentWidget(), frame));
+  }
+  // A hidden view hears of its new size only when it is shown.
+  if (Placer* placer = Placer::of(view)) placer->place();
+}
+
+Frame frameOf(const QWidget* view) {
+  const std::optional<Placement> placement = placementOf(view);
+  if (placement && !view->isWindow()) return placement->frame;
+
+  const QRect geometry = view->geometry();
+  const double parentHeight =
+      view->isWindow() ? view->screen()->geometry().bottom() + 1.0 : heightOf(view->parentWidget());
+  Frame frame{.x = double(geometry.x()),
+              .y = parentHeight - geometry.y() - geometry.height(),
+              .width = double(geometry.width()),
+              .height = double(geometry.height())};
+  if (placement && geometry.size() == roundedSize(placement->frame)) {
+    frame.width = placement->frame.width;
+    frame.height = placement->frame.height;
+  }
+  return frame;
+}
+
+QList<QWidget*> subviewsOf(const QWidget* parent) {
+  const Placer* placer = Placer::of(parent);
+  return placer ? placer->children() : QList<QWidget*>();
+}
+
+void setNextKeyView(QWidget* from, QWidget* to) {
+  if (!from->property(kNextKeyViewProperty).isValid()) new KeyViewLink(from);
+  from->setProperty(kNextKeyViewProperty, QVariant::fromValue(QPointer<QWidget>(to)));
+}
+
+QWidget* nextKeyViewOf(const QWidget* view) {
+  return view->property(kNextKeyViewProperty).value<QPointer<QWidget>>();
+}

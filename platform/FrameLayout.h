@@ -11,14 +11,18 @@
 // Keeps the view's frame, or moves it with the parent's upper edge, when the parent's height changes.
 enum class VerticalAnchor { Bottom, Top };
 
-// Makes the child (owned by the parent from now on) a subview in front of the others, dressed in the look's style.
+// Makes the child (owned by the parent from now on) a subview in front of the others, dressed in the look's style. It
+// shows unless it was hidden explicitly.
 PLATFORM_EXPORT void addSubview(QWidget* parent, QWidget* child, const Frame& frame,
                                 VerticalAnchor anchor = VerticalAnchor::Bottom);
 
-// A view without parent may be given a frame too; only its size shows. Any child of the view keeps its frame.
+// Takes the view off its parent's subviews and hides it; the parent still owns it.
+PLATFORM_EXPORT void removeFromSuperview(QWidget* view);
+
+// A window takes the size only, and keeps its upper left corner.
 PLATFORM_EXPORT void setFrame(QWidget* view, const Frame& frame);
 
-// The exact frame; for a view that was never given one, the frame of its geometry.
+// The exact frame; for a view that was never given one, the frame of its geometry. A window's is in screen space.
 PLATFORM_EXPORT Frame frameOf(const QWidget* view);
 
 // What `addSubview` added and is still there, in that order.

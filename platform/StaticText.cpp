@@ -1,1 +1,47 @@
 #include "platform/StaticText.h"
+
+#include <QEvent>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QToolTip>
+
+namespace {
+
+// A text of which this much is drawn is cut anyway; the rest would only cost time.
+constexpr int kDrawnCharacters = 4000;
+
+}  // namespace
+
+StaticText::StaticText(const QString& text, FontRole role, double size, Qt::Alignment alignment) {
+  setTextFormat(Qt::PlainText);
+  setMargin(0);
+  setIndent(0);
+  setFont(fontFor(role, size));
+  setAlignment(alignment | Qt::AlignVCenter);
+  setText(text);
+}
+
+void StaticText::setSystemColor(SystemColor color) {
+  m_color = color;
+  update();
+}
+
+void StaticText::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setPen(m_color == SystemColor::Text ? palette().color(QPalette::WindowText)
+                                              : lookColor(m_color, lookSchemeFor(palette())));
+  const QString shown = fontMetrics().elidedText(text().left(kDrawnCharacters), Qt::ElideRight, width());
+  painter.drawText(rect(), int(alignment()) | Qt::TextSingleLine, shown);
+}
+
+bool StaticText::event(QEvent* event) {
+  if (event->type() == QEvent::ToolTip && toolTip().isEmpty()) {
+    const QString whole = text().left(kDrawnCharacters);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    if (fontMetrics().horizontalAdvance(whole) > width()) {
+      QToolTip::showText(help->globalPos(), whole.toHtmlEscaped(), this);
+    }
+    return true;
+  }
+  return QLabel::event(event);
+}

@@ -1,1 +1,89 @@
 #include "platform/ViewAnimation.h"
+
+#include <QPainter>
+#include <QStyle>
+
+#include "platform/FrameLayout.h"
+
+namespace {
+
+// Covers the container with a blend of two pictures that share their upper left corner; the live view is underneath.
+class FadeOverlay final : public QWidget {
+ public:
+  FadeOverlay(QWidget* container, const QPixmap& oldPicture, const QPixmap& newPicture)
+      : QWidget(container), m_old(oldPicture), m_new(newPicture) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+  }
+
+  void setProgress(double progress) {
+    m_progress = progress;
+    resize(parentWidget()->size());
+    update();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    const QColor background = palette().color(QPalette::Window);
+    QPainter painter(this);
+    painter.fillRect(rect(), background);
+    painter.drawPixmap(0, 0, m_old);
+    painter.setOpacity(m_progress);
+    painter.fillRect(rect(), background);
+    painter.drawPixmap(0, 0, m_new);
+  }
+
+ private:
+  QPixmap m_old;
+  QPixmap m_new;
+  double m_progress = 0;
+};
+
+}  // namespace
+
+ViewAnimation::ViewAnimation(QObject* parent) : QObject(parent), m_progress(this) {
+  m_progress.setStartValue(0.0);
+  m_progress.setEndValue(1.0);
+  m_progress.setEasingCurve(QEasingCurve::InOutQuad);
+  connect(&m_progress, &QVariantAnimation::valueChanged, this,
+          [this](const QVariant& value) { advance(value.toDouble()); });
+  connect(&m_progress, &QVariantAnimation::finished, this, &ViewAnimation::finish);
+}
+
+ViewAnimation::~ViewAnimation() = default;
+
+bool ViewAnimation::isRunning() const { return m_progress.state() != QAbstractAnimation::Stopped; }
+
+void ViewAnimation::start(const CrossFade& fade, const QPixmap& oldPicture) {
+  stop();
+  m_window = fade.window;
+  m_startSize = frameOf(fade.window).size();
+  m_endFrame = fade.endFrame;
+  if (!fade.window->style()->styleHint(QStyle::SH_Widget_Animate, nullptr, fade.window)) return finish();
+
+  auto* overlay = new FadeOverlay(fade.newView->parentWidget(), oldPicture, fade.newView->grab());
+  m_overlay = overlay;
+  overlay->setProgress(0);
+  overlay->show();
+  m_progress.setDuration(qRound(m_duration * 1000));
+  m_progress.start();
+}
+
+void ViewAnimation::stop() {
+  m_progress.stop();
+  delete m_overlay;
+}
+
+void ViewAnimation::advance(double progress) {
+  if (!m_window) return;
+  const auto between = [progress](double from, double to) { return from + (to - from) * progress; };
+  m_window->resize(qRound(between(m_startSize.width, m_endFrame.width)),
+                   qRound(between(m_startSize.height, m_endFrame.height)));
+  if (m_overlay) static_cast<FadeOverlay*>(m_overlay.data())->setProgress(progress);
+}
+
+void ViewAnimation::finish() {
+  delete m_overlay;
+  if (m_window) setFrame(m_window, m_endFrame);
+  Q_EMIT didEnd();
+}

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPixmap>
 #include <QPointer>
 #include <QVariantAnimation>
 #include <QWidget>
@@ -15,22 +16,22 @@ class PLATFORM_EXPORT ViewAnimation : public QObject {
 
  public:
   struct CrossFade {
-    QWidget* oldView = nullptr;  // may be missing
-    QWidget* newView = nullptr;
+    QWidget* newView = nullptr;  // laid out, in its container
     QWidget* window = nullptr;
-    Frame startFrame;  // of the window
-    Frame endFrame;
+    Frame endFrame;  // of the window
   };
 
   explicit ViewAnimation(QObject* parent);
   ~ViewAnimation() override;
 
-  void setDuration(double seconds);
-  double duration() const;  // seconds
+  void setDuration(double seconds) { m_duration = seconds; }
+  double duration() const { return m_duration; }
   bool isRunning() const;
 
-  void start(const CrossFade& fade);
-  void stop();  // leaves everything as it stands; no didEnd
+  // Fades from what the new view's container showed last, which is the middle of a fade when one is running.
+  void start(const CrossFade& fade, const QPixmap& oldPicture);
+  // Leaves the window as it stands and shows the live views; no didEnd.
+  void stop();
 
  Q_SIGNALS:
   void didEnd();
@@ -40,6 +41,9 @@ class PLATFORM_EXPORT ViewAnimation : public QObject {
   void finish();
 
   QVariantAnimation m_progress;
-  CrossFade m_fade;
+  double m_duration = 0;
+  QPointer<QWidget> m_window;
+  Size m_startSize;
+  Frame m_endFrame;
   QPointer<QWidget> m_overlay;
 };
