@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+class QWidget;
+
+// Names of the views below the content view. A view's name is its object name; a group or row without one has the
+// name of its class.
+QString controlNameOf(const QWidget& view);  // null for a part of a control
+
+// Finds the controls that are alive below a view, by name.
+class ControlFinder final {
+ public:
+  explicit ControlFinder(const QWidget* content);  // nullptr: there are none
+
+  struct [[nodiscard]] Found {
+    QWidget* control = nullptr;
+    QString error;  // why there is none
+  };
+
+  // "m_field", or with parents in front where that is not unique: "Group/m_field". Parents may be left out.
+  Found find(const QString& name) const;
+
+  // The shortest name that finds the control, or the nearest of its parents that has one; null when there is none.
+  QString nameOf(const QWidget* control) const;
+
+ private:
+  struct Entry {
+    QWidget* control;
+    QList<QString> path;  // from the content view down, the control's own name last
+  };
+
+  void collect(QWidget* parent, const QList<QString>& path);
+  QList<const Entry*> matching(const QList<QString>& wanted) const;
+
+  QList<Entry> m_entries;
+};

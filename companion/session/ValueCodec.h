@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QJsonValue>
+#include <QString>
+#include <QVariant>
+
+#include "host/KZFoundation/Dictionary.h"
+
+// Values between a script and the border. A text that begins with "@" is the host's constant object of that name,
+// bytes are {"$data": base64}, null is a missing value.
+namespace valuecodec {
+
+struct [[nodiscard]] Decoded {
+  QVariant value;
+  QString error;  // empty when all is well
+};
+
+Decoded decode(const QJsonValue& value);
+
+QJsonValue encode(const QVariant& value);
+QJsonValue encode(const Content& content);  // null where there is none
+
+}  // namespace valuecodec
