@@ -1,0 +1,142 @@
+#include "KZPreference/authentication/ADMivraCacheDelegate.h"
+
+#include <QDir>
+#include <QFile>
+#include <QMutexLocker>
+#include <QSaveFile>
+
+#include "adal/ADAuthenticationSettings.h"
+#include "adal/ADTokenCache.h"
+#include "host/KZUtility/KZKeyChainHandle.h"
+#include "host/KZUtility/KZTrace.h"
+
+namespace {
+
+constexpr qint32 statusDone = 0;
+constexpr qint32 statusNotAvailable = -25291;
+constexpr qint32 statusItemNotFound = -25300;
+
+KZKeychainBackend::Item tokenCacheItem() {
+  return {QStringLiteral("Brenn Mivra Meetings"), QStringLiteral("OutlookAccount(Online)")};
+}
+
+qint32 keychainStatus(KZKeychainBackend::Status status) {
+  switch (status) {
+    case KZKeychainBackend::Status::Done:
+      return statusDone;
+    case KZKeychainBackend::Status::NotFound:
+      return statusItemNotFound;
+    case KZKeychainBackend::Status::Unavailable:
+      return statusNotAvailable;
+  }
+  return statusNotAvailable;
+}
+
+}  // namespace
+
+const QString& defaultSavePath() {
+  static const QString path = QDir::home().filePath(QStringLiteral("Brenn Mivra Meetings.adalcache"));
+  return path;
+}
+
+ADMivraCacheDelegate::ADMivraCacheDelegate() = default;
+ADMivraCacheDelegate::~ADMivraCacheDelegate() = default;
+
+void ADMivraCacheDelegate::load() {
+  sharedInstance();
+}
+
+ADMivraCacheDelegate& ADMivraCacheDelegate::sharedInstance() {
+  static ADMivraCacheDelegate* const instance = [] {
+    auto* const created = new ADMivraCacheDelegate;
+    created->readFromKeychain();
+    ADAuthenticationSettings::sharedInstance().setDefaultStorageDelegate(created);
+    return created;
+  }();
+  return *instance;
+}
+
+void ADMivraCacheDelegate::willAccessCache(ADTokenCache& cache) {
+  const QMutexLocker lock(&m_monitor);
+  readFromKeychain();
+  if (_data) fill(cache);
+}
+
+void ADMivraCacheDelegate::didAccessCache(ADTokenCache& /*cache*/) {}
+
+void ADMivraCacheDelegate::willWriteCache(ADTokenCache& cache) {
+  const QMutexLocker lock(&m_monitor);
+  readFromKeychain();
+  fill(cache);
+}
+
+void ADMivraCacheDelegate::didWriteCache(ADTokenCache& cache) {
+  const QMutexLocker lock(&m_monitor);
+  _data = cache.serialize();
+  writeToKeychain();
+}
+
+void ADMivraCacheDelegate::fill(ADTokenCache& cache) {
+  const ADTokenCache::Failure failure = cache.deserialize(_data);
+  // The cache keeps what it had, and the item in the keychain stays until a token is written.
+  if (failure) MVRNSErrorFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "error:%@", failure->text());
+}
+
+qint32 ADMivraCacheDelegate::readFromKeychain() {
+  const QMutexLocker lock(&m_monitor);
+  _data = KZKeyChainHandle::sharedInstance().getOutlookOnlineData();
+  if (_data) return statusDone;
+  const KZKeychainBackend::Answer answer =
+      KZKeyChainHandle::sharedInstance().copyGenericPassword(tokenCacheItem());
+  if (answer.status == KZKeychainBackend::Status::Done) _data = answer.secret;
+  return keychainStatus(answer.status);
+}
+
+qint32 ADMivraCacheDelegate::writeToKeychain() {
+  const QMutexLocker lock(&m_monitor);
+  if (!_data) return statusItemNotFound;
+  KZKeyChainHandle::sharedInstance().commitOutlookOnlineData(*_data);
+  return statusDone;
+}
+
+bool ADMivraCacheDelegate::clearCacheWithError(OSStatusError* error) {
+  bool isCleared = false;
+  ADTokenCache& cache = ADTokenCache::defaultCache();
+  // The cache's lock first, as in every call that comes from the cache.
+  cache.exclusively([&] {
+    const QMutexLocker lock(&m_monitor);
+    if (cache.deserialize(std::nullopt)) return;
+    isCleared = deleteItem(error);
+  });
+  return isCleared;
+}
+
+bool ADMivraCacheDelegate::deleteItem(OSStatusError* error) {
+  const qint32 status =
+      keychainStatus(KZKeyChainHandle::sharedInstance().deleteGenericPassword(tokenCacheItem()));
+  if (status == statusDone || status == statusItemNotFound) return true;
+  if (error != nullptr) *error = {QStringLiteral("NSOSStatusErrorDomain"), status};
+  return false;
+}
+
+void ADMivraCacheDelegate::readFromFile(const QString& path) {
+  const QMutexLocker lock(&m_monitor);
+  QFile file(path);
+  _data = file.open(QIODevice::ReadOnly) ? std::optional(file.readAll()) : std::nullopt;
+}
+
+void ADMivraCacheDelegate::writeToFile(const QString& path) {
+  const QMutexLocker lock(&m_monitor);
+  QSaveFile file(path);
+  const bool isOpen = _data && file.open(QIODevice::WriteOnly) &&
+                      file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+  if (isOpen && file.write(*_data) == _data->size() && file.commit()) return;
+  qWarning("Failed to write cache to %s!", qUtf8Printable(path));
+}
+
+std::unique_ptr<ADMivraCacheDelegate> ADMivraCacheDelegate::copyWithZone() const {
+  const QMutexLocker lock(&m_monitor);
+  std::unique_ptr<ADMivraCacheDelegate> copy(new ADMivraCacheDelegate);
+  copy->_data = _data;
+  return copy;
+}

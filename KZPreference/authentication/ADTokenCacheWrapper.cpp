@@ -1,0 +1,69 @@
+#include "KZPreference/authentication/ADTokenCacheWrapper.h"
+
+#include <QMutexLocker>
+
+#include "KZPreference/authentication/ADTokenCacheItem+Mivra.h"
+#include "adal/ADTokenCache.h"
+#include "host/KZFoundation/KZConstants.h"
+#include "host/KZUtility/KZTrace.h"
+
+const QString appRegistration_clientId = QStringLiteral("3f9c1e42-7a5b-4d8e-9c21-6b0a4e7d5f13");
+const QString appRegistration_redirectUri = QStringLiteral("urn:ietf:wg:oauth:2.0:oob");
+
+namespace {
+
+bool isSameUser(const QString& userId, const QString& name) {
+  // Texts that differ only in letter case have one length, which is far cheaper to compare.
+  return userId.size() == name.size() && !name.isEmpty() && userId.compare(name, Qt::CaseInsensitive) == 0;
+}
+
+}  // namespace
+
+ADTokenCacheWrapper& ADTokenCacheWrapper::sharedInstance() {
+  static ADTokenCacheWrapper* const instance = new ADTokenCacheWrapper;
+  return *instance;
+}
+
+void ADTokenCacheWrapper::setRefreshTokenDelegate(ADTokenRefreshDelegate* delegate) {
+  m_refreshTokenDelegate = delegate;
+}
+
+Dictionary ADTokenCacheWrapper::getAccessTokenByEmail(const QString& email, const QString& username) {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "email:%@, username:%@", email, username);
+  const ADTokenCache::Items cached = [&] {
+    const QMutexLocker lock(&m_mutex);
+    return ADTokenCache::defaultCache().allItems();
+  }();
+  if (cached.error) {
+    MVRNSErrorFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "error:%@", cached.error->text());
+    return {};
+  }
+
+  const ADTokenCacheItem* accessTokenItem = nullptr;
+  const ADTokenCacheItem* refreshTokenItem = nullptr;
+  for (const ADTokenCacheItem& item : cached.items) {
+    const QString& userId = item.userInformation.userId;
+    if (!isSameUser(userId, email) && !isSameUser(userId, username)) continue;
+    (item.isMultiResourceRefreshToken() ? refreshTokenItem : accessTokenItem) = &item;
+    if (accessTokenItem != nullptr && refreshTokenItem != nullptr) {
+      return getTokenFromAccessTokenCache(*accessTokenItem, *refreshTokenItem);
+    }
+  }
+  return {};
+}
+
+Dictionary ADTokenCacheWrapper::getTokenFromAccessTokenCache(const ADTokenCacheItem& accessTokenItem,
+                                                             const ADTokenCacheItem& refreshTokenItem) const {
+  const bool isExpired = isExpiredWithPrejudge(accessTokenItem);
+  Dictionary information{{QRT_ListingMeeting_exchOnlineToken, accessTokenItem.accessToken},
+                         {QStringLiteral("isTokenExpired"), isExpired}};
+  if (!isExpired) return information;
+  information.insert(QStringLiteral("refreshTokenInfo"),
+                     Dictionary{{QStringLiteral("authority"), accessTokenItem.authority},
+                                {QStringLiteral("resource"), accessTokenItem.resource},
+                                {QStringLiteral("clientId"), accessTokenItem.clientId},
+                                {QStringLiteral("redirectUri"), appRegistration_redirectUri},
+                                {QStringLiteral("email"), accessTokenItem.userInformation.userId},
+                                {QStringLiteral("refreshToken"), refreshTokenItem.refreshToken}});
+  return information;
+}

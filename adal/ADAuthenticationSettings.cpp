@@ -1,0 +1,71 @@
+#include "adal/ADAuthenticationSettings.h"
+
+#include <QDesktopServices>
+#include <QMutex>
+#include <QMutexLocker>
+#include <utility>
+
+#include "adal/ADTokenCache.h"
+
+struct ADAuthenticationSettings::Private {
+  mutable QMutex mutex;
+  Clock clock;
+  BrowserOpener opener;
+  TextLookUp lookUp;
+  ADRequestLimits limits;
+
+  template <typename T>
+  T copyOf(const T& value) const {
+    const QMutexLocker lock(&mutex);
+    return value;
+  }
+  template <typename T>
+  void assign(T& target, T value) {
+    const QMutexLocker lock(&mutex);
+    target = std::move(value);
+  }
+};
+
+ADAuthenticationSettings::ADAuthenticationSettings() : d(std::make_unique<Private>()) {}
+ADAuthenticationSettings::~ADAuthenticationSettings() = default;
+
+ADAuthenticationSettings& ADAuthenticationSettings::sharedInstance() {
+  static ADAuthenticationSettings* const instance = new ADAuthenticationSettings;
+  return *instance;
+}
+
+void ADAuthenticationSettings::setDefaultStorageDelegate(ADTokenCacheDelegate* delegate) {
+  ADTokenCache::defaultCache().setDelegate(delegate);
+}
+
+void ADAuthenticationSettings::setClock(Clock clock) {
+  d->assign(d->clock, std::move(clock));
+}
+void ADAuthenticationSettings::setBrowserOpener(BrowserOpener opener) {
+  d->assign(d->opener, std::move(opener));
+}
+void ADAuthenticationSettings::setTextLookUp(TextLookUp lookUp) {
+  d->assign(d->lookUp, std::move(lookUp));
+}
+void ADAuthenticationSettings::setLimits(const ADRequestLimits& limits) {
+  d->assign(d->limits, limits);
+}
+
+QDateTime ADAuthenticationSettings::now() const {
+  const Clock clock = d->copyOf(d->clock);
+  return clock ? clock() : QDateTime::currentDateTimeUtc();
+}
+
+bool ADAuthenticationSettings::openBrowser(const QUrl& address) const {
+  const BrowserOpener opener = d->copyOf(d->opener);
+  return opener ? opener(address) : QDesktopServices::openUrl(address);
+}
+
+QString ADAuthenticationSettings::text(const char* english) const {
+  const TextLookUp lookUp = d->copyOf(d->lookUp);
+  return lookUp ? lookUp(english) : QString::fromUtf8(english);
+}
+
+ADRequestLimits ADAuthenticationSettings::limits() const {
+  return d->copyOf(d->limits);
+}

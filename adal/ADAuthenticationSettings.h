@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+#include <QUrl>
+#include <chrono>
+#include <functional>
+#include <memory>
+
+#include "adal/ADALExport.h"
+
+class ADTokenCacheDelegate;
+
+// What every request of one kind is bounded by.
+struct ADRequestLimits {
+  std::chrono::milliseconds signIn = std::chrono::minutes(10);    // from the browser's start to its answer
+  std::chrono::milliseconds transfer = std::chrono::seconds(30);  // a whole exchange with the authority
+  qint64 answerBytes = 1024 * 1024;
+};
+
+// What the host decides for the whole library. Set up on the main thread before the first request; reading is
+// for any thread.
+class ADAL_EXPORT ADAuthenticationSettings final {
+ public:
+  using Clock = std::function<QDateTime()>;
+  using BrowserOpener = std::function<bool(const QUrl&)>;  // false: nothing opened it
+  using TextLookUp = std::function<QString(const char*)>;  // the text in the user's language
+
+  static ADAuthenticationSettings& sharedInstance();
+
+  // Keeps the default token cache. Not owned.
+  void setDefaultStorageDelegate(ADTokenCacheDelegate* delegate);
+
+  // An empty function restores the default: the system's clock, the desktop's browser, the English text.
+  void setClock(Clock clock);
+  void setBrowserOpener(BrowserOpener opener);
+  void setTextLookUp(TextLookUp lookUp);
+  void setLimits(const ADRequestLimits& limits);
+
+  QDateTime now() const;
+  bool openBrowser(const QUrl& address) const;
+  QString text(const char* english) const;
+  ADRequestLimits limits() const;
+
+ private:
+  ADAuthenticationSettings();
+  ~ADAuthenticationSettings();
+
+  struct Private;
+  std::unique_ptr<Private> d;
+};
