@@ -45,6 +45,16 @@ QSize roundedSize(const Frame& frame) {
   return {static_cast<int>(std::ceil(frame.width)), static_cast<int>(std::ceil(frame.height))};
 }
 
+double screenHeight(const QWidget* window) { return window->screen()->geometry().bottom() + 1.0; }
+
+// A window whose upper left corner stays is never moved: with a window manager that would shift it by its decoration.
+void setWindowGeometry(QWidget* window, const Frame& frame) {
+  const QPoint corner(qRound(frame.x), qRound(screenHeight(window) - frame.maxY()));
+  const QPoint shift = corner - window->geometry().topLeft();
+  window->resize(roundedSize(frame));
+  if (window->isVisible() && !shift.isNull()) window->move(window->pos() + shift);
+}
+
 // Keeps the subviews of one view where their frames say.
 class Placer final : public QObject {
  public:
@@ -157,7 +167,7 @@ void setFrame(QWidget* view, const Frame& frame) {
   placement.frame = frame;
   keep(view, placement);
   if (view->isWindow()) {
-    view->resize(roundedSize(frame));
+    setWindowGeometry(view, frame);
   } else {
     view->setGeometry(geometryIn(view->parentWidget(), frame));
   }
@@ -170,8 +180,7 @@ Frame frameOf(const QWidget* view) {
   if (placement && !view->isWindow()) return placement->frame;
 
   const QRect geometry = view->geometry();
-  const double parentHeight =
-      view->isWindow() ? view->screen()->geometry().bottom() + 1.0 : heightOf(view->parentWidget());
+  const double parentHeight = view->isWindow() ? screenHeight(view) : heightOf(view->parentWidget());
   Frame frame{.x = double(geometry.x()),
               .y = parentHeight - geometry.y() - geometry.height(),
               .width = double(geometry.width()),

@@ -19,7 +19,7 @@ PLATFORM_EXPORT void addSubview(QWidget* parent, QWidget* child, const Frame& fr
 // Takes the view off its parent's subviews and hides it; the parent still owns it.
 PLATFORM_EXPORT void removeFromSuperview(QWidget* view);
 
-// A window takes the size only, and keeps its upper left corner.
+// A window that is not on the screen takes the size only.
 PLATFORM_EXPORT void setFrame(QWidget* view, const Frame& frame);
 
 // The exact frame; for a view that was never given one, the frame of its geometry. A window's is in screen space.

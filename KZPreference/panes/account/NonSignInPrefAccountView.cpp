@@ -1,0 +1,177 @@
+#include "KZPreference/panes/account/NonSignInPrefAccountView.h"
+
+#include <cmath>
+
+#include "KZPreference/contract/PreferenceTelemetry.h"
+#include "KZPreference/layout/Controls.h"
+#include "KZPreference/layout/Localization.h"
+#include "KZPreference/layout/PrefsViewDefine.h"
+#include "host/KZCommonUI/KZTelemetryConstants.h"
+#include "host/KZUtility/KZPlistFileHandle.h"
+#include "host/KZUtility/KZUtility.h"
+#include "platform/FrameLayout.h"
+
+namespace {
+
+constexpr double kGuestNameRow = marginAtBottomEdge + 40;
+constexpr double kGuestEmailRow = marginAtBottomEdge + 10;
+constexpr double kGuestRowHeight = 22;
+
+}  // namespace
+
+NonSignInPrefAccountView::NonSignInPrefAccountView(const Frame& frame,
+                                                   PreferenceActionDelegateProtocol* actionDelegate)
+    : View(frame), m_actionDelegate(actionDelegate) {
+  initLabels();
+  initTxts();
+  initInputTextFields();
+  initErrorText();
+  initEditButton();
+  drawnTextsChanged();
+}
+
+StaticText* NonSignInPrefAccountView::createTextFieldWithRect(const QString& name, const Frame& frame,
+                                                              const QString& text, Qt::Alignment alignment) {
+  return addStaticText(this, {.name = name,
+                              .frame = frame,
+                              .text = text,
+                              .role = FontRole::Label,
+                              .size = labelFontSize,
+                              .alignment = alignment});
+}
+
+QLineEdit* NonSignInPrefAccountView::createInputTextFieldWithRect(const QString& name, const Frame& frame,
+                                                                  const QString& text) {
+  QLineEdit* field = addTextField(this, name, frame);
+  field->setProperty("focusRing", false);
+  field->setText(text);
+  field->hide();
+  connect(field, &QLineEdit::returnPressed, this, &NonSignInPrefAccountView::onInputTxtEnter);
+  return field;
+}
+
+QList<DrawnText> NonSignInPrefAccountView::drawnTexts() const {
+  const Size size = accountLabelSize();
+  return {{.text = accountLabel(),
+           .frame = {marginAtLeftEdge, frameOf(this).height - size.height - marginAtTopEdge, size.width, size.height},
+           .role = FontRole::BoldSystem,
+           .size = boldLabelFontSize}};
+}
+
+void NonSignInPrefAccountView::initLabels() {
+  const auto add = [this](const char* name, double y, const QString& text) {
+    createTextFieldWithRect(QString::fromLatin1(name), {secondMarginAtLeftEdge, y, labelWidth(), kGuestRowHeight},
+                            text, Qt::AlignRight);
+  };
+  add("m_nameLabel", kGuestNameRow, fullNameLabel());
+  add("m_emailLabel", kGuestEmailRow, emailAddressLabel());
+}
+
+void NonSignInPrefAccountView::initTxts() {
+  const double x = secondMarginAtLeftEdge + labelWidth() + marginBetweenLabelAndContent;
+  m_nameTxt = createTextFieldWithRect(QStringLiteral("m_nameTxt"), {x, kGuestNameRow, fieldWidth, kGuestRowHeight},
+                                      QString(), Qt::AlignLeft);
+  m_emailTxt = createTextFieldWithRect(QStringLiteral("m_emailTxt"), {x, kGuestEmailRow, fieldWidth, kGuestRowHeight},
+                                       QString(), Qt::AlignLeft);
+  refreshDisplayModeTxt();
+}
+
+void NonSignInPrefAccountView::initInputTextFields() {
+  const KZPlistFileHandle& profile = KZPlistFileHandle::sharedInstance();
+  const double x = std::floor(labelWidth()) + secondMarginAtLeftEdge + marginBetweenLabelAndContent;
+  m_nameInputTxt = createInputTextFieldWithRect(
+      QStringLiteral("m_nameInputTxt"), {x, kGuestNameRow, fieldWidth, kGuestRowHeight}, profile.displayName());
+  m_emailInputTxt = createInputTextFieldWithRect(
+      QStringLiteral("m_emailInputTxt"), {x, kGuestEmailRow, fieldWidth, kGuestRowHeight}, profile.userName());
+  m_nameInputTxt->setAccessibleName(fullNameLabel());
+  m_emailInputTxt->setAccessibleName(emailAddressLabel());
+  connect(m_emailInputTxt, &QLineEdit::textEdited, this, &NonSignInPrefAccountView::controlTextDidChange);
+  setNextKeyView(m_nameInputTxt, m_emailInputTxt);
+  setNextKeyView(m_emailInputTxt, m_nameInputTxt);
+}
+
+void NonSignInPrefAccountView::initErrorText() {
+  const Frame field = frameOf(m_emailInputTxt);
+  m_warningMsg = createTextFieldWithRect(QStringLiteral("m_warningMsg"),
+                                         {field.x, field.y - 20 - 5, frameOf(this).width, 20},
+                                         localizedString("Invalid email address"), Qt::AlignLeft);
+  m_warningMsg->setSystemColor(SystemColor::Red);
+  m_warningMsg->hide();
+}
+
+void NonSignInPrefAccountView::initEditButton() {
+  const Size heading = accountLabelSize();
+  const double y = frameOf(this).height - marginAtTopEdge - heading.height * 0.5 - 8;
+  m_editBtn = addLink(this, QStringLiteral("m_editBtn"),
+                      {marginAtLeftEdge + heading.width + marginBetweenContentAndButton, y,
+                       buttonWidthWithTitle(editButtonLabel()), commonLabelHeight},
+                      editButtonLabel());
+  connect(m_editBtn, &BRNHyperlinkTextField::clicked, this, &NonSignInPrefAccountView::onEditButton);
+}
+
+void NonSignInPrefAccountView::refreshAccountInfo() {
+  m_bIsEditing = false;
+  changeEditStatus();
+}
+
+void NonSignInPrefAccountView::viewDidUnhide() { refreshAccountInfo(); }
+
+void NonSignInPrefAccountView::onEditButton() {
+  if (m_bIsEditing) {
+    if (checkName(m_nameInputTxt->text(), m_emailInputTxt->text())) refreshAccountInfo();
+    return;
+  }
+  PreferenceTelemetry::sharedInstance().writeFeatrueName(TelemetryValue_FeatureName_Click_EditGuestInfo,
+                                                         TelemetryKey_ClickFrom,
+                                                         TelemetryValue_ClickFrom_Preferences);
+  m_bIsEditing = true;
+  changeEditStatus();
+}
+
+void NonSignInPrefAccountView::onInputTxtEnter() {
+  if (m_bIsEditing) onEditButton();
+}
+
+void NonSignInPrefAccountView::controlTextDidChange() { m_warningMsg->hide(); }
+
+void NonSignInPrefAccountView::changeEditStatus() {
+  for (QWidget* field : {static_cast<QWidget*>(m_nameTxt), static_cast<QWidget*>(m_emailTxt),
+                         static_cast<QWidget*>(m_nameInputTxt), static_cast<QWidget*>(m_emailInputTxt)}) {
+    field->hide();
+  }
+  const QString title = m_bIsEditing ? applyButtonLabel() : editButtonLabel();
+  m_editBtn->setStringValue(title);
+  Frame link = frameOf(m_editBtn);
+  link.width = buttonWidthWithTitle(title);
+  setFrame(m_editBtn, link);
+  m_bIsEditing ? refreshEditModeTxt() : refreshDisplayModeTxt();
+}
+
+void NonSignInPrefAccountView::refreshDisplayModeTxt() {
+  const KZPlistFileHandle& profile = KZPlistFileHandle::sharedInstance();
+  m_nameTxt->setText(profile.displayName());
+  m_emailTxt->setText(profile.userName());
+  m_nameTxt->show();
+  m_emailTxt->show();
+}
+
+void NonSignInPrefAccountView::refreshEditModeTxt() {
+  const KZPlistFileHandle& profile = KZPlistFileHandle::sharedInstance();
+  m_nameInputTxt->setText(profile.displayName());
+  m_emailInputTxt->setText(profile.userName());
+  m_nameInputTxt->show();
+  m_emailInputTxt->show();
+}
+
+bool NonSignInPrefAccountView::checkName(const QString& name, const QString& email) {
+  const KZPlistFileHandle& profile = KZPlistFileHandle::sharedInstance();
+  const QString checkedName = name.isEmpty() ? profile.displayName() : name;
+  const QString checkedEmail =
+      KZUtility::getLengthLimitationStringValue(email.isEmpty() ? profile.userName() : email);
+  if (!KZUtility::validateEmail(checkedEmail)) {
+    m_warningMsg->show();
+    return false;
+  }
+  m_actionDelegate->setDisplayName(KZUtility::getLengthLimitationStringValue(checkedName), checkedEmail);
+  return true;
+}

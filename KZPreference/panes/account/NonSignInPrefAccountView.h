@@ -1,0 +1,51 @@
+#pragma once
+
+#include "KZPreference/contract/PreferenceActionDelegateProtocol.h"
+#include "KZPreference/panes/account/NonSignInPrefAccountView+Visible.h"
+#include "platform/View.h"
+
+class BRNHyperlinkTextField;
+class QLineEdit;
+class StaticText;
+
+// The guest's Account pane: a name and an email that are read, or edited and saved.
+class NonSignInPrefAccountView final : public View, public NonSignInPrefAccountViewVisible {
+  Q_OBJECT
+
+ public:
+  NonSignInPrefAccountView(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate);  // not owned
+
+  // Back to reading, with the stored profile; what was typed is dropped.
+  void refreshAccountInfo();
+
+  QList<DrawnText> drawnTexts() const override;
+
+ protected:
+  void viewDidUnhide() override;
+
+ private:
+  void initLabels();
+  void initTxts();
+  void initInputTextFields();
+  void initErrorText();
+  void initEditButton();
+  void onEditButton();
+  void onInputTxtEnter();
+  void controlTextDidChange();
+  void changeEditStatus();
+  void refreshDisplayModeTxt();
+  void refreshEditModeTxt();
+  bool checkName(const QString& name, const QString& email);
+  StaticText* createTextFieldWithRect(const QString& name, const Frame& frame, const QString& text,
+                                      Qt::Alignment alignment);
+  QLineEdit* createInputTextFieldWithRect(const QString& name, const Frame& frame, const QString& text);
+
+  PreferenceActionDelegateProtocol* m_actionDelegate;
+  BRNHyperlinkTextField* m_editBtn = nullptr;
+  StaticText* m_nameTxt = nullptr;
+  StaticText* m_emailTxt = nullptr;
+  QLineEdit* m_nameInputTxt = nullptr;
+  QLineEdit* m_emailInputTxt = nullptr;
+  StaticText* m_warningMsg = nullptr;
+  bool m_bIsEditing = false;
+};

@@ -1,0 +1,74 @@
+#include "KZPreference/panes/account/PrefAccountView.h"
+
+#include "KZPreference/layout/Controls.h"
+#include "KZPreference/layout/PrefsViewDefine.h"
+#include "host/KZUtility/KZPlistFileHandle.h"
+#include "host/KZUtility/KZTrace.h"
+
+namespace {
+
+// Lower edges of the three rows.
+constexpr double kNameRow = 72;
+constexpr double kSiteRow = 48;
+constexpr double kEmailRow = marginAtBottomEdge;
+
+}  // namespace
+
+PrefAccountView::PrefAccountView(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate)
+    : View(frame), m_actionDelegate(actionDelegate) {
+  initLabels();
+  initTxts();
+  initChangeSiteButton();
+}
+
+StaticText* PrefAccountView::createTextFieldWithRect(const QString& name, const Frame& frame, const QString& text,
+                                                     Qt::Alignment alignment) {
+  return addStaticText(this, {.name = name,
+                              .frame = frame,
+                              .text = text,
+                              .role = FontRole::Label,
+                              .size = labelFontSize,
+                              .alignment = alignment});
+}
+
+void PrefAccountView::initLabels() {
+  const auto add = [this](const char* name, double y, const QString& text) {
+    createTextFieldWithRect(QString::fromLatin1(name), {marginAtLeftEdge, y, labelWidth(), commonLabelHeight}, text,
+                            Qt::AlignRight);
+  };
+  add("m_nameLabel", kNameRow, fullNameLabel());
+  add("m_siteLabel", kSiteRow, siteUrlLabel());
+  add("m_emailLabel", kEmailRow, emailAddressLabel());
+}
+
+Frame PrefAccountView::contentFrame(double y) const {
+  return {marginAtLeftEdge + labelWidth() + marginBetweenLabelAndContent, y, contentWidth(), commonLabelHeight};
+}
+
+void PrefAccountView::initTxts() {
+  const KZPlistFileHandle& profile = KZPlistFileHandle::sharedInstance();
+  const auto add = [this](const char* name, double y, const QString& text) {
+    return createTextFieldWithRect(QString::fromLatin1(name), contentFrame(y), text, Qt::AlignLeft);
+  };
+  m_nameTxt = add("m_nameTxt", kNameRow, profile.displayName());
+  m_siteTxt = add("m_siteTxt", kSiteRow, profile.siteName());
+  m_emailTxt = add("m_emailTxt", kEmailRow, profile.userName());
+}
+
+void PrefAccountView::initChangeSiteButton() {
+  // The link follows the site's text, not the column.
+  Frame frame = contentFrame(kSiteRow);
+  frame.x += systemTextWidth(KZPlistFileHandle::sharedInstance().siteName()) + textPad + marginBetweenContentAndButton;
+  frame.width = buttonWidth();
+  BRNHyperlinkTextField* link = addLink(this, QStringLiteral("m_changeSiteBtn"), frame, changeSiteButtonLabel());
+  connect(link, &BRNHyperlinkTextField::clicked, this, &PrefAccountView::onChangeSiteButton);
+}
+
+void PrefAccountView::setSite(const QString& site, const QString& email, const QString& name) {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "site:%@, email:%@, name:%@", site, email, name);
+  if (!site.isNull()) m_siteTxt->setText(site);
+  if (!email.isNull()) m_emailTxt->setText(email);
+  if (!name.isNull()) m_nameTxt->setText(name);
+}
+
+void PrefAccountView::onChangeSiteButton() { m_actionDelegate->changeSite(); }

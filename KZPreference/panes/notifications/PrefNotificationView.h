@@ -1,0 +1,33 @@
+#pragma once
+
+#include "KZPreference/contract/PreferenceActionDelegateProtocol.h"
+#include "KZPreference/panes/notifications/PrefNotificationView+Visible.h"
+#include "platform/View.h"
+
+class MeetingAlertsSubView;
+class PopUpButton;
+class QCheckBox;
+
+// The Notifications pane: one row, for meeting notifications.
+class PrefNotificationView final : public View, public PrefNotificationViewVisible {
+  Q_OBJECT
+
+ public:
+  PrefNotificationView(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate);  // not owned
+
+  void setPreference(const Content& preference);
+
+  // Write the sender's value to the store under the keys of older versions. No control of this pane sends them.
+  void onMeetingAlertsButton(const QCheckBox* sender);
+  void onMeetingAlertsMinutesButton(const PopUpButton* sender);
+  void onSnoozeButton(const QCheckBox* sender);
+  void onSnoozeMinutesButton(const PopUpButton* sender);
+  void onMeetingCardButton(const QCheckBox* sender);
+  void onMeetingCardMinutesButton(const PopUpButton* sender);
+
+ private:
+  void initSubviews();
+
+  PreferenceActionDelegateProtocol* m_actionDelegate;
+  MeetingAlertsSubView* m_meetingAlertsView = nullptr;
+};
