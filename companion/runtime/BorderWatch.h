@@ -9,8 +9,8 @@
 
 class QUrl;
 
-// Hears what the plug-in does besides sending commands: process-wide notifications, addresses to open, warnings and
-// traces. One at a time; the host's own behaviour returns when it goes.
+// Hears what the plug-in does besides sending commands: process-wide notifications, addresses to open,
+// warnings and traces. One at a time; the host's own behaviour returns when it goes.
 class BorderWatch final {
  public:
   struct Handlers {

@@ -9,7 +9,9 @@ constexpr quint32 kPreferencePluginIndex = 1;
 
 }  // namespace
 
-PluginHost::~PluginHost() { shutDown(); }
+PluginHost::~PluginHost() {
+  shutDown();
+}
 
 bool PluginHost::load(const QString& path) {
   m_loader.setFileName(QFileInfo(path).absoluteFilePath());

@@ -7,8 +7,8 @@
 #include "host/KZFoundation/KZPluginCoreMgr.h"
 #include "host/KZFoundation/KZTokenLookup.h"
 
-// The host's end of the border: loads the plug-in, forwards commands and notifications to its core, and hears the
-// commands that it sends. The application object must outlive it. Main thread only.
+// The host's end of the border: loads the plug-in, forwards commands and notifications to its core, and hears
+// the commands that it sends. The application object must outlive it. Main thread only.
 class PluginHost final : private KZPluginDelegate {
  public:
   using CommandHandler = std::function<void(quint64 number, const Content& content)>;

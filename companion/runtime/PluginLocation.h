@@ -2,6 +2,6 @@
 
 #include <QString>
 
-// Where the plug-in lies, seen from the program: beside it in a build folder, or below lib/ where it is installed.
-// The first place when there is none, so that the loader's reason names it.
+// Where the plug-in lies, seen from the program: beside it in a build folder, or below lib/ where it is
+// installed. The first place when there is none, so that the loader's reason names it.
 QString defaultPluginPath();

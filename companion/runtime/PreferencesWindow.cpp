@@ -31,8 +31,9 @@ QList<QAction*> paneItemsOf(const Window& window) {
   QList<QAction*> items;
   const QToolBar* toolBar = toolBarOf(window);
   if (!toolBar) return items;
-  std::ranges::copy_if(toolBar->actions(), std::back_inserter(items),
-                       [](const QAction* action) { return !action->isSeparator() && !action->text().isEmpty(); });
+  std::ranges::copy_if(toolBar->actions(), std::back_inserter(items), [](const QAction* action) {
+    return !action->isSeparator() && !action->text().isEmpty();
+  });
   return items;
 }
 
@@ -47,4 +48,6 @@ QAction* paneItemNamed(const Window& window, const QString& label) {
   return place >= 0 && items.size() == english.size() ? items.at(place) : nullptr;
 }
 
-ViewAnimation* animationOf(const Window& window) { return window.controller()->findChild<ViewAnimation*>(); }
+ViewAnimation* animationOf(const Window& window) {
+  return window.controller()->findChild<ViewAnimation*>();
+}

@@ -20,7 +20,9 @@
 
 namespace {
 
-QString textColorOf(const QWidget& view) { return view.palette().color(view.foregroundRole()).name(); }
+QString textColorOf(const QWidget& view) {
+  return view.palette().color(view.foregroundRole()).name();
+}
 
 void describe(const QLabel& label, QJsonObject* description) {
   description->insert("text", label.text());
@@ -48,7 +50,9 @@ void describeTitle(const QAbstractButton& button, QJsonObject* description) {
   description->insert("font", describeFont(button.font()));
 }
 
-void describe(const QPushButton& button, QJsonObject* description) { describeTitle(button, description); }
+void describe(const QPushButton& button, QJsonObject* description) {
+  describeTitle(button, description);
+}
 
 void describe(const QRadioButton& button, QJsonObject* description) {
   describeTitle(button, description);

@@ -5,8 +5,8 @@
 
 class QWidget;
 
-// Names of the views below the content view. A view's name is its object name; a group or row without one has the
-// name of its class.
+// Names of the views below the content view. A view's name is its object name; a group or row without one has
+// the name of its class.
 QString controlNameOf(const QWidget& view);  // null for a part of a control
 
 // Finds the controls that are alive below a view, by name.
@@ -22,7 +22,8 @@ class ControlFinder final {
   // "m_field", or with parents in front where that is not unique: "Group/m_field". Parents may be left out.
   Found find(const QString& name) const;
 
-  // The shortest name that finds the control, or the nearest of its parents that has one; null when there is none.
+  // The shortest name that finds the control, or the nearest of its parents that has one; null when there is
+  // none.
   QString nameOf(const QWidget* control) const;
 
  private:

@@ -6,9 +6,13 @@
 
 #include "companion/session/ValueCodec.h"
 
-QString StepArguments::text(const char* key) { return typed(key, QJsonValue::String, "a text").toString(); }
+QString StepArguments::text(const char* key) {
+  return typed(key, QJsonValue::String, "a text").toString();
+}
 
-QString StepArguments::textOr(const char* key, const QString& fallback) { return has(key) ? text(key) : fallback; }
+QString StepArguments::textOr(const char* key, const QString& fallback) {
+  return has(key) ? text(key) : fallback;
+}
 
 QString StepArguments::optionalText(const char* key) {
   if (!has(key) || raw(key).isNull()) return {};
@@ -19,26 +23,37 @@ QString StepArguments::optionalText(const char* key) {
 
 QString StepArguments::choice(const char* key, std::initializer_list<const char*> choices) {
   const QString value = text(key);
-  const bool isKnown = std::ranges::any_of(choices, [&](const char* known) { return value == QLatin1String(known); });
+  const bool isKnown =
+      std::ranges::any_of(choices, [&](const char* known) { return value == QLatin1String(known); });
   if (!isKnown) fail(QStringLiteral("\"%1\" cannot be \"%2\"").arg(QLatin1String(key), value));
   return value;
 }
 
-bool StepArguments::flag(const char* key) { return typed(key, QJsonValue::Bool, "true or false").toBool(); }
+bool StepArguments::flag(const char* key) {
+  return typed(key, QJsonValue::Bool, "true or false").toBool();
+}
 
-bool StepArguments::flagOr(const char* key, bool fallback) { return has(key) ? flag(key) : fallback; }
+bool StepArguments::flagOr(const char* key, bool fallback) {
+  return has(key) ? flag(key) : fallback;
+}
 
 qint64 StepArguments::integer(const char* key, qint64 least, qint64 greatest) {
   const double value = number(key);
   if (!isGood()) return least;
-  if (value < static_cast<double>(least) || value > static_cast<double>(greatest) || std::trunc(value) != value) {
-    fail(QStringLiteral("\"%1\" is not a whole number from %2 to %3").arg(QLatin1String(key)).arg(least).arg(greatest));
+  if (value < static_cast<double>(least) || value > static_cast<double>(greatest) ||
+      std::trunc(value) != value) {
+    fail(QStringLiteral("\"%1\" is not a whole number from %2 to %3")
+             .arg(QLatin1String(key))
+             .arg(least)
+             .arg(greatest));
     return least;
   }
   return raw(key).toInteger(least);
 }
 
-double StepArguments::number(const char* key) { return typed(key, QJsonValue::Double, "a number").toDouble(); }
+double StepArguments::number(const char* key) {
+  return typed(key, QJsonValue::Double, "a number").toDouble();
+}
 
 QStringList StepArguments::textsOr(const char* key, const QStringList& fallback) {
   if (!has(key)) return fallback;
@@ -51,13 +66,16 @@ QStringList StepArguments::textsOr(const char* key, const QStringList& fallback)
   return texts;
 }
 
-QJsonObject StepArguments::object(const char* key) { return typed(key, QJsonValue::Object, "an object").toObject(); }
+QJsonObject StepArguments::object(const char* key) {
+  return typed(key, QJsonValue::Object, "an object").toObject();
+}
 
 Content StepArguments::content(const char* key) {
   if (!has(key) || raw(key).isNull()) return {};
   const auto decoded = valuecodec::decode(object(key));
   if (!decoded.error.isEmpty()) fail(decoded.error);
-  if (decoded.value.typeId() != QMetaType::QVariantMap) fail(QStringLiteral("\"%1\" is not a dictionary").arg(QLatin1String(key)));
+  if (decoded.value.typeId() != QMetaType::QVariantMap)
+    fail(QStringLiteral("\"%1\" is not a dictionary").arg(QLatin1String(key)));
   return decoded.value.toMap();
 }
 

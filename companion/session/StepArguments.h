@@ -9,8 +9,8 @@
 #include "companion/session/StepOutcome.h"
 #include "host/KZFoundation/Dictionary.h"
 
-// Reads one step's values. The first value that is missing or of a wrong type is remembered and everything after it
-// reads as a default, so that a step reads all it needs and then asks once.
+// Reads one step's values. The first value that is missing or of a wrong type is remembered and everything
+// after it reads as a default, so that a step reads all it needs and then asks once.
 class StepArguments final {
  public:
   explicit StepArguments(const QJsonObject& step) : m_step(step) {}

@@ -21,7 +21,8 @@ Decoded decodeText(const QString& text) {
 
 Decoded decodeData(const QJsonValue& base64) {
   if (!base64.isString()) return {{}, QStringLiteral("$data is not a text")};
-  const auto bytes = QByteArray::fromBase64Encoding(base64.toString().toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
+  const auto bytes =
+      QByteArray::fromBase64Encoding(base64.toString().toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
   if (!bytes) return {{}, QStringLiteral("$data is not base64")};
   return {*bytes, {}};
 }
@@ -98,6 +99,8 @@ QJsonValue encode(const QVariant& value) {
   }
 }
 
-QJsonValue encode(const Content& content) { return content ? encodeDictionary(*content) : QJsonValue::Null; }
+QJsonValue encodeContent(const Content& content) {
+  return content ? encodeDictionary(*content) : QJsonValue::Null;
+}
 
 }  // namespace valuecodec

@@ -6,8 +6,8 @@
 
 #include "host/KZFoundation/Dictionary.h"
 
-// Values between a script and the border. A text that begins with "@" is the host's constant object of that name,
-// bytes are {"$data": base64}, null is a missing value.
+// Values between a script and the border. A text that begins with "@" is the host's constant object of that
+// name, bytes are {"$data": base64}, null is a missing value.
 namespace valuecodec {
 
 struct [[nodiscard]] Decoded {
@@ -18,6 +18,6 @@ struct [[nodiscard]] Decoded {
 Decoded decode(const QJsonValue& value);
 
 QJsonValue encode(const QVariant& value);
-QJsonValue encode(const Content& content);  // null where there is none
+QJsonValue encodeContent(const Content& content);  // null where there is none
 
 }  // namespace valuecodec

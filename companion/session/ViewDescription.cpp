@@ -16,7 +16,9 @@
 
 namespace {
 
-QJsonArray describeFrame(const Frame& frame) { return {frame.x, frame.y, frame.width, frame.height}; }
+QJsonArray describeFrame(const Frame& frame) {
+  return {frame.x, frame.y, frame.width, frame.height};
+}
 
 QJsonObject describeDrawnText(const DrawnText& drawn) {
   const QJsonObject font = {{"size", drawn.size}, {"bold", drawn.role == FontRole::BoldSystem}};
@@ -27,7 +29,9 @@ QJsonObject describeDrawnText(const DrawnText& drawn) {
           {"alignment", describeAlignment(drawn.alignment)}};
 }
 
-bool takesTab(const QWidget& view) { return view.focusPolicy() & Qt::TabFocus; }
+bool takesTab(const QWidget& view) {
+  return view.focusPolicy() & Qt::TabFocus;
+}
 
 // Where Tab goes from the view; nullptr when it stays.
 const QWidget* nextControlOf(const QWidget& view) {
@@ -56,10 +60,13 @@ QJsonValue selectedLabelOf(const Window& window) {
 }
 
 QJsonObject describeAnimation(const ViewAnimation* animation) {
-  return {{"running", animation && animation->isRunning()}, {"duration", animation ? animation->duration() : 0.0}};
+  return {{"running", animation && animation->isRunning()},
+          {"duration", animation ? animation->duration() : 0.0}};
 }
 
-QJsonValue textOrNull(const QString& text) { return text.isNull() ? QJsonValue(QJsonValue::Null) : QJsonValue(text); }
+QJsonValue textOrNull(const QString& text) {
+  return text.isNull() ? QJsonValue(QJsonValue::Null) : QJsonValue(text);
+}
 
 }  // namespace
 

@@ -6,7 +6,8 @@
 class QWidget;
 class Window;
 
-// What a script sees of a window: exact frames, texts and states, children in the order in which they were added.
+// What a script sees of a window: exact frames, texts and states, children in the order in which they were
+// added.
 
 QJsonObject describeView(const QWidget& view);
 
