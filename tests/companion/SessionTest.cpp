@@ -1,0 +1,307 @@
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QImage>
+#include <QJsonArray>
+#include <QTemporaryDir>
+
+#include "tests/companion/SessionRun.h"
+
+namespace {
+
+const QString kShow = QStringLiteral(R"({"command": 2})");
+
+// What the script prints after the window is shown and has become the key window.
+QStringList shown(const QStringList& script) {
+  SessionRun run = runSession(QStringList{kShow, R"({"echo": "shown"})"} + script);
+  EXPECT_EQ(run.complaints, "");
+  const qsizetype start = run.lines.indexOf(R"({"echo":"shown"})");
+  EXPECT_GE(start, 0) << qPrintable(run.lines.join(u'\n'));
+  return run.lines.mid(start + 1);
+}
+
+QString happened(const char* content) {
+  return QStringLiteral(R"({"content":%1,"name":"KZCmdWriteTelemetry","sent":23})")
+      .arg(QLatin1String(content));
+}
+
+QJsonObject viewNamed(const QJsonObject& view, const QString& name) {
+  if (view.value("name") == name) return view;
+  for (const QJsonValue& child : view.value("children").toArray()) {
+    const QJsonObject found = viewNamed(child.toObject(), name);
+    if (!found.isEmpty()) return found;
+  }
+  return {};
+}
+
+TEST(Session, PrintsWhatCrossesTheBorderInOrder) {
+  const SessionRun run = runSession({
+      R"({"echo": {"mark": [1, 0.5]}})",
+      R"({"command": 77, "content": {"n": 3, "f": true, "gone": null, "bytes": {"$data": "AP8="}}})",
+      R"({"command": 77})",
+      R"({"command": 20, "content": {"kproximityCommand": "@kstartDetectVD"}})",
+      R"({"command": 20, "content": {"kproximityCommand": "kstartDetectVD"}})",
+      R"({"notify": 7, "content": {}})",
+      R"({"notify": 8})",
+      R"({"command": 28})",
+      R"({"command": 8})",
+      R"({"command": 10})",
+      R"({"post": "HTTPAuthenticationRequired", "userInfo": {"a": 1}, "thread": "worker"})",
+      R"({"post": "HTTPAuthenticationRequired"})",
+      R"({"post": "HTTPAuthenticationDatasource"})",
+      R"({"command": 9, "content": {"password": "secret"}})",
+      R"({"echo": null})",
+  });
+  const QStringList expected = {
+      R"({"echo":{"mark":[1,0.5]}})",
+      R"({"content":{"bytes":{"$data":"AP8="},"f":true,"n":3},"name":"","sent":77})",
+      R"({"content":null,"name":"","sent":77})",
+      R"({"content":{"same":true},"name":"KZCmdSetVideoDevicePrefs","sent":19})",
+      R"({"content":{"same":false},"name":"KZCmdSetVideoDevicePrefs","sent":19})",
+      R"({"content":{"hasContent":true,"index":7},"name":"KZCmdPreferenceChanged","sent":13})",
+      R"({"content":{"hasContent":false,"index":8},"name":"KZCmdPreferenceChanged","sent":13})",
+      R"({"content":null,"name":"KZCmdExchOnlineTokenGot","sent":29})",
+      R"({"warning":{"message":"Message","title":"Title"}})",
+      R"({"opened":"https://example.com/a%20b"})",
+      R"({"posted":"HTTPAuthenticationDatasource","userInfo":{"a":1,"answered":true}})",
+      R"({"posted":"HTTPAuthenticationDatasource","userInfo":{"answered":true}})",
+      R"({"echo":null})",
+  };
+  EXPECT_EQ(run.lines, expected) << qPrintable(run.lines.join(u'\n'));
+  EXPECT_EQ(run.complaints, "");
+  EXPECT_EQ(run.status, 0);
+}
+
+TEST(Session, PrintsTraceOnlyWhenAsked) {
+  const SessionRun run = runSession({R"({"command": 9, "content": {"a": 1}})"}, {"--trace"});
+  ASSERT_EQ(run.lines.size(), 1);
+  EXPECT_EQ(run.object(0).value("trace"), "warning");
+  EXPECT_EQ(run.object(0).value("method"), "FakeCore::handle");
+}
+
+TEST(Session, UserActions) {
+  struct Case {
+    const char* what;
+    QStringList script;
+    QStringList expected;
+  };
+  const Case cases[] = {
+      {"click",
+       {R"({"click": "m_box"})"},
+       {R"({"content":{"on":true,"shift":false},"name":"KZCmdUpdateGeneralSetting","sent":4})"}},
+      {"Shift shows only while it is held",
+       {R"({"click": "m_box", "shift": true})", R"({"click": "m_box"})"},
+       {R"({"content":{"on":true,"shift":true},"name":"KZCmdUpdateGeneralSetting","sent":4})",
+        R"({"content":{"on":false,"shift":false},"name":"KZCmdUpdateGeneralSetting","sent":4})"}},
+      {"typing replaces, key by key",
+       {R"({"type": "m_field", "text": "a€😀"})", R"({"type": "m_field", "text": ""})",
+        R"({"key": "Return", "in": "m_field"})"},
+       {happened(R"({"typed":"a"})"), happened(R"({"typed":"a€"})"), happened(R"({"typed":"a€😀"})"),
+        happened(R"({"typed":""})"), happened(R"({"returned":true})")}},
+      {"pop-up",
+       {R"({"choose": "m_popup", "item": "15"})"},
+       {R"({"content":{"title":"15"},"name":"KZCmdSetVideoDevicePrefs","sent":19})"}},
+      {"hidden, disabled, covered",
+       {R"({"click": "m_hidden"})", R"({"click": "m_off"})", R"({"click": "m_covered"})",
+        R"({"key": "Space", "in": "m_off"})"},
+       {R"({"refused":"m_hidden is hidden"})", R"({"refused":"m_off is disabled"})",
+        R"({"refused":"m_covered is covered"})", R"({"refused":"m_off is disabled"})"}},
+      {"scrolled into view", {R"({"click": "m_far"})"}, {happened(R"({"clicked":"far"})")}},
+      {"same name in two groups", {R"({"click": "GroupB/m_same"})"}, {happened(R"({"clicked":"GroupB"})")}},
+      {"parents may be left out",
+       {R"({"click": "m_generalView/GroupA/m_same"})"},
+       {happened(R"({"clicked":"GroupA"})")}},
+      {"panes by label and by English label",
+       {R"({"pane": "Konto"})", R"({"pane": "Meetings", "shift": true})"},
+       {happened(R"({"pane":"Konto","shift":false})"), happened(R"({"pane":"Treffen","shift":true})")}},
+      {"keys to the window",
+       {R"({"key": "w", "modifiers": ["command"]})", R"({"echo": 0})"},
+       {happened(R"({"key":16777249,"modifiers":67108864})"), happened(R"({"key":87,"modifiers":67108864})"),
+        R"({"echo":0})"}},
+      {"close and show again",
+       {R"({"close": true})", R"({"close": true})", R"({"click": "m_box"})"},
+       {happened(R"({"closing":true})"), R"({"refused":"no window is open"})",
+        R"({"refused":"m_box is hidden"})"}},
+      {"key window",
+       {R"({"activate": false})", R"({"echo": 1})", R"({"activate": true})"},
+       {R"({"echo":1})", happened(R"({"key":true})")}},
+  };
+  for (const Case& given : cases) {
+    const QStringList lines = shown(given.script);
+    EXPECT_EQ(lines, given.expected) << given.what << '\n' << qPrintable(lines.join(u'\n'));
+  }
+}
+
+TEST(Session, DescribesTheWindow) {
+  const SessionRun none = runSession({R"({"get": "window"})"});
+  EXPECT_EQ(none.lines, QStringList{R"({"result":null})"});
+
+  const SessionRun run = runSession({kShow, R"({"type": "m_field", "text": "x"})", R"({"get": "window"})"});
+  const QJsonObject window = run.result();
+  EXPECT_EQ(window.value("controller"), "FakeWindowController");
+  EXPECT_EQ(window.value("title"), "Fake preferences");
+  EXPECT_EQ(window.value("visible"), true);
+  EXPECT_EQ(window.value("key"), true);
+  EXPECT_EQ(window.value("selected"), "Allgemein");
+  EXPECT_EQ(window.value("toolbar").toArray().size(), 5);
+  EXPECT_EQ(window.value("firstResponder"), "m_field");
+  EXPECT_EQ(window.value("animation").toObject().value("running"), false);
+
+  const QJsonObject content = window.value("content").toObject();
+  const QJsonObject field = viewNamed(content, "m_field");
+  EXPECT_EQ(field.value("frame").toArray(), (QJsonArray{20, 560.25, 200, 22}));
+  EXPECT_EQ(field.value("text"), "x");
+  EXPECT_EQ(field.value("placeholder"), "Email");
+  EXPECT_EQ(field.value("secure"), false);
+  EXPECT_EQ(field.value("next"), "m_secret");
+  EXPECT_EQ(viewNamed(content, "m_secret").value("secure"), true);
+  const QJsonObject label = viewNamed(content, "m_label");
+  EXPECT_EQ(label.value("color"), "red");
+  EXPECT_EQ(label.value("alignment"), "right");
+  EXPECT_EQ(label.value("font").toObject(), (QJsonObject{{"size", 13}, {"bold", false}}));
+  EXPECT_EQ(viewNamed(content, "m_link").value("color"), "blue");
+  EXPECT_EQ(viewNamed(content, "m_spinner").value("animating"), true);
+  EXPECT_EQ(viewNamed(content, "m_hidden").value("hidden"), true);
+  EXPECT_EQ(viewNamed(content, "m_off").value("enabled"), false);
+  const QJsonObject popUp = viewNamed(content, "m_popup");
+  EXPECT_EQ(popUp.value("text"), "7");
+  EXPECT_EQ(popUp.value("items").toArray(), (QJsonArray{"5", "10", "15"}));
+
+  const QJsonArray drawn = viewNamed(content, "m_generalView").value("children").toArray();
+  EXPECT_EQ(drawn.last().toObject(), (QJsonObject{{"class", "drawn"},
+                                                  {"text", "Drawn"},
+                                                  {"frame", QJsonArray{20, 590.5, 120, 16}},
+                                                  {"font", QJsonObject{{"size", 16}, {"bold", true}}},
+                                                  {"alignment", "center"}}));
+}
+
+TEST(Session, GetsAndSetsTheHost) {
+  const SessionRun run = runSession({
+      R"({"set": "store", "values": {"siteName": "s", "launchAtLogin": false, "videoDevice": {"a": 1}, "userName": "u"}})",
+      R"({"set": "store", "values": {"userName": null}})",
+      R"({"get": "store"})",
+      R"({"get": "keychain"})",
+      R"({"set": "keychain", "username": "u", "password": "p"})",
+      R"({"get": "keychain"})",
+      R"({"set": "keychain", "username": null, "password": null})",
+      R"({"get": "keychain"})",
+      R"({"set": "host", "checkForUpdatesInProgress": true, "siteEnableOutlook": false, "joinByNumberLink": "x:"})",
+      R"({"get": "host"})",
+      R"({"set": "host", "joinByNumberLink": null, "checkForUpdatesInProgress": false})",
+      R"({"get": "host"})",
+      R"({"personalRoom": {"join": "j", "sip": "s"}})",
+      R"({"personalRoom": {"join": ""}})",
+      R"({"get": "personalRoom"})",
+      R"({"get": "token", "email": "e"})",
+      R"({"get": "token"})",
+  });
+  const QStringList expected = {
+      R"({"result":{"launchAtLogin":false,"siteName":"s","videoDevice":{"a":1}}})",
+      R"({"result":{"outlookOnlineData":null,"outlookPassword":null,"outlookUsername":null}})",
+      R"({"result":{"outlookOnlineData":null,"outlookPassword":"p","outlookUsername":"u"}})",
+      R"({"result":{"outlookOnlineData":null,"outlookPassword":null,"outlookUsername":null}})",
+      R"({"result":{"checkForUpdatesInProgress":true,"joinByNumberLink":"x:","siteEnableOutlook":false}})",
+      R"({"result":{"checkForUpdatesInProgress":false,"joinByNumberLink":null,"siteEnableOutlook":false}})",
+      R"({"result":{"join":"","sip":"s"}})",
+      R"({"result":{"email":"e","hasUsername":false}})",
+      R"({"result":null})",
+  };
+  EXPECT_EQ(run.lines, expected) << qPrintable(run.lines.join(u'\n'));
+}
+
+TEST(Session, TokensGoThroughTheCache) {
+  const SessionRun run = runSession({
+      R"({"set": "tokens", "items": [{"userId": "u", "authority": "https://a", "resource": "r", "clientId": "c", "accessToken": "t", "refreshToken": "f", "multiResource": false, "expiresIn": 3600},
+          {"userId": "u", "authority": "https://a", "clientId": "c", "refreshToken": "f", "multiResource": true}]})"
+          .replace('\n', ' '),
+      R"({"get": "tokens"})",
+  });
+  const QJsonArray items = run.last().value("result").toArray();
+  ASSERT_EQ(items.size(), 2);
+  EXPECT_EQ(items.at(0).toObject().value("accessToken"), "t");
+  EXPECT_EQ(items.at(1).toObject().value("multiResource"), true);
+  const QDateTime expiry =
+      QDateTime::fromString(items.at(0).toObject().value("expiresOn").toString(), Qt::ISODate);
+  const qint64 seconds = QDateTime::currentDateTimeUtc().secsTo(expiry);
+  EXPECT_TRUE(seconds > 3500 && seconds <= 3600) << seconds;
+}
+
+TEST(Session, KeepsItsStateFolderAndWritesPictures) {
+  const QTemporaryDir folder;
+  const QString picture = folder.filePath("pane.png");
+  const SessionRun run = runSession({R"({"set": "store", "values": {"siteName": "kept"}})", kShow,
+                                     QStringLiteral(R"({"screenshot": "%1"})").arg(picture)},
+                                    {"--state", folder.path()});
+  EXPECT_EQ(run.status, 0);
+  EXPECT_EQ(QImage(picture).width(), 440);
+  const SessionRun again = runSession({R"({"get": "store"})"}, {"--state", folder.path()});
+  EXPECT_EQ(again.result().value("siteName"), "kept");
+  EXPECT_TRUE(runSession({R"({"get": "store"})"}).result().isEmpty());
+}
+
+TEST(Session, StepsThatCannotBePlayedEndIt) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"{", "not JSON"},
+      {"[1]", "a step is a JSON object"},
+      {R"({"comand": 2})", "unknown step: comand"},
+      {R"({"command": 2, "notify": 7})", "several steps in one line: command, notify"},
+      {R"({"command": "2"})", R"("command" is not a number)"},
+      {R"({"command": -1})", R"("command" is not a whole number)"},
+      {R"({"command": 2.5})", R"("command" is not a whole number)"},
+      {R"({"command": 2, "content": [1]})", R"("content" is not an object)"},
+      {R"({"command": 77, "content": {"a": "@nobody"}})", "there is no host constant nobody"},
+      {R"({"click": "m_nothing"})", "there is no control m_nothing"},
+      {R"({"click": "m_same"})",
+       "m_same is not unique: m_generalView/GroupA/m_same, m_generalView/GroupB/m_same"},
+      {R"({"click": "m_box", "shift": 1})", R"("shift" is not true or false)"},
+      {R"({"type": "m_box", "text": "a"})", "m_box is not a text field"},
+      {R"({"choose": "m_popup", "item": "99"})", "there is no item 99"},
+      {R"({"pane": "Nowhere"})", "there is no pane Nowhere"},
+      {R"({"key": "Nokey"})", "there is no key Nokey"},
+      {R"({"key": "w", "modifiers": ["hyper"]})", "there is no modifier hyper"},
+      {R"({"close": false})", R"("close" is not true)"},
+      {R"({"get": "nothing"})", R"(there is no "nothing" to get)"},
+      {R"({"set": "store", "values": {"colour": 1}})", "the store has no colour"},
+      {R"({"set": "host", "moon": 1})", "the host has no moon"},
+      {R"({"set": "language", "to": "qqq"})", "there is no language qqq"},
+      {R"({"post": "x", "thread": "other"})", R"("thread" cannot be "other")"},
+      {R"({"wait": -5})", R"("wait" is not a whole number)"},
+      {R"({"measure": "a", "size": 0})", R"("size" is out of range)"},
+      {R"({"screenshot": "/nowhere/at/all.png"})", "cannot write /nowhere/at/all.png"},
+  };
+  for (const auto& [step, reason] : cases) {
+    const SessionRun run = runSession({"# a script", kShow, step, R"({"echo": "not reached"})"});
+    EXPECT_EQ(run.status, 2) << step;
+    EXPECT_EQ(run.last().value("line"), 3) << step;
+    EXPECT_TRUE(run.last().value("error").toString().startsWith(QLatin1String(reason)))
+        << step << '\n'
+        << qPrintable(run.lines.join(u'\n'));
+  }
+}
+
+TEST(Session, APluginThatCannotBeLoadedIsStatusThree) {
+  const QTemporaryDir folder;
+  const QString damaged = folder.filePath("damaged.so");
+  QFile file(damaged);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write("no library");
+  file.close();
+  for (const QString& plugin : {QStringLiteral("/nowhere/plugin.so"), damaged}) {
+    const SessionRun run = runSessionWith(plugin, {R"({"echo": 1})"});
+    EXPECT_EQ(run.status, 3);
+    EXPECT_TRUE(run.complaints.contains(plugin)) << qPrintable(run.complaints);
+    EXPECT_TRUE(run.lines.isEmpty());
+  }
+}
+
+TEST(Session, WaitRunsTimersAndMeasuresTexts) {
+  const SessionRun run =
+      runSession({R"({"wait": 20})", R"({"measure": "text", "text": "Meetings", "font": "bold", "size": 16})",
+                  R"({"measure": "Meetings", "font": "default"})"});
+  ASSERT_EQ(run.lines.size(), 2);
+  EXPECT_GT(run.object(0).value("result").toObject().value("width").toDouble(),
+            run.result().value("width").toDouble());
+  EXPECT_EQ(run.result().value("height").toDouble(), 16);
+}
+
+}  // namespace
