@@ -7,7 +7,9 @@ bool ADTokenCacheItem::isExpired() const {
 }
 
 bool ADTokenCacheItem::isSameEntry(const ADTokenCacheItem& other) const {
-  return multiResource == other.multiResource && authority == other.authority && clientId == other.clientId &&
-         resource == other.resource &&
-         userInformation.userId.compare(other.userInformation.userId, Qt::CaseInsensitive) == 0;
+  if (multiResource != other.multiResource || authority != other.authority || clientId != other.clientId)
+    return false;
+  // A refresh token for several resources is one entry, whichever resource it was first asked for.
+  if (!multiResource && resource != other.resource) return false;
+  return userInformation.userId.compare(other.userInformation.userId, Qt::CaseInsensitive) == 0;
 }

@@ -27,7 +27,8 @@ struct ADAL_EXPORT ADTokenCacheItem {
   // At the settings' clock. A token without an expiry time counts as expired.
   bool isExpired() const;
 
-  // Whether storing one of the two replaces the other: same user, authority, resource, client and kind.
+  // Whether storing one of the two replaces the other: same user, authority, client and kind, and
+  // for access tokens the same resource.
   bool isSameEntry(const ADTokenCacheItem& other) const;
 
   bool operator==(const ADTokenCacheItem&) const = default;

@@ -1,0 +1,64 @@
+#include "adal/ADAuthenticationContext.h"
+
+#include <QList>
+#include <utility>
+#include <vector>
+
+#include "adal/ADAddress.h"
+#include "adal/ADRefresh.h"
+#include "adal/ADSignIn.h"
+
+struct ADAuthenticationContext::Private {
+  QString authority;
+  std::vector<std::shared_ptr<ADSignIn>> signIns;
+  std::vector<std::unique_ptr<ADRefresh>> refreshes;
+};
+
+ADAuthenticationContext::ADAuthenticationContext(const QString& authority) : d(std::make_unique<Private>()) {
+  d->authority = authority;
+}
+
+ADAuthenticationContext::~ADAuthenticationContext() {
+  for (const std::shared_ptr<ADSignIn>& signIn : d->signIns) signIn->leave(this);
+}
+
+std::unique_ptr<ADAuthenticationContext> ADAuthenticationContext::initWithAuthority(
+    const QString& authority, ADAuthorityValidation /*validation*/, ADError& error) {
+  const QUrl address(authority, QUrl::StrictMode);
+  if (!isAllowedAddress(address) || address.hasQuery() || address.hasFragment()) {
+    error = {ADErrorCode::AddressNotAllowed, QStringLiteral("the authority")};
+    return nullptr;
+  }
+  return std::unique_ptr<ADAuthenticationContext>(new ADAuthenticationContext(authority));
+}
+
+void ADAuthenticationContext::acquireTokenWithResource(
+    const QString& resource, const QString& clientId, const QUrl& redirectUri,
+    ADPromptBehavior promptBehavior, const ADUserIdentifier& userIdentifier,
+    const QString& extraQueryParameters, const QString& claims, ADAuthenticationCallback completionBlock) {
+  const std::shared_ptr<ADSignIn> signIn = ADSignIn::forRequest({.authority = d->authority,
+                                                                 .resource = resource,
+                                                                 .clientId = clientId,
+                                                                 .redirectUri = redirectUri,
+                                                                 .promptBehavior = promptBehavior,
+                                                                 .userIdentifier = userIdentifier,
+                                                                 .extraQueryParameters = extraQueryParameters,
+                                                                 .claims = claims});
+  std::erase_if(d->signIns, [](const std::shared_ptr<ADSignIn>& old) { return old->isFinished(); });
+  signIn->join(this, std::move(completionBlock));
+  d->signIns.push_back(signIn);
+}
+
+// The redirect address has no part in a refresh.
+void ADAuthenticationContext::acquireTokenWithRefreshToken(const QString& refreshToken,
+                                                           const QString& resource, const QString& clientId,
+                                                           const QUrl& /*redirectUri*/,
+                                                           ADAuthenticationCallback completionBlock) {
+  std::erase_if(d->refreshes, [](const std::unique_ptr<ADRefresh>& old) { return old->isFinished(); });
+  d->refreshes.push_back(std::make_unique<ADRefresh>(ADRefreshRequest{.authority = d->authority,
+                                                                      .refreshToken = refreshToken,
+                                                                      .resource = resource,
+                                                                      .clientId = clientId},
+                                                     std::move(completionBlock)));
+  d->refreshes.back()->start();
+}

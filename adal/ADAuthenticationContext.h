@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QString>
+#include <QUrl>
+#include <memory>
+
+#include "adal/ADALExport.h"
+#include "adal/ADAuthenticationResult.h"
+#include "adal/ADUserIdentifier.h"
+
+enum class ADPromptBehavior { Auto = 0, Always = 1 };  // Always: the sign-in page is shown in any case
+enum class ADAuthorityValidation { Off };
+
+// Gets tokens from one authority and stores them in the default cache. Main thread only; nothing blocks.
+// Every request is answered once, from the event loop. Destroying the context gives up its requests
+// unanswered.
+class ADAL_EXPORT ADAuthenticationContext final {
+ public:
+  // Null, with the reason in `error`, for an authority that is neither https nor http to the loopback
+  // address.
+  [[nodiscard]] static std::unique_ptr<ADAuthenticationContext> initWithAuthority(
+      const QString& authority, ADAuthorityValidation validation, ADError& error);
+  ~ADAuthenticationContext();
+  Q_DISABLE_COPY_MOVE(ADAuthenticationContext)
+
+  // Signs a user in, in the system's browser. A request that equals one that still waits joins it: it opens
+  // no second browser and gets the same answer.
+  void acquireTokenWithResource(const QString& resource, const QString& clientId, const QUrl& redirectUri,
+                                ADPromptBehavior promptBehavior, const ADUserIdentifier& userIdentifier,
+                                const QString& extraQueryParameters, const QString& claims,
+                                ADAuthenticationCallback completionBlock);
+
+  void acquireTokenWithRefreshToken(const QString& refreshToken, const QString& resource,
+                                    const QString& clientId, const QUrl& redirectUri,
+                                    ADAuthenticationCallback completionBlock);
+
+ private:
+  explicit ADAuthenticationContext(const QString& authority);
+
+  struct Private;
+  std::unique_ptr<Private> d;
+};

@@ -1,0 +1,97 @@
+#include "adal/ADEndpoints.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include "adal/ADAddress.h"
+#include "adal/ADWebClient.h"
+
+namespace {
+
+constexpr ADProtocolGeneration resourceGeneration{"resource", "openid"};
+constexpr ADProtocolGeneration scopeGeneration{"scope", "openid profile email offline_access"};
+
+QUrl pathBelow(const QString& authority, const char* path) {
+  const QString root = authority.endsWith(QLatin1Char('/')) ? authority.chopped(1) : authority;
+  return QUrl(root + QLatin1String(path));
+}
+
+QStringList textsUnder(const QJsonObject& document, const char* key) {
+  QStringList texts;
+  for (const QJsonValue& value : document.value(QLatin1String(key)).toArray()) texts.append(value.toString());
+  return texts;
+}
+
+// An authority that hands out refresh tokens by scope says so in its document, or by its address where it has
+// none.
+const ADProtocolGeneration& generationOf(const QString& authority, const QStringList& knownScopes) {
+  const QString path = QUrl(authority).path(QUrl::FullyEncoded);
+  const bool takesScopes = knownScopes.contains(QLatin1String("offline_access")) ||
+                           path.endsWith(QLatin1String("/v2.0")) || path.endsWith(QLatin1String("/v2.0/"));
+  return takesScopes ? scopeGeneration : resourceGeneration;
+}
+
+// A bare host stands for all that it offers; anything longer is a scope, or several, already.
+QString scopeForResource(const QString& resource) {
+  const QUrl address(resource, QUrl::StrictMode);
+  const bool isBareHost = !address.host().isEmpty() &&
+                          (address.path().isEmpty() || address.path() == QLatin1String("/")) &&
+                          !address.hasQuery();
+  if (!isBareHost) return resource;
+  return resource + QLatin1String(resource.endsWith(QLatin1Char('/')) ? ".default" : "/.default");
+}
+
+}  // namespace
+
+ADParameters ADEndpoints::resourceParameters(const QString& resource) const {
+  ADParameters parameters;
+  QStringList scopes = QString::fromLatin1(generation->scopes).split(QLatin1Char(' '));
+  if (!knownScopes.isEmpty())
+    scopes.removeIf([this](const QString& scope) { return !knownScopes.contains(scope); });
+  const QString parameter = QString::fromLatin1(generation->resourceParameter);
+  if (parameter == QLatin1String("scope")) {
+    if (!resource.isEmpty()) scopes.append(scopeForResource(resource));
+  } else if (!resource.isEmpty()) {
+    parameters.append({parameter, resource});
+  }
+  if (!scopes.isEmpty()) parameters.append({QStringLiteral("scope"), scopes.join(QLatin1Char(' '))});
+  return parameters;
+}
+
+ADParameters ADEndpoints::promptParameters(ADPromptBehavior behavior) const {
+  if (behavior == ADPromptBehavior::Auto) return {};
+  // Where consent can be asked for beside the sign-in it must be, or there is no refresh token.
+  const bool asksConsent = knownPrompts.contains(QLatin1String("consent"));
+  return {
+      {QStringLiteral("prompt"), asksConsent ? QStringLiteral("login consent") : QStringLiteral("login")}};
+}
+
+ADEndpointsOrError endpointsFromAnswer(const QString& authority, const ADWebAnswer& answer) {
+  if (answer.error) return {{}, answer.error};
+  const QJsonDocument document = QJsonDocument::fromJson(answer.body);
+  if (answer.status != 200 || !document.isObject()) {
+    return {{pathBelow(authority, "/oauth2/authorize"),
+             pathBelow(authority, "/oauth2/token"),
+             &generationOf(authority, {}),
+             {},
+             {}},
+            {}};
+  }
+  const QJsonObject configuration = document.object();
+  const QStringList scopes = textsUnder(configuration, "scopes_supported");
+  const ADEndpoints endpoints{QUrl(configuration.value(QLatin1String("authorization_endpoint")).toString()),
+                              QUrl(configuration.value(QLatin1String("token_endpoint")).toString()),
+                              &generationOf(authority, scopes), scopes,
+                              textsUnder(configuration, "prompt_values_supported")};
+  if (!isAllowedAddress(endpoints.authorization) || !isAllowedAddress(endpoints.token)) {
+    return {{}, ADError{ADErrorCode::AddressNotAllowed, QStringLiteral("in the authority's configuration")}};
+  }
+  return {endpoints, {}};
+}
+
+void findEndpoints(ADWebClient& web, const QString& authority,
+                   const std::function<void(const ADEndpointsOrError&)>& done) {
+  web.get(pathBelow(authority, "/.well-known/openid-configuration"),
+          [authority, done](const ADWebAnswer& answer) { done(endpointsFromAnswer(authority, answer)); });
+}

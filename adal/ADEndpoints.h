@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QStringList>
+#include <QUrl>
+#include <functional>
+#include <optional>
+
+#include "adal/ADAuthenticationContext.h"
+#include "adal/ADError.h"
+#include "adal/ADParameters.h"
+
+class ADWebClient;
+struct ADWebAnswer;
+
+// How one generation of authorities is told what a token is for.
+struct ADProtocolGeneration {
+  const char* resourceParameter;  // the parameter that names the resource
+  const char* scopes;             // always asked for, as far as the authority knows them
+};
+
+// Where an authority is asked, and what it understands.
+struct ADEndpoints {
+  QUrl authorization;
+  QUrl token;
+  const ADProtocolGeneration* generation = nullptr;
+  QStringList knownScopes;   // empty: not known
+  QStringList knownPrompts;  // empty: not known
+
+  // "resource" and "scope", as the generation has them.
+  ADParameters resourceParameters(const QString& resource) const;
+  ADParameters promptParameters(ADPromptBehavior behavior) const;
+};
+
+struct ADEndpointsOrError {
+  ADEndpoints endpoints;
+  std::optional<ADError> error;
+};
+
+// Reads the authority's OpenID configuration document; where it has none, its usual paths hold.
+void findEndpoints(ADWebClient& web, const QString& authority,
+                   const std::function<void(const ADEndpointsOrError&)>& done);
+
+ADEndpointsOrError endpointsFromAnswer(const QString& authority, const ADWebAnswer& answer);

@@ -1,0 +1,106 @@
+#include "adal/ADRefresh.h"
+
+#include <QTimer>
+#include <algorithm>
+#include <utility>
+
+#include "adal/ADAuthenticationSettings.h"
+#include "adal/ADLogger.h"
+#include "adal/ADTokenCache.h"
+
+namespace {
+
+std::optional<ADTokenCacheItem> holderOf(const QString& refreshToken) {
+  const QList<ADTokenCacheItem> items = ADTokenCache::defaultCache().allItems().items;
+  const auto holder = std::find_if(items.begin(), items.end(), [&](const ADTokenCacheItem& item) {
+    return item.refreshToken == refreshToken;
+  });
+  return holder == items.end() ? std::nullopt : std::optional(*holder);
+}
+
+bool isOfOneUser(const ADTokenCacheItem& left, const ADTokenCacheItem& right) {
+  return left.userInformation.userId.compare(right.userInformation.userId, Qt::CaseInsensitive) == 0;
+}
+
+}  // namespace
+
+ADRefresh::ADRefresh(const ADRefreshRequest& request, ADAuthenticationCallback completion)
+    : m_request(request), m_completion(std::move(completion)), m_holder(holderOf(request.refreshToken)) {}
+
+void ADRefresh::start() {
+  findEndpoints(m_web, m_request.authority, [this](const ADEndpointsOrError& found) {
+    if (found.error) {
+      finish(ADAuthenticationResult::failed(*found.error));
+      return;
+    }
+    m_endpoints = found.endpoints;
+    redeem(m_request.refreshToken);
+  });
+}
+
+void ADRefresh::redeem(const QString& refreshToken) {
+  ADParameters form{{QStringLiteral("grant_type"), QStringLiteral("refresh_token")},
+                    {QStringLiteral("refresh_token"), refreshToken},
+                    {QStringLiteral("client_id"), m_request.clientId}};
+  form += m_endpoints.resourceParameters(m_request.resource);
+  m_web.post(m_endpoints.token, form, [this](const ADWebAnswer& answer) {
+    onAnswer(tokenAnswer(answer, m_request.clientId, ADAuthenticationSettings::sharedInstance().now()));
+  });
+}
+
+void ADRefresh::onAnswer(const ADTokenAnswerOrError& answer) {
+  if (!answer.error) {
+    store(answer.answer);
+    return;
+  }
+  // Another process may have redeemed this token meanwhile and stored what came of it.
+  const bool mayRetry = answer.error->code == ADErrorCode::InvalidGrant && !std::exchange(m_hasRetried, true);
+  const std::optional<ADTokenCacheItem> newer = mayRetry ? successor() : std::nullopt;
+  if (!newer) {
+    finish(ADAuthenticationResult::failed(*answer.error));
+    return;
+  }
+  ADLogger::log(ADLogLevel::Warn,
+                QStringLiteral("refresh: trying the newer refresh token of another process"));
+  m_holder = newer;
+  redeem(newer->refreshToken);
+}
+
+std::optional<ADTokenCacheItem> ADRefresh::successor() const {
+  std::optional<ADTokenCacheItem> found;
+  for (const ADTokenCacheItem& item : ADTokenCache::defaultCache().allItems().items) {
+    if (item.refreshToken.isEmpty() || item.refreshToken == m_request.refreshToken) continue;
+    if (item.authority != m_request.authority || item.clientId != m_request.clientId) continue;
+    if (m_holder && !isOfOneUser(item, *m_holder)) continue;
+    // Without a stored item it is not known whose token this was: with two users there, neither is taken.
+    if (found && !isOfOneUser(item, *found)) return {};
+    found = item;
+  }
+  return found;
+}
+
+void ADRefresh::store(const ADTokenAnswer& answer) {
+  const QString userId = m_holder ? m_holder->userInformation.userId : answer.userId;
+  QList<ADTokenCacheItem> items = itemsForAnswer(answer, {.userId = userId,
+                                                          .authority = m_request.authority,
+                                                          .resource = m_request.resource,
+                                                          .clientId = m_request.clientId});
+  const ADTokenCacheItem access = items.last();
+  if (m_holder && m_holder->isMultiResourceRefreshToken() && !answer.refreshToken.isEmpty()) {
+    items.first() = *m_holder;
+    items.first().refreshToken = answer.refreshToken;
+  }
+  if (!userId.isEmpty()) storeItems(items);
+  ADLogger::log(ADLogLevel::Info, QStringLiteral("refresh: succeeded, with a new refresh token: %1")
+                                      .arg(answer.refreshToken.isEmpty() ? 0 : 1));
+  finish(ADAuthenticationResult::succeeded(access));
+}
+
+void ADRefresh::finish(const ADAuthenticationResult& result) {
+  if (result.error) ADLogger::log(ADLogLevel::Error, QStringLiteral("refresh: %1").arg(result.error->text()));
+  // From the event loop, so that the completion may destroy the context that owns this.
+  QTimer::singleShot(0, this, [this, result] {
+    const ADAuthenticationCallback completion = std::exchange(m_completion, {});
+    if (completion) completion(result);
+  });
+}

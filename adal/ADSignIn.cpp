@@ -1,0 +1,237 @@
+#include "adal/ADSignIn.h"
+
+#include <QApplication>
+#include <QThread>
+#include <utility>
+
+#include "adal/ADAddress.h"
+#include "adal/ADAuthenticationSettings.h"
+#include "adal/ADLogger.h"
+#include "adal/ADProofKey.h"
+#include "adal/ADTokenAnswer.h"
+
+namespace {
+
+QList<std::weak_ptr<ADSignIn>>& runningSignIns() {
+  static auto* const signIns = new QList<std::weak_ptr<ADSignIn>>;
+  return *signIns;
+}
+
+bool canShowDialogs() {
+  return qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr;
+}
+
+// A dialog or a socket may be what is calling.
+template <typename T>
+void releaseLater(std::unique_ptr<T>& object) {
+  if (object) object.release()->deleteLater();
+}
+
+}  // namespace
+
+std::shared_ptr<ADSignIn> ADSignIn::forRequest(const ADSignInRequest& request) {
+  runningSignIns().removeIf([](const std::weak_ptr<ADSignIn>& signIn) { return signIn.expired(); });
+  for (const std::weak_ptr<ADSignIn>& running : std::as_const(runningSignIns())) {
+    const std::shared_ptr<ADSignIn> signIn = running.lock();
+    if (!signIn || signIn->m_isFinished || signIn->m_request != request) continue;
+    if (signIn->m_dialog) signIn->m_dialog->raise();
+    return signIn;
+  }
+  auto signIn = std::make_shared<ADSignIn>(request);
+  runningSignIns().append(signIn);
+  signIn->start();
+  return signIn;
+}
+
+ADSignIn::ADSignIn(const ADSignInRequest& request)
+    : m_request(request), m_state(unguessableText()), m_verifier(unguessableText()) {
+  Q_ASSERT(QThread::currentThread() == QCoreApplication::instance()->thread());
+  m_deadline.setSingleShot(true);
+  connect(&m_deadline, &QTimer::timeout, this, [this] { fail({ADErrorCode::TimedOut, {}}); });
+  // Windows and sockets must not outlive the application object, whoever still holds this.
+  connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, &ADSignIn::stopWaiting);
+}
+
+ADSignIn::~ADSignIn() {
+  stopWaiting();
+}
+
+void ADSignIn::join(const void* owner, ADAuthenticationCallback completion) {
+  m_waiting.append({owner, std::move(completion)});
+}
+
+void ADSignIn::leave(const void* owner) {
+  m_waiting.removeIf([owner](const auto& waiting) { return waiting.first == owner; });
+}
+
+void ADSignIn::start() {
+  ADLogger::log(ADLogLevel::Info, QStringLiteral("sign-in: started for %1").arg(m_request.userIdentifier.id),
+                ADPii::Contained);
+  findEndpoints(m_web, m_request.authority, [this](const ADEndpointsOrError& found) {
+    if (found.error) {
+      fail(*found.error);
+    } else {
+      openPage(found.endpoints);
+    }
+  });
+}
+
+void ADSignIn::openPage(const ADEndpoints& endpoints) {
+  m_endpoints = endpoints;
+  m_redirectUri = m_request.redirectUri;
+  if (m_redirectUri.isEmpty() || !m_redirectUri.isValid()) {
+    fail({ADErrorCode::InvalidArgument, QStringLiteral("no redirect address")});
+    return;
+  }
+  const bool isLoopback = isLoopbackRedirect(m_redirectUri);
+  const std::optional<ADError> failure = isLoopback ? openListener() : std::nullopt;
+  if (failure) {
+    fail(*failure);
+    return;
+  }
+  if (!isLoopback && !canShowDialogs()) {
+    fail({ADErrorCode::InvalidArgument, QStringLiteral("nobody can be asked for the code")});
+    return;
+  }
+  m_deadline.start(ADAuthenticationSettings::sharedInstance().limits().signIn);
+  if (canShowDialogs()) {
+    showDialog(isLoopback ? ADSignInDialog::Kind::WaitForBrowser : ADSignInDialog::Kind::AskForCode);
+  }
+  openBrowser();
+}
+
+std::optional<ADError> ADSignIn::openListener() {
+  m_listener =
+      std::make_unique<ADLoopbackListener>([this](const ADParameters& answer) { return onCallback(answer); });
+  const std::optional<ADError> failure = m_listener->listen(m_redirectUri);
+  m_redirectUri = m_listener->redirectUri();
+  return failure;
+}
+
+QUrl ADSignIn::pageAddress() const {
+  ADParameters parameters{
+      {QStringLiteral("response_type"), QStringLiteral("code")},
+      {QStringLiteral("client_id"), m_request.clientId},
+      {QStringLiteral("redirect_uri"), m_redirectUri.toString(QUrl::FullyEncoded)},
+      {QStringLiteral("state"), QString::fromLatin1(m_state)},
+      {QStringLiteral("code_challenge"), QString::fromLatin1(proofKeyChallenge(m_verifier))},
+      {QStringLiteral("code_challenge_method"), QStringLiteral("S256")},
+  };
+  parameters += m_endpoints.resourceParameters(m_request.resource);
+  parameters += m_endpoints.promptParameters(m_request.promptBehavior);
+  if (!m_request.userIdentifier.id.isEmpty()) {
+    parameters.append({QStringLiteral("login_hint"), m_request.userIdentifier.id});
+  }
+  if (!m_request.claims.isEmpty()) parameters.append({QStringLiteral("claims"), m_request.claims});
+
+  QUrl address = m_endpoints.authorization;
+  QStringList queries{address.query(QUrl::FullyEncoded), QString::fromLatin1(encodedParameters(parameters)),
+                      m_request.extraQueryParameters};
+  queries.removeAll(QString());
+  address.setQuery(queries.join(QLatin1Char('&')));
+  return address;
+}
+
+void ADSignIn::showDialog(ADSignInDialog::Kind kind) {
+  m_dialog = std::make_unique<ADSignInDialog>(kind, pageAddress());
+  connect(m_dialog.get(), &ADSignInDialog::codeEntered, this, &ADSignIn::onCodeEntered);
+  connect(m_dialog.get(), &ADSignInDialog::openAgainRequested, this, &ADSignIn::openBrowser);
+  connect(m_dialog.get(), &QDialog::rejected, this, [this] { fail({ADErrorCode::UserCancelled, {}}); });
+  m_dialog->show();
+}
+
+void ADSignIn::openBrowser() {
+  if (ADAuthenticationSettings::sharedInstance().openBrowser(pageAddress())) return;
+  ADLogger::log(ADLogLevel::Warn, QStringLiteral("sign-in: no browser opened"));
+  // With the dialog the user can take the address elsewhere.
+  if (!m_dialog) fail({ADErrorCode::InvalidArgument, QStringLiteral("no browser opened")});
+}
+
+ADLoopbackListener::Verdict ADSignIn::onCallback(const ADParameters& answer) {
+  using Verdict = ADLoopbackListener::Verdict;
+  if (m_isFinished || onlyValue(answer, QStringLiteral("state")) != QString::fromLatin1(m_state)) {
+    ADLogger::log(ADLogLevel::Warn,
+                  QStringLiteral("sign-in: an answer without this request's state was ignored"));
+    return Verdict::NotOurs;
+  }
+  const std::optional<QString> code = onlyValue(answer, QStringLiteral("code"));
+  const std::optional<QString> error = onlyValue(answer, QStringLiteral("error"));
+  if (error) {
+    fail(*error == QLatin1String("access_denied")
+             ? ADError{ADErrorCode::Refused, *error}
+             : ADError{ADErrorCode::Refused, QStringLiteral("by the sign-in page")});
+    return Verdict::Taken;
+  }
+  if (!code || code->isEmpty()) return Verdict::NotOurs;
+  redeem(*code);
+  return Verdict::Taken;
+}
+
+// Users paste what they see: the code, or the whole address that the browser ended at.
+void ADSignIn::onCodeEntered(const QString& entered) {
+  const qsizetype mark = entered.indexOf(QLatin1Char('?'));
+  if (mark < 0) {
+    redeem(entered);
+    return;
+  }
+  if (onCallback(decodedParameters(entered.sliced(mark + 1).toUtf8())) ==
+      ADLoopbackListener::Verdict::NotOurs) {
+    m_dialog->showProblem(
+        ADAuthenticationSettings::sharedInstance().text("This is not the answer that is waited for."));
+  }
+}
+
+void ADSignIn::redeem(const QString& code) {
+  stopWaiting();
+  const ADParameters form =
+      ADParameters{{QStringLiteral("grant_type"), QStringLiteral("authorization_code")},
+                   {QStringLiteral("code"), code},
+                   {QStringLiteral("redirect_uri"), m_redirectUri.toString(QUrl::FullyEncoded)},
+                   {QStringLiteral("client_id"), m_request.clientId},
+                   {QStringLiteral("code_verifier"), QString::fromLatin1(m_verifier)}} +
+      m_endpoints.resourceParameters(m_request.resource);
+  m_web.post(m_endpoints.token, form, [this](const ADWebAnswer& answer) {
+    const ADTokenAnswerOrError granted =
+        tokenAnswer(answer, m_request.clientId, ADAuthenticationSettings::sharedInstance().now());
+    if (granted.error) {
+      fail(*granted.error);
+    } else if (granted.answer.userId.isEmpty()) {
+      fail({ADErrorCode::ServerAnswer, QStringLiteral("no user")});
+    } else {
+      const QList<ADTokenCacheItem> items = itemsForAnswer(granted.answer, {.userId = granted.answer.userId,
+                                                                            .authority = m_request.authority,
+                                                                            .resource = m_request.resource,
+                                                                            .clientId = m_request.clientId});
+      storeItems(items);
+      finish(ADAuthenticationResult::succeeded(items.last()));
+    }
+  });
+}
+
+void ADSignIn::fail(const ADError& error) {
+  finish(ADAuthenticationResult::failed(error));
+}
+
+void ADSignIn::finish(const ADAuthenticationResult& result) {
+  if (std::exchange(m_isFinished, true)) return;
+  stopWaiting();
+  ADLogger::log(
+      result.error ? ADLogLevel::Error : ADLogLevel::Info,
+      QStringLiteral("sign-in: %1").arg(result.error ? result.error->text() : QStringLiteral("succeeded")));
+  // From the event loop, so that a completion may destroy the contexts that hold this.
+  QTimer::singleShot(0, this, [this, result] {
+    const std::shared_ptr<ADSignIn> self = shared_from_this();
+    while (!m_waiting.isEmpty()) m_waiting.takeFirst().second(result);
+  });
+}
+
+void ADSignIn::stopWaiting() {
+  m_deadline.stop();
+  if (m_dialog) {
+    m_dialog->disconnect(this);
+    m_dialog->hide();
+  }
+  if (m_listener) m_listener->close();
+  releaseLater(m_dialog);
+  releaseLater(m_listener);
+}

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QList>
+#include <QObject>
+#include <QTimer>
+#include <memory>
+
+#include "adal/ADAuthenticationContext.h"
+#include "adal/ADEndpoints.h"
+#include "adal/ADLoopbackListener.h"
+#include "adal/ADSignInDialog.h"
+#include "adal/ADWebClient.h"
+
+struct ADSignInRequest {
+  QString authority;
+  QString resource;
+  QString clientId;
+  QUrl redirectUri;
+  ADPromptBehavior promptBehavior = ADPromptBehavior::Always;
+  ADUserIdentifier userIdentifier;
+  QString extraQueryParameters;
+  QString claims;
+
+  bool operator==(const ADSignInRequest&) const = default;
+};
+
+// One sign-in in the browser, shared by everybody who asked for the same. Without anybody left it ends
+// unanswered: the port is closed, the dialog is gone. Main thread only.
+class ADSignIn final : public QObject, public std::enable_shared_from_this<ADSignIn> {
+ public:
+  // The sign-in that waits for this very request, or a new one.
+  static std::shared_ptr<ADSignIn> forRequest(const ADSignInRequest& request);
+
+  explicit ADSignIn(const ADSignInRequest& request);
+  ~ADSignIn() override;
+
+  // Asks to be told how it ends; `owner` is for taking that back.
+  void join(const void* owner, ADAuthenticationCallback completion);
+  void leave(const void* owner);
+
+  bool isFinished() const { return m_isFinished; }
+
+ private:
+  void start();
+  void openPage(const ADEndpoints& endpoints);
+  QUrl pageAddress() const;
+  [[nodiscard]] std::optional<ADError> openListener();
+  void showDialog(ADSignInDialog::Kind kind);
+  void openBrowser();
+  ADLoopbackListener::Verdict onCallback(const ADParameters& answer);
+  void onCodeEntered(const QString& entered);
+  void redeem(const QString& code);
+  void fail(const ADError& error);
+  void finish(const ADAuthenticationResult& result);
+  void stopWaiting();
+
+  const ADSignInRequest m_request;
+  QList<std::pair<const void*, ADAuthenticationCallback>> m_waiting;
+  QByteArray m_state;
+  QByteArray m_verifier;
+  QUrl m_redirectUri;  // as sent, with the listener's port
+  ADEndpoints m_endpoints;
+  ADWebClient m_web;
+  QTimer m_deadline;
+  std::unique_ptr<ADLoopbackListener> m_listener;
+  std::unique_ptr<ADSignInDialog> m_dialog;
+  bool m_isFinished = false;
+};

@@ -1,0 +1,98 @@
+#include "adal/ADWebClient.h"
+
+#include <QMetaEnum>
+#include <QNetworkReply>
+#include <QNetworkRequest>
+#include <utility>
+
+#include "adal/ADAddress.h"
+#include "adal/ADAuthenticationSettings.h"
+
+namespace {
+
+QNetworkRequest boundedRequest(const QUrl& address) {
+  QNetworkRequest request(address);
+  request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
+  for (const auto attribute :
+       {QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::CookieSaveControlAttribute,
+        QNetworkRequest::AuthenticationReuseAttribute}) {
+    request.setAttribute(attribute, QNetworkRequest::Manual);
+  }
+  request.setRawHeader("Accept", "application/json");
+  // A packed answer would be unpacked before its size can be seen.
+  request.setRawHeader("Accept-Encoding", "identity");
+  return request;
+}
+
+ADWebAnswer noWholeAnswer(ADErrorCode code, const QString& details) {
+  return {ADError{code, details}, 0, {}};
+}
+
+// Below this, errors are about the connection; above, about what the server said.
+constexpr int firstAnswerError = 100;
+
+}  // namespace
+
+ADWebClient::ADWebClient(QObject* parent) : QObject(parent) {
+  m_deadline.setSingleShot(true);
+  connect(&m_deadline, &QTimer::timeout, this,
+          [this] { settle(noWholeAnswer(ADErrorCode::Network, QStringLiteral("no answer in time"))); });
+}
+
+ADWebClient::~ADWebClient() {
+  m_done = {};
+  settle({});
+}
+
+void ADWebClient::get(const QUrl& address, Done done) {
+  watch(m_manager.get(boundedRequest(address)), std::move(done));
+}
+
+void ADWebClient::post(const QUrl& address, const ADParameters& form, Done done) {
+  QNetworkRequest request = boundedRequest(address);
+  request.setHeader(QNetworkRequest::ContentTypeHeader,
+                    QByteArrayLiteral("application/x-www-form-urlencoded"));
+  watch(m_manager.post(request, encodedParameters(form)), std::move(done));
+}
+
+void ADWebClient::watch(QNetworkReply* reply, Done done) {
+  const ADRequestLimits limits = ADAuthenticationSettings::sharedInstance().limits();
+  m_reply = reply;
+  m_limit = limits.answerBytes;
+  m_done = std::move(done);
+  // The reply stops reading from the socket one byte past the limit.
+  reply->setReadBufferSize(m_limit + 1);
+  connect(reply, &QNetworkReply::readyRead, this, &ADWebClient::checkSize);
+  connect(reply, &QNetworkReply::finished, this, &ADWebClient::readAnswer);
+  m_deadline.start(limits.transfer);
+}
+
+void ADWebClient::checkSize() {
+  if (m_reply->bytesAvailable() <= m_limit) return;
+  settle(noWholeAnswer(ADErrorCode::ServerAnswer, QStringLiteral("too long")));
+}
+
+void ADWebClient::readAnswer() {
+  checkSize();
+  if (m_reply == nullptr) return;
+  const QNetworkReply::NetworkError error = m_reply->error();
+  const int status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+  if (status == 0 || (error != QNetworkReply::NoError && error < firstAnswerError)) {
+    const char* const name = QMetaEnum::fromType<QNetworkReply::NetworkError>().valueToKey(error);
+    settle(noWholeAnswer(ADErrorCode::Network, QString::fromLatin1(name)));
+    return;
+  }
+  settle({{}, status, m_reply->readAll()});
+}
+
+void ADWebClient::settle(const ADWebAnswer& answer) {
+  m_deadline.stop();
+  if (m_reply != nullptr) {
+    m_reply->disconnect(this);
+    m_reply->abort();
+    m_reply->deleteLater();
+    m_reply = nullptr;
+  }
+  const Done done = std::exchange(m_done, {});
+  if (done) done(answer);
+}
