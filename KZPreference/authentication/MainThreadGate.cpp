@@ -1,0 +1,33 @@
+#include "KZPreference/authentication/MainThreadGate.h"
+
+#include <QMutexLocker>
+#include <QSemaphore>
+#include <QThread>
+
+MainThreadGate::MainThreadGate() : m_entrance(std::make_shared<Entrance>()) {
+  m_entrance->m_receiver = std::make_unique<QObject>();
+}
+
+MainThreadGate::~MainThreadGate() {
+  std::unique_ptr<QObject> receiver;
+  {
+    const QMutexLocker lock(&m_entrance->m_mutex);
+    receiver = std::move(m_entrance->m_receiver);
+  }
+}
+
+void MainThreadGate::Entrance::pass(const std::function<void()>& work) {
+  auto done = std::make_shared<QSemaphore>();
+  {
+    QMutexLocker lock(&m_mutex);
+    if (!m_receiver) return;
+    if (m_receiver->thread() == QThread::currentThread()) {
+      lock.unlock();
+      return work();
+    }
+    // Released when the work is done, or when it is dropped with its receiver.
+    const std::shared_ptr<void> release(nullptr, [done](void*) { done->release(); });
+    QMetaObject::invokeMethod(m_receiver.get(), [work, release] { work(); }, Qt::QueuedConnection);
+  }
+  done->acquire();
+}

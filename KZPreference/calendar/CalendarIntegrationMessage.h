@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QPointer>
+
+#include "host/KZFoundation/Dictionary.h"
+#include "platform/StaticText.h"
+
+// Drives the status line of a calendar group. Every message that is shown is announced to screen readers. Main thread
+// only.
+class CalendarIntegrationMessage {
+ public:
+  // Not owned; nullptr is ignored.
+  void setMessageTxt(StaticText* messageTxt);
+
+  // The host's own text, in red; without one the line stays as it is.
+  void showErrorMessage(const Dictionary& result);
+  void showInvalidAccountMessage();
+  void showInvalidEmailMessage();
+  void showSuccessMessage();
+  void hideMessage();
+
+ private:
+  void show(const QString& text, SystemColor color);
+
+  QPointer<StaticText> m_messageTxt;
+};

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "KZPreference/contract/PluginCommandSender.h"
+#include "KZPreference/contract/PreferenceActionDelegateProtocol.h"
+
+// The single receiver of the user's actions: each is written to the store, sent to the host, or passed on to the open
+// Meetings pane. Nothing is checked. Main thread only.
+class PreferenceActionDelegate final : public PreferenceActionDelegateProtocol {
+ public:
+  explicit PreferenceActionDelegate(PluginCommandSender* preference);  // not owned
+
+  void setPrefMeetingView(CalendarPreferenceReceiver* view) override;
+  void setNonSignInPrefMeetingView(CalendarPreferenceReceiver* view) override;
+  void checkingStartStateChanging(bool flag) override;
+  void outlookIntegratingStateChange(bool flag) override;
+  void applyOutlookAccount(const Dictionary& accountInfo) override;
+  void sinkOutlookAccountCredential(const Dictionary& credential) override;
+  void cancelApplyOutlookAccount(const Dictionary& accountInfo) override;
+  void notifyListExchMeetingAuthFailure() override;
+  void setExchOnpremiseCredInvalid() override;
+  void notifyExchDiscoverAuthFailure() override;
+  void notifyExchOnlineTokenGot(const Dictionary& result) override;
+  void setExchangeInfo(const Dictionary& info) override;
+  void editMeetingNowSetting() override;
+  void setCalendarDays(const QString& days) override;
+  void setCalendarIntegrationSource(const QString& source) override;
+  void calendarIntergrationSourceChanged() override;
+  void setMeetingAlerts(bool state, const QString& minutes) override;
+  void setSnooze(bool state, const QString& minutes) override;
+  void setMeetingCard(bool state, const QString& minutes) override;
+  void setVideoDevicePrefs(const Dictionary& prefs) override;
+  void setDisplayName(const QString& name, const QString& email) override;
+  void changeSite() override;
+
+ private:
+  PluginCommandSender* m_preference;
+  CalendarPreferenceReceiver* m_prefMeetingView = nullptr;
+  CalendarPreferenceReceiver* m_nonSignInPrefMeetingView = nullptr;
+};

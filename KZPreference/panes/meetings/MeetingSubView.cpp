@@ -1,0 +1,167 @@
+#include "KZPreference/panes/meetings/MeetingSubView.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QTimer>
+#include <algorithm>
+#include <chrono>
+
+#include "KZPreference/contract/PreferenceTelemetry.h"
+#include "KZPreference/layout/Controls.h"
+#include "KZPreference/layout/Localization.h"
+#include "KZPreference/layout/PrefMeetingView+Visible.h"
+#include "KZPreference/layout/PrefsViewDefine.h"
+#include "host/KZCommonUI/KZTelemetryConstants.h"
+#include "host/KZUtility/KZTrace.h"
+#include "platform/FrameLayout.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr double kRowGap = 8;
+constexpr auto kCopiedTime = 1s;
+
+Size labelSize(const QString& text) { return sizeOfText(text, FontRole::Label, labelFontSize); }
+Size titleSize(const QString& text) { return sizeOfText(text, FontRole::BoldSystem, boldLabelFontSize); }
+
+DrawnText labelAt(double x, double y, const QString& text) {
+  const Size size = labelSize(text);
+  return {.text = text, .frame = {x, y, size.width, size.height}, .role = FontRole::Label, .size = labelFontSize};
+}
+
+DrawnText columnLabelAt(double y, double width, const QString& text) {
+  DrawnText label = labelAt(secondMarginAtLeftEdge, y, text);
+  label.frame.width = width;
+  label.alignment = Qt::AlignRight;
+  return label;
+}
+
+}  // namespace
+
+MeetingSubView::MeetingSubView(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate)
+    : View(frame), m_actionDelegate(actionDelegate) {
+  initEditButton();
+  m_copyPmrurlBtn = createCopyButton(QStringLiteral("m_copyPmrurlBtn"), PrefMeetingViewVisible::pmrlabel());
+  m_copySipurlBtn = createCopyButton(QStringLiteral("m_copySipurlBtn"), PrefMeetingViewVisible::siplabel());
+  connect(m_copyPmrurlBtn, &BRNHyperlinkTextField::clicked, this, &MeetingSubView::onCopyPmrurlButton);
+  connect(m_copySipurlBtn, &BRNHyperlinkTextField::clicked, this, &MeetingSubView::onCopySipurlButton);
+  drawnTextsChanged();
+}
+
+void MeetingSubView::initEditButton() {
+  const Size title = titleSize(PrefMeetingViewVisible::meetingslabel());
+  const QString text = localizedString("Edit");
+  const Size size = labelSize(text);
+  BRNHyperlinkTextField* link =
+      addLink(this, QStringLiteral("m_editBtn"),
+              {marginAtLeftEdge + title.width + marginBetweenLabelAndContent, frameOf(this).height - title.height,
+               size.width + textPad, size.height},
+              text);
+  connect(link, &BRNHyperlinkTextField::clicked, this, &MeetingSubView::onEditButton);
+}
+
+BRNHyperlinkTextField* MeetingSubView::createCopyButton(const QString& name, const QString& label) {
+  const QString text = localizedString("Copy");
+  const Size size = labelSize(text);
+  BRNHyperlinkTextField* link = addLink(this, name, {0, 0, size.width + textPad, size.height}, text);
+  link->setAccessibleDescription(label);
+  link->hide();
+  return link;
+}
+
+void MeetingSubView::setPMRUrl(const QString& pmrurl, const QString& sipurl) {
+  if (!pmrurl.isEmpty()) m_pmrurl = pmrurl;
+  if (!sipurl.isEmpty()) m_sipurl = sipurl;
+  placeCopyButtons();
+  drawnTextsChanged();
+}
+
+void MeetingSubView::placeCopyButtons() {
+  const double labelWidth =
+      std::max(labelTextWidth(PrefMeetingViewVisible::pmrlabel()), labelTextWidth(PrefMeetingViewVisible::siplabel()));
+  const double left = secondMarginAtLeftEdge + labelWidth + marginBetweenLabelAndContent;
+  const auto place = [left](BRNHyperlinkTextField* link, const QString& url, double y) {
+    link->setVisible(!url.isEmpty());
+    if (url.isEmpty()) return;
+    const Frame frame = frameOf(link);
+    setFrame(link, {left + labelTextWidth(url) + marginLabelToContent, y, frame.width, frame.height});
+  };
+  place(m_copyPmrurlBtn, m_pmrurl, m_sipurl.isEmpty() ? 0 : labelSize(m_sipurl).height + kRowGap);
+  place(m_copySipurlBtn, m_sipurl, 0);
+}
+
+QList<DrawnText> MeetingSubView::drawnTexts() const {
+  QList<DrawnText> texts{drawMeetingLabel()};
+  if (m_pmrurl.isEmpty() && m_sipurl.isEmpty()) return texts;
+  const bool hasBoth = !m_pmrurl.isEmpty() && !m_sipurl.isEmpty();
+  return texts += hasBoth ? drawMaximum() : drawMedium();
+}
+
+DrawnText MeetingSubView::drawMeetingLabel() const {
+  const QString title = PrefMeetingViewVisible::meetingslabel();
+  const Size size = titleSize(title);
+  return {.text = title,
+          .frame = {marginAtLeftEdge, frameOf(this).height - size.height, size.width, size.height},
+          .role = FontRole::BoldSystem,
+          .size = boldLabelFontSize};
+}
+
+QList<DrawnText> MeetingSubView::drawMedium() const {
+  const bool isSip = !m_sipurl.isEmpty();
+  const DrawnText label = labelAt(secondMarginAtLeftEdge, 0,
+                                  isSip ? PrefMeetingViewVisible::siplabel() : PrefMeetingViewVisible::pmrlabel());
+  return {label, labelAt(label.frame.maxX() + marginLabelToContent, 0, isSip ? m_sipurl : m_pmrurl)};
+}
+
+QList<DrawnText> MeetingSubView::drawMaximum() const {
+  const QString pmrlabel = PrefMeetingViewVisible::pmrlabel();
+  const QString siplabel = PrefMeetingViewVisible::siplabel();
+  const double column = std::max(labelTextWidth(pmrlabel), labelTextWidth(siplabel));
+  const double contentX = secondMarginAtLeftEdge + column + marginLabelToContent;
+  return {columnLabelAt(0, column, siplabel), columnLabelAt(labelSize(siplabel).height + kRowGap, column, pmrlabel),
+          labelAt(contentX, 0, m_sipurl), labelAt(contentX, labelSize(m_sipurl).height + kRowGap, m_pmrurl)};
+}
+
+void MeetingSubView::onEditButton() {
+  m_actionDelegate->editMeetingNowSetting();
+  PreferenceTelemetry::sharedInstance().writeFeatrueName(TelemetryValue_FeatureName_Click_EditMeetingNowSettings);
+}
+
+// The clipboard does not say whether it took a text, so it is read back.
+bool MeetingSubView::putOnPasteboard(const QString& text) {
+  QClipboard* pasteboard = QGuiApplication::clipboard();
+  pasteboard->clear();
+  pasteboard->setText(text);
+  return pasteboard->text() == text;
+}
+
+void MeetingSubView::onCopyPmrurlButton() {
+  if (!putOnPasteboard(m_pmrurl)) {
+    MVRNSErrorFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "set pmr url to pasteboard failed");
+    return;
+  }
+  setCopiedUrlBtn(m_copyPmrurlBtn);
+  QTimer::singleShot(kCopiedTime, this, &MeetingSubView::resetCopyPmrUrlBtn);
+}
+
+void MeetingSubView::onCopySipurlButton() {
+  if (!putOnPasteboard(m_sipurl)) {
+    MVRNSErrorFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "set sip url to pasteboard failed");
+    return;
+  }
+  setCopiedUrlBtn(m_copySipurlBtn);
+  QTimer::singleShot(kCopiedTime, this, &MeetingSubView::resetCopySipUrlBtn);
+}
+
+// The width is measured in the title's font and stays when the text goes back to "Copy".
+void MeetingSubView::setCopiedUrlBtn(BRNHyperlinkTextField* button) {
+  const QString copied = localizedString("Copied");
+  Frame frame = frameOf(button);
+  frame.width = titleSize(copied).width + textPad;
+  setFrame(button, frame);
+  button->setStringValue(copied);
+}
+
+void MeetingSubView::resetCopyPmrUrlBtn() { m_copyPmrurlBtn->setStringValue(localizedString("Copy")); }
+void MeetingSubView::resetCopySipUrlBtn() { m_copySipurlBtn->setStringValue(localizedString("Copy")); }

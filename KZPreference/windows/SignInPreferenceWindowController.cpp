@@ -1,0 +1,52 @@
+#include "KZPreference/windows/SignInPreferenceWindowController.h"
+
+#include "KZPreference/panes/account/PrefAccountView.h"
+#include "KZPreference/panes/general/PrefGeneralView.h"
+#include "KZPreference/panes/meetings/PrefMeetingView.h"
+#include "host/KZFoundation/KZConstants.h"
+#include "host/KZUtility/KZPlistFileHandle.h"
+#include "host/KZUtility/KZTrace.h"
+
+SignInPreferenceWindowController::SignInPreferenceWindowController(PreferenceActionDelegateProtocol* delegate)
+    : PreferenceWindowController(delegate) {}
+
+SignInPreferenceWindowController::~SignInPreferenceWindowController() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
+  m_prefsDelegate->setPrefMeetingView(nullptr);
+}
+
+void SignInPreferenceWindowController::setCalendarIntergrationOption(const KZCalendarIntegrationOption& option) {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
+  m_intergrationOption = option;
+}
+
+PreferenceWindowController::PaneSizes SignInPreferenceWindowController::paneSizes() const {
+  return {.general = PrefGeneralView::caculatePrefGeneralViewSize(),
+          .account = PrefAccountView::caculateViewSize(),
+          .meetings = PrefMeetingView::caculateViewSize()};
+}
+
+View* SignInPreferenceWindowController::createGeneralView(const Frame& frame) {
+  return new PrefGeneralView(frame, m_prefsDelegate);
+}
+
+View* SignInPreferenceWindowController::createAccountView(const Frame& frame) {
+  return new PrefAccountView(frame, m_prefsDelegate);
+}
+
+MeetingsPane* SignInPreferenceWindowController::createMeetingView(const Frame& frame) {
+  auto* view = new PrefMeetingView(frame, m_prefsDelegate);
+  const Dictionary info = KZPlistFileHandle::sharedInstance().preferenceInfo();
+  view->setPmrurl(textValue(info, QRT_Preference_PMRUrl), textValue(info, QRT_Preference_PMRSipUrl));
+  view->setCalendarIntergrationOption(m_intergrationOption);
+  return view;
+}
+
+void SignInPreferenceWindowController::registerMeetingView(MeetingsPane* view) {
+  m_prefsDelegate->setPrefMeetingView(view);
+}
+
+void SignInPreferenceWindowController::requireOtherCalendarSource() {
+  m_prefsDelegate->setCalendarIntegrationSource(kKZCalendarIntegrationSourceMivRa);
+  m_prefsDelegate->calendarIntergrationSourceChanged();
+}
