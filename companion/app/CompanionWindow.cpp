@@ -1,0 +1,172 @@
+#include "companion/app/CompanionWindow.h"
+
+#include <QApplication>
+#include <QButtonGroup>
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QInputDialog>
+#include <QLabel>
+#include <QPushButton>
+
+#include "companion/app/Border.h"
+#include "companion/app/BorderLogView.h"
+#include "host/KZCommonUI/KZTelemetryConstants.h"
+#include "host/KZFoundation/KZCommands.h"
+#include "host/KZFoundation/KZConstants.h"
+#include "host/KZUtility/KZPlistFileHandle.h"
+#include "platform/Text.h"
+
+namespace {
+
+constexpr quint64 number(KZCommand command) {
+  return static_cast<quint64>(command);
+}
+
+Dictionary fromApplication() {
+  return {{TelemetryKey_ActionFrom, TelemetryValue_ActionFrom_APP}};
+}
+
+}  // namespace
+
+CompanionWindow::CompanionWindow(Border* border, DemoServices* services)
+    : m_border(border), m_services(services) {
+  setWindowTitle(QStringLiteral("Brenn Mivra Meetings – Companion"));
+  resize(900, 560);
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(20, 16, 20, 16);
+  column->setSpacing(14);
+  column->addWidget(createHeader());
+  column->addWidget(createButtons());
+  column->addWidget(new BorderLogView(&border->log()), 1);
+  m_notice = new QLabel(
+      QStringLiteral("Demonstration: everything that a meeting service would answer is invented here."));
+  m_notice->setWordWrap(true);
+  column->addWidget(m_notice);
+  connect(services, &DemoServices::noticed, m_notice, &QLabel::setText);
+  connect(services, &DemoServices::siteWanted, this, &CompanionWindow::askForSite);
+  // The guest's pane changes the identity.
+  connect(&KZPlistFileHandle::sharedInstance(), &KZPlistFileHandle::valueChanged, this,
+          &CompanionWindow::showIdentity);
+}
+
+QWidget* CompanionWindow::createHeader() {
+  auto* header = new QWidget;
+  auto* row = new QHBoxLayout(header);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(12);
+  auto* texts = new QVBoxLayout;
+  texts->setSpacing(2);
+  auto* title = new QLabel(QStringLiteral("Brenn Mivra Meetings"));
+  title->setFont(fontFor(FontRole::BoldSystem, 16));
+  m_identity = new QLabel;
+  texts->addWidget(title);
+  texts->addWidget(m_identity);
+  row->addLayout(texts, 1);
+  row->addWidget(createSwitch());
+  return header;
+}
+
+QWidget* CompanionWindow::createSwitch() {
+  auto* box = new QWidget;
+  auto* row = new QHBoxLayout(box);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(6);
+  auto* group = new QButtonGroup(box);
+  m_signedIn = new QPushButton(QStringLiteral("Signed in"));
+  m_guest = new QPushButton(QStringLiteral("Guest"));
+  for (QPushButton* button : {m_signedIn, m_guest}) {
+    button->setCheckable(true);
+    group->addButton(button);
+    row->addWidget(button);
+  }
+  connect(m_signedIn, &QPushButton::clicked, this, [this] { become(demouser::Variant::SignedIn); });
+  connect(m_guest, &QPushButton::clicked, this, [this] { become(demouser::Variant::Guest); });
+  return box;
+}
+
+QWidget* CompanionWindow::createButtons() {
+  auto* bar = new QWidget;
+  auto* row = new QHBoxLayout(bar);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(8);
+  auto* preferences = createButton("Preferences", "Command 2", &CompanionWindow::showPreferences);
+  preferences->setDefault(true);
+  row->addWidget(preferences);
+  row->addWidget(createButton("Account", "Command 2 with the Account pane", &CompanionWindow::showAccount));
+  row->addWidget(createButton("Check for updates", "Command 8", &CompanionWindow::checkForUpdates));
+  row->addWidget(createButton("Join by number", "Command 10", &CompanionWindow::joinByNumber));
+  row->addWidget(createButton("Close", "Command 3", &CompanionWindow::closePreferences));
+  row->addStretch(1);
+  return bar;
+}
+
+QPushButton* CompanionWindow::createButton(const QString& title, const QString& toolTip,
+                                           void (CompanionWindow::*action)()) {
+  auto* button = new QPushButton(title);
+  button->setToolTip(toolTip);
+  connect(button, &QPushButton::clicked, this, action);
+  return button;
+}
+
+void CompanionWindow::become(demouser::Variant variant) {
+  const bool isGuest = variant == demouser::Variant::Guest;
+  (isGuest ? m_guest : m_signedIn)->setChecked(true);
+  demouser::become(variant);
+  showIdentity();
+  if (isGuest) return m_border->triggerCommand(number(KZCommand::KZCmdInitGuestPreference));
+  const Dictionary preference = demouser::preferenceData();
+  const Dictionary record = dictionaryValue(preference, QStringLiteral("kz"));
+  m_border->triggerCommand(number(KZCommand::KZCmdDestroyPreference));
+  m_border->setPersonalRoom(textValue(record, QRT_Preference_PMRUrl),
+                            textValue(record, QRT_Preference_PMRSipUrl));
+  m_border->notify(static_cast<quint32>(KZNotify::KZNotifyGetPreferenceDone), preference);
+}
+
+void CompanionWindow::showPreferences() {
+  m_border->triggerCommand(number(KZCommand::KZCmdShowPreference), fromApplication());
+}
+
+void CompanionWindow::showAccount() {
+  m_border->triggerCommand(number(KZCommand::KZCmdShowPreference),
+                           Dictionary{{kOpenPrefsViewType, kPrefsAccountView}});
+}
+
+void CompanionWindow::checkForUpdates() {
+  m_border->triggerCommand(number(KZCommand::KZCmdCheckForUpdates), fromApplication());
+}
+
+void CompanionWindow::joinByNumber() {
+  m_border->triggerCommand(number(KZCommand::KZCmdJoinByNumber), fromApplication());
+}
+
+void CompanionWindow::closePreferences() {
+  m_border->triggerCommand(number(KZCommand::KZCmdDestroyPreference));
+  // The plug-in has forgotten that the user is a guest.
+  if (m_guest->isChecked()) m_border->triggerCommand(number(KZCommand::KZCmdInitGuestPreference));
+}
+
+void CompanionWindow::askForSite() {
+  auto* dialog = new QInputDialog(this);
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  dialog->setWindowTitle(QStringLiteral("Change site"));
+  dialog->setLabelText(QStringLiteral("Site of your meeting service:"));
+  dialog->setTextValue(KZPlistFileHandle::sharedInstance().siteName());
+  connect(dialog, &QInputDialog::textValueSelected, this, [this](const QString& entered) {
+    const QString site = entered.trimmed();
+    if (site.isEmpty()) return;
+    KZPlistFileHandle::sharedInstance().setSiteName(site);
+    m_services->changeSite(site);
+  });
+  dialog->open();
+}
+
+void CompanionWindow::showIdentity() {
+  const KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
+  m_identity->setText(QStringLiteral("%1 · %2").arg(store.displayName(), store.userName()));
+}
+
+void CompanionWindow::closeEvent(QCloseEvent* event) {
+  QWidget::closeEvent(event);
+  // The Preferences window alone does not keep a host running.
+  if (event->isAccepted()) QApplication::quit();
+}

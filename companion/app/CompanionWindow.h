@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QWidget>
+
+#include "companion/app/DemoServices.h"
+#include "companion/app/DemoUser.h"
+
+class Border;
+class QLabel;
+class QPushButton;
+
+// The companion's own window: who is there, what a host can ask of its plug-in, and what crosses the border.
+class CompanionWindow final : public QWidget {
+  Q_OBJECT
+
+ public:
+  CompanionWindow(Border* border, DemoServices* services);  // not owned; must outlive the window
+
+  // Also tells the plug-in, as a host does after a sign-in or when it starts for a guest.
+  void become(demouser::Variant variant);
+  void showPreferences();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  QWidget* createHeader();
+  QWidget* createSwitch();
+  QWidget* createButtons();
+  QPushButton* createButton(const QString& title, const QString& toolTip, void (CompanionWindow::*action)());
+
+  void showAccount();
+  void checkForUpdates();
+  void joinByNumber();
+  void closePreferences();
+  void askForSite();
+  void showIdentity();
+
+  Border* m_border;
+  DemoServices* m_services;
+  QPushButton* m_signedIn = nullptr;
+  QPushButton* m_guest = nullptr;
+  QLabel* m_identity = nullptr;
+  QLabel* m_notice = nullptr;
+};

@@ -1,0 +1,52 @@
+#include "companion/app/DemoUser.h"
+
+#include "host/KZFoundation/KZConstants.h"
+#include "host/KZUtility/KZPlistFileHandle.h"
+
+namespace demouser {
+namespace {
+
+const QString kGuestKey = QStringLiteral("companionGuest");
+const QString kIsGuestKey = QStringLiteral("companionIsGuest");
+const QString kName = QStringLiteral("name");
+const QString kEmail = QStringLiteral("email");
+
+QString textOr(const QString& text, const char* fallback) {
+  return text.isNull() ? QString::fromLatin1(fallback) : text;
+}
+
+void becomeGuest(KZPlistFileHandle& store) {
+  const Dictionary guest = store.value(kGuestKey).toMap();
+  store.setDisplayName(textOr(textValue(guest, kName), "Gustav Guest"));
+  store.setUserName(textOr(textValue(guest, kEmail), "gustav.guest@example.com"));
+}
+
+void becomeSignedIn(KZPlistFileHandle& store) {
+  store.setDisplayName(QStringLiteral("Ada Example"));
+  store.setUserName(QStringLiteral("ada@example.com"));
+}
+
+}  // namespace
+
+void become(Variant variant) {
+  KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
+  const bool wasGuest = store.value(kIsGuestKey).toBool();
+  const bool isGuest = variant == Variant::Guest;
+  if (wasGuest && !isGuest) {
+    store.setValue(kGuestKey, Dictionary{{kName, store.displayName()}, {kEmail, store.userName()}});
+  }
+  if (store.siteName().isNull()) store.setSiteName(QStringLiteral("meetings.example.com"));
+  if (isGuest && !wasGuest) becomeGuest(store);
+  if (!isGuest) becomeSignedIn(store);
+  store.setValue(kIsGuestKey, isGuest);
+}
+
+Dictionary preferenceData() {
+  const Dictionary record = {{QRT_Preference_PMRUrl, QStringLiteral("https://meetings.example.com/meet/ada")},
+                             {QRT_Preference_PMRSipUrl, QStringLiteral("ada@meetings.example.com")},
+                             {QStringLiteral("disableCalendarIntegration"), true},
+                             {QStringLiteral("enableListGoogleCalendarMeeting"), true}};
+  return {{kKZResult, kKZSuccess}, {QStringLiteral("kz"), record}};
+}
+
+}  // namespace demouser

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "host/KZFoundation/Dictionary.h"
+
+// Who uses the companion: an invented person, signed in or as a guest. The identity lives in the settings
+// store, where the plug-in reads it; what a guest edits is kept over a sign-in.
+namespace demouser {
+
+enum class Variant { SignedIn, Guest };
+
+void become(Variant variant);
+
+// The record that a meeting service sends after sign-in.
+Dictionary preferenceData();
+
+}  // namespace demouser

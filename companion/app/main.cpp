@@ -1,0 +1,137 @@
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QLocale>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <cstdio>
+
+#include "companion/app/Appearance.h"
+#include "companion/app/Border.h"
+#include "companion/app/CompanionWindow.h"
+#include "companion/app/DemoTour.h"
+#include "companion/runtime/PluginLocation.h"
+#include "companion/runtime/QtMessages.h"
+#include "host/KZUtility/KZKeyChainHandle.h"
+#include "host/KZUtility/KZPlistFileHandle.h"
+
+namespace {
+
+constexpr int kUnusable = 2;
+constexpr int kPluginFailed = 3;
+
+struct CompanionOptions {
+  bool isDemo = false;
+  bool isDemoAsked = false;
+  bool isGuest = false;
+  QString outFolder;
+  QString stateFolder;
+  QString pluginPath;
+};
+
+void complain(const QString& text) {
+  std::fprintf(stderr, "companion: %s\n", qPrintable(text));
+}
+
+// Qt tries these in order: a display that is named but cannot be reached counts as none.
+void choosePlatform() {
+  if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) return;
+  QByteArray platforms = "offscreen";
+  if (!qEnvironmentVariableIsEmpty("DISPLAY")) platforms.prepend("xcb;");
+  if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) platforms.prepend("wayland;");
+  qputenv("QT_QPA_PLATFORM", platforms);
+}
+
+bool hasDisplay() {
+  return QGuiApplication::platformName() != "offscreen";
+}
+
+bool wantsDemo(int argc, char** argv) {
+  for (int place = 1; place < argc; ++place) {
+    if (qstrcmp(argv[place], "--demo") == 0) return true;
+  }
+  return false;
+}
+
+bool readOptions(CompanionOptions* options) {
+  QCommandLineParser parser;
+  parser.setApplicationDescription(
+      "A small meeting application that shows the preferences plug-in at work.\n"
+      "Without a display it plays a demonstration and prints the paths of the pictures that it took.");
+  parser.addHelpOption();
+  parser.addOptions(
+      {{"demo", "Play the demonstration, also with a display."},
+       {"out", "Where the demonstration's pictures go; left out, a fresh folder.", "DIR"},
+       {"appearance", "light, dark, high-contrast, high-contrast-dark or system.", "NAME", "system"},
+       {"language", "The language of the texts, for example de.", "LANGUAGE"},
+       {"state", "Where the settings live.", "DIR"},
+       {"guest", "Start as a guest."},
+       {"plugin", "The plug-in to load.", "FILE", defaultPluginPath()}});
+  parser.process(*QCoreApplication::instance());
+  if (!applyAppearance(parser.value("appearance"))) {
+    complain(QStringLiteral("there is no appearance %1").arg(parser.value("appearance")));
+    return false;
+  }
+  if (parser.isSet("language")) QLocale::setDefault(QLocale(parser.value("language")));
+  options->isDemoAsked = parser.isSet("demo");
+  options->isDemo = options->isDemoAsked || !hasDisplay();
+  options->isGuest = parser.isSet("guest");
+  options->outFolder = parser.value("out");
+  options->stateFolder = parser.value("state");
+  options->pluginPath = parser.value("plugin");
+  return true;
+}
+
+QString defaultStateFolder() {
+  return QDir(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation))
+      .filePath("brenn-mivra-meetings");
+}
+
+int playDemo(CompanionWindow* window, const CompanionOptions& options) {
+  QTemporaryDir fresh(QDir(QDir::tempPath()).filePath("brenn-mivra-demo-XXXXXX"));
+  fresh.setAutoRemove(false);
+  if (!options.outFolder.isEmpty()) fresh.remove();
+  const QString folder = options.outFolder.isEmpty() ? fresh.path() : QDir(options.outFolder).absolutePath();
+  std::printf("%s: a demonstration plays offscreen; its pictures are\n",
+              options.isDemoAsked ? "As asked" : "There is no display");
+  const QStringList paths = DemoTour(window, folder).play();
+  for (const QString& path : paths) std::printf("%s\n", qPrintable(path));
+  if (!paths.isEmpty()) return 0;
+  complain(QStringLiteral("no picture could be written to %1").arg(folder));
+  return 1;
+}
+
+int runCompanion(const CompanionOptions& options) {
+  const QTemporaryDir demoState;
+  const QString stateFolder =
+      options.isDemo && options.stateFolder.isEmpty() ? demoState.path() : options.stateFolder;
+  KZPlistFileHandle::sharedInstance().open(stateFolder.isEmpty() ? defaultStateFolder() : stateFolder);
+  KZKeyChainHandle::sharedInstance().useStorage(options.isDemo ? KZKeyChainHandle::Storage::Memory
+                                                               : KZKeyChainHandle::Storage::System);
+  Border border;
+  if (!border.loadPlugin(options.pluginPath)) {
+    complain(border.errorText());
+    return kPluginFailed;
+  }
+  DemoServices services(&border);
+  CompanionWindow window(&border, &services);
+  if (options.isDemo) return playDemo(&window, options);
+  window.show();
+  window.become(options.isGuest ? demouser::Variant::Guest : demouser::Variant::SignedIn);
+  window.showPreferences();
+  return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (wantsDemo(argc, argv)) qputenv("QT_QPA_PLATFORM", "offscreen");
+  choosePlatform();
+  installQtMessageFilter();
+  QApplication application(argc, argv);
+  QApplication::setApplicationName("companion");
+  QApplication::setQuitOnLastWindowClosed(false);
+  CompanionOptions options;
+  if (!readOptions(&options)) return kUnusable;
+  return runCompanion(options);
+}
