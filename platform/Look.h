@@ -8,8 +8,8 @@
 class QStyle;
 class QWidget;
 
-// The look of our own windows. It follows the application's palette (light, dark, high contrast) and never changes
-// the application itself. Main thread only.
+// The look of our own windows. It follows the application's palette (light, dark, high contrast) and never
+// changes the application itself. Main thread only.
 
 enum class LookScheme { Light, Dark, HighContrastLight, HighContrastDark };
 

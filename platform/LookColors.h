@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QColor>
+
+#include "platform/Look.h"
+
+// What the style draws with beyond the palette's roles.
+struct LookColors {
+  QColor faceTop;  // of push buttons and pop-ups
+  QColor faceBottom;
+  QColor facePressed;
+  QColor border;
+  QColor borderHover;
+  QColor toolbar;
+  QColor toolbarLine;
+  QColor tile;  // of the selected toolbar item
+  QColor tileHover;
+  QColor tilePressed;
+  QColor tileBorder;
+  QColor toolbarText;
+  QColor accentPressed;
+  QColor glyph;  // on the accent
+  QColor disabledGlyph;
+  QColor scrollThumb;
+  QColor scrollThumbHover;
+  QColor menu;
+  qreal focusWidth = 2;
+};
+
+const LookColors& lookColorsFor(LookScheme scheme);

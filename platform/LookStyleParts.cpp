@@ -1,0 +1,44 @@
+#include "platform/LookStyleParts.h"
+
+#include <QPainterPath>
+
+LookStates lookStatesOf(const QStyleOption& option) {
+  const bool isEnabled = option.state & QStyle::State_Enabled;
+  return {.isEnabled = isEnabled,
+          .isHovered = isEnabled && (option.state & QStyle::State_MouseOver),
+          .isPressed = isEnabled && (option.state & QStyle::State_Sunken),
+          .isFocused =
+              (option.state & QStyle::State_HasFocus) && (option.state & QStyle::State_KeyboardFocusChange)};
+}
+
+const LookColors& lookColorsOf(const QStyleOption& option) {
+  return lookColorsFor(lookSchemeFor(option.palette));
+}
+
+void drawLookBox(QPainter* painter, const QRectF& rect, qreal radius, const QBrush& fill,
+                 const QColor& border, qreal borderWidth) {
+  const qreal inset = borderWidth / 2;
+  painter->save();
+  painter->setRenderHint(QPainter::Antialiasing);
+  painter->setPen(QPen(border, borderWidth));
+  painter->setBrush(fill);
+  painter->drawRoundedRect(rect.adjusted(inset, inset, -inset, -inset), radius - inset, radius - inset);
+  painter->restore();
+}
+
+void drawLookFocus(QPainter* painter, const QStyleOption& option, const QRectF& rect, qreal radius) {
+  drawLookBox(painter, rect, radius, Qt::NoBrush, option.palette.color(QPalette::Active, QPalette::Highlight),
+              lookColorsOf(option).focusWidth);
+}
+
+void drawLookCheckMark(QPainter* painter, const QRectF& box, const QColor& color) {
+  const auto at = [&box](qreal x, qreal y) {
+    return QPointF(box.left() + box.width() * x, box.top() + box.height() * y);
+  };
+  painter->save();
+  painter->setRenderHint(QPainter::Antialiasing);
+  painter->setPen(QPen(color, box.width() / 8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter->setBrush(Qt::NoBrush);
+  painter->drawPolyline(QPolygonF{{at(0.25, 0.53), at(0.43, 0.71), at(0.75, 0.30)}});
+  painter->restore();
+}

@@ -1,0 +1,112 @@
+#include <QStyle>
+
+#include "platform/LookStyleParts.h"
+
+namespace {
+
+constexpr qreal kPopUpRadius = 5;
+constexpr int kPopUpTile = 14;
+constexpr int kPopUpTileMargin = 3;
+constexpr int kPopUpTextMargin = 8;
+constexpr int kPopUpHeight = 20;
+constexpr int kMenuTextMargin = 24;
+constexpr int kMenuEndMargin = 14;
+constexpr int kMenuItemHeight = 22;
+
+QRect popUpTile(const QStyleOption& option) {
+  const QRect& rect = option.rect;
+  const QRect tile(rect.right() + 1 - kPopUpTileMargin - kPopUpTile,
+                   rect.top() + (rect.height() - kPopUpTile) / 2, kPopUpTile, kPopUpTile);
+  return QStyle::visualRect(option.direction, rect, tile);
+}
+
+void drawChevrons(QPainter* painter, const QRect& tile, const QColor& color) {
+  const QPointF middle = QRectF(tile).center();
+  painter->save();
+  painter->setRenderHint(QPainter::Antialiasing);
+  painter->setPen(QPen(color, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  for (const qreal up : {-1.0, 1.0}) {
+    painter->drawPolyline(QPolygonF{
+        {middle + QPointF(-2.5, up * 1.9), middle + QPointF(0, up * 4.3), middle + QPointF(2.5, up * 1.9)}});
+  }
+  painter->restore();
+}
+
+}  // namespace
+
+namespace lookPopUp {
+
+QRect editField(const QRect& rect, Qt::LayoutDirection direction) {
+  const QRect field = rect.adjusted(kPopUpTextMargin, 0, -(kPopUpTileMargin + kPopUpTile + 2), 0);
+  return QStyle::visualRect(direction, rect, field);
+}
+
+QSize size(const QStyleOptionComboBox& option, const QSize& contents) {
+  return {contents.width() + kPopUpTextMargin + kPopUpTile + kPopUpTileMargin + 2,
+          qMax(kPopUpHeight, option.fontMetrics.height() + 4)};
+}
+
+void draw(const QStyleOptionComboBox& option, QPainter* painter) {
+  const LookColors& colors = lookColorsOf(option);
+  const LookStates states = lookStatesOf(option);
+  const QRectF rect = option.rect;
+  QLinearGradient face(rect.topLeft(), rect.bottomLeft());
+  face.setColorAt(0, colors.faceTop);
+  face.setColorAt(1, colors.faceBottom);
+  const bool isOpen = states.isEnabled && (option.state & QStyle::State_On);
+  const bool isDown = states.isPressed || isOpen;
+  const QBrush fill = !states.isEnabled ? option.palette.window()
+                      : isDown          ? QBrush(colors.facePressed)
+                                        : QBrush(face);
+  drawLookBox(painter, rect, kPopUpRadius, fill, states.isHovered ? colors.borderHover : colors.border);
+
+  const QRect tile = popUpTile(option);
+  const QColor accent = isDown ? colors.accentPressed : option.palette.color(QPalette::Highlight);
+  drawLookBox(painter, tile, 4, accent, accent);
+  drawChevrons(painter, tile, states.isEnabled ? colors.glyph : colors.disabledGlyph);
+  if (states.isFocused) drawLookFocus(painter, option, rect, kPopUpRadius);
+}
+
+void drawLabel(const QStyleOptionComboBox& option, QPainter* painter) {
+  const QRect field = editField(option.rect, option.direction);
+  const int alignment = int(QStyle::visualAlignment(option.direction, Qt::AlignLeft | Qt::AlignVCenter));
+  painter->setPen(option.palette.color(QPalette::ButtonText));
+  painter->drawText(field, alignment | Qt::TextSingleLine,
+                    option.fontMetrics.elidedText(option.currentText, Qt::ElideRight, field.width()));
+}
+
+void drawMenuPanel(const QStyleOption& option, QPainter* painter) {
+  const LookColors& colors = lookColorsOf(option);
+  painter->fillRect(option.rect, colors.border);
+  painter->fillRect(option.rect.adjusted(1, 1, -1, -1), colors.menu);
+}
+
+QSize menuItemSize(const QStyleOptionMenuItem& option) {
+  const QFontMetrics metrics(option.font);
+  return {kMenuTextMargin + metrics.horizontalAdvance(option.text) + kMenuEndMargin,
+          qMax(kMenuItemHeight, metrics.height() + 6)};
+}
+
+void drawMenuItem(const QStyleOptionMenuItem& option, QPainter* painter) {
+  const LookColors& colors = lookColorsOf(option);
+  const bool isSelected = option.state & QStyle::State_Selected;
+  painter->fillRect(option.rect, colors.menu);
+  if (isSelected) {
+    const QColor accent = option.palette.color(QPalette::Active, QPalette::Highlight);
+    drawLookBox(painter, option.rect.adjusted(3, 0, -3, 0), 4, accent, accent);
+  }
+  const QColor text =
+      option.palette.color(QPalette::Active, isSelected ? QPalette::HighlightedText : QPalette::Text);
+  if (option.checked) {
+    const QRect mark(option.rect.left() + 7, option.rect.center().y() - 5, 12, 12);
+    drawLookCheckMark(painter, QStyle::visualRect(option.direction, option.rect, mark), text);
+  }
+  const QRect room = option.rect.adjusted(kMenuTextMargin, 0, -kMenuEndMargin / 2, 0);
+  const int alignment = int(QStyle::visualAlignment(option.direction, Qt::AlignLeft | Qt::AlignVCenter));
+  painter->setFont(option.font);
+  painter->setPen(text);
+  painter->drawText(QStyle::visualRect(option.direction, option.rect, room), alignment | Qt::TextSingleLine,
+                    option.text);
+}
+
+}  // namespace lookPopUp
