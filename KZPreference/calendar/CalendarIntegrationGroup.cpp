@@ -19,11 +19,10 @@ CalendarIntegrationGroup::CalendarIntegrationGroup(const Frame& frame,
                                                    PreferenceActionDelegateProtocol* actionDelegate)
     : View(frame), m_actionDelegate(actionDelegate) {}
 
-CalendarIntegrationGroup::~CalendarIntegrationGroup() {
-  if (m_authenticator) m_authenticator->setAuthDelegate(nullptr);
-}
+CalendarIntegrationGroup::~CalendarIntegrationGroup() { setOLAccountAuthenticator(nullptr); }
 
 void CalendarIntegrationGroup::setOLAccountAuthenticator(OLAccountAuthenticator* authenticator) {
+  if (m_authenticator) m_authenticator->setAuthDelegate(nullptr);
   m_authenticator = authenticator;
   if (m_authenticator) m_authenticator->setAuthDelegate(this);
 }

@@ -21,7 +21,7 @@ class CalendarIntegrationGroup : public View, public OutlookAccountAuthDelegate 
  public:
   ~CalendarIntegrationGroup() override;
 
-  // Not owned; the group is its auth delegate from now on, until it goes.
+  // Not owned; the group is its auth delegate from now on, until it goes or is given another or none.
   void setOLAccountAuthenticator(OLAccountAuthenticator* authenticator);
 
   virtual void setCalendarPreference(const Dictionary& preference) = 0;

@@ -10,7 +10,7 @@ NonSignInPreferenceWindowController::NonSignInPreferenceWindowController(Prefere
 
 NonSignInPreferenceWindowController::~NonSignInPreferenceWindowController() {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
-  m_prefsDelegate->setNonSignInPrefMeetingView(nullptr);
+  retire();
 }
 
 void NonSignInPreferenceWindowController::refreshPreference() {

@@ -91,6 +91,13 @@ void PreferenceWindowController::gotoAccountView() {
   loadViewForIdentifier(localizedString("Account"), Animate::Yes);
 }
 
+void PreferenceWindowController::retire() {
+  if (m_isRetired) return;
+  m_isRetired = true;
+  registerMeetingView(nullptr);
+  if (m_meetingView) m_meetingView->setOLAccountAuthenticator(nullptr);
+}
+
 void PreferenceWindowController::refreshPreference() {}
 void PreferenceWindowController::setCalendarIntergrationOption(const KZCalendarIntegrationOption&) {}
 void PreferenceWindowController::requireOtherCalendarSource() {}

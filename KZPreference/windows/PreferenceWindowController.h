@@ -24,6 +24,8 @@ class PreferenceWindowController : public LWPrefsWindowController, public Exchan
   void onExchangeResolveDone(const Dictionary& result) override;
   void gotoAccountView();
   void requireEnableProximityAutoDetect();
+  // Ends every tie to others, so that the controller may be destroyed later.
+  void retire();
   // Do nothing in a variant that has nothing to do.
   virtual void refreshPreference();
   virtual void setCalendarIntergrationOption(const KZCalendarIntegrationOption& option);
@@ -42,7 +44,7 @@ class PreferenceWindowController : public LWPrefsWindowController, public Exchan
   virtual View* createAccountView(const Frame& frame) = 0;
   // The pane with everything that only this variant gives it.
   virtual MeetingsPane* createMeetingView(const Frame& frame) = 0;
-  virtual void registerMeetingView(MeetingsPane* view) = 0;
+  virtual void registerMeetingView(MeetingsPane* view) = 0;  // nullptr: forget it
   // The host asks for a calendar source that is not Outlook.
   virtual void requireOtherCalendarSource();
 
@@ -58,6 +60,7 @@ class PreferenceWindowController : public LWPrefsWindowController, public Exchan
   void setVideoDeviceDefaultPreference();
   void createPreferenceViews();
 
+  bool m_isRetired = false;
   OLAccountAuthenticator* m_olaccountAuthenticator = nullptr;
   View* m_generalView = nullptr;
   View* m_accountView = nullptr;

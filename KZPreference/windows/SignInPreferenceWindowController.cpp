@@ -12,7 +12,7 @@ SignInPreferenceWindowController::SignInPreferenceWindowController(PreferenceAct
 
 SignInPreferenceWindowController::~SignInPreferenceWindowController() {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
-  m_prefsDelegate->setPrefMeetingView(nullptr);
+  retire();
 }
 
 void SignInPreferenceWindowController::setCalendarIntergrationOption(const KZCalendarIntegrationOption& option) {
