@@ -4,8 +4,8 @@
 
 #include "host/KZFoundation/KZHostExport.h"
 
-// A notice inside a pane: a coloured strip with an icon and a text that wraps. It takes its parent's width and the
-// height that the text needs, at the parent's upper edge.
+// A notice inside a pane: a coloured strip with an icon and a text that wraps. It takes its parent's width
+// and the height that the text needs, at the parent's upper edge.
 class KZ_HOST_EXPORT MarigoldWarningView : public QWidget {
   Q_OBJECT
 
@@ -20,9 +20,17 @@ class KZ_HOST_EXPORT MarigoldWarningView : public QWidget {
   int heightForWidth(int width) const override;
 
  protected:
+  bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void changeEvent(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
+  void place();
+  void placeText();
+
   QLabel* m_text;
   bool m_isInfo = false;
 };

@@ -5,7 +5,8 @@
 
 #include "host/KZFoundation/KZHostExport.h"
 
-// A clickable text: underlined, in the palette's link colour. Space and Return click it when it has the focus.
+// A clickable text: underlined, in the palette's link colour. Space and Return click it when it has the
+// focus.
 class KZ_HOST_EXPORT BRNHyperlinkTextField : public QAbstractButton {
   Q_OBJECT
 

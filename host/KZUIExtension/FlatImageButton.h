@@ -28,8 +28,11 @@ class KZ_HOST_EXPORT FlatImageButton : public QAbstractButton {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  const QString& currentName() const;
+
   ImageNames m_names;
   QString m_bundle;
 };

@@ -1,20 +1,24 @@
 #pragma once
 
+#include <QHash>
 #include <QIcon>
 #include <QString>
 
 #include "host/KZFoundation/KZHostExport.h"
 
-// Loads "NAME.png", "NAME@2x.png", "NAME_dark.png" and "NAME_dark@2x.png" from a folder as one icon that follows the
-// palette that it is drawn with: the dark pictures on a dark window, the highlight colour when it is On, and the
-// text colour in high contrast.
+// Loads "NAME.png", "NAME@2x.png", "NAME_dark.png" and "NAME_dark@2x.png" from a folder as one icon that
+// follows the palette of the widget that it is drawn on (the application's when it becomes a pixmap): the
+// dark pictures on a dark window, the highlight colour when it is On, and text on window colour in high
+// contrast. So it needs no change when the palette changes. Main thread only.
 class KZ_HOST_EXPORT KZRetinaHelper {
  public:
   static KZRetinaHelper& shareInstance();
 
-  // A null icon when there is no such image.
+  // A null icon when there is no such image. Images are read once.
   QIcon newPNGImageInBundle(const QString& folder, const QString& name);
 
  private:
   KZRetinaHelper() = default;
+
+  QHash<QString, QIcon> m_icons;
 };

@@ -17,8 +17,8 @@ class KZ_HOST_EXPORT KZWarningWindowController {
   ~KZWarningWindowController();
   Q_DISABLE_COPY_MOVE(KZWarningWindowController)
 
-  // Shown again, the one window takes the new texts. Plain text; a missing message shows as none; a long one is
-  // scrolled.
+  // Shown again, the one window takes the new texts. Plain text; a missing message shows as none; a long one
+  // is scrolled.
   void showWithTitle(const QString& title, const QString& message);
 
   // Told of every showing in this process; an empty function ends that.

@@ -1,0 +1,77 @@
+#include "host/KZUIExtension/BRNHyperlinkTextField.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace {
+
+constexpr qreal kFocusRadius = 3;
+
+bool isClickKey(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+QColor mixedLinkColors(const QColor& from, const QColor& to, float share) {
+  return QColor::fromRgbF(from.redF() + (to.redF() - from.redF()) * share,
+                          from.greenF() + (to.greenF() - from.greenF()) * share,
+                          from.blueF() + (to.blueF() - from.blueF()) * share);
+}
+
+}  // namespace
+
+BRNHyperlinkTextField::BRNHyperlinkTextField() {
+  setCursor(Qt::PointingHandCursor);
+  setFocusPolicy(Qt::StrongFocus);
+  setAttribute(Qt::WA_Hover);
+}
+
+void BRNHyperlinkTextField::setUnderlineStyle(int style) {
+  m_underlineStyle = style;
+  update();
+}
+
+void BRNHyperlinkTextField::setNoClickColor(NoClickColor color) {
+  m_color = color;
+  update();
+}
+
+QSize BRNHyperlinkTextField::sizeHint() const {
+  return {fontMetrics().horizontalAdvance(text()), fontMetrics().height()};
+}
+
+void BRNHyperlinkTextField::keyPressEvent(QKeyEvent* event) {
+  if (isClickKey(*event) && !event->isAutoRepeat()) return click();
+  QAbstractButton::keyPressEvent(event);
+}
+
+void BRNHyperlinkTextField::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  const QColor plain = palette().color(m_color == NoClickColor::Blue ? QPalette::Link : QPalette::WindowText);
+  const QColor strong = palette().color(QPalette::WindowText);
+  QColor color = plain;
+  if (isDown())
+    color = mixedLinkColors(plain, strong, 0.7F);
+  else if (underMouse() && isEnabled())
+    color = mixedLinkColors(plain, strong, 0.35F);
+
+  const bool isFocused = hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange);
+  if (isFocused) {
+    QColor tint = palette().color(QPalette::Highlight);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(tint, 1.5));
+    tint.setAlphaF(0.14F);
+    painter.setBrush(tint);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.75, 0.75, -0.75, -0.75), kFocusRadius, kFocusRadius);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+  }
+
+  const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, width());
+  painter.setPen(color);
+  painter.drawText(rect(), int(Qt::AlignLeft | Qt::AlignVCenter) | Qt::TextSingleLine, shown);
+  if (m_underlineStyle == 0 || isFocused) return;
+  // Below the descenders, so that the line never strikes through them.
+  const int baseline = (height() - fontMetrics().height()) / 2 + fontMetrics().ascent();
+  const int thickness = isDown() || underMouse() ? 2 : 1;
+  const int top = qMin(baseline + 2, height() - thickness);
+  painter.fillRect(0, top, fontMetrics().horizontalAdvance(shown), thickness, color);
+}
