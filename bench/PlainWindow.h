@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QList>
+#include <QMainWindow>
+
+#include "bench/PaneRecipe.h"
+
+// What a plain Qt program pays for the same panes: Qt's own widgets in Qt's own style, in a window that
+// follows the size of the pane that it shows.
+class PlainWindow final : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  explicit PlainWindow(const QList<PaneRecipe>& recipes);
+
+  void showPane(qsizetype pane);
+  QWidget* shownPane() const { return m_panes.at(m_shown); }
+
+ private:
+  QWidget* createPane(const PaneRecipe& recipe);
+
+  QList<QWidget*> m_panes;
+  qsizetype m_shown = 0;
+};
