@@ -1,0 +1,183 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>KZPreference</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation>Konto</translation>
+    </message>
+    <message>
+        <source>Meetings</source>
+        <translation>Besprechungen</translation>
+    </message>
+    <message>
+        <source>Notifications</source>
+        <translation>Mitteilungen</translation>
+    </message>
+    <message>
+        <source>Video devices</source>
+        <translation>Videogeräte</translation>
+    </message>
+    <message>
+        <source>Brenn Mivra Meetings</source>
+        <translation>Brenn Mivra Meetings</translation>
+    </message>
+    <message>
+        <source>Start Brenn Mivra Meetings when my computer starts</source>
+        <translation>Brenn Mivra Meetings beim Start des Computers öffnen</translation>
+    </message>
+    <message>
+        <source>Schedule or start Mivra meetings from Microsoft Outlook</source>
+        <translation>Mivra-Besprechungen aus Microsoft Outlook planen oder starten</translation>
+    </message>
+    <message>
+        <source>Your setting changes will take effect after you restart Microsoft Outlook.</source>
+        <translation>Die Änderungen werden wirksam, sobald Sie Microsoft Outlook neu starten.</translation>
+    </message>
+    <message>
+        <source>Full name:</source>
+        <translation>Vollständiger Name:</translation>
+    </message>
+    <message>
+        <source>Mivra site URL:</source>
+        <translation>URL der Mivra-Site:</translation>
+    </message>
+    <message>
+        <source>Email address:</source>
+        <translation>E-Mail-Adresse:</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Ändern</translation>
+    </message>
+    <message>
+        <source>Your name:</source>
+        <translation>Ihr Name:</translation>
+    </message>
+    <message>
+        <source>Your email address:</source>
+        <translation>Ihre E-Mail-Adresse:</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Sichern</translation>
+    </message>
+    <message>
+        <source>Invalid email address</source>
+        <translation>Ungültige E-Mail-Adresse</translation>
+    </message>
+    <message>
+        <source>Personal Room:</source>
+        <translation>Persönlicher Raum:</translation>
+    </message>
+    <message>
+        <source>Video address:</source>
+        <translation>Videoadresse:</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Kopiert</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>Kalender</translation>
+    </message>
+    <message>
+        <source>Number of days to show in meetings list:</source>
+        <translation>Anzahl der Tage in der Besprechungsliste:</translation>
+    </message>
+    <message>
+        <source>Calendar integration</source>
+        <translation>Kalenderintegration</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Mivra</source>
+        <translation>Mivra</translation>
+    </message>
+    <message>
+        <source>Google</source>
+        <translation>Google</translation>
+    </message>
+    <message>
+        <source>Microsoft Outlook</source>
+        <translation>Microsoft Outlook</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Anwenden</translation>
+    </message>
+    <message>
+        <source>Email:</source>
+        <translation>E-Mail:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Passwort:</translation>
+    </message>
+    <message>
+        <source>Email address</source>
+        <translation>E-Mail-Adresse</translation>
+    </message>
+    <message>
+        <source>DOMAIN\username or Email</source>
+        <translation>DOMÄNE\Benutzername oder E-Mail</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>Invalid email or password</source>
+        <translation>E-Mail oder Passwort ungültig</translation>
+    </message>
+    <message>
+        <source>Applied successfully</source>
+        <translation>Erfolgreich angewendet</translation>
+    </message>
+    <message>
+        <source>Meeting notifications</source>
+        <translation>Besprechungsmitteilungen</translation>
+    </message>
+    <message>
+        <source>minutes before scheduled start time.</source>
+        <translation>Minuten vor dem geplanten Beginn.</translation>
+    </message>
+    <message>
+        <source>Snooze</source>
+        <translation>Schlummern</translation>
+    </message>
+    <message>
+        <source>minutes after Snooze.</source>
+        <translation>Minuten nach dem Schlummern.</translation>
+    </message>
+    <message>
+        <source>Upcoming Meeting card on dashboard</source>
+        <translation>Karte der nächsten Besprechung in der Übersicht</translation>
+    </message>
+    <message>
+        <source>Automatically discover nearby devices</source>
+        <translation>Geräte in der Nähe automatisch erkennen</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,183 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>KZPreference</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Preferencias</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation>Cuenta</translation>
+    </message>
+    <message>
+        <source>Meetings</source>
+        <translation>Reuniones</translation>
+    </message>
+    <message>
+        <source>Notifications</source>
+        <translation>Notificaciones</translation>
+    </message>
+    <message>
+        <source>Video devices</source>
+        <translation>Dispositivos de vídeo</translation>
+    </message>
+    <message>
+        <source>Brenn Mivra Meetings</source>
+        <translation>Brenn Mivra Meetings</translation>
+    </message>
+    <message>
+        <source>Start Brenn Mivra Meetings when my computer starts</source>
+        <translation>Abrir Brenn Mivra Meetings al iniciar el equipo</translation>
+    </message>
+    <message>
+        <source>Schedule or start Mivra meetings from Microsoft Outlook</source>
+        <translation>Programar o iniciar reuniones de Mivra desde Microsoft Outlook</translation>
+    </message>
+    <message>
+        <source>Your setting changes will take effect after you restart Microsoft Outlook.</source>
+        <translation>Los cambios surtirán efecto cuando reinicie Microsoft Outlook.</translation>
+    </message>
+    <message>
+        <source>Full name:</source>
+        <translation>Nombre completo:</translation>
+    </message>
+    <message>
+        <source>Mivra site URL:</source>
+        <translation>URL del sitio de Mivra:</translation>
+    </message>
+    <message>
+        <source>Email address:</source>
+        <translation>Dirección de correo:</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Cambiar</translation>
+    </message>
+    <message>
+        <source>Your name:</source>
+        <translation>Su nombre:</translation>
+    </message>
+    <message>
+        <source>Your email address:</source>
+        <translation>Su dirección de correo:</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Editar</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Invalid email address</source>
+        <translation>Dirección de correo no válida</translation>
+    </message>
+    <message>
+        <source>Personal Room:</source>
+        <translation>Sala personal:</translation>
+    </message>
+    <message>
+        <source>Video address:</source>
+        <translation>Dirección de vídeo:</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Copiado</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>Calendario</translation>
+    </message>
+    <message>
+        <source>Number of days to show in meetings list:</source>
+        <translation>Días que se muestran en la lista de reuniones:</translation>
+    </message>
+    <message>
+        <source>Calendar integration</source>
+        <translation>Integración del calendario</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>Mivra</source>
+        <translation>Mivra</translation>
+    </message>
+    <message>
+        <source>Google</source>
+        <translation>Google</translation>
+    </message>
+    <message>
+        <source>Microsoft Outlook</source>
+        <translation>Microsoft Outlook</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Aplicar</translation>
+    </message>
+    <message>
+        <source>Email:</source>
+        <translation>Correo:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Contraseña:</translation>
+    </message>
+    <message>
+        <source>Email address</source>
+        <translation>Dirección de correo</translation>
+    </message>
+    <message>
+        <source>DOMAIN\username or Email</source>
+        <translation>DOMINIO\usuario o correo</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Contraseña</translation>
+    </message>
+    <message>
+        <source>Invalid email or password</source>
+        <translation>Correo o contraseña no válidos</translation>
+    </message>
+    <message>
+        <source>Applied successfully</source>
+        <translation>Aplicado correctamente</translation>
+    </message>
+    <message>
+        <source>Meeting notifications</source>
+        <translation>Notificaciones de reuniones</translation>
+    </message>
+    <message>
+        <source>minutes before scheduled start time.</source>
+        <translation>minutos antes de la hora de inicio prevista.</translation>
+    </message>
+    <message>
+        <source>Snooze</source>
+        <translation>Posponer</translation>
+    </message>
+    <message>
+        <source>minutes after Snooze.</source>
+        <translation>minutos después de posponer.</translation>
+    </message>
+    <message>
+        <source>Upcoming Meeting card on dashboard</source>
+        <translation>Tarjeta de la próxima reunión en el panel</translation>
+    </message>
+    <message>
+        <source>Automatically discover nearby devices</source>
+        <translation>Detectar automáticamente los dispositivos cercanos</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,183 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>KZPreference</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Préférences</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation>Compte</translation>
+    </message>
+    <message>
+        <source>Meetings</source>
+        <translation>Réunions</translation>
+    </message>
+    <message>
+        <source>Notifications</source>
+        <translation>Notifications</translation>
+    </message>
+    <message>
+        <source>Video devices</source>
+        <translation>Appareils vidéo</translation>
+    </message>
+    <message>
+        <source>Brenn Mivra Meetings</source>
+        <translation>Brenn Mivra Meetings</translation>
+    </message>
+    <message>
+        <source>Start Brenn Mivra Meetings when my computer starts</source>
+        <translation>Ouvrir Brenn Mivra Meetings au démarrage de l’ordinateur</translation>
+    </message>
+    <message>
+        <source>Schedule or start Mivra meetings from Microsoft Outlook</source>
+        <translation>Planifier ou démarrer des réunions Mivra depuis Microsoft Outlook</translation>
+    </message>
+    <message>
+        <source>Your setting changes will take effect after you restart Microsoft Outlook.</source>
+        <translation>Vos modifications prendront effet au redémarrage de Microsoft Outlook.</translation>
+    </message>
+    <message>
+        <source>Full name:</source>
+        <translation>Nom complet :</translation>
+    </message>
+    <message>
+        <source>Mivra site URL:</source>
+        <translation>URL du site Mivra :</translation>
+    </message>
+    <message>
+        <source>Email address:</source>
+        <translation>Adresse e-mail :</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Modifier</translation>
+    </message>
+    <message>
+        <source>Your name:</source>
+        <translation>Votre nom :</translation>
+    </message>
+    <message>
+        <source>Your email address:</source>
+        <translation>Votre adresse e-mail :</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Modifier</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Invalid email address</source>
+        <translation>Adresse e-mail non valide</translation>
+    </message>
+    <message>
+        <source>Personal Room:</source>
+        <translation>Salle personnelle :</translation>
+    </message>
+    <message>
+        <source>Video address:</source>
+        <translation>Adresse vidéo :</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Copié</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>Calendrier</translation>
+    </message>
+    <message>
+        <source>Number of days to show in meetings list:</source>
+        <translation>Nombre de jours dans la liste des réunions :</translation>
+    </message>
+    <message>
+        <source>Calendar integration</source>
+        <translation>Intégration du calendrier</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>Mivra</source>
+        <translation>Mivra</translation>
+    </message>
+    <message>
+        <source>Google</source>
+        <translation>Google</translation>
+    </message>
+    <message>
+        <source>Microsoft Outlook</source>
+        <translation>Microsoft Outlook</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Appliquer</translation>
+    </message>
+    <message>
+        <source>Email:</source>
+        <translation>E-mail :</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Mot de passe :</translation>
+    </message>
+    <message>
+        <source>Email address</source>
+        <translation>Adresse e-mail</translation>
+    </message>
+    <message>
+        <source>DOMAIN\username or Email</source>
+        <translation>DOMAINE\utilisateur ou e-mail</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <source>Invalid email or password</source>
+        <translation>E-mail ou mot de passe non valide</translation>
+    </message>
+    <message>
+        <source>Applied successfully</source>
+        <translation>Appliqué avec succès</translation>
+    </message>
+    <message>
+        <source>Meeting notifications</source>
+        <translation>Notifications de réunion</translation>
+    </message>
+    <message>
+        <source>minutes before scheduled start time.</source>
+        <translation>minutes avant l’heure de début prévue.</translation>
+    </message>
+    <message>
+        <source>Snooze</source>
+        <translation>Rappel différé</translation>
+    </message>
+    <message>
+        <source>minutes after Snooze.</source>
+        <translation>minutes après le report.</translation>
+    </message>
+    <message>
+        <source>Upcoming Meeting card on dashboard</source>
+        <translation>Carte de la prochaine réunion dans le tableau de bord</translation>
+    </message>
+    <message>
+        <source>Automatically discover nearby devices</source>
+        <translation>Détecter automatiquement les appareils à proximité</translation>
+    </message>
+</context>
+</TS>

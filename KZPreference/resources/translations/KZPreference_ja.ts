@@ -1,0 +1,183 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>KZPreference</name>
+    <message>
+        <source>Preferences</source>
+        <translation>環境設定</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>一般</translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation>アカウント</translation>
+    </message>
+    <message>
+        <source>Meetings</source>
+        <translation>ミーティング</translation>
+    </message>
+    <message>
+        <source>Notifications</source>
+        <translation>通知</translation>
+    </message>
+    <message>
+        <source>Video devices</source>
+        <translation>ビデオデバイス</translation>
+    </message>
+    <message>
+        <source>Brenn Mivra Meetings</source>
+        <translation>Brenn Mivra Meetings</translation>
+    </message>
+    <message>
+        <source>Start Brenn Mivra Meetings when my computer starts</source>
+        <translation>コンピュータの起動時に Brenn Mivra Meetings を開く</translation>
+    </message>
+    <message>
+        <source>Schedule or start Mivra meetings from Microsoft Outlook</source>
+        <translation>Microsoft Outlook から Mivra ミーティングを予約または開始する</translation>
+    </message>
+    <message>
+        <source>Your setting changes will take effect after you restart Microsoft Outlook.</source>
+        <translation>変更した設定は、Microsoft Outlook の再起動後に有効になります。</translation>
+    </message>
+    <message>
+        <source>Full name:</source>
+        <translation>氏名:</translation>
+    </message>
+    <message>
+        <source>Mivra site URL:</source>
+        <translation>Mivra サイト URL:</translation>
+    </message>
+    <message>
+        <source>Email address:</source>
+        <translation>メールアドレス:</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>変更</translation>
+    </message>
+    <message>
+        <source>Your name:</source>
+        <translation>お名前:</translation>
+    </message>
+    <message>
+        <source>Your email address:</source>
+        <translation>メールアドレス:</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>編集</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Invalid email address</source>
+        <translation>メールアドレスが無効です</translation>
+    </message>
+    <message>
+        <source>Personal Room:</source>
+        <translation>パーソナル会議室:</translation>
+    </message>
+    <message>
+        <source>Video address:</source>
+        <translation>ビデオアドレス:</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>コピーしました</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>カレンダー</translation>
+    </message>
+    <message>
+        <source>Number of days to show in meetings list:</source>
+        <translation>ミーティングリストに表示する日数:</translation>
+    </message>
+    <message>
+        <source>Calendar integration</source>
+        <translation>カレンダーの統合</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Mivra</source>
+        <translation>Mivra</translation>
+    </message>
+    <message>
+        <source>Google</source>
+        <translation>Google</translation>
+    </message>
+    <message>
+        <source>Microsoft Outlook</source>
+        <translation>Microsoft Outlook</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>適用</translation>
+    </message>
+    <message>
+        <source>Email:</source>
+        <translation>メール:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>パスワード:</translation>
+    </message>
+    <message>
+        <source>Email address</source>
+        <translation>メールアドレス</translation>
+    </message>
+    <message>
+        <source>DOMAIN\username or Email</source>
+        <translation>ドメイン\ユーザー名またはメール</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>Invalid email or password</source>
+        <translation>メールまたはパスワードが無効です</translation>
+    </message>
+    <message>
+        <source>Applied successfully</source>
+        <translation>正常に適用されました</translation>
+    </message>
+    <message>
+        <source>Meeting notifications</source>
+        <translation>ミーティングの通知</translation>
+    </message>
+    <message>
+        <source>minutes before scheduled start time.</source>
+        <translation>分前に通知（予定の開始時刻より）</translation>
+    </message>
+    <message>
+        <source>Snooze</source>
+        <translation>スヌーズ</translation>
+    </message>
+    <message>
+        <source>minutes after Snooze.</source>
+        <translation>分後に再通知</translation>
+    </message>
+    <message>
+        <source>Upcoming Meeting card on dashboard</source>
+        <translation>ダッシュボードの次のミーティングカード</translation>
+    </message>
+    <message>
+        <source>Automatically discover nearby devices</source>
+        <translation>近くのデバイスを自動的に検出する</translation>
+    </message>
+</context>
+</TS>

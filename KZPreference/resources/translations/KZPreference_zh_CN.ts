@@ -1,0 +1,183 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>KZPreference</name>
+    <message>
+        <source>Preferences</source>
+        <translation>偏好设置</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>通用</translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation>帐户</translation>
+    </message>
+    <message>
+        <source>Meetings</source>
+        <translation>会议</translation>
+    </message>
+    <message>
+        <source>Notifications</source>
+        <translation>通知</translation>
+    </message>
+    <message>
+        <source>Video devices</source>
+        <translation>视频设备</translation>
+    </message>
+    <message>
+        <source>Brenn Mivra Meetings</source>
+        <translation>Brenn Mivra Meetings</translation>
+    </message>
+    <message>
+        <source>Start Brenn Mivra Meetings when my computer starts</source>
+        <translation>电脑启动时打开 Brenn Mivra Meetings</translation>
+    </message>
+    <message>
+        <source>Schedule or start Mivra meetings from Microsoft Outlook</source>
+        <translation>从 Microsoft Outlook 安排或开始 Mivra 会议</translation>
+    </message>
+    <message>
+        <source>Your setting changes will take effect after you restart Microsoft Outlook.</source>
+        <translation>更改将在重新启动 Microsoft Outlook 后生效。</translation>
+    </message>
+    <message>
+        <source>Full name:</source>
+        <translation>全名：</translation>
+    </message>
+    <message>
+        <source>Mivra site URL:</source>
+        <translation>Mivra 站点 URL：</translation>
+    </message>
+    <message>
+        <source>Email address:</source>
+        <translation>电子邮件地址：</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>更改</translation>
+    </message>
+    <message>
+        <source>Your name:</source>
+        <translation>您的姓名：</translation>
+    </message>
+    <message>
+        <source>Your email address:</source>
+        <translation>您的电子邮件地址：</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>编辑</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Invalid email address</source>
+        <translation>电子邮件地址无效</translation>
+    </message>
+    <message>
+        <source>Personal Room:</source>
+        <translation>个人会议室：</translation>
+    </message>
+    <message>
+        <source>Video address:</source>
+        <translation>视频地址：</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>已复制</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>日历</translation>
+    </message>
+    <message>
+        <source>Number of days to show in meetings list:</source>
+        <translation>会议列表中显示的天数：</translation>
+    </message>
+    <message>
+        <source>Calendar integration</source>
+        <translation>日历集成</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Mivra</source>
+        <translation>Mivra</translation>
+    </message>
+    <message>
+        <source>Google</source>
+        <translation>Google</translation>
+    </message>
+    <message>
+        <source>Microsoft Outlook</source>
+        <translation>Microsoft Outlook</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>应用</translation>
+    </message>
+    <message>
+        <source>Email:</source>
+        <translation>电子邮件：</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>密码：</translation>
+    </message>
+    <message>
+        <source>Email address</source>
+        <translation>电子邮件地址</translation>
+    </message>
+    <message>
+        <source>DOMAIN\username or Email</source>
+        <translation>域\用户名或电子邮件</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>密码</translation>
+    </message>
+    <message>
+        <source>Invalid email or password</source>
+        <translation>电子邮件或密码无效</translation>
+    </message>
+    <message>
+        <source>Applied successfully</source>
+        <translation>应用成功</translation>
+    </message>
+    <message>
+        <source>Meeting notifications</source>
+        <translation>会议通知</translation>
+    </message>
+    <message>
+        <source>minutes before scheduled start time.</source>
+        <translation>分钟（在预定开始时间之前）。</translation>
+    </message>
+    <message>
+        <source>Snooze</source>
+        <translation>稍后提醒</translation>
+    </message>
+    <message>
+        <source>minutes after Snooze.</source>
+        <translation>分钟后再次提醒。</translation>
+    </message>
+    <message>
+        <source>Upcoming Meeting card on dashboard</source>
+        <translation>仪表板上的即将开始的会议卡片</translation>
+    </message>
+    <message>
+        <source>Automatically discover nearby devices</source>
+        <translation>自动发现附近的设备</translation>
+    </message>
+</context>
+</TS>
