@@ -1,0 +1,90 @@
+#pragma once
+
+#include <QHash>
+#include <QJsonObject>
+#include <QList>
+#include <QString>
+#include <QUrl>
+#include <QUrlQuery>
+
+#include "sandbox/HttpServer.h"
+
+namespace sandbox {
+
+// A sign-in authority: the authorization code flow with proof keys, refresh tokens that are good once, and
+// faults on demand. Keeps everything in memory. Not for anything but trying out.
+class Authority final {
+ public:
+  enum class Generation { Resource, Scope };
+  // What goes wrong at the token endpoint.
+  enum class Fault {
+    None,
+    Silent,
+    Slow,
+    CutOff,
+    ServerError,
+    Html,
+    Flood,
+    RedirectElsewhere,
+    NoExpiry,
+    NoUser,
+    NoAccessToken,
+    OtherAudience,
+    InvalidGrant,
+  };
+  enum class Consent { AskUser, Give, Refuse };
+
+  // Answers below `path` of the server, which must outlive it.
+  Authority(HttpServer& server, const QString& path);
+  Q_DISABLE_COPY_MOVE(Authority)
+
+  QString address() const;
+
+  void setGeneration(Generation generation) { m_generation = generation; }
+  void setHasConfiguration(bool has) { m_hasConfiguration = has; }
+  void setConsent(Consent consent) { m_consent = consent; }
+  // What an id_token says of the user.
+  void setUserClaims(const QJsonObject& claims) { m_userClaims = claims; }
+  void setLifetime(int seconds) { m_lifetime = seconds; }
+  void setFault(Fault fault, const QUrl& elsewhere = QUrl());
+
+  // A refresh token as if that user had signed in here before.
+  QString grantRefreshToken(const QString& clientId);
+
+  // What was asked, oldest first.
+  const QList<QUrlQuery>& pageRequests() const { return m_pageRequests; }
+  const QList<QUrlQuery>& tokenRequests() const { return m_tokenRequests; }
+
+ private:
+  struct Grant {
+    QString clientId;
+    QString redirectUri;
+    QString challenge;
+  };
+
+  HttpResponse configuration() const;
+  HttpResponse page(const HttpRequest& request);
+  HttpResponse consentPage(const QUrlQuery& query) const;
+  HttpResponse answerPage(const QUrlQuery& query, bool isGiven);
+  HttpResponse token(const HttpRequest& request);
+  HttpResponse redeemCode(const QUrlQuery& form);
+  HttpResponse redeemRefreshToken(const QUrlQuery& form);
+  HttpResponse granted(const QString& clientId);
+  QString idToken(const QString& clientId) const;
+
+  HttpServer& m_server;
+  QString m_path;
+  Generation m_generation = Generation::Resource;
+  bool m_hasConfiguration = true;
+  Consent m_consent = Consent::Give;
+  QJsonObject m_userClaims{{QStringLiteral("upn"), QStringLiteral("alice@example.com")}};
+  int m_lifetime = 3600;
+  Fault m_fault = Fault::None;
+  QUrl m_elsewhere;
+  QHash<QString, Grant> m_codes;
+  QHash<QString, Grant> m_refreshTokens;
+  QList<QUrlQuery> m_pageRequests;
+  QList<QUrlQuery> m_tokenRequests;
+};
+
+}  // namespace sandbox

@@ -1,0 +1,138 @@
+#include "sandbox/HttpServer.h"
+
+#include <QHostAddress>
+#include <QTcpSocket>
+#include <QTimer>
+#include <algorithm>
+#include <memory>
+#include <optional>
+
+namespace sandbox {
+
+namespace {
+
+constexpr qsizetype longestRequest = 1024 * 1024;
+constexpr std::chrono::milliseconds dripInterval{100};
+constexpr qsizetype floodChunk = 256 * 1024;
+
+// Nothing while the request is not complete.
+std::optional<HttpRequest> parseRequest(const QByteArray& data) {
+  const qsizetype headEnd = data.indexOf("\r\n\r\n");
+  if (headEnd < 0) return {};
+  QList<QByteArray> lines = data.first(headEnd).replace("\r\n", "\n").split('\n');
+  const QList<QByteArray> words = lines.takeFirst().split(' ');
+  HttpRequest request;
+  request.method = words.value(0);
+  const QUrl target = QUrl::fromEncoded(words.value(1));
+  request.path = target.path();
+  request.query = QUrlQuery(target.query(QUrl::FullyEncoded));
+  for (const QByteArray& line : lines) {
+    const qsizetype colon = line.indexOf(':');
+    if (colon > 0) request.headers.insert(line.first(colon).toLower(), line.sliced(colon + 1).trimmed());
+  }
+  request.body = data.sliced(headEnd + 4);
+  if (request.body.size() < request.headers.value("content-length").toLongLong()) return {};
+  return request;
+}
+
+QByteArray responseHead(const HttpResponse& response, qint64 length) {
+  QByteArray head = "HTTP/1.1 " + QByteArray::number(response.status) +
+                    " -\r\nContent-Type: " + response.contentType +
+                    "\r\nContent-Length: " + QByteArray::number(length) + "\r\nConnection: close\r\n";
+  for (const auto& [name, value] : response.headers) head += name + ": " + value + "\r\n";
+  return head + "\r\n";
+}
+
+void drip(QTcpSocket* socket, const QByteArray& bytes) {
+  auto* const timer = new QTimer(socket);
+  const auto sent = std::make_shared<qsizetype>(0);
+  QObject::connect(timer, &QTimer::timeout, socket, [socket, bytes, sent] {
+    if (*sent < bytes.size()) socket->write(bytes.constData() + (*sent)++, 1);
+  });
+  timer->start(dripInterval);
+}
+
+void flood(QTcpSocket* socket, qint64 bytes) {
+  const auto left = std::make_shared<qint64>(bytes);
+  const auto pump = [socket, left] {
+    if (*left <= 0 || socket->bytesToWrite() > 0) return;
+    const qsizetype size = static_cast<qsizetype>(std::min<qint64>(*left, floodChunk));
+    *left -= size;
+    socket->write(QByteArray(size, ' '));
+  };
+  QObject::connect(socket, &QTcpSocket::bytesWritten, socket, pump);
+  pump();
+}
+
+void sendResponse(QTcpSocket* socket, const HttpResponse& response) {
+  switch (response.delivery) {
+    case HttpResponse::Delivery::Whole:
+      socket->write(responseHead(response, response.body.size()) + response.body);
+      socket->disconnectFromHost();
+      return;
+    case HttpResponse::Delivery::Silent:
+      return;
+    case HttpResponse::Delivery::Drip:
+      drip(socket, responseHead(response, response.body.size()) + response.body);
+      return;
+    case HttpResponse::Delivery::CutOff:
+      socket->write(responseHead(response, response.body.size() + 100) + response.body);
+      socket->disconnectFromHost();
+      return;
+    case HttpResponse::Delivery::Flood:
+      socket->write(responseHead(response, response.floodBytes));
+      flood(socket, response.floodBytes);
+      return;
+  }
+}
+
+}  // namespace
+
+QUrlQuery HttpRequest::form() const {
+  QByteArray encoded = body;
+  return QUrlQuery(QString::fromLatin1(encoded.replace('+', "%20")));
+}
+
+HttpServer::HttpServer() {
+  QObject::connect(&m_server, &QTcpServer::newConnection, &m_server, [this] { accept(); });
+}
+
+HttpServer::~HttpServer() = default;
+
+bool HttpServer::listen(quint16 port) {
+  return m_server.listen(QHostAddress::LocalHost, port);
+}
+
+QUrl HttpServer::url() const {
+  return QUrl(QStringLiteral("http://127.0.0.1:%1").arg(m_server.serverPort()));
+}
+
+void HttpServer::handle(const QString& path, Handler handler) {
+  m_handlers.insert(path, std::move(handler));
+}
+
+void HttpServer::accept() {
+  while (QTcpSocket* const socket = m_server.nextPendingConnection()) {
+    QObject::connect(socket, &QTcpSocket::readyRead, &m_server, [this, socket] { read(socket); });
+    QObject::connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
+  }
+}
+
+void HttpServer::read(QTcpSocket* socket) {
+  const QByteArray data = socket->peek(longestRequest);
+  const std::optional<HttpRequest> request = parseRequest(data);
+  if (!request) {
+    if (data.size() >= longestRequest) socket->abort();
+    return;
+  }
+  socket->readAll();
+  sendResponse(socket, respond(*request));
+}
+
+HttpResponse HttpServer::respond(const HttpRequest& request) const {
+  const Handler handler = m_handlers.value(request.path);
+  return handler ? handler(request)
+                 : HttpResponse{.status = 404, .contentType = "text/plain", .body = "not here\n"};
+}
+
+}  // namespace sandbox

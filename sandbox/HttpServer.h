@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QByteArray>
+#include <QHash>
+#include <QList>
+#include <QTcpServer>
+#include <QUrl>
+#include <QUrlQuery>
+#include <functional>
+#include <utility>
+
+class QTcpSocket;
+
+namespace sandbox {
+
+struct HttpRequest {
+  QByteArray method;
+  QString path;
+  QUrlQuery query;
+  QHash<QByteArray, QByteArray> headers;  // names in small letters
+  QByteArray body;
+
+  QUrlQuery form() const;
+};
+
+struct HttpResponse {
+  // How the answer goes out: as it should, or as a bad server or network would send it.
+  enum class Delivery { Whole, Silent, Drip, CutOff, Flood };
+
+  int status = 200;
+  QByteArray contentType = "application/json";
+  QByteArray body = {};
+  QList<std::pair<QByteArray, QByteArray>> headers = {};
+  Delivery delivery = Delivery::Whole;
+  qint64 floodBytes = 0;  // how much a flood sends
+};
+
+// A small HTTP server on the loopback address; one request a connection. Lives on the thread that made it.
+class HttpServer final {
+ public:
+  using Handler = std::function<HttpResponse(const HttpRequest&)>;
+
+  HttpServer();
+  ~HttpServer();
+  Q_DISABLE_COPY_MOVE(HttpServer)
+
+  [[nodiscard]] bool listen(quint16 port = 0);
+  QUrl url() const;
+
+  // Whoever asks for this very path is answered by the handler; the last one set counts.
+  void handle(const QString& path, Handler handler);
+
+ private:
+  void accept();
+  void read(QTcpSocket* socket);
+  HttpResponse respond(const HttpRequest& request) const;
+
+  QTcpServer m_server;
+  QHash<QString, Handler> m_handlers;
+};
+
+}  // namespace sandbox

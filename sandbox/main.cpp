@@ -1,0 +1,39 @@
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <cstdio>
+
+#include "sandbox/Authority.h"
+#include "sandbox/HttpServer.h"
+
+// Runs the sandbox until it is ended. The first line on standard output says where it is.
+int main(int argc, char** argv) {
+  QCoreApplication application(argc, argv);
+  QCommandLineParser parser;
+  parser.setApplicationDescription(
+      "A small sign-in authority on the loopback address, for trying things out.");
+  parser.addHelpOption();
+  parser.addOptions({{"port", "Listen at this port (default: a free one).", "number", "0"},
+                     {"lifetime", "How long an access token is good, in seconds.", "seconds", "3600"},
+                     {"scopes", "Take scopes in place of a resource."},
+                     {"give", "Sign everybody in without asking."}});
+  parser.process(application);
+
+  sandbox::HttpServer server;
+  if (!server.listen(parser.value("port").toUShort())) {
+    std::fputs("The port cannot be opened.\n", stderr);
+    return 1;
+  }
+  using sandbox::Authority;
+  Authority authority(server, QStringLiteral("/common"));
+  authority.setConsent(parser.isSet("give") ? Authority::Consent::Give : Authority::Consent::AskUser);
+  authority.setGeneration(parser.isSet("scopes") ? Authority::Generation::Scope
+                                                 : Authority::Generation::Resource);
+  authority.setLifetime(parser.value("lifetime").toInt());
+
+  const QJsonObject where{{"authority", authority.address()}};
+  std::printf("%s\n", QJsonDocument(where).toJson(QJsonDocument::Compact).constData());
+  std::fflush(stdout);
+  return QCoreApplication::exec();
+}

@@ -1,0 +1,113 @@
+#include <QApplication>
+#include <QClipboard>
+#include <QDialog>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "tests/adal/SignInFixture.h"
+
+namespace {
+
+class ADSignInDialogTest : public SignInFixture {
+ protected:
+  static QList<QWidget*> dialogs() {
+    QList<QWidget*> shown = QApplication::topLevelWidgets();
+    shown.removeIf(
+        [](QWidget* widget) { return !widget->isVisible() || qobject_cast<QDialog*>(widget) == nullptr; });
+    return shown;
+  }
+  template <typename T>
+  static T* control(const char* name) {
+    const QList<QWidget*> shown = dialogs();
+    return shown.size() == 1 ? shown.first()->findChild<T*>(QLatin1String(name)) : nullptr;
+  }
+  static void press(const char* name) {
+    auto* const button = control<QPushButton>(name);
+    ASSERT_NE(button, nullptr) << name;
+    QTest::mouseClick(button, Qt::LeftButton);
+  }
+  void startWith(const char* redirectUri) {
+    signIn(result, QUrl(QLatin1String(redirectUri)));
+    ASSERT_TRUE(waitForBrowser());
+    ASSERT_EQ(dialogs().size(), 1);
+  }
+
+  Result result;
+};
+
+constexpr char pastedCode[] = "urn:ietf:wg:oauth:2.0:oob";
+
+TEST_F(ADSignInDialogTest, TakesThePastedCode) {
+  startWith(pastedCode);
+  EXPECT_FALSE(dialogs().first()->isModal());
+  EXPECT_EQ(redirectOf(opened.first()).toString(), pastedCode);
+  EXPECT_FALSE(control<QPushButton>("m_continueBtn")->isEnabled());
+
+  QNetworkReply* const page = browser.get(QNetworkRequest(opened.first()));
+  QByteArray text;
+  QObject::connect(page, &QNetworkReply::finished, page, [&] { text = page->readAll(); });
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !text.isEmpty(); }));
+  page->deleteLater();
+  const qsizetype from = text.indexOf("<pre>") + 5;
+  const QString code = QString::fromUtf8(text.sliced(from, text.indexOf("</pre>") - from));
+
+  QTest::keyClicks(control<QLineEdit>("m_codeTxt"), " " + code + " ");
+  press("m_continueBtn");
+  EXPECT_TRUE(dialogs().isEmpty());
+  ASSERT_TRUE(waitFor(result));
+  EXPECT_EQ(result->status, ADAuthenticationStatus::Succeeded);
+}
+
+TEST_F(ADSignInDialogTest, PastedAddressOfAnotherRequestIsNotTaken) {
+  startWith(pastedCode);
+  QTest::keyClicks(control<QLineEdit>("m_codeTxt"), "https://example.com/?code=x&state=other");
+  press("m_continueBtn");
+  QTest::qWait(20);
+  EXPECT_FALSE(result);
+  EXPECT_EQ(dialogs().size(), 1);
+  EXPECT_TRUE(authority->tokenRequests().isEmpty());
+}
+
+TEST_F(ADSignInDialogTest, OpensAgainCopiesAndCancels) {
+  for (const char* redirectUri : {pastedCode, "http://127.0.0.1"}) {
+    SCOPED_TRACE(redirectUri);
+    opened.clear();
+    result.reset();
+    startWith(redirectUri);
+    press("m_openAgainBtn");
+    ASSERT_EQ(opened.size(), 2);
+    EXPECT_EQ(opened.first(), opened.last());
+    press("m_copyBtn");
+    EXPECT_EQ(QApplication::clipboard()->text(), opened.first().toString(QUrl::FullyEncoded));
+    press("m_cancelBtn");
+    ASSERT_TRUE(waitFor(result));
+    EXPECT_EQ(result->status, ADAuthenticationStatus::UserCancelled);
+    EXPECT_TRUE(dialogs().isEmpty());
+  }
+}
+
+TEST_F(ADSignInDialogTest, ClosingCancelsAndAnAnswerCloses) {
+  startWith("http://127.0.0.1");
+  dialogs().first()->close();
+  ASSERT_TRUE(waitFor(result));
+  EXPECT_EQ(result->status, ADAuthenticationStatus::UserCancelled);
+
+  result.reset();
+  opened.clear();
+  startWith("http://127.0.0.1");
+  visit(opened.first());
+  ASSERT_TRUE(waitFor(result));
+  EXPECT_EQ(result->status, ADAuthenticationStatus::Succeeded);
+  EXPECT_TRUE(dialogs().isEmpty());
+}
+
+TEST_F(ADSignInDialogTest, WithoutABrowserTheAddressIsThereToTake) {
+  ADAuthenticationSettings::sharedInstance().setBrowserOpener([](const QUrl&) { return false; });
+  signIn(result, QUrl("http://127.0.0.1"));
+  ASSERT_TRUE(QTest::qWaitFor([] { return dialogs().size() == 1; }));
+  visit(QUrl(control<QLineEdit>("m_addressTxt")->text()));
+  ASSERT_TRUE(waitFor(result));
+  EXPECT_EQ(result->status, ADAuthenticationStatus::Succeeded);
+}
+
+}  // namespace

@@ -1,0 +1,180 @@
+#include <QJsonObject>
+#include <QSet>
+
+#include "tests/adal/SignInFixture.h"
+
+using sandbox::Authority;
+
+namespace {
+
+class ADSignInTest : public SignInFixture {};
+
+QString asked(const QUrlQuery& query, const char* name) {
+  return query.queryItemValue(QLatin1String(name), QUrl::FullyDecoded);
+}
+
+TEST_F(ADSignInTest, RunsWholeWithEitherGenerationAndWithoutConfiguration) {
+  struct Case {
+    Authority::Generation generation;
+    bool hasConfiguration;
+    QString resource;
+    QString scope;
+  };
+  const Case cases[] = {
+      {Authority::Generation::Resource, true, "https://mail.example.com", "openid"},
+      {Authority::Generation::Resource, false, "https://mail.example.com", "openid"},
+      {Authority::Generation::Scope, true, "", "openid offline_access https://mail.example.com/.default"},
+  };
+  QSet<QString> states;
+  for (const Case& wanted : cases) {
+    SCOPED_TRACE(wanted.scope.toStdString());
+    authority->setGeneration(wanted.generation);
+    authority->setHasConfiguration(wanted.hasConfiguration);
+    ASSERT_FALSE(ADTokenCache::defaultCache().replaceAllItems({}));
+    opened.clear();
+    Result result;
+    signIn(result);
+    ASSERT_TRUE(waitForBrowser());
+    visit(opened.last());
+    ASSERT_TRUE(waitFor(result));
+
+    ASSERT_EQ(result->status, ADAuthenticationStatus::Succeeded);
+    ASSERT_TRUE(result->tokenCacheItem);
+    EXPECT_EQ(result->tokenCacheItem->userInformation.userId, "alice@example.com");
+    ASSERT_EQ(items().size(), 2);
+    EXPECT_TRUE(items().first().isMultiResourceRefreshToken());
+    EXPECT_EQ(items().last(), *result->tokenCacheItem);
+    EXPECT_FALSE(items().last().isExpired());
+    EXPECT_EQ(storage.writes.last(), ADTokenCache::defaultCache().serialize());
+
+    const QUrlQuery page = authority->pageRequests().last();
+    EXPECT_EQ(asked(page, "login_hint"), "alice+work@example.com");
+    EXPECT_EQ(asked(page, "prompt"), "login");
+    for (const QUrlQuery& request : {page, authority->tokenRequests().last()}) {
+      EXPECT_EQ(asked(request, "resource"), wanted.resource);
+      EXPECT_EQ(asked(request, "scope"), wanted.scope);
+    }
+    const QUrl redirect(asked(page, "redirect_uri"));
+    EXPECT_EQ(redirect.path(), "/done");
+    EXPECT_GT(redirect.port(), 1023);
+    states.insert(asked(page, "state"));
+    states.insert(asked(authority->tokenRequests().last(), "code_verifier"));
+  }
+  EXPECT_EQ(states.size(), 2 * std::size(cases)) << "states and verifiers must be fresh for every request";
+}
+
+TEST_F(ADSignInTest, TakesTheFirstClaimThatNamesTheUser) {
+  QJsonObject claims{{"sub", "subject"},
+                     {"email", "email@example.com"},
+                     {"unique_name", "unique@example.com"},
+                     {"preferred_username", "preferred@example.com"},
+                     {"upn", "upn@example.com"}};
+  for (const char* claim : {"upn", "preferred_username", "unique_name", "email", "sub"}) {
+    authority->setUserClaims(claims);
+    Result result;
+    signIn(result);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !opened.isEmpty(); }));
+    visit(opened.takeFirst());
+    ASSERT_TRUE(waitFor(result));
+    ASSERT_TRUE(result->tokenCacheItem) << claim;
+    EXPECT_EQ(result->tokenCacheItem->userInformation.userId, claims.value(QLatin1String(claim)).toString());
+    claims.remove(QLatin1String(claim));
+  }
+}
+
+TEST_F(ADSignInTest, LocalhostGetsAPortToo) {
+  Result result;
+  signIn(result, QUrl("http://localhost"));
+  ASSERT_TRUE(waitForBrowser());
+  EXPECT_EQ(redirectOf(opened.first()).host(), "localhost");
+  visit(opened.first());
+  ASSERT_TRUE(waitFor(result));
+  EXPECT_EQ(result->status, ADAuthenticationStatus::Succeeded);
+}
+
+TEST_F(ADSignInTest, SameRequestWhileOneWaitsOpensNoSecondBrowser) {
+  Result first;
+  Result second;
+  signIn(first);
+  ASSERT_TRUE(waitForBrowser());
+  ADError error;
+  auto other =
+      ADAuthenticationContext::initWithAuthority(authority->address(), ADAuthorityValidation::Off, error);
+  std::swap(other, context);
+  signIn(second);
+  QTest::qWait(50);
+  EXPECT_EQ(opened.size(), 1);
+  visit(opened.first());
+  ASSERT_TRUE(waitFor(first));
+  ASSERT_TRUE(waitFor(second));
+  EXPECT_EQ(first->tokenCacheItem, second->tokenCacheItem);
+  EXPECT_EQ(authority->tokenRequests().size(), 1);
+
+  Result third;
+  signIn(third);
+  EXPECT_TRUE(waitForBrowser(2)) << "the one before is over";
+}
+
+TEST_F(ADSignInTest, DestroyedContextGivesUpUnanswered) {
+  Result result;
+  signIn(result);
+  ASSERT_TRUE(waitForBrowser());
+  const QUrl redirect = redirectOf(opened.first());
+  context.reset();
+  visit(opened.first());
+  QTest::qWait(50);
+  EXPECT_FALSE(result);
+  EXPECT_FALSE(sendRaw(redirect.host(), redirect.port(), "GET / HTTP/1.1\r\n\r\n"));
+  EXPECT_TRUE(authority->tokenRequests().isEmpty());
+}
+
+TEST_F(ADSignInTest, AuthorityMustBeProtectedOrLocal) {
+  const std::pair<const char*, bool> cases[] = {
+      {"https://login.example.com/common", true},
+      {"http://127.0.0.1:80/x", true},
+      {"http://localhost/x", true},
+      {"http://[::1]:8080/x", true},
+      {"http://login.example.com/common", false},
+      {"http://127.0.0.1.example.com/", false},
+      {"https://user:pw@example.com/", false},
+      {"ftp://127.0.0.1/", false},
+      {"login.example.com", false},
+      {"https://", false},
+      {"", false},
+  };
+  for (const auto& [address, isAllowed] : cases) {
+    ADError error;
+    const auto made =
+        ADAuthenticationContext::initWithAuthority(QLatin1String(address), ADAuthorityValidation::Off, error);
+    EXPECT_EQ(made != nullptr, isAllowed) << address;
+    EXPECT_EQ(error.code == ADErrorCode::AddressNotAllowed, !isAllowed) << address;
+  }
+}
+
+TEST_F(ADSignInTest, LogsNoSecretEvenWithPersonalData) {
+  Result signedIn;
+  signIn(signedIn);
+  ASSERT_TRUE(waitForBrowser());
+  visit(opened.first());
+  ASSERT_TRUE(waitFor(signedIn));
+  const QString oldRefreshToken = items().first().refreshToken;
+  Result refreshed;
+  refresh(refreshed, oldRefreshToken);
+  ASSERT_TRUE(waitFor(refreshed));
+  Result failed;
+  refresh(failed, oldRefreshToken);
+  ASSERT_TRUE(waitFor(failed));
+
+  const QString log = logged.join('\n');
+  EXPECT_TRUE(log.contains("alice+work@example.com")) << "personal data is on, or this test sees nothing";
+  QStringList secrets{oldRefreshToken, items().first().refreshToken, signedIn->tokenCacheItem->accessToken,
+                      refreshed->tokenCacheItem->accessToken, queryValue(opened.first(), "state")};
+  for (const QUrlQuery& request : authority->tokenRequests()) {
+    for (const char* name : {"code", "code_verifier", "refresh_token"}) secrets.append(asked(request, name));
+  }
+  secrets.removeAll(QString());
+  EXPECT_GE(secrets.size(), 9);
+  for (const QString& secret : secrets) EXPECT_FALSE(log.contains(secret)) << secret.toStdString();
+}
+
+}  // namespace
