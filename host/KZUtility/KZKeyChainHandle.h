@@ -29,18 +29,22 @@ class KZ_HOST_EXPORT KZKeychainBackend {
   [[nodiscard]] virtual Status remove(const Item& item) = 0;
 };
 
-// The host's keychain. Secrets go to the platform's keychain; while it is missing, locked or silent they live in
-// memory for this run, with one warning trace. Never in a file. Any thread.
+// The host's keychain. Secrets go to the platform's keychain. Once that proves missing, locked or silent,
+// they live in memory until the run ends, with one warning trace, also when the keychain comes back: what it
+// holds then stays as it was, and what this run had read from it before is still known. Never in a file. Any
+// thread.
 class KZ_HOST_EXPORT KZKeyChainHandle {
  public:
   enum class Storage { Memory, System };
 
   static KZKeyChainHandle& sharedInstance();
 
-  // Memory until the host says otherwise. Choosing again forgets what was in memory.
+  // Memory until the host says otherwise. Choosing again forgets what was in memory, and asks the keychain
+  // anew.
   void useStorage(Storage storage);
+  void useBackend(std::shared_ptr<KZKeychainBackend> backend);  // another keychain than these two
 
-  // The saved on-premise credential; each text is null when absent.
+  // The saved on-premise credential; each text is null when absent. Committing two missing texts removes it.
   void getOutlookUsername(QString* username, QString* password);
   void commitOutlookUsername(const QString& username, const QString& password);
   void removeOutlookCredential();

@@ -9,16 +9,17 @@
 
 class PropertyListFile;
 
-// The host's settings store: an XML property list, read once and written atomically at every change. A value that
-// cannot be written stays in memory for this run, with an error trace; a file that cannot be read is never
-// overwritten. Keys that nobody here knows survive. Main thread only.
+// The host's settings store: an XML property list, read once and written atomically at every change. A value
+// that cannot be written stays in memory for this run, with an error trace; a file that cannot be read is
+// never overwritten. Keys that nobody here knows survive. Main thread only.
 class KZ_HOST_EXPORT KZPlistFileHandle : public QObject {
   Q_OBJECT
 
  public:
   static KZPlistFileHandle& sharedInstance();
 
-  // Reads the store in that folder, which is made when missing. Before the first call the store is in memory only.
+  // Reads the store in that folder, which is made when missing. Before the first call the store is in memory
+  // only.
   void open(const QString& folder);
   // Forgets everything and is in memory only again; the file stays.
   void close();

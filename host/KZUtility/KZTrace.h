@@ -11,9 +11,9 @@
 #include "host/KZFoundation/Dictionary.h"
 #include "host/KZFoundation/KZHostExport.h"
 
-// The trace. Formats know %@ (a text, dictionary, object or value), %d (a number or flag) and %s (a C string); they
-// are checked against their arguments when they are compiled. Values under keys that hold secrets print as "***".
-// Any thread.
+// The trace. Formats know %@ (a text, dictionary, object or value), %d (a number or flag) and %s (a C
+// string); they are checked against their arguments when they are compiled. Values under keys that hold
+// secrets print as "***". Any thread.
 
 enum class KZTraceLevel { Info, Warning, Error };
 
@@ -29,6 +29,13 @@ using KZTraceSink = std::function<void(const KZTraceRecord&)>;
 // Where records go from now on; an empty function restores the default, one line a record on standard error.
 KZ_HOST_EXPORT void setKZTraceSink(KZTraceSink sink);
 
+// Records go nowhere, and nothing is formatted, until a sink is set again.
+KZ_HOST_EXPORT void muteKZTrace();
+
+// The dictionary as the trace would show it: secrets replaced by "***", also in lists, in inner dictionaries
+// and in texts that hold JSON. For hosts that show contents.
+KZ_HOST_EXPORT Dictionary kzMaskSecrets(const Dictionary& dictionary);
+
 namespace kztrace {
 
 class KZ_HOST_EXPORT Argument {
@@ -41,8 +48,8 @@ class KZ_HOST_EXPORT Argument {
   Argument(bool flag) : m_value(flag ? 1 : 0) {}
   Argument(std::integral auto number) : m_value(static_cast<qlonglong>(number)) {}
   template <typename T>
-    requires(!std::same_as<std::remove_cv_t<T>, char>)
-  Argument(const T* object) : m_value(objectText(object)) {}
+  requires(!std::same_as<std::remove_cv_t<T>, char>) Argument(const T* object)
+      : m_value(objectText(object)) {}
 
   const QVariant& value() const { return m_value; }
 
@@ -84,30 +91,35 @@ class Format {
 template <typename... Arguments>
 using FormatFor = Format<std::type_identity_t<Arguments>...>;
 
+KZ_HOST_EXPORT bool isHeard();
+
 KZ_HOST_EXPORT void write(KZTraceLevel level, const char* module, const char* method, const char* format,
                           const std::vector<Argument>& arguments);
 
 }  // namespace kztrace
 
-// "Class::method" of a Q_FUNC_INFO text.
+// "Class::method" of a Q_FUNC_INFO text; for a lambda, the method that holds it.
 KZ_HOST_EXPORT QString kzMethodName(const char* functionInfo);
 
 // The method form: module, Q_FUNC_INFO, format, arguments.
 template <typename... Arguments>
 void MVRNSInfoFuncTraceIMPL(const char* module, const char* method, kztrace::FormatFor<Arguments...> format,
                             const Arguments&... arguments) {
+  if (!kztrace::isHeard()) return;
   kztrace::write(KZTraceLevel::Info, module, method, format.text(), {kztrace::Argument(arguments)...});
 }
 
 template <typename... Arguments>
-void MVRNSWarningFuncTraceIMPL(const char* module, const char* method, kztrace::FormatFor<Arguments...> format,
-                               const Arguments&... arguments) {
+void MVRNSWarningFuncTraceIMPL(const char* module, const char* method,
+                               kztrace::FormatFor<Arguments...> format, const Arguments&... arguments) {
+  if (!kztrace::isHeard()) return;
   kztrace::write(KZTraceLevel::Warning, module, method, format.text(), {kztrace::Argument(arguments)...});
 }
 
 template <typename... Arguments>
 void MVRNSErrorFuncTraceIMPL(const char* module, const char* method, kztrace::FormatFor<Arguments...> format,
                              const Arguments&... arguments) {
+  if (!kztrace::isHeard()) return;
   kztrace::write(KZTraceLevel::Error, module, method, format.text(), {kztrace::Argument(arguments)...});
 }
 
@@ -115,6 +127,7 @@ void MVRNSErrorFuncTraceIMPL(const char* module, const char* method, kztrace::Fo
 template <typename... Arguments>
 void MVRNSInfoTraceIMPL(const char* module, kztrace::FormatFor<const char*, Arguments...> format,
                         const char* method, const Arguments&... arguments) {
+  if (!kztrace::isHeard()) return;
   kztrace::write(KZTraceLevel::Info, module, method, format.text(),
                  {kztrace::Argument(kzMethodName(method)), kztrace::Argument(arguments)...});
 }
@@ -122,6 +135,7 @@ void MVRNSInfoTraceIMPL(const char* module, kztrace::FormatFor<const char*, Argu
 template <typename... Arguments>
 void MVRNSWarningTraceIMPL(const char* module, kztrace::FormatFor<const char*, Arguments...> format,
                            const char* method, const Arguments&... arguments) {
+  if (!kztrace::isHeard()) return;
   kztrace::write(KZTraceLevel::Warning, module, method, format.text(),
                  {kztrace::Argument(kzMethodName(method)), kztrace::Argument(arguments)...});
 }

@@ -1,0 +1,73 @@
+#include "host/KZUtility/AtomicFile.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <cerrno>
+#include <cstdlib>
+
+namespace {
+
+constexpr qint64 kAbandonedAfterSeconds = 60;
+
+class Descriptor final {
+ public:
+  explicit Descriptor(int descriptor) : m_descriptor(descriptor) {}
+  ~Descriptor() {
+    if (m_descriptor >= 0) ::close(m_descriptor);
+  }
+  Q_DISABLE_COPY_MOVE(Descriptor)
+
+  int get() const { return m_descriptor; }
+  bool isOpen() const { return m_descriptor >= 0; }
+
+ private:
+  int m_descriptor;
+};
+
+bool writeAll(int descriptor, QByteArrayView bytes) {
+  while (!bytes.isEmpty()) {
+    const ssize_t written = ::write(descriptor, bytes.data(), static_cast<std::size_t>(bytes.size()));
+    if (written < 0 && errno == EINTR) continue;
+    if (written < 0) return false;
+    bytes = bytes.sliced(written);
+  }
+  return true;
+}
+
+QString temporaryPrefix(const QString& name) {
+  return u'.' + name + u'.';
+}
+
+}  // namespace
+
+QString replaceFile(const QString& folder, const QString& name, const QByteArray& bytes) {
+  QByteArray temporary = QFile::encodeName(QDir(folder).filePath(temporaryPrefix(name))) + "XXXXXX";
+  const Descriptor file(::mkostemp(temporary.data(), O_CLOEXEC));
+  if (!file.isOpen()) return qt_error_string(errno);
+  const QByteArray target = QFile::encodeName(QDir(folder).filePath(name));
+  const bool isReplaced = writeAll(file.get(), bytes) && ::fsync(file.get()) == 0 &&
+                          ::rename(temporary.constData(), target.constData()) == 0;
+  if (!isReplaced) {
+    const QString reason = qt_error_string(errno);
+    ::unlink(temporary.constData());
+    return reason;
+  }
+  // The new name is what must last, too. Some file systems cannot sync a folder; the file is in place all the
+  // same.
+  const Descriptor place(::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (place.isOpen()) (void)::fsync(place.get());
+  return {};
+}
+
+void removeAbandonedFiles(const QString& folder, const QString& name) {
+  const QFileInfoList files = QDir(folder).entryInfoList({temporaryPrefix(name) + QStringLiteral("??????")},
+                                                         QDir::Files | QDir::Hidden | QDir::NoSymLinks);
+  const QDateTime limit = QDateTime::currentDateTimeUtc().addSecs(-kAbandonedAfterSeconds);
+  for (const QFileInfo& file : files) {
+    if (file.lastModified() < limit) QFile::remove(file.filePath());
+  }
+}

@@ -1,0 +1,6 @@
+#include "host/KZUtility/KZApplicationHelper.h"
+
+KZApplicationHelper& KZApplicationHelper::sharedInstance() {
+  static KZApplicationHelper helper;
+  return helper;
+}

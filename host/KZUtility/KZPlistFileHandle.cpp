@@ -1,0 +1,144 @@
+#include "host/KZUtility/KZPlistFileHandle.h"
+
+#include <algorithm>
+
+#include "host/KZFoundation/KZConstants.h"
+#include "host/KZUtility/PropertyListFile.h"
+
+namespace {
+
+const QString kPreferenceInfo = QStringLiteral("preferenceInfo");
+const QString kMeetingNotification = QStringLiteral("meetingNotification");
+const QString kVideoDevice = QStringLiteral("videoDevice");
+const QString kCalendarIntegration = QStringLiteral("calendarIntegration");
+const QString kSiteName = QStringLiteral("siteName");
+const QString kCdnUrl = QStringLiteral("cdnUrl");
+const QString kUserName = QStringLiteral("userName");
+const QString kDisplayName = QStringLiteral("displayName");
+
+// Stricter than QVariant's own comparison, which finds true equal to 1, also inside.
+bool isSameValue(const QVariant& left, const QVariant& right) {
+  if (left.metaType() != right.metaType()) return false;
+  if (left.metaType() == QMetaType::fromType<Dictionary>()) {
+    const Dictionary one = left.toMap();
+    const Dictionary other = right.toMap();
+    return one.keys() == other.keys() && std::equal(one.begin(), one.end(), other.begin(), isSameValue);
+  }
+  if (left.metaType() == QMetaType::fromType<QVariantList>()) {
+    const QVariantList one = left.toList();
+    const QVariantList other = right.toList();
+    return std::ranges::equal(one, other, isSameValue);
+  }
+  return left == right;
+}
+
+}  // namespace
+
+KZPlistFileHandle& KZPlistFileHandle::sharedInstance() {
+  // Never destroyed: objects that outlive the application still read it.
+  static KZPlistFileHandle* const handle = new KZPlistFileHandle;
+  return *handle;
+}
+
+KZPlistFileHandle::KZPlistFileHandle() = default;
+KZPlistFileHandle::~KZPlistFileHandle() = default;
+
+void KZPlistFileHandle::open(const QString& folder) {
+  m_file = std::make_unique<PropertyListFile>(folder);
+  m_values = m_file->read();
+}
+
+void KZPlistFileHandle::close() {
+  m_file.reset();
+  m_values.clear();
+}
+
+QString KZPlistFileHandle::filePath() const {
+  return m_file ? m_file->path() : QString();
+}
+
+bool KZPlistFileHandle::isPlistKeyExist(const QString& key) const {
+  return m_values.contains(key);
+}
+
+QVariant KZPlistFileHandle::value(const QString& key) const {
+  return m_values.value(key);
+}
+
+void KZPlistFileHandle::setValue(const QString& key, const QVariant& value) {
+  const QVariant before = m_values.value(key);
+  const QVariant after = isMissing(value) ? QVariant() : value;
+  const bool isChanged = !isSameValue(before, after);
+  if (isChanged && after.isValid()) m_values.insert(key, after);
+  if (isChanged && !after.isValid()) m_values.remove(key);
+  if (m_file) {
+    if (isChanged) m_file->set(key, after);
+    m_file->flush();
+  }
+  if (isChanged) Q_EMIT valueChanged(key, before, after);
+}
+
+Dictionary KZPlistFileHandle::preferenceInfo() const {
+  return dictionaryValue(m_values, kPreferenceInfo);
+}
+Dictionary KZPlistFileHandle::meetingNotification() const {
+  return dictionaryValue(m_values, kMeetingNotification);
+}
+Dictionary KZPlistFileHandle::videoDevice() const {
+  return dictionaryValue(m_values, kVideoDevice);
+}
+Dictionary KZPlistFileHandle::calendarIntegration() const {
+  return dictionaryValue(m_values, kCalendarIntegration);
+}
+
+void KZPlistFileHandle::setPreferenceInfo(const Dictionary& info) {
+  setValue(kPreferenceInfo, info);
+}
+void KZPlistFileHandle::setMeetingNotification(const Dictionary& settings) {
+  setValue(kMeetingNotification, settings);
+}
+void KZPlistFileHandle::setVideoDevice(const Dictionary& settings) {
+  setValue(kVideoDevice, settings);
+}
+void KZPlistFileHandle::setCalendarIntegration(const Dictionary& settings) {
+  setValue(kCalendarIntegration, settings);
+}
+
+QString KZPlistFileHandle::siteName() const {
+  return textValue(m_values, kSiteName);
+}
+QString KZPlistFileHandle::cdnUrl() const {
+  return textValue(m_values, kCdnUrl);
+}
+QString KZPlistFileHandle::userName() const {
+  return textValue(m_values, kUserName);
+}
+QString KZPlistFileHandle::displayName() const {
+  return textValue(m_values, kDisplayName);
+}
+
+void KZPlistFileHandle::setSiteName(const QString& name) {
+  setValue(kSiteName, name);
+}
+void KZPlistFileHandle::setCdnUrl(const QString& url) {
+  setValue(kCdnUrl, url);
+}
+void KZPlistFileHandle::setUserName(const QString& name) {
+  setValue(kUserName, name);
+}
+void KZPlistFileHandle::setDisplayName(const QString& name) {
+  setValue(kDisplayName, name);
+}
+
+bool KZPlistFileHandle::launchAtLogin() const {
+  return isSet(m_values, KZLaunchAtLogin);
+}
+bool KZPlistFileHandle::enableOutlookKZPlugin() const {
+  return isSet(m_values, KZEnableOutlookKZPlugin);
+}
+void KZPlistFileHandle::setLaunchAtLogin(bool isOn) {
+  setValue(KZLaunchAtLogin, isOn);
+}
+void KZPlistFileHandle::setEnableOutlookKZPlugin(bool isOn) {
+  setValue(KZEnableOutlookKZPlugin, isOn);
+}

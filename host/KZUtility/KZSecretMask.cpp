@@ -1,0 +1,96 @@
+#include "host/KZUtility/KZSecretMask.h"
+
+#include <QJsonDocument>
+#include <algorithm>
+
+#include "host/KZUtility/BoundedJson.h"
+#include "host/KZUtility/KZTrace.h"
+
+namespace {
+
+constexpr int kDeepestMasked = 64;
+constexpr QStringView kMask = u"***";
+constexpr QStringView kSecretKeys[] = {u"QRT_CredentialContent", u"code", u"code_verifier", u"client_secret"};
+constexpr QStringView kSecretWords[] = {u"password", u"token"};
+
+bool isSecretKey(QStringView key) {
+  return std::ranges::find(kSecretKeys, key) != std::end(kSecretKeys) ||
+         std::ranges::any_of(kSecretWords,
+                             [&](QStringView word) { return key.contains(word, Qt::CaseInsensitive); });
+}
+
+bool isKeyCharacter(QChar sign) {
+  return sign.isLetterOrNumber() || sign == u'_';
+}
+bool isBetweenKeyAndValue(QChar sign) {
+  return sign.isSpace() || sign == u'"' || sign == u'\'' || sign == u'\\';
+}
+
+// Whether something that reads as a secret's key stands before a colon or an equals sign.
+bool namesSecret(QStringView text) {
+  for (qsizetype at = 0; at < text.size(); ++at) {
+    if (text[at] != u':' && text[at] != u'=') continue;
+    qsizetype end = at;
+    while (end > 0 && isBetweenKeyAndValue(text[end - 1])) --end;
+    qsizetype begin = end;
+    while (begin > 0 && isKeyCharacter(text[begin - 1])) --begin;
+    if (isSecretKey(text.mid(begin, end - begin))) return true;
+  }
+  return false;
+}
+
+QVariant masked(const QVariant& value, int depth);
+
+QVariant maskedText(const QVariant& value, int depth) {
+  const QString text = value.toString();
+  if (!namesSecret(text)) return value;
+  const std::optional<QVariant> json = boundedJsonValue(text);
+  const QJsonDocument document =
+      json ? QJsonDocument::fromVariant(masked(*json, depth + 1)) : QJsonDocument();
+  if (document.isNull()) return kMask.toString();
+  return QString::fromUtf8(document.toJson(QJsonDocument::Compact));
+}
+
+Dictionary maskedDictionary(const Dictionary& dictionary, int depth) {
+  Dictionary result = dictionary;
+  for (auto entry = dictionary.begin(); entry != dictionary.end(); ++entry) {
+    const bool isFlag = entry->metaType() == QMetaType::fromType<bool>();
+    if (isSecretKey(entry.key()) && !isFlag) {
+      result.insert(entry.key(), kMask.toString());
+      continue;
+    }
+    const QVariant inner = masked(*entry, depth + 1);
+    if (inner != *entry) result.insert(entry.key(), inner);
+  }
+  return result;
+}
+
+QVariant masked(const QVariant& value, int depth) {
+  if (depth > kDeepestMasked) return kMask.toString();
+  switch (value.metaType().id()) {
+    case QMetaType::QString:
+      return maskedText(value, depth);
+    case QMetaType::QVariantMap:
+      return maskedDictionary(value.toMap(), depth);
+    case QMetaType::QVariantHash:
+      return maskedDictionary(Dictionary(value.toMap()), depth);
+    case QMetaType::QVariantList:
+    case QMetaType::QStringList: {
+      QVariantList list = value.toList();
+      for (QVariant& item : list) item = masked(item, depth + 1);
+      return list;
+    }
+    default:
+      return value;
+  }
+}
+
+}  // namespace
+
+QVariant kzMaskedValue(const QVariant& value) {
+  return masked(value, 0);
+}
+
+Dictionary kzMaskSecrets(const Dictionary& dictionary) {
+  return maskedDictionary(dictionary, 0);
+}

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <sys/stat.h>
+
+#include <QHash>
+#include <QString>
+#include <QVariant>
+#include <optional>
+
+#include "host/KZFoundation/Dictionary.h"
+#include "host/KZUtility/PropertyListConversion.h"
+
+// One XML property list on the disk, as KZPlistFileHandle promises it. What another process wrote meanwhile
+// is kept, but for the keys that are set here.
+class PropertyListFile final {
+ public:
+  explicit PropertyListFile(const QString& folder);
+
+  QString path() const;
+
+  // Once, before anything is set.
+  Dictionary read();
+
+  // An invalid value removes the key. Nothing is written before `flush`.
+  void set(const QString& key, const QVariant& value);
+  // Writes what is not yet on the disk, that of an earlier, failed attempt too.
+  void flush();
+
+ private:
+  enum class Access { ReadWrite, MemoryOnly };
+  struct Stamp {
+    dev_t device;
+    ino_t inode;
+    off_t size;
+    timespec modified;
+
+    bool operator==(const Stamp& other) const;
+  };
+
+  void makeFolder() const;
+  std::optional<Stamp> stamp() const;
+  // Takes over what is on the disk; sets it aside when it cannot be used.
+  void load();
+  QString loadFrom(int descriptor);
+  void reject(const QString& reason, uid_t owner);
+  [[nodiscard]] bool setAside() const;
+  void applyPending();
+
+  QString m_folder;
+  Access m_access = Access::ReadWrite;
+  // The whole document, so that what nobody here knows is written back as it was.
+  PropertyList m_document;
+  QHash<QString, QVariant> m_pending;
+  std::optional<Stamp> m_seen;
+};

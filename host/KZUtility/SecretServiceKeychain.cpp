@@ -1,0 +1,121 @@
+#include "host/KZUtility/SecretServiceKeychain.h"
+
+#include <condition_variable>
+#include <deque>
+#include <functional>
+#include <mutex>
+#include <thread>
+
+#include "host/KZUtility/SecretServiceCalls.h"
+
+class SecretServiceKeychain::Worker final {
+ public:
+  using Call = std::function<Answer(GCancellable*)>;
+
+  ~Worker() {
+    if (!m_thread.joinable()) return;
+    if (stop()) {
+      m_thread.join();
+    } else {
+      m_thread.detach();
+    }
+  }
+
+  Answer ask(Call call, std::chrono::milliseconds deadline) {
+    const auto task = std::make_shared<Task>();
+    task->call = std::move(call);
+    std::unique_lock lock(m_queue->mutex);
+    m_stopBound = deadline;
+    if (!m_thread.joinable()) m_thread = std::thread([queue = m_queue] { queue->run(); });
+    m_queue->waiting.push_back(task);
+    m_queue->wake.notify_one();
+    if (m_queue->done.wait_for(lock, deadline, [&] { return task->isDone; })) return task->answer;
+    task->isAbandoned = true;
+    lock.unlock();
+    secretservice::cancel(task->cancellable.get());
+    return {.status = Status::Unavailable, .secret = {}};
+  }
+
+ private:
+  struct Task {
+    Call call;
+    secretservice::Cancellable cancellable = secretservice::newCancellable();
+    Answer answer = {.status = Status::Unavailable, .secret = {}};
+    bool isDone = false;
+    bool isAbandoned = false;
+  };
+
+  // Shared by the callers and the thread, so that a thread which never comes back has all that it may still
+  // touch.
+  struct Queue {
+    std::mutex mutex;
+    std::condition_variable wake;
+    std::condition_variable done;
+    std::deque<std::shared_ptr<Task>> waiting;
+    std::shared_ptr<Task> current;
+    bool isStopping = false;
+    bool isStopped = false;
+
+    void run() {
+      secretservice::OwnContext context;
+      std::unique_lock lock(mutex);
+      for (;;) {
+        wake.wait(lock, [this] { return isStopping || !waiting.empty(); });
+        if (isStopping) break;
+        current = std::move(waiting.front());
+        waiting.pop_front();
+        if (current->isAbandoned) continue;
+        lock.unlock();
+        Answer answer = current->call(current->cancellable.get());
+        context.dispatch();
+        lock.lock();
+        current->answer = std::move(answer);
+        current->isDone = true;
+        current.reset();
+        done.notify_all();
+      }
+      isStopped = true;
+      done.notify_all();
+    }
+  };
+
+  bool stop() {
+    std::unique_lock lock(m_queue->mutex);
+    m_queue->isStopping = true;
+    m_queue->wake.notify_one();
+    if (const auto current = m_queue->current) {
+      lock.unlock();
+      secretservice::cancel(current->cancellable.get());
+      lock.lock();
+    }
+    return m_queue->done.wait_for(lock, m_stopBound, [this] { return m_queue->isStopped; });
+  }
+
+  const std::shared_ptr<Queue> m_queue = std::make_shared<Queue>();
+  std::chrono::milliseconds m_stopBound{};
+  std::thread m_thread;
+};
+
+SecretServiceKeychain::SecretServiceKeychain(std::chrono::milliseconds deadline)
+    : m_deadline(deadline), m_worker(std::make_shared<Worker>()) {}
+
+SecretServiceKeychain::~SecretServiceKeychain() = default;
+
+KZKeychainBackend::Answer SecretServiceKeychain::read(const Item& item) {
+  return m_worker->ask([item](GCancellable* cancellable) { return secretservice::read(item, cancellable); },
+                       m_deadline);
+}
+
+KZKeychainBackend::Status SecretServiceKeychain::write(const Item& item, const QByteArray& secret) {
+  const auto call = [item, secret](GCancellable* cancellable) {
+    return Answer{.status = secretservice::write(item, secret, cancellable), .secret = {}};
+  };
+  return m_worker->ask(call, m_deadline).status;
+}
+
+KZKeychainBackend::Status SecretServiceKeychain::remove(const Item& item) {
+  const auto call = [item](GCancellable* cancellable) {
+    return Answer{.status = secretservice::remove(item, cancellable), .secret = {}};
+  };
+  return m_worker->ask(call, m_deadline).status;
+}

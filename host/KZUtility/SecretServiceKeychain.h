@@ -1,0 +1,26 @@
+#pragma once
+
+#include <chrono>
+#include <memory>
+
+#include "host/KZUtility/KZKeyChainHandle.h"
+
+// The desktop's Secret Service. Every call is made on one worker thread and given up at the deadline,
+// whatever the service does; nothing is ever prompted for: a locked or missing default collection is
+// unavailable. Any thread.
+class KZ_HOST_EXPORT SecretServiceKeychain final : public KZKeychainBackend {
+ public:
+  explicit SecretServiceKeychain(std::chrono::milliseconds deadline = std::chrono::seconds(1));
+  // Waits for a call in progress, at most one deadline more.
+  ~SecretServiceKeychain() override;
+
+  [[nodiscard]] Answer read(const Item& item) override;
+  [[nodiscard]] Status write(const Item& item, const QByteArray& secret) override;
+  [[nodiscard]] Status remove(const Item& item) override;
+
+ private:
+  class Worker;
+
+  const std::chrono::milliseconds m_deadline;
+  const std::shared_ptr<Worker> m_worker;
+};
