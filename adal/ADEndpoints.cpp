@@ -9,8 +9,10 @@
 
 namespace {
 
-constexpr ADProtocolGeneration resourceGeneration{"resource", "openid"};
-constexpr ADProtocolGeneration scopeGeneration{"scope", "openid profile email offline_access"};
+constexpr ADProtocolGeneration resourceGeneration{"resource", "openid", "login"};
+// A refresh token that is asked for by scope is only given where consent is asked for, too.
+constexpr ADProtocolGeneration scopeGeneration{"scope", "openid profile email offline_access",
+                                               "login consent"};
 
 QUrl pathBelow(const QString& authority, const char* path) {
   const QString root = authority.endsWith(QLatin1Char('/')) ? authority.chopped(1) : authority;
@@ -61,29 +63,24 @@ ADParameters ADEndpoints::resourceParameters(const QString& resource) const {
 
 ADParameters ADEndpoints::promptParameters(ADPromptBehavior behavior) const {
   if (behavior == ADPromptBehavior::Auto) return {};
-  // Where consent can be asked for beside the sign-in it must be, or there is no refresh token.
-  const bool asksConsent = knownPrompts.contains(QLatin1String("consent"));
-  return {
-      {QStringLiteral("prompt"), asksConsent ? QStringLiteral("login consent") : QStringLiteral("login")}};
+  return {{QStringLiteral("prompt"), QString::fromLatin1(generation->alwaysPrompt)}};
 }
 
 ADEndpointsOrError endpointsFromAnswer(const QString& authority, const ADWebAnswer& answer) {
   if (answer.error) return {{}, answer.error};
   const QJsonDocument document = QJsonDocument::fromJson(answer.body);
   if (answer.status != 200 || !document.isObject()) {
-    return {{pathBelow(authority, "/oauth2/authorize"),
-             pathBelow(authority, "/oauth2/token"),
-             &generationOf(authority, {}),
-             {},
-             {}},
-            {}};
+    const ADEndpoints usual{pathBelow(authority, "/oauth2/authorize"),
+                            pathBelow(authority, "/oauth2/token"),
+                            &generationOf(authority, {}),
+                            {}};
+    return {usual, {}};
   }
   const QJsonObject configuration = document.object();
   const QStringList scopes = textsUnder(configuration, "scopes_supported");
   const ADEndpoints endpoints{QUrl(configuration.value(QLatin1String("authorization_endpoint")).toString()),
                               QUrl(configuration.value(QLatin1String("token_endpoint")).toString()),
-                              &generationOf(authority, scopes), scopes,
-                              textsUnder(configuration, "prompt_values_supported")};
+                              &generationOf(authority, scopes), scopes};
   if (!isAllowedAddress(endpoints.authorization) || !isAllowedAddress(endpoints.token)) {
     return {{}, ADError{ADErrorCode::AddressNotAllowed, QStringLiteral("in the authority's configuration")}};
   }

@@ -16,6 +16,7 @@ struct ADWebAnswer;
 struct ADProtocolGeneration {
   const char* resourceParameter;  // the parameter that names the resource
   const char* scopes;             // always asked for, as far as the authority knows them
+  const char* alwaysPrompt;       // shows the sign-in page in any case, and still gets a refresh token
 };
 
 // Where an authority is asked, and what it understands.
@@ -23,8 +24,7 @@ struct ADEndpoints {
   QUrl authorization;
   QUrl token;
   const ADProtocolGeneration* generation = nullptr;
-  QStringList knownScopes;   // empty: not known
-  QStringList knownPrompts;  // empty: not known
+  QStringList knownScopes;  // empty: not known
 
   // "resource" and "scope", as the generation has them.
   ADParameters resourceParameters(const QString& resource) const;

@@ -18,6 +18,8 @@ QString errorName(ADErrorCode code) {
       return QStringLiteral("bad answer");
     case ADErrorCode::InvalidGrant:
       return QStringLiteral("invalid grant");
+    case ADErrorCode::InvalidScope:
+      return QStringLiteral("invalid scope");
     case ADErrorCode::Refused:
       return QStringLiteral("refused");
     case ADErrorCode::UserCancelled:

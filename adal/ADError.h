@@ -12,6 +12,7 @@ enum class ADErrorCode {
   Network,            // refused, broken, too slow
   ServerAnswer,       // the authority answered something that is no answer
   InvalidGrant,       // the code or refresh token is not accepted any more
+  InvalidScope,       // the grant does not reach as far as what was asked for
   Refused,            // the authority said no: access_denied and its relatives
   UserCancelled,
   TimedOut,  // the browser never came back

@@ -43,6 +43,7 @@ void ADRefresh::redeem(const QString& refreshToken) {
                     {QStringLiteral("refresh_token"), refreshToken},
                     {QStringLiteral("client_id"), m_request.clientId}};
   form += m_endpoints.resourceParameters(m_request.resource);
+  if (!m_namesScopes) form.removeIf([](const auto& field) { return field.first == QLatin1String("scope"); });
   m_web.post(m_endpoints.token, form, [this](const ADWebAnswer& answer) {
     onAnswer(tokenAnswer(answer, m_request.clientId, ADAuthenticationSettings::sharedInstance().now()));
   });
@@ -53,8 +54,15 @@ void ADRefresh::onAnswer(const ADTokenAnswerOrError& answer) {
     store(answer.answer);
     return;
   }
+  // An authority that granted less than was asked for takes no more now: without scopes it gives what it
+  // granted.
+  if (answer.error->code == ADErrorCode::InvalidScope && std::exchange(m_namesScopes, false)) {
+    redeem(m_holder ? m_holder->refreshToken : m_request.refreshToken);
+    return;
+  }
   // Another process may have redeemed this token meanwhile and stored what came of it.
-  const bool mayRetry = answer.error->code == ADErrorCode::InvalidGrant && !std::exchange(m_hasRetried, true);
+  const bool mayRetry =
+      answer.error->code == ADErrorCode::InvalidGrant && !std::exchange(m_hasTriedSuccessor, true);
   const std::optional<ADTokenCacheItem> newer = mayRetry ? successor() : std::nullopt;
   if (!newer) {
     finish(ADAuthenticationResult::failed(*answer.error));
@@ -91,8 +99,10 @@ void ADRefresh::store(const ADTokenAnswer& answer) {
     items.first().refreshToken = answer.refreshToken;
   }
   if (!userId.isEmpty()) storeItems(items);
-  ADLogger::log(ADLogLevel::Info, QStringLiteral("refresh: succeeded, with a new refresh token: %1")
-                                      .arg(answer.refreshToken.isEmpty() ? 0 : 1));
+  ADLogger::log(ADLogLevel::Info,
+                answer.refreshToken.isEmpty()
+                    ? QStringLiteral("refresh: succeeded")
+                    : QStringLiteral("refresh: succeeded and stored the next refresh token"));
   finish(ADAuthenticationResult::succeeded(access));
 }
 

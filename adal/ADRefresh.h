@@ -36,5 +36,6 @@ class ADRefresh final : public QObject {
   ADWebClient m_web;
   ADEndpoints m_endpoints;
   std::optional<ADTokenCacheItem> m_holder;  // the stored item whose refresh token is being redeemed
-  bool m_hasRetried = false;
+  bool m_namesScopes = true;
+  bool m_hasTriedSuccessor = false;
 };

@@ -21,10 +21,11 @@ ADTokenAnswerOrError tokenFailure(ADErrorCode code, const QString& details) {
 // Only names from the standards are repeated: an authority could put anything there, a secret too.
 ADTokenAnswerOrError refusal(int status, const QString& name) {
   if (name == QLatin1String("invalid_grant")) return tokenFailure(ADErrorCode::InvalidGrant, {});
-  static constexpr std::array known{"invalid_request",        "invalid_client",         "unauthorized_client",
-                                    "unsupported_grant_type", "invalid_scope",          "invalid_target",
-                                    "interaction_required",   "login_required",         "consent_required",
-                                    "access_denied",          "temporarily_unavailable"};
+  if (name == QLatin1String("invalid_scope")) return tokenFailure(ADErrorCode::InvalidScope, {});
+  static constexpr std::array known{"invalid_request",        "invalid_client",   "unauthorized_client",
+                                    "unsupported_grant_type", "invalid_target",   "interaction_required",
+                                    "login_required",         "consent_required", "access_denied",
+                                    "temporarily_unavailable"};
   const bool isKnown =
       std::any_of(known.begin(), known.end(), [&](const char* text) { return name == QLatin1String(text); });
   if (isKnown) return tokenFailure(ADErrorCode::Refused, name);

@@ -19,11 +19,13 @@ TEST_F(ADSignInTest, RunsWholeWithEitherGenerationAndWithoutConfiguration) {
     bool hasConfiguration;
     QString resource;
     QString scope;
+    QString prompt;
   };
   const Case cases[] = {
-      {Authority::Generation::Resource, true, "https://mail.example.com", "openid"},
-      {Authority::Generation::Resource, false, "https://mail.example.com", "openid"},
-      {Authority::Generation::Scope, true, "", "openid offline_access https://mail.example.com/.default"},
+      {Authority::Generation::Resource, true, "https://mail.example.com", "openid", "login"},
+      {Authority::Generation::Resource, false, "https://mail.example.com", "openid", "login"},
+      {Authority::Generation::Scope, true, "", "openid offline_access https://mail.example.com/.default",
+       "login consent"},
   };
   QSet<QString> states;
   for (const Case& wanted : cases) {
@@ -49,7 +51,7 @@ TEST_F(ADSignInTest, RunsWholeWithEitherGenerationAndWithoutConfiguration) {
 
     const QUrlQuery page = authority->pageRequests().last();
     EXPECT_EQ(asked(page, "login_hint"), "alice+work@example.com");
-    EXPECT_EQ(asked(page, "prompt"), "login");
+    EXPECT_EQ(asked(page, "prompt"), wanted.prompt);
     for (const QUrlQuery& request : {page, authority->tokenRequests().last()}) {
       EXPECT_EQ(asked(request, "resource"), wanted.resource);
       EXPECT_EQ(asked(request, "scope"), wanted.scope);
