@@ -134,9 +134,14 @@ class KeyViewLink final : public QObject {
   }
 };
 
+// Giving a style is dear, and a group brings parts that have it already.
+void giveStyle(QWidget* view) {
+  if (view->style() != lookStyle()) view->setStyle(lookStyle());
+}
+
 void dressInStyle(QWidget* view) {
-  view->setStyle(lookStyle());
-  for (QWidget* part : view->findChildren<QWidget*>()) part->setStyle(lookStyle());
+  giveStyle(view);
+  for (QWidget* part : view->findChildren<QWidget*>()) giveStyle(part);
 }
 
 }  // namespace

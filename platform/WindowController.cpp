@@ -20,6 +20,7 @@ void WindowController::setWindow(Window* window) {
 
 void WindowController::showWindow() {
   if (!m_window) return;
+  m_window->setWindowState(m_window->windowState() & ~Qt::WindowMinimized);
   m_window->show();
   m_window->raise();
   m_window->activateWindow();
