@@ -10,6 +10,7 @@
 #include "companion/app/Border.h"
 #include "companion/app/CompanionWindow.h"
 #include "companion/app/DemoTour.h"
+#include "companion/runtime/CommandLine.h"
 #include "companion/runtime/PluginLocation.h"
 #include "companion/runtime/QtMessages.h"
 #include "host/KZUtility/KZKeyChainHandle.h"
@@ -46,14 +47,7 @@ bool hasDisplay() {
   return QGuiApplication::platformName() != "offscreen";
 }
 
-bool wantsDemo(int argc, char** argv) {
-  for (int place = 1; place < argc; ++place) {
-    if (qstrcmp(argv[place], "--demo") == 0) return true;
-  }
-  return false;
-}
-
-bool readOptions(CompanionOptions* options) {
+bool readOptions(const QStringList& arguments, CompanionOptions* options) {
   QCommandLineParser parser;
   parser.setApplicationDescription(
       "A small meeting application that shows the preferences plug-in at work.\n"
@@ -67,7 +61,7 @@ bool readOptions(CompanionOptions* options) {
        {"state", "Where the settings live.", "DIR"},
        {"guest", "Start as a guest."},
        {"plugin", "The plug-in to load.", "FILE", defaultPluginPath()}});
-  parser.process(*QCoreApplication::instance());
+  parser.process(arguments);
   if (!applyAppearance(parser.value("appearance"))) {
     complain(QStringLiteral("there is no appearance %1").arg(parser.value("appearance")));
     return false;
@@ -125,13 +119,15 @@ int runCompanion(const CompanionOptions& options) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (wantsDemo(argc, argv)) qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QStringList arguments = argumentsOf(argc, argv);
+  if (arguments.contains("--demo")) qputenv("QT_QPA_PLATFORM", "offscreen");
   choosePlatform();
   installQtMessageFilter();
-  QApplication application(argc, argv);
+  int onlyName = 1;
+  QApplication application(onlyName, argv);
   QApplication::setApplicationName("companion");
   QApplication::setQuitOnLastWindowClosed(false);
   CompanionOptions options;
-  if (!readOptions(&options)) return kUnusable;
+  if (!readOptions(arguments, &options)) return kUnusable;
   return runCompanion(options);
 }

@@ -7,6 +7,7 @@
 
 #include "companion/bench/MemoryUse.h"
 #include "companion/bench/WindowBench.h"
+#include "companion/runtime/CommandLine.h"
 #include "companion/runtime/PluginLocation.h"
 #include "companion/runtime/QtMessages.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
@@ -74,7 +75,8 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
   }
   installQtMessageFilter();
-  QApplication application(argc, argv);
+  int onlyName = 1;
+  QApplication application(onlyName, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   const auto toolkitReady = FrameWatch::Clock::now();
 
@@ -94,7 +96,7 @@ int main(int argc, char** argv) {
   parser.addOptions({{"window", "Measure the window."},
                      {"fade", "With the cross-fade."},
                      {"plugin", "The plug-in to load.", "FILE", defaultPluginPath()}});
-  parser.process(application);
+  parser.process(argumentsOf(argc, argv));
   if (!parser.isSet("window")) {
     std::fprintf(stderr, "prefs-bench: say --window\n");
     return kUnusable;

@@ -19,7 +19,7 @@ bool PluginHost::load(const QString& path) {
   m_loader.setLoadHints(m_loader.loadHints() | QLibrary::ResolveAllSymbolsHint);
   QObject* root = m_loader.instance();
   if (!root) {
-    m_errorText = m_loader.errorString();
+    m_errorText = QStringLiteral("%1 cannot be loaded: %2").arg(path, m_loader.errorString());
     return false;
   }
   m_factory = qobject_cast<KZPluginFactory*>(root);

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <optional>
 
+#include "companion/runtime/CommandLine.h"
 #include "companion/runtime/PluginHost.h"
 #include "companion/runtime/PluginLocation.h"
 #include "companion/runtime/QtMessages.h"
@@ -30,7 +31,7 @@ void complain(const QString& text) {
 }
 
 // False when the command line cannot be followed; the reason is on standard error.
-bool readOptions(SessionOptions* options) {
+bool readOptions(const QStringList& arguments, SessionOptions* options) {
   QCommandLineParser parser;
   parser.setApplicationDescription(
       "Loads the preferences plug-in, plays one step a line, and prints what came back, one JSON object a "
@@ -43,7 +44,7 @@ bool readOptions(SessionOptions* options) {
        {"trace", "Print trace lines too."},
        {"plugin", "The plug-in to load.", "FILE", defaultPluginPath()}});
   parser.addPositionalArgument("FILE", "The script, \"-\" or left out: standard input.", "[FILE | -]");
-  parser.process(*QCoreApplication::instance());
+  parser.process(arguments);
   const QString keychain = parser.value("keychain");
   if (keychain != "memory" && keychain != "system") {
     complain(QStringLiteral("--keychain is memory or system, not %1").arg(keychain));
@@ -86,12 +87,13 @@ int playSession(const SessionOptions& options, QFile* script) {
 int main(int argc, char** argv) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   installQtMessageFilter();
-  QApplication application(argc, argv);
+  int onlyName = 1;
+  QApplication application(onlyName, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setApplicationName("prefs-session");
 
   SessionOptions options;
-  if (!readOptions(&options)) return kUnusable;
+  if (!readOptions(argumentsOf(argc, argv), &options)) return kUnusable;
   QFile script;
   if (!openScript(options.scriptPath, &script)) {
     complain(QStringLiteral("cannot read %1: %2").arg(options.scriptPath, script.errorString()));

@@ -21,8 +21,12 @@ QStringList shown(const QStringList& script) {
 }
 
 QString happened(const char* content) {
-  return QStringLiteral(R"({"content":%1,"name":"KZCmdWriteTelemetry","sent":23})")
+  return QStringLiteral(R"({"sent":23,"name":"KZCmdWriteTelemetry","content":%1})")
       .arg(QLatin1String(content));
+}
+
+std::string textOf(const QStringList& lines) {
+  return lines.join(u'\n').toStdString();
 }
 
 QJsonObject viewNamed(const QJsonObject& view, const QString& name) {
@@ -54,20 +58,20 @@ TEST(Session, PrintsWhatCrossesTheBorderInOrder) {
   });
   const QStringList expected = {
       R"({"echo":{"mark":[1,0.5]}})",
-      R"({"content":{"bytes":{"$data":"AP8="},"f":true,"n":3},"name":"","sent":77})",
-      R"({"content":null,"name":"","sent":77})",
-      R"({"content":{"same":true},"name":"KZCmdSetVideoDevicePrefs","sent":19})",
-      R"({"content":{"same":false},"name":"KZCmdSetVideoDevicePrefs","sent":19})",
-      R"({"content":{"hasContent":true,"index":7},"name":"KZCmdPreferenceChanged","sent":13})",
-      R"({"content":{"hasContent":false,"index":8},"name":"KZCmdPreferenceChanged","sent":13})",
-      R"({"content":null,"name":"KZCmdExchOnlineTokenGot","sent":29})",
+      R"({"sent":77,"name":"","content":{"bytes":{"$data":"AP8="},"f":true,"n":3}})",
+      R"({"sent":77,"name":"","content":null})",
+      R"({"sent":19,"name":"KZCmdSetVideoDevicePrefs","content":{"same":true}})",
+      R"({"sent":19,"name":"KZCmdSetVideoDevicePrefs","content":{"same":false}})",
+      R"({"sent":13,"name":"KZCmdPreferenceChanged","content":{"hasContent":true,"index":7}})",
+      R"({"sent":13,"name":"KZCmdPreferenceChanged","content":{"hasContent":false,"index":8}})",
+      R"({"sent":29,"name":"KZCmdExchOnlineTokenGot","content":null})",
       R"({"warning":{"message":"Message","title":"Title"}})",
       R"({"opened":"https://example.com/a%20b"})",
       R"({"posted":"HTTPAuthenticationDatasource","userInfo":{"a":1,"answered":true}})",
       R"({"posted":"HTTPAuthenticationDatasource","userInfo":{"answered":true}})",
       R"({"echo":null})",
   };
-  EXPECT_EQ(run.lines, expected) << qPrintable(run.lines.join(u'\n'));
+  EXPECT_EQ(textOf(run.lines), textOf(expected));
   EXPECT_EQ(run.complaints, "");
   EXPECT_EQ(run.status, 0);
 }
@@ -88,11 +92,11 @@ TEST(Session, UserActions) {
   const Case cases[] = {
       {"click",
        {R"({"click": "m_box"})"},
-       {R"({"content":{"on":true,"shift":false},"name":"KZCmdUpdateGeneralSetting","sent":4})"}},
+       {R"({"sent":4,"name":"KZCmdUpdateGeneralSetting","content":{"on":true,"shift":false}})"}},
       {"Shift shows only while it is held",
        {R"({"click": "m_box", "shift": true})", R"({"click": "m_box"})"},
-       {R"({"content":{"on":true,"shift":true},"name":"KZCmdUpdateGeneralSetting","sent":4})",
-        R"({"content":{"on":false,"shift":false},"name":"KZCmdUpdateGeneralSetting","sent":4})"}},
+       {R"({"sent":4,"name":"KZCmdUpdateGeneralSetting","content":{"on":true,"shift":true}})",
+        R"({"sent":4,"name":"KZCmdUpdateGeneralSetting","content":{"on":false,"shift":false}})"}},
       {"typing replaces, key by key",
        {R"({"type": "m_field", "text": "a€😀"})", R"({"type": "m_field", "text": ""})",
         R"({"key": "Return", "in": "m_field"})"},
@@ -100,7 +104,7 @@ TEST(Session, UserActions) {
         happened(R"({"typed":""})"), happened(R"({"returned":true})")}},
       {"pop-up",
        {R"({"choose": "m_popup", "item": "15"})"},
-       {R"({"content":{"title":"15"},"name":"KZCmdSetVideoDevicePrefs","sent":19})"}},
+       {R"({"sent":19,"name":"KZCmdSetVideoDevicePrefs","content":{"title":"15"}})"}},
       {"hidden, disabled, covered",
        {R"({"click": "m_hidden"})", R"({"click": "m_off"})", R"({"click": "m_covered"})",
         R"({"key": "Space", "in": "m_off"})"},
@@ -116,8 +120,7 @@ TEST(Session, UserActions) {
        {happened(R"({"pane":"Konto","shift":false})"), happened(R"({"pane":"Treffen","shift":true})")}},
       {"keys to the window",
        {R"({"key": "w", "modifiers": ["command"]})", R"({"echo": 0})"},
-       {happened(R"({"key":16777249,"modifiers":67108864})"), happened(R"({"key":87,"modifiers":67108864})"),
-        R"({"echo":0})"}},
+       {happened(R"({"key":87,"modifiers":67108864})"), R"({"echo":0})"}},
       {"close and show again",
        {R"({"close": true})", R"({"close": true})", R"({"click": "m_box"})"},
        {happened(R"({"closing":true})"), R"({"refused":"no window is open"})",
@@ -128,7 +131,7 @@ TEST(Session, UserActions) {
   };
   for (const Case& given : cases) {
     const QStringList lines = shown(given.script);
-    EXPECT_EQ(lines, given.expected) << given.what << '\n' << qPrintable(lines.join(u'\n'));
+    EXPECT_EQ(textOf(lines), textOf(given.expected)) << given.what;
   }
 }
 
@@ -206,14 +209,14 @@ TEST(Session, GetsAndSetsTheHost) {
       R"({"result":{"email":"e","hasUsername":false}})",
       R"({"result":null})",
   };
-  EXPECT_EQ(run.lines, expected) << qPrintable(run.lines.join(u'\n'));
+  EXPECT_EQ(textOf(run.lines), textOf(expected));
 }
 
 TEST(Session, TokensGoThroughTheCache) {
   const SessionRun run = runSession({
-      R"({"set": "tokens", "items": [{"userId": "u", "authority": "https://a", "resource": "r", "clientId": "c", "accessToken": "t", "refreshToken": "f", "multiResource": false, "expiresIn": 3600},
-          {"userId": "u", "authority": "https://a", "clientId": "c", "refreshToken": "f", "multiResource": true}]})"
-          .replace('\n', ' '),
+      R"({"set": "tokens", "items": [{"userId": "u", "authority": "https://a", "resource": "r", "clientId": "c",)"
+      R"( "accessToken": "t", "refreshToken": "f", "multiResource": false, "expiresIn": 3600},)"
+      R"( {"userId": "u", "authority": "https://a", "clientId": "c", "refreshToken": "f", "multiResource": true}]})",
       R"({"get": "tokens"})",
   });
   const QJsonArray items = run.last().value("result").toArray();
@@ -266,7 +269,7 @@ TEST(Session, StepsThatCannotBePlayedEndIt) {
       {R"({"set": "language", "to": "qqq"})", "there is no language qqq"},
       {R"({"post": "x", "thread": "other"})", R"("thread" cannot be "other")"},
       {R"({"wait": -5})", R"("wait" is not a whole number)"},
-      {R"({"measure": "a", "size": 0})", R"("size" is out of range)"},
+      {R"({"measure": "a", "font": "label", "size": 0})", R"("size" is out of range)"},
       {R"({"screenshot": "/nowhere/at/all.png"})", "cannot write /nowhere/at/all.png"},
   };
   for (const auto& [step, reason] : cases) {

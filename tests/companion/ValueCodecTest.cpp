@@ -18,8 +18,8 @@ QJsonValue json(const char* text) {
 QByteArray roundTrip(const char* text) {
   const valuecodec::Decoded decoded = valuecodec::decode(json(text));
   if (!decoded.error.isEmpty()) return "error";
-  const QByteArray line =
-      QJsonDocument({{"value", valuecodec::encode(decoded.value)}}).toJson(QJsonDocument::Compact);
+  const QJsonObject object = {{"value", valuecodec::encode(decoded.value)}};
+  const QByteArray line = QJsonDocument(object).toJson(QJsonDocument::Compact);
   return line.mid(9, line.size() - 10);
 }
 

@@ -133,5 +133,6 @@ void FakeWindowController::windowWillClose() {
 }
 
 void FakeWindowController::keyDown(QKeyEvent* event) {
+  if (event->text().isEmpty() || event->key() == Qt::Key_Return) return;
   m_send(kHappened, Dictionary{{"key", event->key()}, {"modifiers", static_cast<int>(event->modifiers())}});
 }
