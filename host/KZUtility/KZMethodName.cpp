@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <iterator>
+
 #include "host/KZUtility/KZTrace.h"
 
 namespace {
@@ -40,7 +43,8 @@ std::string_view methodName(std::string_view text) {
     if (depth > 0) continue;
     if (sign == ' ' || sign == '&' || sign == '*') begin = at + 1;
     if (sign == '(') {
-      if (text.substr(begin, at - begin) != "decltype") return text.substr(begin, at - begin);
+      const std::string_view token = text.substr(begin, at - begin);
+      if (!token.empty() && token != "decltype") return token;
       at = afterParentheses(text, at) - 1;
     }
     if (rest.starts_with(kOperator) && (at == begin || text[at - 1] == ':')) {

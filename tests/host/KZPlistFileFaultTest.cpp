@@ -1,0 +1,180 @@
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QDateTime>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <csignal>
+
+#include "tests/host/StoreFolder.h"
+#include "tests/host/TraceWatch.h"
+
+namespace {
+
+constexpr qint64 kBoundedMilliseconds = 2000;
+
+// A disk on which a file can grow no longer than this.
+class FullDisk final {
+ public:
+  explicit FullDisk(rlim_t bytes) {
+    std::signal(SIGXFSZ, SIG_IGN);
+    ::getrlimit(RLIMIT_FSIZE, &m_before);
+    const rlimit limit = {bytes, m_before.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  ~FullDisk() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
+  Q_DISABLE_COPY_MOVE(FullDisk)
+
+ private:
+  rlimit m_before = {};
+};
+
+}  // namespace
+
+TEST(KZPlistFileFault, SetsADamagedFileAsideAndGoesOn) {
+  const QByteArray good = StoreFolder::plist("<key>siteName</key><string>a</string>");
+  const QByteArray deep = QByteArray("<array>").repeated(1000000);
+  const QByteArray rows[] = {
+      "",
+      "garbage",
+      "bplist00",
+      good.chopped(20),
+      good + "trailing",
+      good + good,
+      QByteArray(good).replace("<string>", "<text>"),
+      QByteArray(good).replace(">a<", QByteArray(">\0<", 3)),
+      QByteArray(good).replace(">a<", ">\xff<"),
+      QByteArray(good).replace(">a<", ">&unknown;<"),
+      "<plist version=\"1.0\"><array/></plist>",
+      "<!DOCTYPE plist [<!ENTITY a \"aaaaaaaaaa\">]><plist "
+      "version=\"1.0\"><dict><key>a</key><string>&a;</string>"
+      "</dict></plist>",
+      StoreFolder::plist("<key>a</key>" + deep),
+      StoreFolder::plist("<key>a</key>" + deep + QByteArray("</array>").repeated(1000000))
+          .left(8 * 1024 * 1024),
+      StoreFolder::plist("<key>a</key><string>" + QByteArray(8 * 1024 * 1024, 'x') + "</string>"),
+  };
+  for (const QByteArray& bytes : rows) {
+    const StoreFolder folder;
+    const TraceWatch watch;
+    QElapsedTimer timer;
+    timer.start();
+    folder.openWith(bytes);
+    EXPECT_LT(timer.elapsed(), kBoundedMilliseconds);
+    EXPECT_EQ(watch.count(KZTraceLevel::Error), 1) << bytes.left(60).constData();
+    EXPECT_EQ(folder.setAsideBytes(), bytes) << bytes.left(60).constData();
+    StoreFolder::store().setSiteName("new");
+    folder.reopen();
+    EXPECT_EQ(StoreFolder::store().siteName(), "new");
+    EXPECT_EQ(watch.count(KZTraceLevel::Error), 1);
+    EXPECT_EQ(folder.names().size(), 2);
+  }
+}
+
+TEST(KZPlistFileFault, SetsEachDamagedFileAsideUnderANameOfItsOwn) {
+  const StoreFolder folder;
+  const TraceWatch watch;
+  for (int turn = 0; turn < 3; ++turn) folder.openWith("damaged");
+  EXPECT_EQ(folder.names().size(), 3);
+}
+
+TEST(KZPlistFileFault, SetsAsideWhatIsNoRegularFile) {
+  using Maker = void (*)(const QByteArray&);
+  const Maker makers[] = {
+      [](const QByteArray& name) { ASSERT_EQ(::mkfifo(name.constData(), 0600), 0); },
+      [](const QByteArray& name) { ASSERT_EQ(::mkdir(name.constData(), 0700), 0); },
+      [](const QByteArray& name) { ASSERT_EQ(::symlink("/etc/passwd", name.constData()), 0); },
+  };
+  for (const Maker make : makers) {
+    const StoreFolder folder;
+    const TraceWatch watch;
+    make(folder.file().toUtf8());
+    folder.reopen();
+    StoreFolder::store().setSiteName("new");
+    EXPECT_TRUE(folder.bytes().contains("new"));
+    EXPECT_EQ(watch.count(KZTraceLevel::Error), 1);
+    EXPECT_EQ(folder.names().size(), 2);
+  }
+}
+
+TEST(KZPlistFileFault, NeverTouchesAnotherUsersFile) {
+  if (::geteuid() != 0) GTEST_SKIP() << "only root can give a file away";
+  const StoreFolder folder;
+  const QByteArray theirs = StoreFolder::plist("<key>siteName</key><string>theirs</string>");
+  folder.replace(theirs);
+  ASSERT_EQ(::chown(folder.file().toUtf8().constData(), 65534, 65534), 0);
+  const TraceWatch watch;
+  folder.reopen();
+  StoreFolder::store().setSiteName("memory");
+  EXPECT_EQ(StoreFolder::store().siteName(), "memory");
+  EXPECT_EQ(folder.bytes(), theirs);
+  EXPECT_EQ(folder.names().size(), 1);
+  EXPECT_EQ(watch.count(KZTraceLevel::Error), 1);
+}
+
+TEST(KZPlistFileFault, SetsAnUnreadableFileAside) {
+  if (::geteuid() == 0) GTEST_SKIP() << "root reads every file";
+  const StoreFolder folder;
+  folder.replace("unread");
+  ASSERT_EQ(::chmod(folder.file().toUtf8().constData(), 0), 0);
+  const TraceWatch watch;
+  folder.reopen();
+  StoreFolder::store().setSiteName("new");
+  EXPECT_EQ(watch.count(KZTraceLevel::Error), 1);
+  EXPECT_EQ(folder.names().size(), 2);
+}
+
+TEST(KZPlistFileFault, KeepsAValueThatTheDiskRefusedAndTriesAgain) {
+  const StoreFolder folder;
+  const TraceWatch watch;
+  KZPlistFileHandle& store = StoreFolder::store();
+  store.setSiteName("old");
+  const QByteArray before = folder.bytes();
+  {
+    const FullDisk full(100);
+    store.setSiteName("new");
+    store.setCdnUrl("also");
+    EXPECT_EQ(watch.count(KZTraceLevel::Error), 2);
+  }
+  EXPECT_EQ(store.siteName(), "new");
+  EXPECT_EQ(folder.bytes(), before);
+  EXPECT_EQ(folder.names(), QStringList{"preferences.plist"});
+  store.setSiteName("new");
+  folder.reopen();
+  EXPECT_EQ(store.siteName(), "new");
+  EXPECT_EQ(store.cdnUrl(), "also");
+}
+
+TEST(KZPlistFileFault, SurvivesAFolderThatIsNoneOrGoesAway) {
+  const StoreFolder folder;
+  const TraceWatch watch;
+  KZPlistFileHandle& store = StoreFolder::store();
+  store.setSiteName("first");
+  ASSERT_TRUE(QDir(folder.folder()).removeRecursively());
+  store.setCdnUrl("second");
+  EXPECT_EQ(watch.count(KZTraceLevel::Error), 0);
+  EXPECT_TRUE(folder.bytes().contains("first"));
+  EXPECT_TRUE(folder.bytes().contains("second"));
+  ASSERT_TRUE(QDir(folder.folder()).removeRecursively());
+  QFile inTheWay(folder.folder());
+  ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+  store.setCdnUrl("third");
+  EXPECT_EQ(watch.count(KZTraceLevel::Error), 1);
+  EXPECT_EQ(store.cdnUrl(), "third");
+}
+
+TEST(KZPlistFileFault, RemovesOldFilesOfAProcessThatDiedWhileWriting) {
+  const StoreFolder folder;
+  for (const char* name : {"/.preferences.plist.abcdef", "/.preferences.plist.uvwxyz"}) {
+    QFile left(folder.folder() + name);
+    ASSERT_TRUE(left.open(QIODevice::WriteOnly));
+    const bool isOld = QByteArray(name).endsWith('f');
+    left.setFileTime(QDateTime::currentDateTime().addSecs(isOld ? -3600 : 0),
+                     QFileDevice::FileModificationTime);
+  }
+  folder.reopen();
+  EXPECT_EQ(folder.names(), QStringList{".preferences.plist.uvwxyz"});
+}

@@ -1,0 +1,74 @@
+#include <gtest/gtest.h>
+
+#include <QJsonDocument>
+
+#include "tests/host/TraceWatch.h"
+
+namespace {
+
+constexpr auto kSecret = "s3cr3t";
+
+QByteArray shown(const Dictionary& dictionary) {
+  return QJsonDocument::fromVariant(kzMaskSecrets(dictionary)).toJson(QJsonDocument::Compact);
+}
+
+}  // namespace
+
+TEST(SecretMask, HidesTheValueOfEverySecretKeyAndOfNoOther) {
+  const char* hidden[] = {"QRT_CredentialContent",
+                          "QRT_ListingMeeting_exchOnlineToken",
+                          "Password",
+                          "password",
+                          "outlookPassword",
+                          "refreshToken",
+                          "access_token",
+                          "id_token",
+                          "code",
+                          "code_verifier",
+                          "client_secret",
+                          "someTOKENs"};
+  for (const char* key : hidden) EXPECT_EQ(shown({{key, kSecret}}), QByteArray("{\"") + key + "\":\"***\"}");
+  const char* open[] = {"QRT_CredentialType", "errorCode", "codes", "username", "displayName"};
+  for (const char* key : open) EXPECT_TRUE(shown({{key, kSecret}}).contains(kSecret)) << key;
+  EXPECT_EQ(shown({{"isTokenExpired", true}}), R"({"isTokenExpired":true})");
+  EXPECT_EQ(shown({{"token", 12345}}), R"({"token":"***"})");
+}
+
+TEST(SecretMask, FindsSecretsWhereverTheyAreNested) {
+  const QString json = R"({"access_token":"s3cr3t","site":"example.com","expired_token":false})";
+  const QString jsonInJson = QString::fromUtf8(
+      QJsonDocument::fromVariant(Dictionary{{"params", json}}).toJson(QJsonDocument::Compact));
+  const Dictionary credential{{"password", kSecret}, {"user", "anna"}};
+  const std::pair<Dictionary, const char*> rows[] = {
+      {{{"outer", credential}}, "anna"},
+      {{{"list", QVariantList{1, QVariantList{credential}}}}, "anna"},
+      {{{"password", credential}}, "***"},
+      {{{"O365LoginData", json}}, "example.com"},
+      {{{"O365LoginData", jsonInJson}}, "example.com"},
+      {{{"customInfo", QStringList{json}}}, "example.com"},
+      {{{"cut", json.left(30)}}, "***"},
+      {{{"cut", jsonInJson.left(50)}}, "***"},
+      {{{"scalar", R"("token=s3cr3t")"}}, "***"},
+      {{{"query", "http://127.0.0.1:1/?code=s3cr3t&state=x"}}, "***"},
+      {{{"xml", "<user password = \"s3cr3t\"/>"}}, "***"},
+      {{{"deep", R"({"password":"s3cr3t","a":)" + QString(100, '[') + QString(100, ']') + "}"}}, "***"},
+  };
+  for (const auto& [dictionary, kept] : rows) {
+    const QByteArray text = shown(dictionary);
+    EXPECT_FALSE(text.contains(kSecret)) << text.constData();
+    EXPECT_TRUE(text.contains(kept)) << text.constData();
+  }
+}
+
+TEST(SecretMask, LeavesTextsWithoutSecretsAsTheyAre) {
+  const char* texts[] = {R"({ "b" : 1,  "a":null })", "the token expired", "{broken", "a=b&c=d", ""};
+  for (const char* text : texts) EXPECT_EQ(kzMaskSecrets({{"t", text}}).value("t").toString(), text);
+}
+
+TEST(SecretMask, ReachesTheTraceAndItsTextsToo) {
+  const TraceWatch watch;
+  MVRNSInfoFuncTraceIMPL("Test", "A::b()", "%@", Dictionary{{"password", kSecret}});
+  EXPECT_EQ(watch.lastText(), R"({"password":"***"})");
+  MVRNSInfoFuncTraceIMPL("Test", "A::b()", "%@", QString(R"({"refreshToken":"s3cr3t"})"));
+  EXPECT_EQ(watch.lastText(), R"({"refreshToken":"***"})");
+}

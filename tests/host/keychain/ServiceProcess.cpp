@@ -1,0 +1,51 @@
+#include "tests/host/keychain/ServiceProcess.h"
+
+#include <gtest/gtest.h>
+
+#include <QElapsedTimer>
+#include <QThread>
+
+namespace {
+
+constexpr int kStartMilliseconds = 10000;
+
+bool isNameOwned() {
+  QProcess ask;
+  ask.start("dbus-send",
+            {"--session", "--print-reply", "--dest=org.freedesktop.DBus", "/org/freedesktop/DBus",
+             "org.freedesktop.DBus.NameHasOwner", "string:org.freedesktop.secrets"});
+  ask.waitForFinished();
+  return ask.readAllStandardOutput().contains("boolean true");
+}
+
+}  // namespace
+
+ServiceProcess::ServiceProcess(const QString& fault) {
+  m_process.start(FAKE_SECRET_SERVICE, {fault});
+  EXPECT_TRUE(m_process.waitForReadyRead(kStartMilliseconds));
+}
+
+ServiceProcess::ServiceProcess() {
+  m_process.start("gnome-keyring-daemon", {"--foreground", "--unlock", "--components=secrets"});
+  m_process.write("password");
+  m_process.closeWriteChannel();
+  QElapsedTimer timer;
+  timer.start();
+  while (!isNameOwned() && timer.elapsed() < kStartMilliseconds) QThread::msleep(20);
+}
+
+ServiceProcess::~ServiceProcess() {
+  kill();
+}
+
+void ServiceProcess::kill() {
+  if (m_process.state() == QProcess::NotRunning) return;
+  m_process.kill();
+  m_process.waitForFinished();
+}
+
+QByteArray ServiceProcess::said() {
+  m_process.waitForReadyRead(50);
+  m_said += m_process.readAllStandardOutput();
+  return m_said;
+}
