@@ -11,6 +11,7 @@ struct LookColors {
   QColor facePressed;
   QColor border;
   QColor borderHover;
+  QColor disabledBorder;
   QColor toolbar;
   QColor toolbarLine;
   QColor tile;  // of the selected toolbar item

@@ -9,15 +9,19 @@
 #include <QToolBar>
 #include <QToolButton>
 
-#include "platform/LookStyleParts.h"
+#include "platform/Look.h"
 
 namespace {
 
-void dressList(QWidget* list, const QComboBox& popUp) {
+// The list of a pop-up button is a window of its own, which inherits neither style nor palette.
+void dressList(const QComboBox& popUp) {
+  const QPalette& palette = lookPalette(lookSchemeFor(popUp.palette()));
+  QWidget* list = popUp.view()->window();
+  if (list == popUp.window()) return;
   for (QWidget* part : list->findChildren<QWidget*>()) part->setStyle(popUp.style());
   list->setStyle(popUp.style());
-  list->setPalette(popUp.palette());
-  popUp.view()->setPalette(popUp.palette());
+  list->setPalette(palette);
+  popUp.view()->setPalette(palette);
 }
 
 }  // namespace
@@ -27,9 +31,12 @@ LookStyle::LookStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusio
 void LookStyle::polish(QWidget* widget) {
   QProxyStyle::polish(widget);
   if (qobject_cast<QLineEdit*>(widget)) widget->setAttribute(Qt::WA_Hover);
-  if (qobject_cast<QComboBox*>(widget)) widget->installEventFilter(this);
+  if (auto* popUp = qobject_cast<QComboBox*>(widget)) {
+    dressList(*popUp);
+    popUp->installEventFilter(this);
+  }
   if (!qobject_cast<QToolBar*>(widget)) return;
-  widget->setContentsMargins(lookToolbar::kSideMargin, 0, lookToolbar::kSideMargin, 0);
+  // The extension button is the bar's own; nobody else can dress it.
   for (QToolButton* item : widget->findChildren<QToolButton*>()) item->setStyle(this);
 }
 
@@ -39,10 +46,8 @@ void LookStyle::unpolish(QWidget* widget) {
 }
 
 bool LookStyle::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::ChildPolished) {
-    auto* popUp = qobject_cast<QComboBox*>(watched);
-    auto* list = qobject_cast<QWidget*>(static_cast<QChildEvent*>(event)->child());
-    if (popUp && list && list->isWindow()) dressList(list, *popUp);
+  if (event->type() == QEvent::PaletteChange) {
+    if (const auto* popUp = qobject_cast<QComboBox*>(watched)) dressList(*popUp);
   }
   return QProxyStyle::eventFilter(watched, event);
 }

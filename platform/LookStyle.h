@@ -2,10 +2,6 @@
 
 #include <QProxyStyle>
 
-class QStyleOptionButton;
-class QStyleOptionMenuItem;
-class QStyleOptionToolButton;
-
 // Draws the controls; each kind has a unit of its own (LookStyleButtons.cpp, …). Colours come from the
 // palette that a control is drawn with, so that a change of scheme needs no more than another palette.
 class LookStyle final : public QProxyStyle {
@@ -36,6 +32,6 @@ class LookStyle final : public QProxyStyle {
                           const QWidget* widget) const override;
 
  protected:
-  // Dresses the list that a pop-up button makes when it is opened first.
+  // Keeps the lists of pop-up buttons in their palette.
   bool eventFilter(QObject* watched, QEvent* event) override;
 };

@@ -53,7 +53,7 @@ void drawPush(const QStyleOptionButton& option, QPainter* painter) {
     face.setColorAt(0, colors.faceTop);
     face.setColorAt(1, colors.faceBottom);
     const QBrush fill = states.isEnabled ? QBrush(face) : option.palette.window();
-    drawLookBox(painter, rect, kPushRadius, fill, states.isHovered ? colors.borderHover : colors.border);
+    drawLookBox(painter, rect, kPushRadius, fill, lookBorderOf(colors, states));
   }
   if (states.isFocused) {
     drawLookFocus(painter, option, rect, kPushRadius);
@@ -83,7 +83,7 @@ void drawIndicator(const QStyleOption& option, bool isRadio, QPainter* painter) 
                         : states.isEnabled ? option.palette.color(QPalette::Base)
                                            : option.palette.color(QPalette::Window);
     if (states.isFocused) box.adjust(1, 1, -1, -1);
-    drawShape(painter, box, isRadio, face, states.isHovered ? colors.borderHover : colors.border, 1);
+    drawShape(painter, box, isRadio, face, lookBorderOf(colors, states), 1);
     return;
   }
   const QColor fill = states.isPressed ? colors.accentPressed : option.palette.color(QPalette::Highlight);

@@ -22,7 +22,7 @@ void draw(const QStyleOption& option, QPainter* painter, const QWidget* widget) 
   const bool isFocused = states.isEnabled && (option.state & QStyle::State_HasFocus);
   const QBrush fill = states.isEnabled ? option.palette.base() : option.palette.window();
   const QColor accent = option.palette.color(QPalette::Highlight);
-  const QColor border = isFocused ? accent : states.isHovered ? colors.borderHover : colors.border;
+  const QColor border = isFocused ? accent : lookBorderOf(colors, states);
   drawLookBox(painter, option.rect, kFieldRadius, fill, border);
   if (isFocused && hasFocusRing(widget)) drawLookFocus(painter, option, option.rect, kFieldRadius);
 }

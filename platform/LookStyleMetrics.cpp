@@ -22,6 +22,7 @@ int LookStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
     case PM_ToolBarIconSize:
       return lookToolbar::kIcon;
     case PM_ToolBarItemMargin:
+      return lookToolbar::kMargin;
     case PM_ToolBarItemSpacing:
     case PM_ToolBarFrameWidth:
     case PM_ToolBarHandleExtent:

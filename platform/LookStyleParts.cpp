@@ -1,7 +1,5 @@
 #include "platform/LookStyleParts.h"
 
-#include <QPainterPath>
-
 LookStates lookStatesOf(const QStyleOption& option) {
   const bool isEnabled = option.state & QStyle::State_Enabled;
   return {.isEnabled = isEnabled,
@@ -13,6 +11,11 @@ LookStates lookStatesOf(const QStyleOption& option) {
 
 const LookColors& lookColorsOf(const QStyleOption& option) {
   return lookColorsFor(lookSchemeFor(option.palette));
+}
+
+const QColor& lookBorderOf(const LookColors& colors, const LookStates& states) {
+  if (!states.isEnabled) return colors.disabledBorder;
+  return states.isHovered ? colors.borderHover : colors.border;
 }
 
 void drawLookBox(QPainter* painter, const QRectF& rect, qreal radius, const QBrush& fill,

@@ -18,6 +18,7 @@ struct LookStates {
 
 LookStates lookStatesOf(const QStyleOption& option);
 const LookColors& lookColorsOf(const QStyleOption& option);
+const QColor& lookBorderOf(const LookColors& colors, const LookStates& states);
 
 // A rounded box with a border of one point inside the rectangle.
 void drawLookBox(QPainter* painter, const QRectF& rect, qreal radius, const QBrush& fill,
@@ -51,8 +52,8 @@ QSize menuItemSize(const QStyleOptionMenuItem& option);
 
 namespace lookToolbar {
 inline constexpr int kIcon = 24;
-inline constexpr int kHeight = 60;
-inline constexpr int kSideMargin = 8;
+inline constexpr int kItemHeight = 50;
+inline constexpr int kMargin = 5;  // around the items; the line under the bar is in it
 void drawBar(const QStyleOption& option, QPainter* painter);
 void drawItem(const QStyleOptionToolButton& option, QPainter* painter);
 void drawExtension(const QStyleOption& option, QPainter* painter);

@@ -49,7 +49,9 @@ QSize size(const QStyleOptionComboBox& option, const QSize& contents) {
 void draw(const QStyleOptionComboBox& option, QPainter* painter) {
   const LookColors& colors = lookColorsOf(option);
   const LookStates states = lookStatesOf(option);
-  const QRectF rect = option.rect;
+  // A taller control leaves a point above and below, which the focus ring takes.
+  const qreal spare = option.rect.height() > kPopUpHeight ? 1 : 0;
+  const QRectF rect = QRectF(option.rect).adjusted(0, spare, 0, -spare);
   QLinearGradient face(rect.topLeft(), rect.bottomLeft());
   face.setColorAt(0, colors.faceTop);
   face.setColorAt(1, colors.faceBottom);
@@ -58,13 +60,13 @@ void draw(const QStyleOptionComboBox& option, QPainter* painter) {
   const QBrush fill = !states.isEnabled ? option.palette.window()
                       : isDown          ? QBrush(colors.facePressed)
                                         : QBrush(face);
-  drawLookBox(painter, rect, kPopUpRadius, fill, states.isHovered ? colors.borderHover : colors.border);
+  drawLookBox(painter, rect, kPopUpRadius, fill, lookBorderOf(colors, states));
 
   const QRect tile = popUpTile(option);
   const QColor accent = isDown ? colors.accentPressed : option.palette.color(QPalette::Highlight);
   drawLookBox(painter, tile, 4, accent, accent);
   drawChevrons(painter, tile, states.isEnabled ? colors.glyph : colors.disabledGlyph);
-  if (states.isFocused) drawLookFocus(painter, option, rect, kPopUpRadius);
+  if (states.isFocused) drawLookFocus(painter, option, option.rect, kPopUpRadius + spare);
 }
 
 void drawLabel(const QStyleOptionComboBox& option, QPainter* painter) {

@@ -8,10 +8,8 @@ namespace {
 constexpr int kLabelPixels = 11;
 constexpr int kItemPadding = 6;  // from the tile's edge to the label
 constexpr int kItemGap = 4;      // on each side of the tile
-constexpr int kTileTop = 5;
-constexpr int kTileHeight = 50;
-constexpr int kIconTop = 10;
-constexpr int kLabelTop = 36;
+constexpr int kIconTop = 5;
+constexpr int kLabelTop = 31;
 constexpr int kLabelHeight = 17;
 constexpr qreal kTileRadius = 6;
 
@@ -31,15 +29,14 @@ void drawBar(const QStyleOption& option, QPainter* painter) {
 
 QSize itemSize(const QStyleOptionToolButton& option) {
   const int label = QFontMetrics(itemFont()).horizontalAdvance(option.text);
-  return {qMax(label, kIcon) + 2 * (kItemPadding + kItemGap), kHeight};
+  return {qMax(label, kIcon) + 2 * (kItemPadding + kItemGap), kItemHeight};
 }
 
 void drawItem(const QStyleOptionToolButton& option, QPainter* painter) {
   const LookColors& colors = lookColorsOf(option);
   const LookStates states = lookStatesOf(option);
   const bool isSelected = option.state & QStyle::State_On;
-  const QRect tile(option.rect.left() + kItemGap, option.rect.top() + kTileTop,
-                   option.rect.width() - 2 * kItemGap, kTileHeight);
+  const QRect tile = option.rect.adjusted(kItemGap, 0, -kItemGap, 0);
   if (states.isPressed) {
     drawLookBox(painter, tile, kTileRadius, colors.tilePressed, colors.tileBorder);
   } else if (isSelected) {
@@ -64,7 +61,7 @@ void drawItem(const QStyleOptionToolButton& option, QPainter* painter) {
 void drawExtension(const QStyleOption& option, QPainter* painter) {
   const LookColors& colors = lookColorsOf(option);
   const LookStates states = lookStatesOf(option);
-  const QRect tile(option.rect.left(), option.rect.top() + kTileTop, option.rect.width(), kTileHeight);
+  const QRect& tile = option.rect;
   if (states.isHovered || states.isPressed) {
     drawLookBox(painter, tile, kTileRadius, states.isPressed ? colors.tilePressed : colors.tileHover,
                 colors.tileBorder);

@@ -44,16 +44,16 @@ void BRNHyperlinkTextField::keyPressEvent(QKeyEvent* event) {
   QAbstractButton::keyPressEvent(event);
 }
 
+QColor BRNHyperlinkTextField::currentColor() const {
+  const QColor text = palette().color(QPalette::WindowText);
+  if (!isEnabled()) return text;
+  const QColor plain = m_color == NoClickColor::Blue ? palette().color(QPalette::Link) : text;
+  if (isDown()) return mixedLinkColors(plain, text, 0.7F);
+  return underMouse() ? mixedLinkColors(plain, text, 0.35F) : plain;
+}
+
 void BRNHyperlinkTextField::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  const QColor plain = palette().color(m_color == NoClickColor::Blue ? QPalette::Link : QPalette::WindowText);
-  const QColor strong = palette().color(QPalette::WindowText);
-  QColor color = plain;
-  if (isDown())
-    color = mixedLinkColors(plain, strong, 0.7F);
-  else if (underMouse() && isEnabled())
-    color = mixedLinkColors(plain, strong, 0.35F);
-
   const bool isFocused = hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange);
   if (isFocused) {
     QColor tint = palette().color(QPalette::Highlight);
@@ -65,6 +65,7 @@ void BRNHyperlinkTextField::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing, false);
   }
 
+  const QColor color = currentColor();
   const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, width());
   painter.setPen(color);
   painter.drawText(rect(), int(Qt::AlignLeft | Qt::AlignVCenter) | Qt::TextSingleLine, shown);

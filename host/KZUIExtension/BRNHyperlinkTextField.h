@@ -27,6 +27,8 @@ class KZ_HOST_EXPORT BRNHyperlinkTextField : public QAbstractButton {
   QSize sizeHint() const override;
 
  private:
+  QColor currentColor() const;
+
   int m_underlineStyle = 0;
   NoClickColor m_color = NoClickColor::Text;
 };

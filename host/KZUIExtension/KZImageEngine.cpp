@@ -29,14 +29,7 @@ bool isHighContrastWindow(const QPalette& palette) {
          activeRgb(palette, QPalette::ButtonText) == fore;
 }
 
-QImage tinted(QImage picture, const QColor& color) {
-  QPainter painter(&picture);
-  painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-  painter.fillRect(QRect(QPoint(), picture.size() / picture.devicePixelRatio()), color);
-  return picture;
-}
-
-// Dark and coloured parts take the text colour, white ones the window's.
+// Dark and coloured parts take the ink, white ones the paper.
 QImage inTwoColors(const QImage& picture, const QColor& ink, const QColor& paper) {
   QImage result = picture.convertToFormat(QImage::Format_ARGB32);
   for (int y = 0; y < result.height(); ++y) {
@@ -75,9 +68,9 @@ KZImageEngine::KZImageEngine(std::shared_ptr<const KZImagePictures> pictures)
 QImage KZImageEngine::picture(const QPalette& palette, QIcon::State state, qreal scale) const {
   const bool isDetailed = scale > 1 && !m_pictures->light2x.isNull();
   const QImage& light = isDetailed ? m_pictures->light2x : m_pictures->light;
-  if (state == QIcon::On) return tinted(light, palette.color(QPalette::Active, QPalette::Highlight));
-  if (isHighContrastWindow(palette)) {
-    return inTwoColors(light, palette.color(QPalette::Active, QPalette::WindowText),
+  if (state == QIcon::On || isHighContrastWindow(palette)) {
+    const QPalette::ColorRole ink = state == QIcon::On ? QPalette::Highlight : QPalette::WindowText;
+    return inTwoColors(light, palette.color(QPalette::Active, ink),
                        palette.color(QPalette::Active, QPalette::Window));
   }
   const QImage& dark = isDetailed && !m_pictures->dark2x.isNull() ? m_pictures->dark2x : m_pictures->dark;

@@ -20,7 +20,6 @@ constexpr int kWarningSign = 48;
 constexpr int kWarningTextLeft = kWarningMargin + kWarningSign + 16;
 constexpr int kMessageWidth = 320;
 constexpr int kMostLines = 10;
-constexpr int kTitlePixels = 13;
 constexpr int kLongestTitle = 300;  // a title beyond that is a mistake, and would make the window huge
 
 // The message and title look like labels, in the window's own colour.
@@ -44,7 +43,6 @@ KZWarningWindow::KZWarningWindow()
   setAttribute(Qt::WA_QuitOnClose, false);
 
   QFont bold = font();
-  bold.setPixelSize(kTitlePixels);
   bold.setBold(true);
   m_title->setFont(bold);
   m_title->setTextFormat(Qt::PlainText);

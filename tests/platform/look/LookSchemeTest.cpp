@@ -1,0 +1,71 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "platform/Look.h"
+#include "platform/LookColors.h"
+#include "tests/platform/look/HostPalettes.h"
+
+namespace {
+
+double luminance(const QColor& color) {
+  const auto linear = [](double part) {
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+double contrast(const QColor& left, const QColor& right) {
+  const auto [low, high] = std::minmax(luminance(left), luminance(right));
+  return (high + 0.05) / (low + 0.05);
+}
+
+TEST(LookScheme, TextsAreLegibleInEveryScheme) {
+  for (const LookScheme scheme : allSchemes) {
+    const QPalette& palette = lookPalette(scheme);
+    const LookColors& colors = lookColorsFor(scheme);
+    const QColor window = palette.color(QPalette::Window);
+    const struct {
+      const char* name;
+      QColor text;
+      QColor back;
+    } pairs[] = {
+        {"text", palette.color(QPalette::WindowText), window},
+        {"red", lookColor(SystemColor::Red, scheme), window},
+        {"blue", lookColor(SystemColor::Blue, scheme), window},
+        {"link", palette.color(QPalette::Link), window},
+        {"field", palette.color(QPalette::Text), palette.color(QPalette::Base)},
+        {"placeholder", palette.color(QPalette::PlaceholderText), palette.color(QPalette::Base)},
+        {"button", palette.color(QPalette::ButtonText), colors.faceTop},
+        {"selection", palette.color(QPalette::HighlightedText), palette.color(QPalette::Highlight)},
+        {"notice", palette.color(QPalette::ToolTipText), palette.color(QPalette::ToolTipBase)},
+        {"toolbar", colors.toolbarText, colors.toolbar},
+        {"chosen toolbar item", palette.color(QPalette::Link), colors.tile},
+        {"menu", palette.color(QPalette::Text), colors.menu},
+    };
+    for (const auto& pair : pairs)
+      EXPECT_GE(contrast(pair.text, pair.back), 4.5) << schemeName(scheme) << ' ' << pair.name;
+    // What is no text but tells a state.
+    EXPECT_GE(contrast(palette.color(QPalette::Highlight), window), 3.0) << schemeName(scheme);
+    EXPECT_GE(contrast(colors.glyph, palette.color(QPalette::Highlight)), 3.0) << schemeName(scheme);
+  }
+}
+
+TEST(LookScheme, IsChosenFromThePalette) {
+  for (const LookScheme scheme : allSchemes) {
+    EXPECT_EQ(lookSchemeFor(hostPalette(scheme)), scheme) << schemeName(scheme);
+    EXPECT_EQ(lookSchemeFor(lookPalette(scheme)), scheme) << "the look's own palette, " << schemeName(scheme);
+  }
+  // A plain white window with black text is high contrast only when fields and buttons are as stark.
+  for (const QPalette::ColorRole role : {QPalette::Base, QPalette::Button, QPalette::Window}) {
+    QPalette palette = hostPalette(LookScheme::HighContrastLight);
+    palette.setColor(role, QColor(0xf0, 0xf0, 0xf0));
+    EXPECT_EQ(lookSchemeFor(palette), LookScheme::Light) << role;
+  }
+  QPalette mixed = hostPalette(LookScheme::HighContrastDark);
+  mixed.setColor(QPalette::Base, Qt::white);
+  mixed.setColor(QPalette::Text, Qt::black);
+  EXPECT_EQ(lookSchemeFor(mixed), LookScheme::Dark);
+}
+
+}  // namespace

@@ -1,0 +1,193 @@
+#include <gtest/gtest.h>
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+#include <QToolButton>
+#include <memory>
+
+#include "platform/FrameLayout.h"
+#include "platform/Look.h"
+#include "platform/PopUpButton.h"
+#include "platform/Spinner.h"
+#include "platform/WindowController.h"
+#include "tests/platform/look/HostPalettes.h"
+#include "tests/platform/look/SampleToolbar.h"
+
+namespace {
+
+class LookStyleTest : public testing::Test {
+ protected:
+  LookStyleTest() { QApplication::setPalette(hostPalette(LookScheme::Light)); }
+  ~LookStyleTest() override { QApplication::setPalette(hostPalette(LookScheme::Light)); }
+
+  template <typename Control>
+  Control* add(Control* control, const Frame& frame) {
+    addSubview(&m_window, control, frame);
+    return control;
+  }
+
+  void show() {
+    m_window.resize(500, 300);
+    m_window.show();
+    m_window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&m_window));
+  }
+
+  Window m_window;
+};
+
+bool hasColorNear(const QImage& picture, const QColor& color) {
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) {
+      const QColor pixel = picture.pixelColor(x, y);
+      if (qAbs(pixel.red() - color.red()) + qAbs(pixel.green() - color.green()) +
+              qAbs(pixel.blue() - color.blue()) <
+          12)
+        return true;
+    }
+  }
+  return false;
+}
+
+// The bounds of what is drawn on that ground.
+QRect drawnOn(const QColor& ground, const QImage& picture, const QRect& area) {
+  QRect found;
+  for (int y = area.top(); y <= area.bottom(); ++y)
+    for (int x = area.left(); x <= area.right(); ++x)
+      if (qAbs(qGray(picture.pixel(x, y)) - qGray(ground.rgb())) > 20) found |= QRect(x, y, 1, 1);
+  return found;
+}
+
+TEST_F(LookStyleTest, LivePaletteChangeRecoloursEverything) {
+  QToolBar* toolbar = sampleToolbar(&m_window);
+  auto* popUp = add(new PopUpButton({"7", "14"}), {20, 100, 50, 22});
+  auto* field = add(new QLineEdit("text"), {20, 60, 100, 22});
+  show();
+  toolbar->setGeometry(0, 0, 500, 60);
+  QWidget* item = toolbar->widgetForAction(toolbar->actions().at(0));
+  for (const LookScheme scheme :
+       {LookScheme::Dark, LookScheme::HighContrastDark, LookScheme::HighContrastLight, LookScheme::Light}) {
+    QApplication::setPalette(hostPalette(scheme));
+    QApplication::processEvents();
+    const QPalette& palette = lookPalette(scheme);
+    EXPECT_EQ(m_window.grab().toImage().pixelColor(250, 200), palette.color(QPalette::Window))
+        << schemeName(scheme);
+    EXPECT_EQ(field->grab().toImage().pixelColor(90, 11), palette.color(QPalette::Base))
+        << schemeName(scheme);
+    EXPECT_EQ(popUp->view()->palette().color(QPalette::Highlight), palette.color(QPalette::Highlight));
+    const bool isDark = qGray(palette.color(QPalette::Window).rgb()) < 128;
+    const QImage icon = item->grab(QRect(item->width() / 2 - 12, 5, 24, 24)).toImage();
+    const auto isInk = [isDark](const QColor& pixel) {
+      return isDark ? pixel.lightness() > 150 : pixel.lightness() < 110;
+    };
+    EXPECT_TRUE([&] {
+      for (int x = 0; x < icon.width(); ++x)
+        if (isInk(icon.pixelColor(x, 5))) return true;
+      return false;
+    }()) << "the icon is not legible, "
+         << schemeName(scheme);
+  }
+}
+
+TEST_F(LookStyleTest, TheApplicationIsLeftAlone) {
+  const QPalette before = QApplication::palette();
+  QStyle* style = QApplication::style();
+  show();
+  EXPECT_EQ(QApplication::palette(), before);
+  EXPECT_EQ(QApplication::style(), style);
+  EXPECT_EQ(lookStyle()->parent(), qApp);
+}
+
+TEST_F(LookStyleTest, KeyboardFocusIsVisibleOnEveryControl) {
+  QToolBar* toolbar = sampleToolbar(&m_window);
+  const QList<QWidget*> controls{
+      add(new QRadioButton("Radio"), {20, 10, 100, 16}), add(new QCheckBox("Check"), {20, 40, 100, 16}),
+      add(new QPushButton("Push"), {20, 70, 80, 20}),    add(new QLineEdit("field"), {20, 100, 80, 22}),
+      add(new PopUpButton({"7"}), {20, 130, 50, 22}),    toolbar->widgetForAction(toolbar->actions().at(0))};
+  show();
+  toolbar->setGeometry(0, 0, 500, 60);
+  for (QWidget* control : controls) {
+    if (QWidget* focused = QApplication::focusWidget()) focused->clearFocus();
+    const QImage plain = control->grab().toImage();
+    QTest::keyClick(&m_window, Qt::Key_Tab);
+    control->setFocus(Qt::TabFocusReason);
+    const QImage marked = control->grab().toImage();
+    EXPECT_TRUE(hasColorNear(marked, m_window.palette().color(QPalette::Highlight)))
+        << control->metaObject()->className();
+    EXPECT_NE(plain, marked) << control->metaObject()->className();
+  }
+}
+
+TEST_F(LookStyleTest, AFieldCanDoWithoutRing) {
+  auto* field = add(new QLineEdit, {20, 100, 80, 22});
+  field->setProperty("focusRing", false);
+  show();
+  field->setFocus();
+  const QImage picture = field->grab().toImage();
+  EXPECT_EQ(picture.pixelColor(40, 0), field->palette().color(QPalette::Highlight));
+  EXPECT_EQ(picture.pixelColor(40, 1), field->palette().color(QPalette::Base));
+}
+
+TEST_F(LookStyleTest, APopUpShowsItsTextUncut) {
+  auto* popUp = add(new PopUpButton({"7", "14"}), {20, 100, 50, 22});
+  popUp->setTitle("14");
+  show();
+  const QRect room(2, 3, 30, 16);
+  const QRect ink = drawnOn(Qt::white, popUp->grab().toImage(), room);
+  // Two digits, whole, and not running into the tile.
+  EXPECT_GE(ink.width(), popUp->fontMetrics().tightBoundingRect("14").width() - 2);
+  EXPECT_LT(ink.right(), room.right());
+  EXPECT_GE(ink.height(), 8);
+}
+
+TEST_F(LookStyleTest, IndicatorsFitInSixteenPoints) {
+  for (const bool isRadio : {true, false}) {
+    QAbstractButton* control =
+        isRadio ? static_cast<QAbstractButton*>(new QRadioButton("x")) : new QCheckBox("x");
+    control->setChecked(true);
+    add(control, {20, 100, 60, 16});
+    show();
+    const QImage picture = control->grab(QRect(0, 0, 18, 16)).toImage();
+    const QRect found = drawnOn(control->palette().color(QPalette::Window), picture, picture.rect());
+    EXPECT_EQ(found, QRect(1, 1, 14, 14)) << control->metaObject()->className();
+    delete control;
+  }
+}
+
+TEST_F(LookStyleTest, ANarrowToolbarKeepsItsHeightAndOffersTheRest) {
+  QToolBar* toolbar = sampleToolbar(&m_window);
+  show();
+  toolbar->setGeometry(0, 0, 200, toolbar->sizeHint().height());
+  QApplication::processEvents();
+  EXPECT_EQ(toolbar->height(), 60);
+  auto* rest = toolbar->findChild<QToolButton*>("qt_toolbar_ext_button");
+  ASSERT_NE(rest, nullptr);
+  EXPECT_TRUE(rest->isVisible());
+  EXPECT_TRUE(hasColorNear(rest->grab().toImage(), m_window.palette().color(QPalette::WindowText)));
+}
+
+TEST_F(LookStyleTest, ASpinnerTurnsOnlyWhileItIsSeen) {
+  auto* spinner = add(new Spinner, {20, 100, 16, 16});
+  show();
+  const auto turns = [spinner] {
+    const QImage before = spinner->grab().toImage();
+    QTest::qWait(250);
+    return spinner->grab().toImage() != before;
+  };
+  EXPECT_FALSE(turns());
+  spinner->startAnimation();
+  EXPECT_TRUE(turns());
+  spinner->hide();
+  EXPECT_FALSE(turns());
+  spinner->show();
+  EXPECT_TRUE(turns());
+  spinner->stopAnimation();
+  EXPECT_FALSE(turns());
+}
+
+}  // namespace
