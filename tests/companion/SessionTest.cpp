@@ -22,7 +22,7 @@ QStringList shown(const QStringList& script) {
 
 QString happened(const char* content) {
   return QStringLiteral(R"({"sent":23,"name":"KZCmdWriteTelemetry","content":%1})")
-      .arg(QLatin1String(content));
+      .arg(QString::fromUtf8(content));
 }
 
 std::string textOf(const QStringList& lines) {
