@@ -1,0 +1,47 @@
+# The one place that people and machines start from: see docs/contributing.md.
+SHELL := /usr/bin/env bash
+.SHELLFLAGS := -euo pipefail -c
+.DEFAULT_GOAL := build
+MAKEFLAGS += --no-print-directory
+
+JOBS ?= $(shell nproc)
+BUILD ?= build
+SANITIZE_BUILD ?= build-sanitize
+TEST_JOBS ?= $(JOBS)
+
+.PHONY: run build test lint sanitize bench pictures host-guide clean packages
+
+run: build
+	$(BUILD)/bin/companion
+
+build: packages
+	@tools/build.sh $(BUILD) $(JOBS)
+
+test: build
+	@tools/run-tests.sh $(BUILD) $(TEST_JOBS)
+
+lint: packages
+	@tools/lint.sh
+
+sanitize: packages
+	@tools/build.sh $(SANITIZE_BUILD) $(JOBS) -DKZ_SANITIZE=ON
+	@tools/run-tests.sh $(SANITIZE_BUILD) $(TEST_JOBS)
+
+bench: build
+	$(BUILD)/bin/benchmarks
+	$(BUILD)/bin/prefs-bench --window
+	$(BUILD)/bin/prefs-bench --window --fade
+
+# The pictures of README.md, drawn by the demonstration.
+pictures: build
+	@tools/draw-pictures.sh $(BUILD)
+
+# The tables of docs/host-guide.md, from the code's own.
+host-guide: build
+	@$(BUILD)/bin/host-guide-tables docs/host-guide.md
+
+clean:
+	rm -rf $(BUILD) $(SANITIZE_BUILD) build-lint
+
+packages:
+	@tools/install-packages.sh
