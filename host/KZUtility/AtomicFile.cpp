@@ -38,6 +38,12 @@ bool writeAll(int descriptor, QByteArrayView bytes) {
   return true;
 }
 
+// Some file systems cannot do it; the file is in place all the same.
+void syncFolder(const QString& folder) {
+  const Descriptor place(::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (place.isOpen()) (void)::fsync(place.get());
+}
+
 QString temporaryPrefix(const QString& name) {
   return u'.' + name + u'.';
 }
@@ -49,6 +55,7 @@ QString replaceFile(const QString& folder, const QString& name, const QByteArray
   const Descriptor file(::mkostemp(temporary.data(), O_CLOEXEC));
   if (!file.isOpen()) return qt_error_string(errno);
   const QByteArray target = QFile::encodeName(QDir(folder).filePath(name));
+  const bool isFirst = ::access(target.constData(), F_OK) != 0;
   const bool isReplaced = writeAll(file.get(), bytes) && ::fsync(file.get()) == 0 &&
                           ::rename(temporary.constData(), target.constData()) == 0;
   if (!isReplaced) {
@@ -56,10 +63,9 @@ QString replaceFile(const QString& folder, const QString& name, const QByteArray
     ::unlink(temporary.constData());
     return reason;
   }
-  // The new name is what must last, too. Some file systems cannot sync a folder; the file is in place all the
-  // same.
-  const Descriptor place(::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (place.isOpen()) (void)::fsync(place.get());
+  // A first file must still have its name after a power cut. A later one may be the old or the new file then,
+  // both whole, which is not worth doubling the wait at every change.
+  if (isFirst) syncFolder(folder);
   return {};
 }
 

@@ -12,6 +12,7 @@ class SecretServiceKeychain::Worker final {
  public:
   using Call = std::function<Answer(GCancellable*)>;
 
+  explicit Worker(std::chrono::milliseconds deadline) : m_deadline(deadline) {}
   ~Worker() {
     if (!m_thread.joinable()) return;
     if (stop()) {
@@ -21,15 +22,16 @@ class SecretServiceKeychain::Worker final {
     }
   }
 
-  Answer ask(Call call, std::chrono::milliseconds deadline) {
+  Q_DISABLE_COPY_MOVE(Worker)
+
+  Answer ask(Call call) {
     const auto task = std::make_shared<Task>();
     task->call = std::move(call);
     std::unique_lock lock(m_queue->mutex);
-    m_stopBound = deadline;
     if (!m_thread.joinable()) m_thread = std::thread([queue = m_queue] { queue->run(); });
     m_queue->waiting.push_back(task);
     m_queue->wake.notify_one();
-    if (m_queue->done.wait_for(lock, deadline, [&] { return task->isDone; })) return task->answer;
+    if (m_queue->done.wait_for(lock, m_deadline, [&] { return task->isDone; })) return task->answer;
     task->isAbandoned = true;
     lock.unlock();
     secretservice::cancel(task->cancellable.get());
@@ -88,34 +90,33 @@ class SecretServiceKeychain::Worker final {
       secretservice::cancel(current->cancellable.get());
       lock.lock();
     }
-    return m_queue->done.wait_for(lock, m_stopBound, [this] { return m_queue->isStopped; });
+    return m_queue->done.wait_for(lock, m_deadline, [this] { return m_queue->isStopped; });
   }
 
+  const std::chrono::milliseconds m_deadline;
   const std::shared_ptr<Queue> m_queue = std::make_shared<Queue>();
-  std::chrono::milliseconds m_stopBound{};
   std::thread m_thread;
 };
 
 SecretServiceKeychain::SecretServiceKeychain(std::chrono::milliseconds deadline)
-    : m_deadline(deadline), m_worker(std::make_shared<Worker>()) {}
+    : m_worker(std::make_unique<Worker>(deadline)) {}
 
 SecretServiceKeychain::~SecretServiceKeychain() = default;
 
 KZKeychainBackend::Answer SecretServiceKeychain::read(const Item& item) {
-  return m_worker->ask([item](GCancellable* cancellable) { return secretservice::read(item, cancellable); },
-                       m_deadline);
+  return m_worker->ask([item](GCancellable* cancellable) { return secretservice::read(item, cancellable); });
 }
 
 KZKeychainBackend::Status SecretServiceKeychain::write(const Item& item, const QByteArray& secret) {
   const auto call = [item, secret](GCancellable* cancellable) {
     return Answer{.status = secretservice::write(item, secret, cancellable), .secret = {}};
   };
-  return m_worker->ask(call, m_deadline).status;
+  return m_worker->ask(call).status;
 }
 
 KZKeychainBackend::Status SecretServiceKeychain::remove(const Item& item) {
   const auto call = [item](GCancellable* cancellable) {
     return Answer{.status = secretservice::remove(item, cancellable), .secret = {}};
   };
-  return m_worker->ask(call, m_deadline).status;
+  return m_worker->ask(call).status;
 }

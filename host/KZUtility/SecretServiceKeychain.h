@@ -21,6 +21,5 @@ class KZ_HOST_EXPORT SecretServiceKeychain final : public KZKeychainBackend {
  private:
   class Worker;
 
-  const std::chrono::milliseconds m_deadline;
-  const std::shared_ptr<Worker> m_worker;
+  const std::unique_ptr<Worker> m_worker;
 };

@@ -1,4 +1,5 @@
-// A Secret Service with one fault, named by the first argument:
+// An empty Secret Service with one fault, named by the first argument:
+//   none    none
 //   silent  never answers
 //   locked  its default collection is locked
 //   absent  it has no default collection

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QElapsedTimer>
+#include <functional>
 
 #include "host/KZUtility/SecretServiceKeychain.h"
 #include "tests/host/TraceWatch.h"
@@ -58,6 +59,13 @@ void expectUnavailable() {
 }
 
 }  // namespace
+
+TEST(FaultyKeychain, IsAnEmptyKeychainWithoutItsFault) {
+  const ServiceProcess service("none");
+  SecretServiceKeychain keychain(kDeadline);
+  EXPECT_EQ(keychain.read(kAnyItem).status, KZKeychainBackend::Status::NotFound);
+  EXPECT_EQ(keychain.remove(kAnyItem), KZKeychainBackend::Status::NotFound);
+}
 
 TEST(FaultyKeychain, DelaysByTheDeadlineAtMostAndNeverPrompts) {
   for (const char* fault : {"silent", "locked", "absent", "slow", "dies"}) {

@@ -86,6 +86,9 @@ TEST(RealKeychain, HoldsTheHostsCredentials) {
   KZKeyChainHandle& handle = KZKeyChainHandle::sharedInstance();
   const auto nextRun = [&] { handle.useBackend(std::make_shared<SecretServiceKeychain>(kPatient)); };
   nextRun();
+  const KZKeychainBackend::Item online{"Brenn Mivra Meetings", "OutlookAccount(Online)"};
+  handle.removeOutlookCredential();
+  (void)handle.deleteGenericPassword(online);
   QString username = "x";
   QString password = "x";
   handle.getOutlookUsername(&username, &password);
@@ -99,7 +102,6 @@ TEST(RealKeychain, HoldsTheHostsCredentials) {
   EXPECT_EQ(username, "DOMAIN\\a:b\r\n");
   EXPECT_EQ(password, everyPlane());
   EXPECT_EQ(handle.getOutlookOnlineData(), QByteArray("blob"));
-  const KZKeychainBackend::Item online{"Brenn Mivra Meetings", "OutlookAccount(Online)"};
   EXPECT_EQ(handle.copyGenericPassword(online).secret, "blob");
   EXPECT_EQ(handle.deleteGenericPassword(online), Status::Done);
 

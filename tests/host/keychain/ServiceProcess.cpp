@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QElapsedTimer>
-#include <QThread>
 
 namespace {
 
@@ -31,7 +30,8 @@ ServiceProcess::ServiceProcess() {
   m_process.closeWriteChannel();
   QElapsedTimer timer;
   timer.start();
-  while (!isNameOwned() && timer.elapsed() < kStartMilliseconds) QThread::msleep(20);
+  // Waiting for the process also hands it the password.
+  while (!isNameOwned() && timer.elapsed() < kStartMilliseconds) m_process.waitForFinished(20);
 }
 
 ServiceProcess::~ServiceProcess() {
