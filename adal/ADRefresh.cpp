@@ -75,16 +75,15 @@ void ADRefresh::onAnswer(const ADTokenAnswerOrError& answer) {
 }
 
 std::optional<ADTokenCacheItem> ADRefresh::successor() const {
-  std::optional<ADTokenCacheItem> found;
-  for (const ADTokenCacheItem& item : ADTokenCache::defaultCache().allItems().items) {
-    if (item.refreshToken.isEmpty() || item.refreshToken == m_request.refreshToken) continue;
-    if (item.authority != m_request.authority || item.clientId != m_request.clientId) continue;
-    if (m_holder && !isOfOneUser(item, *m_holder)) continue;
-    // Without a stored item it is not known whose token this was: with two users there, neither is taken.
-    if (found && !isOfOneUser(item, *found)) return {};
-    found = item;
-  }
-  return found;
+  // Of a token that was not stored nobody knows whose it was; another user's must not stand in for it.
+  if (!m_holder) return {};
+  const QList<ADTokenCacheItem> items = ADTokenCache::defaultCache().allItems().items;
+  const auto found = std::find_if(items.begin(), items.end(), [this](const ADTokenCacheItem& item) {
+    return !item.refreshToken.isEmpty() && item.refreshToken != m_holder->refreshToken &&
+           item.authority == m_holder->authority && item.clientId == m_holder->clientId &&
+           isOfOneUser(item, *m_holder);
+  });
+  return found == items.end() ? std::nullopt : std::optional(*found);
 }
 
 void ADRefresh::store(const ADTokenAnswer& answer) {

@@ -14,7 +14,7 @@ ADError cacheBusy() {
 }
 
 bool isSameData(const QByteArray& left, const QByteArray& right) {
-  if (left.isNull() || left.size() != right.size()) return false;
+  if (left.size() != right.size()) return false;
   return left.constData() == right.constData() || left == right;
 }
 
@@ -97,7 +97,7 @@ ADTokenCache::Failure ADTokenCache::deserialize(const std::optional<QByteArray>&
     return {};
   }
   // The storage is read before every access, and has hardly ever changed.
-  if (isSameData(*data, m_serialized)) return {};
+  if (!m_serialized.isNull() && isSameData(*data, m_serialized)) return {};
   std::optional<QList<ADTokenCacheItem>> items = deserializedTokens(*data);
   if (!items) return ADError{ADErrorCode::CacheFormat, QStringLiteral("not written by this version")};
   m_items = *std::move(items);
