@@ -3,7 +3,9 @@
 #include "host/KZUtility/KZTrace.h"
 #include "host/KZUtility/KZXmlDocument.h"
 
-QString KZPreference::getBrennOI(const Dictionary& content) { return textValue(content, QStringLiteral("BrennOI")); }
+QString KZPreference::getBrennOI(const Dictionary& content) {
+  return textValue(content, QStringLiteral("BrennOI"));
+}
 
 QString KZPreference::paserMeetingKey(const QString& xml) {
   return KZXmlDocument::firstText(xml, QStringLiteral("MivRa"),
@@ -21,7 +23,9 @@ void KZPreference::releasePreferenceHostInfoWindowController(const QString& meet
   if (!meetingKey.isNull()) dictHostInfoWndController.erase(meetingKey);
 }
 
-void KZPreference::releasePreferenceWindowController() { myWindowController.reset(); }
+void KZPreference::releasePreferenceWindowController() {
+  myWindowController.reset();
+}
 
 void KZPreference::onHandleClosePreferenceWindow() {
   if (myWindowController && myWindowController->isWindowVisible()) myWindowController->close();

@@ -16,7 +16,9 @@ namespace {
 const QString kRecordKey = QStringLiteral("kz");
 const QString kAppActionTypeKey = QStringLiteral("AppActionType");
 
-Dictionary dictionaryOfJson(const QString& text) { return KZUtility::JSONValueFromString(text).value<Dictionary>(); }
+Dictionary dictionaryOfJson(const QString& text) {
+  return KZUtility::JSONValueFromString(text).value<Dictionary>();
+}
 
 }  // namespace
 
@@ -31,15 +33,17 @@ void KZPreference::installWindowController(std::unique_ptr<PreferenceWindowContr
 // Always the signed-in variant, also after a guest's.
 PreferenceWindowController& KZPreference::ensuredWindowController() {
   if (!m_preferenceWindowController) {
-    installWindowController(std::make_unique<SignInPreferenceWindowController>(m_preferenceActionDelegate.get()));
+    installWindowController(
+        std::make_unique<SignInPreferenceWindowController>(m_preferenceActionDelegate.get()));
   }
   return *m_preferenceWindowController;
 }
 
 void KZPreference::initGuestPreference(const Request&) {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
-  if (m_preferenceWindowController) dropWindowController();
-  installWindowController(std::make_unique<NonSignInPreferenceWindowController>(m_preferenceActionDelegate.get()));
+  if (m_preferenceWindowController) destroyAppPreference({});
+  installWindowController(
+      std::make_unique<NonSignInPreferenceWindowController>(m_preferenceActionDelegate.get()));
 }
 
 void KZPreference::showAppPreference(const Request& request) {
@@ -57,15 +61,15 @@ void KZPreference::showPreferences(const Dictionary& content) {
 
 void KZPreference::destroyAppPreference(const Request&) {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
-  dropWindowController();
-}
-
-void KZPreference::dropWindowController() {
-  if (!m_preferenceWindowController) return;
+  const PreferenceWindowController* const closing = m_preferenceWindowController.get();
+  if (!closing) return;
   m_ADAuthWrapper->setExchangeResolveResultReceiver(nullptr);
   m_preferenceWindowController->close();
+  // What the panes send while they close may make the host ask for the same again.
+  if (m_preferenceWindowController.get() != closing) return;
   m_preferenceWindowController->retire();
-  // The host may ask for this from inside one of the window's own events, so the controller goes when they are over.
+  // The host may ask for this from inside one of the window's own events, so the controller goes when they
+  // are over.
   std::erase_if(m_retiredControllers, [](const auto& controller) { return controller.isNull(); });
   m_retiredControllers.emplace_back(m_preferenceWindowController.get());
   m_preferenceWindowController.release()->deleteLater();
@@ -88,7 +92,8 @@ void KZPreference::onGetPreferenceDone(const Dictionary& content) {
   const Dictionary info = dictionaryOfJson(textValue(record, QStringLiteral("customInfo")));
   const QString action = textValue(info, kAppActionTypeKey);
   if (isEqualText(action, AppActionType_JoinByNumber)) return joinByNumber();
-  if (action == QLatin1String("RequireEditSetting")) showAppPreference({.content = content, .actionFrom = {}});
+  if (action == QLatin1String("RequireEditSetting"))
+    showAppPreference({.content = content, .actionFrom = {}});
 }
 
 void KZPreference::savePreferenceInfo(const Dictionary& record) {
@@ -119,7 +124,8 @@ bool KZPreference::isActionFailed(const Dictionary& content) {
 }
 
 void KZPreference::showErrorMessage(const Dictionary& content) {
-  if (!myWarningWindowController) myWarningWindowController = std::make_unique<KZWarningWindowController>(this);
+  if (!myWarningWindowController)
+    myWarningWindowController = std::make_unique<KZWarningWindowController>(this);
   const QString message = textValue(dictionaryValue(content, kKZErrorHandleData), kKZErrorMessage);
   myWarningWindowController->showWithTitle(localizedString("Brenn Mivra Meetings"), message);
 }
@@ -142,8 +148,8 @@ void KZPreference::showPreferenceWindowWithData(const Dictionary& data) {
     myDictPreferenceInfo.insert(key, from.value(key));
   };
   const auto keepAll = [&](const QStringList& keys) {
-    const bool hasAll =
-        std::all_of(keys.begin(), keys.end(), [&](const QString& key) { return !isMissing(record.value(key)); });
+    const bool hasAll = std::all_of(keys.begin(), keys.end(),
+                                    [&](const QString& key) { return !isMissing(record.value(key)); });
     if (hasAll) std::for_each(keys.begin(), keys.end(), [&](const QString& key) { keep(record, key); });
   };
   const QString tspKey = QStringLiteral("isTSPSite");
@@ -172,10 +178,12 @@ void KZPreference::onExchangeResolvingNeedCredential(const Dictionary& content) 
   }
   const QString type = textValue(content, QRT_ExchangeDiscover_ExchangeType);
   if (isEqualText(type, QRT_ExchangeDiscover_ExchangeTypeOnpremise)) {
-    if (m_preferenceWindowController) m_preferenceWindowController->onExchangeResolvingNeedCredential(content);
+    if (m_preferenceWindowController)
+      m_preferenceWindowController->onExchangeResolvingNeedCredential(content);
     return;
   }
-  m_ADAuthWrapper->startWithParams(dictionaryOfJson(textValue(content, QRT_ExchangeDiscover_O365LoginParams)));
+  m_ADAuthWrapper->startWithParams(
+      dictionaryOfJson(textValue(content, QRT_ExchangeDiscover_O365LoginParams)));
 }
 
 void KZPreference::onO365LoginRequesting(const Dictionary& content) {

@@ -48,10 +48,12 @@ KZPreference::KZPreference(KZPluginCoreMgr* core) : KZPluginMgr(core) {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
   m_preferenceActionDelegate = std::make_unique<PreferenceActionDelegate>(this);
   m_olaccountAuthenticator = std::make_unique<OLAccountAuthenticator>(m_preferenceActionDelegate.get());
-  // Each window controller becomes the wrapper's receiver when it is installed, so the wrapper exists by then.
-  m_ADAuthWrapper = std::make_unique<ADAuthenticationWrapper>(m_preferenceActionDelegate.get());
+  m_preferenceWindowController =
+      std::make_unique<SignInPreferenceWindowController>(m_preferenceActionDelegate.get());
+  m_preferenceWindowController->setOLAccountAuthenticator(m_olaccountAuthenticator.get());
   PreferenceTelemetry::sharedInstance().setTelemetryDelegate(this);
-  installWindowController(std::make_unique<SignInPreferenceWindowController>(m_preferenceActionDelegate.get()));
+  m_ADAuthWrapper = std::make_unique<ADAuthenticationWrapper>(m_preferenceActionDelegate.get());
+  m_ADAuthWrapper->setExchangeResolveResultReceiver(m_preferenceWindowController.get());
 }
 
 KZPreference::~KZPreference() {
@@ -62,8 +64,8 @@ KZPreference::~KZPreference() {
 }
 
 quint64 KZPreference::onHandleOtherPluginsTriggerCommand(quint64 command, const Content& content) {
-  const auto* handler = std::ranges::find(HandlerTables::commands, static_cast<KZCommand>(command),
-                                          &CommandHandler::number);
+  const auto* handler =
+      std::ranges::find(HandlerTables::commands, static_cast<KZCommand>(command), &CommandHandler::number);
   if (handler == HandlerTables::commands.end()) return 0;
   Request request{.content = content, .actionFrom = TelemetryValue_ActionFrom_Outlook};
   const QString actionFrom = textValue(request.dictionary(), TelemetryKey_ActionFrom);
@@ -73,8 +75,9 @@ quint64 KZPreference::onHandleOtherPluginsTriggerCommand(quint64 command, const 
 }
 
 quint64 KZPreference::onHandleServicesNotification(const KZEventIdentify& event, const Content& content) {
-  const auto* handler = std::ranges::find(HandlerTables::notifications,
-                                          static_cast<KZNotify>(event.m_componentEventIndex), &NotifyHandler::index);
+  const auto* handler =
+      std::ranges::find(HandlerTables::notifications, static_cast<KZNotify>(event.m_componentEventIndex),
+                        &NotifyHandler::index);
   if (handler != HandlerTables::notifications.end()) (this->*handler->handle)(content.value_or(Dictionary()));
   return 0;
 }

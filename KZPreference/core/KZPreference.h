@@ -16,8 +16,8 @@ class OLAccountAuthenticator;
 class PreferenceActionDelegate;
 class PreferenceWindowController;
 
-// The plug-in's principal object: dispatches the host's commands and notifications, owns the window's controller and
-// everything behind it, and sends the plug-in's commands. Main thread only.
+// The plug-in's principal object: dispatches the host's commands and notifications, owns the window's
+// controller and everything behind it, and sends the plug-in's commands. Main thread only.
 class KZPreference final : public KZPluginMgr, public PluginCommandSender {
  public:
   explicit KZPreference(KZPluginCoreMgr* core);
@@ -86,7 +86,6 @@ class KZPreference final : public KZPluginMgr, public PluginCommandSender {
   void onEnableProximityAutoDetect();
 
   void showPreferences(const Dictionary& content);
-  void dropWindowController();
   void installWindowController(std::unique_ptr<PreferenceWindowController> controller);
   PreferenceWindowController& ensuredWindowController();
 

@@ -32,7 +32,8 @@ KZPreferenceCore::~KZPreferenceCore() {
 
 quint64 KZPreferenceCore::sendPluginCommand(quint64 command, const Content& content) {
   if (!m_delegate) return 0;
-  return m_delegate->sendPluginCommand(KZEventIdentify::monitorwith(m_delegate->m_delegateNameIdx, command), content);
+  return m_delegate->sendPluginCommand(KZEventIdentify::monitorwith(m_delegate->m_delegateNameIdx, command),
+                                       content);
 }
 
 quint64 KZPreferenceCore::onHandleServicesNotification(const KZEventIdentify& event, const Content& content) {

@@ -2,8 +2,8 @@
 
 #include "host/KZFoundation/KZPluginCoreMgr.h"
 
-// The plug-in's one object that the host addresses first: makes the principal object, relays to it, and carries what
-// the plug-in sends. The first use must be on the main thread, as every other.
+// The plug-in's one object that the host addresses first: makes the principal object, relays to it, and
+// carries what the plug-in sends. The first use must be on the main thread, as every other.
 class KZPreferenceCore final : public KZPluginCoreMgr {
  public:
   static KZPreferenceCore& sharedInstance();

@@ -10,9 +10,13 @@ PluginEntry::PluginEntry() {
   ADMivraCacheDelegate::load();
 }
 
-KZPluginCoreMgr* PluginEntry::core() { return &KZPreferenceCore::sharedInstance(); }
+KZPluginCoreMgr* PluginEntry::core() {
+  return &KZPreferenceCore::sharedInstance();
+}
 
-void PluginEntry::shutDown() { KZPreferenceCore::shutDown(); }
+void PluginEntry::shutDown() {
+  KZPreferenceCore::shutDown();
+}
 
 Dictionary PluginEntry::getAccessTokenByEmail(const QString& email, const QString& username) {
   return ADTokenCacheWrapper::sharedInstance().getAccessTokenByEmail(email, username);

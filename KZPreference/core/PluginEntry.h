@@ -5,8 +5,8 @@
 #include "host/KZFoundation/KZPluginCoreMgr.h"
 #include "host/KZFoundation/KZTokenLookup.h"
 
-// What the loader hands to the host. Loading it wires the token cache to the keychain and the sign-in library's log to
-// the trace.
+// What the loader hands to the host. Loading it wires the token cache to the keychain and the sign-in
+// library's log to the trace.
 class PluginEntry final : public QObject, public KZPluginFactory, public KZTokenLookup {
   Q_OBJECT
   Q_PLUGIN_METADATA(IID "example.brenn-mivra.KZPluginFactory/1")

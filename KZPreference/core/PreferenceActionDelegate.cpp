@@ -11,7 +11,9 @@ using enum KZCommand;
 
 constexpr int kRequireMeetingSettings = 1;
 
-KZPlistFileHandle& settings() { return KZPlistFileHandle::sharedInstance(); }
+KZPlistFileHandle& settings() {
+  return KZPlistFileHandle::sharedInstance();
+}
 
 void storeCalendarValue(const QString& key, const QVariant& value) {
   Dictionary calendar = settings().calendarIntegration();
@@ -33,7 +35,8 @@ void storeNotification(const NotificationKeys& keys, bool state, const QString& 
 
 }  // namespace
 
-PreferenceActionDelegate::PreferenceActionDelegate(PluginCommandSender* preference) : m_preference(preference) {
+PreferenceActionDelegate::PreferenceActionDelegate(PluginCommandSender* preference)
+    : m_preference(preference) {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "delegate:%@", preference);
 }
 
