@@ -1,13 +1,15 @@
 #include "platform/ViewAnimation.h"
 
 #include <QPainter>
+#include <QScreen>
 #include <QStyle>
 
 #include "platform/FrameLayout.h"
 
 namespace {
 
-// Covers the container with a blend of two pictures that share their upper left corner; the live view is underneath.
+// Covers the container with a blend of two pictures that share their upper left corner; the live view is
+// underneath.
 class FadeOverlay final : public QWidget {
  public:
   FadeOverlay(QWidget* container, const QPixmap& oldPicture, const QPixmap& newPicture)
@@ -52,7 +54,13 @@ ViewAnimation::ViewAnimation(QObject* parent) : QObject(parent), m_progress(this
 
 ViewAnimation::~ViewAnimation() = default;
 
-bool ViewAnimation::isRunning() const { return m_progress.state() != QAbstractAnimation::Stopped; }
+QPixmap ViewAnimation::pictureOf(QWidget* view) {
+  return view->grab(QRect(QPoint(), view->size().boundedTo(view->screen()->size())));
+}
+
+bool ViewAnimation::isRunning() const {
+  return m_progress.state() != QAbstractAnimation::Stopped;
+}
 
 void ViewAnimation::start(const CrossFade& fade, const QPixmap& oldPicture) {
   stop();
@@ -61,7 +69,7 @@ void ViewAnimation::start(const CrossFade& fade, const QPixmap& oldPicture) {
   m_endFrame = fade.endFrame;
   if (!fade.window->style()->styleHint(QStyle::SH_Widget_Animate, nullptr, fade.window)) return finish();
 
-  auto* overlay = new FadeOverlay(fade.newView->parentWidget(), oldPicture, fade.newView->grab());
+  auto* overlay = new FadeOverlay(fade.newView->parentWidget(), oldPicture, pictureOf(fade.newView));
   m_overlay = overlay;
   overlay->setProgress(0);
   overlay->show();

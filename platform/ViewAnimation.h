@@ -9,8 +9,8 @@
 #include "platform/Frame.h"
 #include "platform/PlatformExport.h"
 
-// Fades one view into another while their window changes its frame. Does not block; ease in and out. With the style
-// hint SH_Widget_Animate off it ends at once. Main thread only.
+// Fades one view into another while their window changes its frame. Does not block; ease in and out. With the
+// style hint SH_Widget_Animate off it ends at once. Main thread only.
 class PLATFORM_EXPORT ViewAnimation : public QObject {
   Q_OBJECT
 
@@ -23,6 +23,9 @@ class PLATFORM_EXPORT ViewAnimation : public QObject {
 
   explicit ViewAnimation(QObject* parent);
   ~ViewAnimation() override;
+
+  // As much of the view as a screen can show, from its upper left corner.
+  static QPixmap pictureOf(QWidget* view);
 
   void setDuration(double seconds) { m_duration = seconds; }
   double duration() const { return m_duration; }

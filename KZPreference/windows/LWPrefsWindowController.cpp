@@ -23,6 +23,12 @@ constexpr double kSlowFadeSeconds = 1.25;
 constexpr Frame kInitialFrame{.x = 0, .y = 0, .width = 1000, .height = 1000};
 const QString kFlexibleSpaceIdentifier = QStringLiteral("NSToolbarFlexibleSpaceItemIdentifier");
 
+void addSpaceTo(QToolBar* toolbar) {
+  auto* space = new QWidget;
+  space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+  toolbar->addWidget(space);
+}
+
 }  // namespace
 
 std::unique_ptr<LWPrefsWindowController> LWPrefsWindowController::s_shared;
@@ -85,6 +91,10 @@ void LWPrefsWindowController::initToolbar() {
   m_toolbar->setStyle(window()->style());
   m_selection = new QActionGroup(m_toolbar);
   for (const QString& identifier : std::as_const(m_toolbarIdentifiers)) {
+    if (identifier == kFlexibleSpaceIdentifier) {
+      addSpaceTo(m_toolbar);
+      continue;
+    }
     QAction* item = m_toolbarItems.value(identifier);
     m_toolbar->addAction(item);
     if (!item->isCheckable()) continue;
@@ -106,10 +116,11 @@ void LWPrefsWindowController::showFirstPane() {
 
 void LWPrefsWindowController::addToolbarItemForIdentifier(const QString& identifier, const QString& label,
                                                           const QIcon& image, ToolbarAction action) {
-  if (m_toolbarItems.contains(identifier)) {
+  QAction* replaced = m_toolbarItems.take(identifier);
+  if (replaced && identifier != kFlexibleSpaceIdentifier) {
     MVRNSWarningFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "two toolbar items are called %@", identifier);
-    delete m_toolbarItems.take(identifier);
   }
+  delete replaced;
   m_toolbarIdentifiers.append(identifier);
   auto* item = new QAction(image, label, this);
   item->setData(identifier);
@@ -119,7 +130,6 @@ void LWPrefsWindowController::addToolbarItemForIdentifier(const QString& identif
 
 void LWPrefsWindowController::addFlexibleSpacer() {
   addToolbarItemForIdentifier(kFlexibleSpaceIdentifier, QString(), QIcon(), nullptr);
-  m_toolbarItems.value(kFlexibleSpaceIdentifier)->setSeparator(true);
 }
 
 void LWPrefsWindowController::addView(View* view, const QString& label) {
@@ -157,11 +167,12 @@ void LWPrefsWindowController::displayViewForIdentifier(const QString& identifier
   if (newView == oldView) return;
 
   const bool isFading = animate == Animate::Yes && m_crossFade;
-  const QPixmap oldPicture = isFading ? m_contentSubview->grab() : QPixmap();
+  const QPixmap oldPicture = isFading ? ViewAnimation::pictureOf(m_contentSubview) : QPixmap();
   const Size size = frameOf(newView).size();
   const double height = frameOf(m_contentSubview).height;
   newView->setVisible(true);
-  addSubview(m_contentSubview, newView, {0, height - size.height, size.width, size.height}, VerticalAnchor::Top);
+  addSubview(m_contentSubview, newView, {0, height - size.height, size.width, size.height},
+             VerticalAnchor::Top);
   const Frame bounded = boundedByScreen(frameForView(newView));
   m_contentView->setContentSize(size, {bounded.width, bounded.height - m_toolbar->sizeHint().height()});
   if (isFading) return crossFadeView(newView, oldPicture);
@@ -172,10 +183,12 @@ void LWPrefsWindowController::displayViewForIdentifier(const QString& identifier
 }
 
 void LWPrefsWindowController::crossFadeView(View* newView, const QPixmap& oldPicture) {
-  const bool isSlow = m_shiftSlowsAnimation && QGuiApplication::keyboardModifiers().testFlag(Qt::ShiftModifier);
+  const bool isSlow =
+      m_shiftSlowsAnimation && QGuiApplication::keyboardModifiers().testFlag(Qt::ShiftModifier);
   m_viewAnimation->setDuration(isSlow ? kSlowFadeSeconds : kFadeSeconds);
   m_viewAnimation->start(
-      {.newView = newView, .window = window(), .endFrame = boundedByScreen(frameForView(newView))}, oldPicture);
+      {.newView = newView, .window = window(), .endFrame = boundedByScreen(frameForView(newView))},
+      oldPicture);
 }
 
 void LWPrefsWindowController::animationDidEnd() {
