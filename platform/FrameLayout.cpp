@@ -29,7 +29,9 @@ void keep(QWidget* view, const Placement& placement) {
   view->setProperty(kFrameProperty, QVariant::fromValue(placement));
 }
 
-double heightOf(const QWidget* view) { return frameOf(view).height; }
+double heightOf(const QWidget* view) {
+  return frameOf(view).height;
+}
 
 // Edges are rounded, not sizes, so that neighbours that touch in points touch in pixels.
 QRect geometryIn(const QWidget* parent, const Frame& frame) {
@@ -45,9 +47,12 @@ QSize roundedSize(const Frame& frame) {
   return {static_cast<int>(std::ceil(frame.width)), static_cast<int>(std::ceil(frame.height))};
 }
 
-double screenHeight(const QWidget* window) { return window->screen()->geometry().bottom() + 1.0; }
+double screenHeight(const QWidget* window) {
+  return window->screen()->geometry().bottom() + 1.0;
+}
 
-// A window whose upper left corner stays is never moved: with a window manager that would shift it by its decoration.
+// A window whose upper left corner stays is never moved: with a window manager that would shift it by its
+// decoration.
 void setWindowGeometry(QWidget* window, const Frame& frame) {
   const QPoint corner(qRound(frame.x), qRound(screenHeight(window) - frame.maxY()));
   const QPoint shift = corner - window->geometry().topLeft();
@@ -59,7 +64,8 @@ void setWindowGeometry(QWidget* window, const Frame& frame) {
 class Placer final : public QObject {
  public:
   static Placer* of(const QWidget* parent) {
-    return static_cast<Placer*>(parent->findChild<QObject*>(QStringLiteral("platformPlacer"), Qt::FindDirectChildrenOnly));
+    return static_cast<Placer*>(
+        parent->findChild<QObject*>(QStringLiteral("platformPlacer"), Qt::FindDirectChildrenOnly));
   }
 
   static Placer& ensured(QWidget* parent) {
@@ -164,7 +170,8 @@ void addSubview(QWidget* parent, QWidget* child, const Frame& frame, VerticalAnc
 
 void removeFromSuperview(QWidget* view) {
   view->hide();
-  if (Placer* placer = view->parentWidget() ? Placer::of(view->parentWidget()) : nullptr) placer->remove(view);
+  if (Placer* placer = view->parentWidget() ? Placer::of(view->parentWidget()) : nullptr)
+    placer->remove(view);
 }
 
 void setFrame(QWidget* view, const Frame& frame) {
@@ -186,15 +193,14 @@ Frame frameOf(const QWidget* view) {
 
   const QRect geometry = view->geometry();
   const double parentHeight = view->isWindow() ? screenHeight(view) : heightOf(view->parentWidget());
-  Frame frame{.x = double(geometry.x()),
-              .y = parentHeight - geometry.y() - geometry.height(),
-              .width = double(geometry.width()),
-              .height = double(geometry.height())};
-  if (placement && geometry.size() == roundedSize(placement->frame)) {
-    frame.width = placement->frame.width;
-    frame.height = placement->frame.height;
-  }
-  return frame;
+  const bool isAsPlaced = placement && geometry.size() == roundedSize(placement->frame);
+  const Size size =
+      isAsPlaced ? placement->frame.size() : Size{double(geometry.width()), double(geometry.height())};
+  // The upper left corner is what the screen knows exactly.
+  return {.x = double(geometry.x()),
+          .y = parentHeight - geometry.y() - size.height,
+          .width = size.width,
+          .height = size.height};
 }
 
 QList<QWidget*> subviewsOf(const QWidget* parent) {
