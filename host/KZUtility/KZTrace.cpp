@@ -25,8 +25,10 @@ void writeToStandardError(const KZTraceRecord& record) {
 struct TraceState {
   QMutex mutex;
   std::shared_ptr<const KZTraceSink> sink = std::make_shared<const KZTraceSink>(writeToStandardError);
-  std::atomic<bool> isHeard = true;
 };
+
+// Asked before every record, so it stands outside the state and its guard.
+constinit std::atomic<bool> isTraceHeard = true;
 
 TraceState& traceState() {
   // Never destroyed: objects that outlive the application still trace.
@@ -39,7 +41,7 @@ void replaceSink(std::shared_ptr<const KZTraceSink> sink) {
   {
     const QMutexLocker lock(&state.mutex);
     state.sink.swap(sink);
-    state.isHeard.store(state.sink != nullptr, std::memory_order_relaxed);
+    isTraceHeard.store(state.sink != nullptr, std::memory_order_relaxed);
   }
   // The old sink goes here, unlocked: what it holds may trace.
 }
@@ -78,7 +80,7 @@ QVariant Argument::objectText(const void* object) {
 }
 
 bool isHeard() {
-  return traceState().isHeard.load(std::memory_order_relaxed);
+  return isTraceHeard.load(std::memory_order_relaxed);
 }
 
 void write(KZTraceLevel level, const char* module, const char* method, const char* format,
