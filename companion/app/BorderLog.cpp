@@ -1,6 +1,32 @@
 #include "companion/app/BorderLog.h"
 
+#include <QApplication>
 #include <QStringList>
+
+#include "platform/Look.h"
+
+namespace {
+
+// What crosses the border stands out from the traces between.
+QColor colorOf(BorderEvent::Kind kind) {
+  const QPalette palette = QApplication::palette();
+  switch (kind) {
+    case BorderEvent::Kind::Warning:
+      return lookColor(SystemColor::Red, lookSchemeFor(palette));
+    case BorderEvent::Kind::Trace:
+      return palette.color(QPalette::PlaceholderText);
+    case BorderEvent::Kind::CommandToHost:
+    case BorderEvent::Kind::Posted:
+    case BorderEvent::Kind::Address:
+      return lookColor(SystemColor::Blue, lookSchemeFor(palette));
+    case BorderEvent::Kind::CommandToPlugin:
+    case BorderEvent::Kind::Notification:
+      break;
+  }
+  return palette.color(QPalette::Text);
+}
+
+}  // namespace
 
 void BorderLog::append(const BorderEvent& event) {
   if (m_events.size() == longestLog) {
@@ -36,7 +62,9 @@ int BorderLog::columnCount(const QModelIndex& parent) const {
 
 QVariant BorderLog::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
-  if (role == kindRole) return static_cast<int>(m_events[static_cast<size_t>(index.row())].kind);
+  const BorderEvent::Kind kind = m_events[static_cast<size_t>(index.row())].kind;
+  if (role == kindRole) return static_cast<int>(kind);
+  if (role == Qt::ForegroundRole) return colorOf(kind);
   const bool isToolTip = role == Qt::ToolTipRole && index.column() >= NameColumn;
   return role == Qt::DisplayRole || isToolTip ? QVariant(textAt(index.row(), index.column())) : QVariant();
 }

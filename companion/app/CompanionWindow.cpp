@@ -1,12 +1,12 @@
 #include "companion/app/CompanionWindow.h"
 
 #include <QApplication>
-#include <QButtonGroup>
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QInputDialog>
 #include <QLabel>
 #include <QPushButton>
+#include <QRadioButton>
 
 #include "companion/app/Border.h"
 #include "companion/app/BorderLogView.h"
@@ -70,17 +70,13 @@ QWidget* CompanionWindow::createSwitch() {
   auto* box = new QWidget;
   auto* row = new QHBoxLayout(box);
   row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(6);
-  auto* group = new QButtonGroup(box);
-  m_signedIn = new QPushButton(QStringLiteral("Signed in"));
-  m_guest = new QPushButton(QStringLiteral("Guest"));
-  for (QPushButton* button : {m_signedIn, m_guest}) {
-    button->setCheckable(true);
-    group->addButton(button);
-    row->addWidget(button);
-  }
-  connect(m_signedIn, &QPushButton::clicked, this, [this] { become(demouser::Variant::SignedIn); });
-  connect(m_guest, &QPushButton::clicked, this, [this] { become(demouser::Variant::Guest); });
+  row->setSpacing(16);
+  m_signedIn = new QRadioButton(QStringLiteral("Signed in"));
+  m_guest = new QRadioButton(QStringLiteral("Guest"));
+  row->addWidget(m_signedIn);
+  row->addWidget(m_guest);
+  connect(m_signedIn, &QRadioButton::clicked, this, [this] { become(demouser::Variant::SignedIn); });
+  connect(m_guest, &QRadioButton::clicked, this, [this] { become(demouser::Variant::Guest); });
   return box;
 }
 

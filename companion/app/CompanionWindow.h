@@ -8,6 +8,7 @@
 class Border;
 class QLabel;
 class QPushButton;
+class QRadioButton;
 
 // The companion's own window: who is there, what a host can ask of its plug-in, and what crosses the border.
 class CompanionWindow final : public QWidget {
@@ -38,8 +39,8 @@ class CompanionWindow final : public QWidget {
 
   Border* m_border;
   DemoServices* m_services;
-  QPushButton* m_signedIn = nullptr;
-  QPushButton* m_guest = nullptr;
+  QRadioButton* m_signedIn = nullptr;
+  QRadioButton* m_guest = nullptr;
   QLabel* m_identity = nullptr;
   QLabel* m_notice = nullptr;
 };

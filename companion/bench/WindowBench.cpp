@@ -43,7 +43,7 @@ std::optional<FrameWatch::Clock::time_point> WindowBench::open(const QString& pl
   return m_frames.waitForFrameOf(m_window);
 }
 
-QJsonObject WindowBench::measureSwitches() {
+WindowBench::Switches WindowBench::measureSwitches() {
   m_window->controller()->setProperty("crossFade", m_fade == Fade::On);
   const qsizetype panes = paneItemsOf(*m_window).size();
   std::vector<double> painted;
@@ -55,11 +55,10 @@ QJsonObject WindowBench::measureSwitches() {
     settled.push_back(measured.settled);
     if (count < panes) firstVisits.push_back(measured.painted);
   }
-  return {{"event", "switch"},
-          {"ms_median", quantile(painted, 0.5)},
-          {"ms_p95", quantile(painted, 0.95)},
-          {"ms_first_visit", quantile(firstVisits, 0.5)},
-          {"ms_settle", quantile(settled, 0.5)}};
+  return {.median = quantile(painted, 0.5),
+          .p95 = quantile(painted, 0.95),
+          .firstVisit = quantile(firstVisits, 0.5),
+          .settle = quantile(settled, 0.5)};
 }
 
 WindowBench::Switch WindowBench::measureSwitch(qsizetype pane) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QJsonObject>
 #include <QString>
 #include <optional>
 
@@ -20,8 +19,14 @@ class WindowBench final {
   [[nodiscard]] std::optional<FrameWatch::Clock::time_point> open(const QString& plugin);
   const QString& errorText() const { return m_errorText; }
 
-  // 100 switches between all panes. After `open`.
-  QJsonObject measureSwitches();
+  // Milliseconds, over 100 switches between all panes.
+  struct Switches {
+    double median;
+    double p95;
+    double firstVisit;
+    double settle;
+  };
+  Switches measureSwitches();  // after `open`
 
  private:
   struct Switch {

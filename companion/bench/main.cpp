@@ -1,6 +1,5 @@
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QJsonDocument>
 #include <QTemporaryDir>
 #include <chrono>
 #include <cstdio>
@@ -34,13 +33,10 @@ double milliseconds(Duration duration) {
   return std::chrono::duration<double, std::milli>(duration).count();
 }
 
-void printLine(const QJsonObject& line) {
-  std::puts(QJsonDocument(line).toJson(QJsonDocument::Compact).constData());
-  std::fflush(stdout);
-}
-
-void printFirstPaint(double sinceStart, double sinceToolkit) {
-  std::printf("{\"event\":\"first_paint\",\"ms\":%.3f,\"open_ms\":%.3f}\n", sinceStart, sinceToolkit);
+// Each line at once: whoever waits for the first frame must not wait for the switches.
+template <typename... Values>
+void printLine(const char* format, Values... values) {
+  std::printf(format, values...);
   std::fflush(stdout);
 }
 
@@ -55,14 +51,16 @@ int benchWindow(WallClock::time_point start, FrameWatch::Clock::time_point toolk
     std::fprintf(stderr, "prefs-bench: %s\n", qPrintable(bench.errorText()));
     return kPluginFailed;
   }
-  printFirstPaint(milliseconds(WallClock::now() - start), milliseconds(*painted - toolkitReady));
-  printLine(bench.measureSwitches());
+  printLine("{\"event\":\"first_paint\",\"ms\":%.3f,\"open_ms\":%.3f}\n",
+            milliseconds(WallClock::now() - start), milliseconds(*painted - toolkitReady));
+  const WindowBench::Switches switches = bench.measureSwitches();
+  printLine(
+      "{\"event\":\"switch\",\"ms_median\":%.3f,\"ms_p95\":%.3f,\"ms_first_visit\":%.3f,\"ms_settle\":%.3f}"
+      "\n",
+      switches.median, switches.p95, switches.firstVisit, switches.settle);
   const MemoryUse memory = MemoryUse::now();
-  printLine({{"event", "rss"},
-             {"kb", memory.resident},
-             {"hwm_kb", memory.mostResident},
-             {"pss_kb", memory.proportional},
-             {"dirty_kb", memory.dirty}});
+  printLine("{\"event\":\"rss\",\"kb\":%lld,\"hwm_kb\":%lld,\"pss_kb\":%lld,\"dirty_kb\":%lld}\n",
+            memory.resident, memory.mostResident, memory.proportional, memory.dirty);
   return 0;
 }
 
