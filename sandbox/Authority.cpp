@@ -187,9 +187,11 @@ HttpResponse Authority::redeemRefreshToken(const QUrlQuery& form) {
 }
 
 HttpResponse Authority::granted(const QString& clientId) {
+  const QString accessToken = newSecret("access-");
+  m_accessTokens.insert(accessToken);
   QJsonObject answer{
       {"token_type", "Bearer"},
-      {"access_token", newSecret("access-")},
+      {"access_token", accessToken},
       {"refresh_token", grantRefreshToken(clientId)},
       {"expires_in", m_lifetime},
       {"id_token", idToken(m_fault == Fault::OtherAudience ? QStringLiteral("another") : clientId)}};

@@ -3,6 +3,7 @@
 #include <QHash>
 #include <QJsonObject>
 #include <QList>
+#include <QSet>
 #include <QString>
 #include <QUrl>
 #include <QUrlQuery>
@@ -51,6 +52,8 @@ class Authority final {
   // A refresh token as if that user had signed in here before.
   QString grantRefreshToken(const QString& clientId);
 
+  bool isGranted(const QString& accessToken) const { return m_accessTokens.contains(accessToken); }
+
   // What was asked, oldest first.
   const QList<QUrlQuery>& pageRequests() const { return m_pageRequests; }
   const QList<QUrlQuery>& tokenRequests() const { return m_tokenRequests; }
@@ -83,6 +86,7 @@ class Authority final {
   QUrl m_elsewhere;
   QHash<QString, Grant> m_codes;
   QHash<QString, Grant> m_refreshTokens;
+  QSet<QString> m_accessTokens;
   QList<QUrlQuery> m_pageRequests;
   QList<QUrlQuery> m_tokenRequests;
 };

@@ -1,6 +1,7 @@
 #include "sandbox/HttpServer.h"
 
 #include <QHostAddress>
+#include <QSslServer>
 #include <QTcpSocket>
 #include <QTimer>
 #include <algorithm>
@@ -93,18 +94,33 @@ QUrlQuery HttpRequest::form() const {
   return QUrlQuery(QString::fromLatin1(encoded.replace('+', "%20")));
 }
 
-HttpServer::HttpServer() {
-  QObject::connect(&m_server, &QTcpServer::newConnection, &m_server, [this] { accept(); });
+HttpServer::HttpServer() : m_server(std::make_unique<QTcpServer>()) {
+  watch();
+}
+
+HttpServer::HttpServer(const QSslConfiguration& tls) {
+  auto server = std::make_unique<QSslServer>();
+  server->setSslConfiguration(tls);
+  m_server = std::move(server);
+  watch();
+}
+
+void HttpServer::watch() {
+  QObject::connect(m_server.get(), &QTcpServer::pendingConnectionAvailable, m_server.get(),
+                   [this] { accept(); });
 }
 
 HttpServer::~HttpServer() = default;
 
 bool HttpServer::listen(quint16 port) {
-  return m_server.listen(QHostAddress::LocalHost, port);
+  return m_server->listen(QHostAddress::LocalHost, port);
 }
 
 QUrl HttpServer::url() const {
-  return QUrl(QStringLiteral("http://127.0.0.1:%1").arg(m_server.serverPort()));
+  const bool isSecure = qobject_cast<const QSslServer*>(m_server.get()) != nullptr;
+  return QUrl(QStringLiteral("%1://127.0.0.1:%2")
+                  .arg(isSecure ? QStringLiteral("https") : QStringLiteral("http"))
+                  .arg(m_server->serverPort()));
 }
 
 void HttpServer::handle(const QString& path, Handler handler) {
@@ -112,9 +128,11 @@ void HttpServer::handle(const QString& path, Handler handler) {
 }
 
 void HttpServer::accept() {
-  while (QTcpSocket* const socket = m_server.nextPendingConnection()) {
-    QObject::connect(socket, &QTcpSocket::readyRead, &m_server, [this, socket] { read(socket); });
+  while (QTcpSocket* const socket = m_server->nextPendingConnection()) {
+    QObject::connect(socket, &QTcpSocket::readyRead, m_server.get(), [this, socket] { read(socket); });
     QObject::connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
+    // The first bytes may have come with the handshake's last.
+    if (socket->bytesAvailable() > 0) read(socket);
   }
 }
 
@@ -126,7 +144,9 @@ void HttpServer::read(QTcpSocket* socket) {
     return;
   }
   socket->readAll();
-  sendResponse(socket, respond(*request));
+  const HttpResponse response = respond(*request);
+  if (response.delay.count() == 0) return sendResponse(socket, response);
+  QTimer::singleShot(response.delay, socket, [socket, response] { sendResponse(socket, response); });
 }
 
 HttpResponse HttpServer::respond(const HttpRequest& request) const {

@@ -3,10 +3,13 @@
 #include <QByteArray>
 #include <QHash>
 #include <QList>
+#include <QSslConfiguration>
 #include <QTcpServer>
 #include <QUrl>
 #include <QUrlQuery>
+#include <chrono>
 #include <functional>
+#include <memory>
 #include <utility>
 
 class QTcpSocket;
@@ -33,6 +36,7 @@ struct HttpResponse {
   QList<std::pair<QByteArray, QByteArray>> headers = {};
   Delivery delivery = Delivery::Whole;
   qint64 floodBytes = 0;  // how much a flood sends
+  std::chrono::milliseconds delay{0};
 };
 
 // A small HTTP server on the loopback address; one request a connection. Lives on the thread that made it.
@@ -41,6 +45,8 @@ class HttpServer final {
   using Handler = std::function<HttpResponse(const HttpRequest&)>;
 
   HttpServer();
+  // Speaks TLS with the certificate and key that are in there.
+  explicit HttpServer(const QSslConfiguration& tls);
   ~HttpServer();
   Q_DISABLE_COPY_MOVE(HttpServer)
 
@@ -51,11 +57,12 @@ class HttpServer final {
   void handle(const QString& path, Handler handler);
 
  private:
+  void watch();
   void accept();
   void read(QTcpSocket* socket);
   HttpResponse respond(const HttpRequest& request) const;
 
-  QTcpServer m_server;
+  std::unique_ptr<QTcpServer> m_server;
   QHash<QString, Handler> m_handlers;
 };
 

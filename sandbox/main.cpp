@@ -5,6 +5,7 @@
 #include <cstdio>
 
 #include "sandbox/Authority.h"
+#include "sandbox/ExchangeService.h"
 #include "sandbox/HttpServer.h"
 
 // Runs the sandbox until it is ended. The first line on standard output says where it is.
@@ -12,7 +13,7 @@ int main(int argc, char** argv) {
   QCoreApplication application(argc, argv);
   QCommandLineParser parser;
   parser.setApplicationDescription(
-      "A small sign-in authority on the loopback address, for trying things out.");
+      "A small sign-in authority and Exchange on the loopback address, for trying things out.");
   parser.addHelpOption();
   parser.addOptions({{"port", "Listen at this port (default: a free one).", "number", "0"},
                      {"lifetime", "How long an access token is good, in seconds.", "seconds", "3600"},
@@ -32,7 +33,14 @@ int main(int argc, char** argv) {
                                                  : Authority::Generation::Resource);
   authority.setLifetime(parser.value("lifetime").toInt());
 
-  const QJsonObject where{{"authority", authority.address()}};
+  sandbox::ExchangeService exchange(
+      authority.address(), [&authority](const QString& token) { return authority.isGranted(token); });
+  QJsonObject where{{"authority", authority.address()}};
+  if (exchange.listen()) {
+    where.insert("exchange", exchange.describe());
+  } else {
+    std::fputs("No Exchange is played: the openssl program made no certificates.\n", stderr);
+  }
   std::printf("%s\n", QJsonDocument(where).toJson(QJsonDocument::Compact).constData());
   std::fflush(stdout);
   return QCoreApplication::exec();

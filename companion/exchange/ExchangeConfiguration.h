@@ -1,0 +1,78 @@
+#pragma once
+
+#include <QList>
+#include <QObject>
+#include <QSslCertificate>
+#include <QSslConfiguration>
+#include <QString>
+#include <QStringList>
+#include <QUrl>
+#include <chrono>
+#include <functional>
+#include <optional>
+
+// Where one online service answers and where its users sign in.
+struct OnlineService {
+  QStringList hostSuffixes;  // a host is the service's when it is one of these or lies below one
+  QUrl autodiscover;         // asked with a token
+  QString authority;
+  QString resource;
+  QString clientId;
+  QString redirectUri;
+};
+
+// A service record of the domain name system.
+struct ServiceRecord {
+  QString target;
+  quint16 port = 0;
+  quint16 priority = 0;
+  quint16 weight = 0;
+};
+
+using ServicesFound = std::function<void(const QList<ServiceRecord>&)>;
+// Calls back at most once, with nothing where there is none or the lookup failed, and never after `asker` is
+// gone.
+using ServiceLookup = std::function<void(const QString& name, QObject* asker, ServicesFound found)>;
+
+struct NetworkEndpoint {
+  QString address;
+  quint16 port = 0;
+  QList<QSslCertificate> certificates = {};  // who vouches for it; empty for those of the configuration
+};
+
+// Where a host is to be reached in place of where its name points; nothing for the ordinary way.
+using EndpointFinder = std::function<std::optional<NetworkEndpoint>(const QUrl&)>;
+
+// How the user is asked whether an address outside the mail domain may be used. One question at a time; the
+// answer may come at any later moment, or never.
+struct RedirectPrompt {
+  using Answer = std::function<void(bool isAllowed)>;
+
+  std::function<void(const QUrl& target, Answer answer)> ask;  // empty: everything is declined
+  std::function<void()> withdraw;                              // the open question matters no more
+};
+
+struct ExchangeLimits {
+  std::chrono::milliseconds request{10'000};  // one request, from its start to its last byte
+  std::chrono::milliseconds stagger{250};     // between the starts of two candidates
+  qint64 answerBytes = 1024 * 1024;
+  int hops = 10;
+};
+
+struct ExchangeConfiguration {
+  ExchangeLimits limits;
+  QList<OnlineService> onlineServices;
+  QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
+  EndpointFinder endpoint;
+  ServiceLookup services;
+  RedirectPrompt prompt;
+};
+
+// The ordinary network, the system's certificates, and the online services known to everybody.
+ExchangeConfiguration standardExchangeConfiguration(const QString& clientId, const QString& redirectUri);
+
+// The service that owns the host; nothing for any other host.
+std::optional<OnlineService> onlineServiceOf(const QList<OnlineService>& services, const QString& host);
+
+// Whether the host is the domain or lies below it.
+bool isWithinDomain(const QString& host, const QString& domain);

@@ -1,0 +1,129 @@
+#include "companion/exchange/HttpCall.h"
+
+#include <QNetworkReply>
+#include <QNetworkRequest>
+#include <QRegularExpression>
+#include <QSslError>
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+using Trouble = HttpAnswer::Trouble;
+
+// Below this, errors are about the connection; above, about what the server said.
+constexpr int kFirstAnswerError = 100;
+
+}  // namespace
+
+HttpCall::HttpCall(QNetworkAccessManager& network, const ExchangeConfiguration& configuration)
+    : m_network(network), m_configuration(configuration) {
+  m_deadline.setSingleShot(true);
+  connect(&m_deadline, &QTimer::timeout, this, [this] { settle({.trouble = Trouble::TooSlow}); });
+}
+
+HttpCall::~HttpCall() {
+  m_done = {};
+  settle({});
+}
+
+void HttpCall::start(const HttpQuestion& question, Done done) {
+  m_address = question.address;
+  m_done = std::move(done);
+  const QNetworkRequest request = requestFor(question);
+  m_reply = question.body.isEmpty() ? m_network.get(request) : m_network.post(request, question.body);
+  // The reply stops reading from the socket one byte past the limit.
+  m_reply->setReadBufferSize(m_configuration.limits.answerBytes + 1);
+  connect(m_reply, &QNetworkReply::sslErrors, this, [this](const QList<QSslError>& errors) {
+    m_isOtherName = std::any_of(errors.begin(), errors.end(), [](const QSslError& error) {
+      return error.error() == QSslError::HostNameMismatch;
+    });
+  });
+  connect(m_reply, &QNetworkReply::readyRead, this, [this] {
+    if (isTooLong()) settle({.trouble = Trouble::TooLong});
+  });
+  connect(m_reply, &QNetworkReply::finished, this, &HttpCall::readAnswer);
+  // A transfer timeout would start anew with every byte.
+  m_deadline.start(m_configuration.limits.request);
+}
+
+QNetworkRequest HttpCall::requestFor(const HttpQuestion& question) const {
+  QUrl address = question.address;
+  QNetworkRequest request;
+  const auto endpoint = m_configuration.endpoint ? m_configuration.endpoint(address) : std::nullopt;
+  if (endpoint) {
+    request.setRawHeader("Host", address.authority(QUrl::FullyEncoded).toLatin1());
+    request.setPeerVerifyName(address.host(QUrl::FullyEncoded));
+    address.setHost(endpoint->address);
+    address.setPort(endpoint->port);
+  }
+  request.setUrl(address);
+  QSslConfiguration tls = m_configuration.tls;
+  if (endpoint && !endpoint->certificates.isEmpty()) tls.setCaCertificates(endpoint->certificates);
+  request.setSslConfiguration(tls);
+  request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
+  request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
+  for (const auto attribute :
+       {QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::CookieSaveControlAttribute,
+        QNetworkRequest::AuthenticationReuseAttribute}) {
+    request.setAttribute(attribute, QNetworkRequest::Manual);
+  }
+  if (!question.body.isEmpty()) request.setHeader(QNetworkRequest::ContentTypeHeader, question.contentType);
+  if (!question.authorization.isEmpty()) request.setRawHeader("Authorization", question.authorization);
+  // A packed answer would be unpacked before its size can be seen.
+  request.setRawHeader("Accept-Encoding", "identity");
+  return request;
+}
+
+bool HttpCall::isTooLong() const {
+  return m_reply->bytesAvailable() > m_configuration.limits.answerBytes;
+}
+
+void HttpCall::readAnswer() {
+  if (isTooLong()) return settle({.trouble = Trouble::TooLong});
+  HttpAnswer answer;
+  answer.trouble = trouble();
+  if (answer.trouble == Trouble::None) {
+    answer.status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    const QByteArray location = m_reply->rawHeader("Location");
+    if (!location.isEmpty()) answer.location = m_address.resolved(QUrl::fromEncoded(location));
+    answer.challenge = m_reply->rawHeader("WWW-Authenticate");
+    answer.body = m_reply->readAll();
+  }
+  settle(answer);
+}
+
+Trouble HttpCall::trouble() const {
+  const QNetworkReply::NetworkError error = m_reply->error();
+  const int status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+  if (error == QNetworkReply::HostNotFoundError) return Trouble::HostUnknown;
+  if (error == QNetworkReply::SslHandshakeFailedError) {
+    return m_isOtherName ? Trouble::CertificateOfOtherName : Trouble::Certificate;
+  }
+  const bool isWhole = status != 0 && (error == QNetworkReply::NoError || error >= kFirstAnswerError);
+  return isWhole ? Trouble::None : Trouble::Unreachable;
+}
+
+void HttpCall::settle(const HttpAnswer& answer) {
+  m_deadline.stop();
+  if (m_reply != nullptr) {
+    m_reply->disconnect(this);
+    m_reply->abort();
+    m_reply->deleteLater();
+    m_reply = nullptr;
+  }
+  const Done done = std::exchange(m_done, {});
+  if (done) done(answer);
+}
+
+QList<QByteArray> offeredSchemes(const QByteArray& challenge) {
+  static const QRegularExpression quoted(QStringLiteral("\"(?:[^\"\\\\]|\\\\.)*\""));
+  QString plain = QString::fromLatin1(challenge);
+  plain.remove(quoted);
+  QList<QByteArray> schemes;
+  for (const QString& part : plain.split(QLatin1Char(','))) {
+    const QString word = part.simplified().section(QLatin1Char(' '), 0, 0).toLower();
+    if (!word.isEmpty() && !word.contains(QLatin1Char('='))) schemes.append(word.toLatin1());
+  }
+  return schemes;
+}

@@ -1,0 +1,73 @@
+#include "sandbox/ExchangeCases.h"
+
+#include <QJsonObject>
+
+namespace sandbox {
+
+namespace {
+
+constexpr ExchangeAccount accounts[] = {
+    {ExchangeCase::OnPremise, "onprem@corp.sandbox.example", "CORP\\onprem", "correct horse",
+     "Exchange of one's own; any other password is refused, the third locks the account"},
+    {ExchangeCase::OnPremise, "locked@corp.sandbox.example", "CORP\\locked", "correct horse",
+     "the account is locked: no password is right"},
+    {ExchangeCase::Online, "online@cloud.sandbox.example", "", "", "Office 365: sign in in the browser"},
+    {ExchangeCase::OtherEmail, "moved@moved.sandbox.example", "CORP\\onprem", "correct horse",
+     "leads to onprem@corp.sandbox.example"},
+    {ExchangeCase::PlainRedirect, "hosted@hosted.sandbox.example", "CORP\\onprem", "correct horse",
+     "an unencrypted address leads to the server; you are asked first"},
+    {ExchangeCase::ServiceRecord, "named@named.sandbox.example", "CORP\\onprem", "correct horse",
+     "only a service record names the server"},
+    {ExchangeCase::Slow, "slow@slow.sandbox.example", "CORP\\onprem", "correct horse",
+     "answers after a second"},
+    {ExchangeCase::Silent, "silent@silent.sandbox.example", "", "", "never answers"},
+    {ExchangeCase::Drip, "drip@drip.sandbox.example", "", "", "answers byte by byte"},
+    {ExchangeCase::ServerError, "error@error.sandbox.example", "", "", "always answers 500"},
+    {ExchangeCase::OtherName, "certificate@certificate.sandbox.example", "", "",
+     "shows a certificate of another name"},
+    {ExchangeCase::Loop, "loop@loop.sandbox.example", "", "", "leads on a hundred times"},
+    {ExchangeCase::BareChallenge, "bare@bare.sandbox.example", "", "",
+     "wants a sign-in that is not supported"},
+    {ExchangeCase::Entities, "entities@entities.sandbox.example", "", "", "answers with XML that swells"},
+    {ExchangeCase::Garbage, "garbage@garbage.sandbox.example", "", "", "answers with a web page"},
+};
+
+QString domainOf(const ExchangeAccount& account) {
+  return QString::fromLatin1(account.email).section(QLatin1Char('@'), 1);
+}
+
+}  // namespace
+
+std::span<const ExchangeAccount> exchangeAccounts() {
+  return accounts;
+}
+
+const ExchangeAccount* accountOfHost(const QString& host) {
+  for (const ExchangeAccount& account : accounts) {
+    const QString domain = domainOf(account);
+    if (host == domain || host.endsWith(QLatin1Char('.') + domain)) return &account;
+  }
+  return nullptr;
+}
+
+QStringList exchangeHosts() {
+  QStringList names{QStringLiteral("*.") + sandboxDomain, QStringLiteral("*.online.") + sandboxDomain};
+  for (const ExchangeAccount& account : accounts) {
+    const QString name = QStringLiteral("*.") + domainOf(account);
+    if (account.what != ExchangeCase::OtherName && !names.contains(name)) names.append(name);
+  }
+  return names;
+}
+
+QJsonArray describeAccounts() {
+  QJsonArray described;
+  for (const ExchangeAccount& account : accounts) {
+    described.append(QJsonObject{{"email", account.email},
+                                 {"username", account.username},
+                                 {"password", account.password},
+                                 {"meaning", account.meaning}});
+  }
+  return described;
+}
+
+}  // namespace sandbox

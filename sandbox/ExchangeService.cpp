@@ -1,0 +1,177 @@
+#include "sandbox/ExchangeService.h"
+
+#include <QJsonArray>
+#include <utility>
+
+#include "sandbox/ExchangeAnswers.h"
+
+namespace sandbox {
+
+namespace {
+
+const QString discoveryPath = QStringLiteral("/autodiscover/autodiscover.xml");
+const QString meetingPath = QStringLiteral("/EWS/Exchange.asmx");
+const QString onlineHost = QStringLiteral("autodiscover.online.") + sandboxDomain;
+
+constexpr std::chrono::seconds slowTime{1};
+constexpr int longestLoop = 100;
+constexpr int refusalsUntilLocked = 3;
+
+QString urlOf(const QString& host, const QString& path) {
+  return QStringLiteral("https://") + host + path;
+}
+
+HttpResponse delivered(HttpResponse::Delivery delivery) {
+  HttpResponse response = notHere();
+  response.delivery = delivery;
+  return response;
+}
+
+HttpResponse leadTo(const QString& url) {
+  HttpResponse response{.status = 302};
+  response.headers.append({"Location", url.toLatin1()});
+  return response;
+}
+
+quint16 portOf(const HttpServer& server) {
+  return static_cast<quint16>(server.url().port());
+}
+
+}  // namespace
+
+ExchangeService::ExchangeService(QString authority, TokenCheck isGranted)
+    : m_authority(std::move(authority)), m_isGranted(std::move(isGranted)) {}
+
+bool ExchangeService::listen() {
+  const auto ours = m_certificates.serverOf(exchangeHosts());
+  const auto others = m_certificates.serverOf({QStringLiteral("another.example")});
+  if (!ours || !others) return false;
+  m_encrypted = std::make_unique<HttpServer>(*ours);
+  m_otherName = std::make_unique<HttpServer>(*others);
+  handle(m_plain, false);
+  handle(*m_encrypted, true);
+  handle(*m_otherName, true);
+  return m_plain.listen() && m_encrypted->listen() && m_otherName->listen();
+}
+
+void ExchangeService::handle(HttpServer& server, bool isEncrypted) {
+  server.handle(discoveryPath,
+                [this, isEncrypted](const HttpRequest& request) { return discover(request, isEncrypted); });
+  if (!isEncrypted) return;
+  server.handle(meetingPath, [this](const HttpRequest& request) { return listMeetings(request); });
+}
+
+QJsonObject ExchangeService::describe() const {
+  const QString serviceName = QStringLiteral("_autodiscover._tcp.named.") + sandboxDomain;
+  const auto record = [](const char* host, int priority) {
+    return QJsonObject{{"target", host + QStringLiteral(".named.") + sandboxDomain},
+                       {"port", 443},
+                       {"priority", priority},
+                       {"weight", 1}};
+  };
+  return {
+      {"domain", sandboxDomain},
+      {"address", "127.0.0.1"},
+      {"http", portOf(m_plain)},
+      {"https", portOf(*m_encrypted)},
+      {"otherName", QJsonObject{{"domain", "certificate." + sandboxDomain}, {"https", portOf(*m_otherName)}}},
+      {"certificates", m_certificates.authority()},
+      {"services", QJsonObject{{serviceName, QJsonArray{record("spare", 20), record("exchange", 10)}}}},
+      {"online", QJsonObject{{"hostSuffixes", QJsonArray{"online." + sandboxDomain}},
+                             {"autodiscover", urlOf(onlineHost, discoveryPath)},
+                             {"authority", m_authority},
+                             {"resource", "https://mail.online." + sandboxDomain},
+                             {"clientId", "sandbox-companion"},
+                             {"redirectUri", "http://127.0.0.1/signed-in"}}},
+      {"accounts", describeAccounts()}};
+}
+
+QString ExchangeService::note(const HttpRequest& request, bool isEncrypted) {
+  const QString host = QString::fromLatin1(request.headers.value("host")).section(QLatin1Char(':'), 0, 0);
+  m_visits.append({host, request.path, request.method, request.headers.value("authorization"), isEncrypted});
+  return host;
+}
+
+HttpResponse ExchangeService::discover(const HttpRequest& request, bool isEncrypted) {
+  const QString host = note(request, isEncrypted);
+  if (!isEncrypted) return discoverPlainly(host);
+  if (host == onlineHost) return discoverOnPremise(request, host);
+  const ExchangeAccount* const account = accountOfHost(host);
+  if (account == nullptr) return notHere();
+  switch (account->what) {
+    case ExchangeCase::Slow: {
+      HttpResponse response = discoverOnPremise(request, host);
+      response.delay = slowTime;
+      return response;
+    }
+    case ExchangeCase::OnPremise:
+      // As in many places a web site has the domain's own name.
+      return host.startsWith(QLatin1String("autodiscover.")) ? discoverOnPremise(request, host) : notHere();
+    case ExchangeCase::ServiceRecord:
+      return host.startsWith(QLatin1String("exchange.")) ? discoverOnPremise(request, host) : notHere();
+    case ExchangeCase::Online:
+      return otherUrlAnswer(urlOf(onlineHost, discoveryPath));
+    case ExchangeCase::OtherEmail:
+      return otherEmailAnswer(QStringLiteral("onprem@corp.") + sandboxDomain);
+    case ExchangeCase::Silent:
+      return delivered(HttpResponse::Delivery::Silent);
+    case ExchangeCase::Drip:
+      return delivered(HttpResponse::Delivery::Drip);
+    case ExchangeCase::ServerError:
+      return {.status = 500};
+    case ExchangeCase::Loop:
+      return lead(request, host);
+    case ExchangeCase::BareChallenge:
+      return challengeAnswer({"Negotiate", "NTLM"});
+    case ExchangeCase::Entities:
+      return swellingAnswer();
+    case ExchangeCase::Garbage:
+      return {.contentType = "text/html", .body = "<!DOCTYPE html><html><p>Welcome<br></html>"};
+    case ExchangeCase::OtherName:
+    case ExchangeCase::PlainRedirect:
+      return notHere();
+  }
+  return notHere();
+}
+
+HttpResponse ExchangeService::discoverPlainly(const QString& host) const {
+  const ExchangeAccount* const account = accountOfHost(host);
+  if (account == nullptr || account->what != ExchangeCase::PlainRedirect) return notHere();
+  return leadTo(urlOf(QStringLiteral("autodiscover.corp.") + sandboxDomain, discoveryPath));
+}
+
+HttpResponse ExchangeService::lead(const HttpRequest& request, const QString& host) const {
+  const int step = request.query.queryItemValue(QStringLiteral("step")).toInt() + 1;
+  if (step > longestLoop) return notHere();
+  return leadTo(urlOf(host, discoveryPath) + QStringLiteral("?step=%1").arg(step));
+}
+
+HttpResponse ExchangeService::discoverOnPremise(const HttpRequest& request, const QString& host) {
+  if (!isAllowed(request.headers.value("authorization"))) {
+    return challengeAnswer({"NTLM", "Basic realm=\"Exchange, sandbox\"", "Bearer"});
+  }
+  const QString domain = host.section(QLatin1Char('.'), 1);
+  return servicesAnswer(urlOf(QStringLiteral("mail.") + domain, meetingPath),
+                        urlOf(QStringLiteral("inside.") + domain, meetingPath));
+}
+
+HttpResponse ExchangeService::listMeetings(const HttpRequest& request) {
+  note(request, true);
+  if (isAllowed(request.headers.value("authorization"))) return meetingsAnswer();
+  return challengeAnswer({"Basic realm=\"Exchange, sandbox\"", "Bearer"});
+}
+
+bool ExchangeService::isAllowed(const QByteArray& authorization) {
+  if (authorization.startsWith("Bearer ")) return m_isGranted(QString::fromLatin1(authorization.sliced(7)));
+  if (!authorization.startsWith("Basic ")) return false;
+  const QString credential = QString::fromUtf8(QByteArray::fromBase64(authorization.sliced(6)));
+  const QString username = credential.section(QLatin1Char(':'), 0, 0);
+  const ExchangeAccount& account = exchangeAccounts().front();
+  const bool isRight = username == QLatin1String(account.username) &&
+                       credential.section(QLatin1Char(':'), 1) == QLatin1String(account.password) &&
+                       m_refusals.value(username) < refusalsUntilLocked;
+  if (!isRight) ++m_refusals[username];
+  return isRight;
+}
+
+}  // namespace sandbox

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QByteArray>
+#include <QHash>
+#include <QJsonObject>
+#include <QList>
+#include <QString>
+#include <functional>
+
+#include "sandbox/Certificates.h"
+#include "sandbox/ExchangeCases.h"
+#include "sandbox/HttpServer.h"
+
+namespace sandbox {
+
+// Plays the Exchange servers of every host below sandbox.example: discovery and the next meetings. Not for
+// anything but trying out.
+class ExchangeService final {
+ public:
+  struct Visit {
+    QString host;
+    QString path;
+    QByteArray method;
+    QByteArray authorization;
+    bool isEncrypted = false;
+  };
+  using TokenCheck = std::function<bool(const QString& accessToken)>;
+
+  // `authority` is where online users sign in, `isGranted` knows its tokens.
+  ExchangeService(QString authority, TokenCheck isGranted);
+  Q_DISABLE_COPY_MOVE(ExchangeService)
+
+  // False where there is no port or no certificate.
+  [[nodiscard]] bool listen();
+
+  // What a host needs to know in order to find its way here.
+  QJsonObject describe() const;
+
+  // Every request, oldest first.
+  const QList<Visit>& visits() const { return m_visits; }
+
+ private:
+  void handle(HttpServer& server, bool isEncrypted);
+  HttpResponse discover(const HttpRequest& request, bool isEncrypted);
+  HttpResponse discoverPlainly(const QString& host) const;
+  HttpResponse discoverOnPremise(const HttpRequest& request, const QString& host);
+  HttpResponse lead(const HttpRequest& request, const QString& host) const;
+  HttpResponse listMeetings(const HttpRequest& request);
+  QString note(const HttpRequest& request, bool isEncrypted);
+  bool isAllowed(const QByteArray& authorization);
+
+  QString m_authority;
+  TokenCheck m_isGranted;
+  Certificates m_certificates;
+  HttpServer m_plain;
+  std::unique_ptr<HttpServer> m_encrypted;
+  std::unique_ptr<HttpServer> m_otherName;
+  QHash<QString, int> m_refusals;  // by user name
+  QList<Visit> m_visits;
+};
+
+}  // namespace sandbox

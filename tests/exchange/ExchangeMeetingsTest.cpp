@@ -1,0 +1,69 @@
+#include "companion/exchange/ExchangeMeetings.h"
+
+#include "host/KZFoundation/KZConstants.h"
+#include "tests/exchange/DiscoveryFixture.h"
+
+namespace {
+
+class ExchangeMeetingsTest : public DiscoveryFixture {
+ protected:
+  void list(const Dictionary& exchange, const QString& token = QString()) {
+    meetings = std::make_unique<ExchangeMeetings>(configuration);
+    QObject::connect(meetings.get(), &ExchangeMeetings::listed, meetings.get(),
+                     [this](const QList<ExchangeMeeting>& rows) {
+                       for (const ExchangeMeeting& row : rows) subjects.append(row.subject);
+                     });
+    QObject::connect(meetings.get(), &ExchangeMeetings::failed, meetings.get(),
+                     [this](const QString& message) { failures.append(message); });
+    meetings->list(exchange, token);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !subjects.isEmpty() || !failures.isEmpty(); }, 2000));
+  }
+
+  static Dictionary account(const QString& host, bool isOnline) {
+    return {{kKZCalendarIntegrationExchangeExternalUrl, "https://" + host + "/EWS/Exchange.asmx"},
+            {kKZCalendarIntegrationIsOnline, isOnline}};
+  }
+
+  const Dictionary ownAccount = account("mail.corp.sandbox.example", false);
+  const Dictionary onlineAccount = account("mail.online.sandbox.example", true);
+  const QStringList inOrder{"Stand-up", "Design & lunch", "Review of the quarter"};
+  std::unique_ptr<ExchangeMeetings> meetings;
+  QStringList subjects;
+  QStringList failures;
+};
+
+TEST_F(ExchangeMeetingsTest, ListsWithTheSavedCredential) {
+  list(ownAccount);
+  EXPECT_EQ(subjects, inOrder);
+  EXPECT_EQ(challenges, QList<Dictionary>{(Dictionary{{"AuthRequiringType", 2}})});
+}
+
+TEST_F(ExchangeMeetingsTest, ReportsARefusedCredentialOnce) {
+  password = "changed";
+  list(ownAccount);
+  ASSERT_EQ(failures.size(), 1);
+  EXPECT_TRUE(failures.first().contains("Detect the account again"));
+  ASSERT_EQ(challenges.size(), 2);
+  EXPECT_EQ(challenges.last(), (Dictionary{{"AuthRequiringType", 2}, {"ShowWarningMsg", "true"}}));
+  EXPECT_EQ(authorizedVisits().size(), 1);
+}
+
+TEST_F(ExchangeMeetingsTest, NeedsACredentialOrToken) {
+  username.clear();
+  list(ownAccount);
+  list(onlineAccount);
+  list(Dictionary{{kKZCalendarIntegrationExchangeExternalUrl, "http://mail.corp.sandbox.example/x"}});
+  EXPECT_EQ(failures.size(), 3);
+  EXPECT_TRUE(authorizedVisits().isEmpty());
+}
+
+TEST_F(ExchangeMeetingsTest, ListsAnOnlineAccountWithItsTokenAlone) {
+  list(onlineAccount, "good-token");
+  EXPECT_EQ(subjects, inOrder);
+  list(onlineAccount, "bad-token");
+  ASSERT_EQ(failures.size(), 1);
+  EXPECT_TRUE(failures.first().contains("sign in anew"));
+  EXPECT_TRUE(challenges.isEmpty());
+}
+
+}  // namespace
