@@ -30,6 +30,7 @@ constexpr ExchangeAccount accounts[] = {
      "wants a sign-in that is not supported"},
     {ExchangeCase::Entities, "entities@entities.sandbox.example", "", "", "answers with XML that swells"},
     {ExchangeCase::Garbage, "garbage@garbage.sandbox.example", "", "", "answers with a web page"},
+    {ExchangeCase::Nothing, "nothing@nothing.sandbox.example", "", "", "has a web site but no Exchange"},
 };
 
 QString domainOf(const ExchangeAccount& account) {

@@ -23,6 +23,7 @@ enum class ExchangeCase {
   BareChallenge,
   Entities,
   Garbage,
+  Nothing,
 };
 
 struct ExchangeAccount {

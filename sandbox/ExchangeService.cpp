@@ -127,6 +127,7 @@ HttpResponse ExchangeService::discover(const HttpRequest& request, bool isEncryp
       return swellingAnswer();
     case ExchangeCase::Garbage:
       return {.contentType = "text/html", .body = "<!DOCTYPE html><html><p>Welcome<br></html>"};
+    case ExchangeCase::Nothing:
     case ExchangeCase::OtherName:
     case ExchangeCase::PlainRedirect:
       return notHere();

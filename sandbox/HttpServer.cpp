@@ -2,6 +2,7 @@
 
 #include <QHostAddress>
 #include <QSslServer>
+#include <QSslSocket>
 #include <QTcpSocket>
 #include <QTimer>
 #include <algorithm>
@@ -53,15 +54,23 @@ void drip(QTcpSocket* socket, const QByteArray& bytes) {
   timer->start(dripInterval);
 }
 
+qint64 bytesOnTheWay(const QTcpSocket* socket) {
+  const auto* const encrypted = qobject_cast<const QSslSocket*>(socket);
+  return socket->bytesToWrite() + (encrypted != nullptr ? encrypted->encryptedBytesToWrite() : 0);
+}
+
 void flood(QTcpSocket* socket, qint64 bytes) {
   const auto left = std::make_shared<qint64>(bytes);
   const auto pump = [socket, left] {
-    if (*left <= 0 || socket->bytesToWrite() > 0) return;
+    if (*left <= 0 || bytesOnTheWay(socket) > 0) return;
     const qsizetype size = static_cast<qsizetype>(std::min<qint64>(*left, floodChunk));
     *left -= size;
     socket->write(QByteArray(size, ' '));
   };
   QObject::connect(socket, &QTcpSocket::bytesWritten, socket, pump);
+  if (auto* const encrypted = qobject_cast<QSslSocket*>(socket)) {
+    QObject::connect(encrypted, &QSslSocket::encryptedBytesWritten, socket, pump);
+  }
   pump();
 }
 

@@ -25,7 +25,7 @@ enum class DiscoveryFailureKind {
 
 struct DiscoveryFailure {
   DiscoveryFailureKind kind = DiscoveryFailureKind::HostUnknown;
-  QString host;
+  QString host = {};
   QString serverText = {};  // for ServerSays
 };
 

@@ -26,16 +26,16 @@ struct HttpAnswer {
 
   Trouble trouble = Trouble::None;  // with any other, no whole answer came
   int status = 0;
-  QUrl location;         // absolute; empty where the answer sends nowhere
-  QByteArray challenge;  // what the server wants to know before it answers
-  QByteArray body;
+  QUrl location = {};         // absolute; empty where the answer sends nowhere
+  QByteArray challenge = {};  // what the server wants to know before it answers
+  QByteArray body = {};
 };
 
 struct HttpQuestion {
   QUrl address;
-  QByteArray body;  // empty: nothing is sent, the address is only read
+  QByteArray body = {};  // empty: nothing is sent, the address is only read
   QByteArray contentType = QByteArrayLiteral("text/xml; charset=utf-8");
-  QByteArray authorization;
+  QByteArray authorization = {};
 };
 
 // One request, bounded in time and size. Follows no redirect, keeps no cookies and answers no challenge, so

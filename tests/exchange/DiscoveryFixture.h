@@ -23,6 +23,8 @@ class DiscoveryFixture : public testing::Test {
 
   void detect(const QString& email);
   void sinkPassword();
+  // What is asked now and from now on.
+  void allowEverything();
   // Waits for the next notification that was not waited for yet; its content, empty when none came.
   Dictionary waitFor(KZNotify index, int milliseconds = 3000);
   Dictionary waitForExchange();  // the account of a success
@@ -39,6 +41,7 @@ class DiscoveryFixture : public testing::Test {
   ExchangeConfiguration configuration;
   std::unique_ptr<ExchangeDiscovery> discovery;
   QList<std::pair<KZNotify, Dictionary>> notified;
+  bool isEverythingAllowed = false;
   QStringList asked;  // the hosts that the user was asked about
   QList<RedirectPrompt::Answer> openQuestions;
   int withdrawn = 0;

@@ -60,6 +60,7 @@ TEST_F(ExchangeMeetingsTest, NeedsACredentialOrToken) {
 TEST_F(ExchangeMeetingsTest, ListsAnOnlineAccountWithItsTokenAlone) {
   list(onlineAccount, "good-token");
   EXPECT_EQ(subjects, inOrder);
+  subjects.clear();
   list(onlineAccount, "bad-token");
   ASSERT_EQ(failures.size(), 1);
   EXPECT_TRUE(failures.first().contains("sign in anew"));
