@@ -82,6 +82,9 @@ void sendResponse(QTcpSocket* socket, const HttpResponse& response) {
       return;
     case HttpResponse::Delivery::Silent:
       return;
+    case HttpResponse::Delivery::HangUp:
+      socket->disconnectFromHost();
+      return;
     case HttpResponse::Delivery::Drip:
       drip(socket, responseHead(response, response.body.size()) + response.body);
       return;

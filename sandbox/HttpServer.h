@@ -28,7 +28,7 @@ struct HttpRequest {
 
 struct HttpResponse {
   // How the answer goes out: as it should, or as a bad server or network would send it.
-  enum class Delivery { Whole, Silent, Drip, CutOff, Flood };
+  enum class Delivery { Whole, Silent, HangUp, Drip, CutOff, Flood };
 
   int status = 200;
   QByteArray contentType = "application/json";

@@ -41,7 +41,8 @@ void AutodiscoverAttempt::probe(const QUrl& address) {
 }
 
 void AutodiscoverAttempt::readProbe(const HttpAnswer& answer) {
-  if (answer.trouble != HttpAnswer::Trouble::None || !isRedirect(answer)) return fail(failureOf(answer));
+  // That nothing is there tells nothing: most servers are not found this way.
+  if (answer.trouble != HttpAnswer::Trouble::None || !isRedirect(answer)) return fail(Kind::HostUnknown);
   if (!isFit(answer.location)) return;
   m_context.consent.ask(answer.location, RedirectConsent::Question::Always, this,
                         [this, address = answer.location](bool isAllowed) {
@@ -83,6 +84,8 @@ void AutodiscoverAttempt::visit(const QUrl& address) {
 void AutodiscoverAttempt::authorizedPost(const QUrl& address) {
   if (!m_context.consent.isTrusted(address.host())) return fail(Kind::Declined);
   const Authorization authorization = m_context.authorize();
+  // The challenge runs through others' code, which may have ended all this.
+  if (!m_done) return;
   if (authorization.header.isEmpty()) return fail(authorization.missing);
   post(address, authorization.header);
 }

@@ -9,6 +9,8 @@ QString patternOf(DiscoveryFailureKind kind) {
       return QStringLiteral("%1 was not found. Check the address and your network connection.");
     case Kind::NotFound:
       return QStringLiteral("%1 has no Exchange service. Check the address, or ask your administrator.");
+    case Kind::Forbidden:
+      return QStringLiteral("%1 does not let you in. Ask your administrator for access.");
     case Kind::Unreachable:
       return QStringLiteral("%1 cannot be reached. Check your network connection and try again.");
     case Kind::TooSlow:

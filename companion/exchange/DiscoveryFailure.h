@@ -9,6 +9,7 @@ enum class DiscoveryFailureKind {
   Unreachable,
   TooSlow,
   ServerError,
+  Forbidden,
   BadAnswer,
   Unencrypted,
   TooManyRedirects,

@@ -32,6 +32,7 @@ DiscoveryRun::DiscoveryRun(const ExchangeConfiguration& configuration, const QSt
 }
 
 void DiscoveryRun::start() {
+  if (m_state == State::Over) return;
   m_domain = emailDomain(m_email);
   if (m_domain.isEmpty()) return fail({.kind = DiscoveryFailureKind::BadEmail});
   m_consent.trustDomain(m_domain);
@@ -70,6 +71,7 @@ void DiscoveryRun::startNext() {
 void DiscoveryRun::startCandidate(const Candidate& candidate) {
   if (candidate.kind == Candidate::Kind::LookUp) return lookUpServices(candidate.serviceName);
   Q_EMIT noticed(QStringLiteral("Asking %1").arg(candidate.address.host()));
+  if (m_state == State::Over) return;
   auto* const attempt = new AutodiscoverAttempt(m_context, m_email);
   attempt->setParent(this);
   attempt->setDone([this, attempt](const AutodiscoverOutcome& outcome) { onOutcome(attempt, outcome); });
@@ -80,15 +82,16 @@ void DiscoveryRun::startCandidate(const Candidate& candidate) {
 }
 
 void DiscoveryRun::lookUpServices(const QString& name) {
-  if (!m_configuration.services) return onServices({});
+  if (!m_configuration.services) return startNext();
   m_lookup = new QObject(this);
-  m_configuration.services(name, m_lookup, [this](const QList<ServiceRecord>& records) {
-    std::exchange(m_lookup, nullptr)->deleteLater();
-    onServices(records);
-  });
+  QTimer::singleShot(m_configuration.limits.request, m_lookup, [this] { onServices({}); });
+  m_configuration.services(name, m_lookup,
+                           [this](const QList<ServiceRecord>& records) { onServices(records); });
 }
 
 void DiscoveryRun::onServices(const QList<ServiceRecord>& records) {
+  if (m_lookup == nullptr) return;
+  std::exchange(m_lookup, nullptr)->deleteLater();
   for (const ServiceRecord& record : inOrderOfTrial(records, *QRandomGenerator::global())) {
     m_waiting.append(
         {.kind = Candidate::Kind::Ask, .address = autodiscoverUrl("https", record.target, record.port)});
@@ -142,7 +145,8 @@ void DiscoveryRun::onChallenge(const QUrl& address) {
 void DiscoveryRun::goOnWithCredential() {
   m_state = State::Authorizing;
   m_context.authorize = [this] { return basicCredential(); };
-  startNext();
+  // Whoever brings the credential is not to be answered before it has returned.
+  QTimer::singleShot(0, this, &DiscoveryRun::startNext);
 }
 
 Authorization DiscoveryRun::basicCredential() {
@@ -201,7 +205,7 @@ void DiscoveryRun::goOnWithToken(const QString& username, const QString& token) 
   m_consent.trustOnly(m_online.hostSuffixes);
   m_worst = {.kind = DiscoveryFailureKind::HostUnknown, .host = m_online.autodiscover.host()};
   m_waiting = {{.kind = Candidate::Kind::AskAuthorized, .address = m_online.autodiscover}};
-  startNext();
+  QTimer::singleShot(0, this, &DiscoveryRun::startNext);
 }
 
 void DiscoveryRun::onServicesFound(const ExchangeServices& services) {

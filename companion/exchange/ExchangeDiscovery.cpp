@@ -27,7 +27,8 @@ void ExchangeDiscovery::start(const Dictionary& content) {
   connect(m_run, &DiscoveryRun::refused, this, &ExchangeDiscovery::reportRefusal);
   connect(m_run, &DiscoveryRun::failed, this, &ExchangeDiscovery::reportFailure);
   connect(m_run, &DiscoveryRun::noticed, this, &ExchangeDiscovery::noticed);
-  m_run->start();
+  // Whoever sends the command is not to be answered before it has returned.
+  QMetaObject::invokeMethod(m_run, &DiscoveryRun::start, Qt::QueuedConnection);
 }
 
 void ExchangeDiscovery::cancel() {

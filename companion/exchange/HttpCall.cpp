@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "companion/exchange/SingleUseBody.h"
+
 namespace {
 
 using Trouble = HttpAnswer::Trouble;
@@ -31,7 +33,7 @@ void HttpCall::start(const HttpQuestion& question, Done done) {
   m_address = question.address;
   m_done = std::move(done);
   const QNetworkRequest request = requestFor(question);
-  m_reply = question.body.isEmpty() ? m_network.get(request) : m_network.post(request, question.body);
+  m_reply = send(request, question);
   // The reply stops reading from the socket one byte past the limit.
   m_reply->setReadBufferSize(m_configuration.limits.answerBytes + 1);
   connect(m_reply, &QNetworkReply::sslErrors, this, [this](const QList<QSslError>& errors) {
@@ -45,6 +47,19 @@ void HttpCall::start(const HttpQuestion& question, Done done) {
   connect(m_reply, &QNetworkReply::finished, this, &HttpCall::readAnswer);
   // A transfer timeout would start anew with every byte.
   m_deadline.start(m_configuration.limits.request);
+}
+
+QNetworkReply* HttpCall::send(QNetworkRequest request, const HttpQuestion& question) {
+  if (question.body.isEmpty()) return m_network.get(request);
+  if (question.authorization.isEmpty()) return m_network.post(request, question.body);
+  // A password leaves once: on a connection of its own, and never again when that breaks.
+  m_network.clearConnectionCache();
+  request.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true);
+  request.setHeader(QNetworkRequest::ContentLengthHeader, question.body.size());
+  auto* const body = new SingleUseBody(question.body);
+  QNetworkReply* const reply = m_network.post(request, body);
+  body->setParent(reply);
+  return reply;
 }
 
 QNetworkRequest HttpCall::requestFor(const HttpQuestion& question) const {

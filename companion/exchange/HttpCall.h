@@ -50,6 +50,7 @@ class HttpCall final : public QObject {
   void start(const HttpQuestion& question, Done done);
 
  private:
+  QNetworkReply* send(QNetworkRequest request, const HttpQuestion& question);
   QNetworkRequest requestFor(const HttpQuestion& question) const;
   bool isTooLong() const;
   void readAnswer();

@@ -16,6 +16,7 @@ DiscoveryFailureKind failureOf(const HttpAnswer& answer) {
     case HttpAnswer::Trouble::CertificateOfOtherName:
       return Kind::CertificateOfOtherName;
     case HttpAnswer::Trouble::None:
+      if (answer.status == 403) return Kind::Forbidden;
       return answer.status >= 500 ? Kind::ServerError : Kind::NotFound;
   }
   return Kind::NotFound;

@@ -127,6 +127,25 @@ TEST_F(DiscoveryAnswerTest, SendsAPasswordNowhereElseAfterARedirect) {
   EXPECT_EQ(challenges.size(), 2) << "each server is a challenge of its own";
 }
 
+TEST_F(DiscoveryAnswerTest, SendsAPasswordOnceWhenTheServerHangsUp) {
+  configuration.limits.stagger = std::chrono::seconds(5);
+  answer = {.status = 401, .headers = {{"WWW-Authenticate", "Basic realm=\"x\""}}};
+  detect("x@evil.example");
+  ASSERT_FALSE(waitFor(KZNotify::KZNotifyExchangeResolvingNeedCredential).isEmpty());
+  answer = {.delivery = sandbox::HttpResponse::Delivery::HangUp};
+  authorizations.clear();
+  sinkPassword();
+  EXPECT_TRUE(waitForMessage().contains("cannot be reached"));
+  EXPECT_EQ(authorizations.size() - authorizations.count(QByteArray()), 1);
+}
+
+TEST_F(DiscoveryAnswerTest, WaitsForNoNameServerThatIsSilent) {
+  configuration.services = [](const QString&, QObject*, const ServicesFound&) {};
+  answer = {.status = 403};
+  detect("x@evil.example");
+  EXPECT_TRUE(waitForMessage().contains("does not let you in"));
+}
+
 TEST_F(DiscoveryAnswerTest, RefusesWhatIsTooLongAndTooManyAddresses) {
   answer = {.delivery = sandbox::HttpResponse::Delivery::Flood, .floodBytes = 100 * 1024 * 1024};
   detect("x@evil.example");
