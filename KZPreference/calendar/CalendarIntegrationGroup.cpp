@@ -51,7 +51,10 @@ bool CalendarIntegrationGroup::isOnpremiseCredValid() const {
 
 void CalendarIntegrationGroup::loadEmailFromPreferences() {
   const QString email = textValue(m_assist.exchangePrefs(), kKZCalendarIntegrationExchangeEmail);
-  if (!email.isNull()) m_emailInputTxt->setText(email);
+  if (email.isNull()) return;
+  m_emailInputTxt->setText(email);
+  // Of an address that is longer than the field the beginning shows.
+  m_emailInputTxt->setCursorPosition(0);
 }
 
 // Choosing a source

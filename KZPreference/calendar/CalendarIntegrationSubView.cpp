@@ -30,10 +30,23 @@ void CalendarIntegrationSubView::initRadioButtons() {
   m_outlookRadioBtn = addRadioButton(QStringLiteral("m_outlookRadioBtn"), 3, localizedString("Microsoft Outlook"));
   // Google is not offered until an option record says so.
   m_googleRadioBtn->setEnabled(false);
+  for (const QRadioButton* button : radioButtons())
+    connect(button, &QRadioButton::toggled, this, &CalendarIntegrationSubView::updateTabStop);
   connect(m_noneRadioBtn, &QRadioButton::clicked, this, &CalendarIntegrationSubView::onNoneButton);
   connect(m_mivraRadioBtn, &QRadioButton::clicked, this, &CalendarIntegrationSubView::onMivRaButton);
   connect(m_googleRadioBtn, &QRadioButton::clicked, this, &CalendarIntegrationSubView::onGoogleButton);
   connect(m_outlookRadioBtn, &QRadioButton::clicked, this, &CalendarIntegrationSubView::onOutlookButton);
+}
+
+std::array<QRadioButton*, 4> CalendarIntegrationSubView::radioButtons() const {
+  return {m_noneRadioBtn, m_mivraRadioBtn, m_googleRadioBtn, m_outlookRadioBtn};
+}
+
+// Tab stops at the source that is on; the arrows go on from there.
+void CalendarIntegrationSubView::updateTabStop(bool isOn) {
+  if (!isOn) return;
+  for (QRadioButton* button : radioButtons())
+    button->setFocusPolicy(button->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 void CalendarIntegrationSubView::setCalendarPreference(const Dictionary& preference) {
