@@ -6,6 +6,13 @@
 
 #include "platform/FrameLayout.h"
 
+namespace {
+
+// No screen shows more of one line.
+constexpr qsizetype kPaintedCharacters = 4000;
+
+}  // namespace
+
 View::View(const Frame& frame) { setFrame(this, frame); }
 
 View::~View() = default;
@@ -32,7 +39,7 @@ void View::paintEvent(QPaintEvent* event) {
     painter.setFont(fontFor(drawn.role, drawn.size));
     const QRectF box(drawn.frame.x, height - drawn.frame.maxY(), drawn.frame.width, drawn.frame.height);
     painter.drawText(box, int(drawn.alignment | Qt::AlignVCenter) | Qt::TextDontClip | Qt::TextSingleLine,
-                     drawn.text);
+                     drawn.text.left(kPaintedCharacters));
   }
 }
 
