@@ -3,7 +3,7 @@
 #include <QLabel>
 
 #include "platform/Frame.h"
-#include "platform/Look.h"
+#include "platform/LookPalette.h"
 #include "platform/PlatformExport.h"
 #include "platform/Text.h"
 
