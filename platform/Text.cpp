@@ -7,7 +7,8 @@
 
 namespace {
 
-// Families in order of preference; the application's own comes last, so that no name is ever replaced silently.
+// Families in order of preference; the application's own comes last, so that no name is ever replaced
+// silently.
 QFont baseFont() {
   QFont font = QGuiApplication::font();
   font.setFamilies({QStringLiteral("Inter"), font.family()});
@@ -39,5 +40,6 @@ QFont fontFor(FontRole role, double size) {
 
 Size sizeOfText(const QString& text, FontRole role, double size) {
   const QFont font = fontFor(role, size);
-  return {.width = text.isEmpty() ? 0.0 : widthOf(text, font), .height = std::ceil(QFontMetricsF(font).height())};
+  return {.width = text.isEmpty() ? 0.0 : widthOf(text, font),
+          .height = std::ceil(QFontMetricsF(font).height())};
 }

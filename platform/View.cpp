@@ -13,11 +13,15 @@ constexpr qsizetype kPaintedCharacters = 4000;
 
 }  // namespace
 
-View::View(const Frame& frame) { setFrame(this, frame); }
+View::View(const Frame& frame) {
+  setFrame(this, frame);
+}
 
 View::~View() = default;
 
-QList<DrawnText> View::drawnTexts() const { return {}; }
+QList<DrawnText> View::drawnTexts() const {
+  return {};
+}
 
 void View::viewDidUnhide() {}
 

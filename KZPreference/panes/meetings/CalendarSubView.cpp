@@ -51,6 +51,6 @@ void CalendarSubView::setCalendarPreference(const Dictionary& preference) {
 void CalendarSubView::onDaysButton() {
   const QString days = m_daysBtn->title();
   m_actionDelegate->setCalendarDays(days);
-  PreferenceTelemetry::sharedInstance().writeFeatrueName(TelemetryValue_FeatureName_Click_SelectCalendarListDays,
-                                                         TelemetryKey_CalendarListDaysCount, days);
+  PreferenceTelemetry::sharedInstance().writeFeatrueName(
+      TelemetryValue_FeatureName_Click_SelectCalendarListDays, TelemetryKey_CalendarListDaysCount, days);
 }
