@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>Copied</source>
-        <translation>コピーしました</translation>
+        <translation>コピー済</translation>
     </message>
     <message>
         <source>Calendar</source>

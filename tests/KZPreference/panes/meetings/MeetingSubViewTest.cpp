@@ -132,6 +132,16 @@ TEST_F(MeetingSubViewTest, CopyPutsTheAddressOnTheClipboardAndSaysSoForASecond) 
   EXPECT_EQ(frameOf(&room).width, copiedWidth);
 }
 
+// With one address the group's frame can be too narrow for its link; the pane has the room.
+TEST_F(MeetingSubViewTest, ALinkBeyondTheFrameStillShows) {
+  const double x = frameOf(view).width - 10;
+  setFrame(&link("m_copySipurlBtn"), {.x = x, .y = 0, .width = 60, .height = 16});
+  link("m_copySipurlBtn").show();
+  setFrame(view, {.x = 0, .y = 8, .width = 500, .height = 72});
+  EXPECT_EQ(frameOf(view).width, 500);
+  EXPECT_EQ(link("m_copySipurlBtn").visibleRegion().boundingRect().width(), 60);
+}
+
 // The reset that is still to come must not touch a view that has gone.
 TEST_F(MeetingSubViewTest, AViewThatGoesWithinTheSecondIsLeftAlone) {
   view->setPMRUrl(kRoom, kVideo);
