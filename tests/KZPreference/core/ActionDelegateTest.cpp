@@ -75,7 +75,7 @@ TEST_F(ActionDelegateTest, EveryActionIsTracedAndSentOrStored) {
 
 TEST_F(ActionDelegateTest, ARefusedCredentialIsMarkedBeforeTheHostHears) {
   QVariant seenByHost;
-  m_onSent = [&](quint32) {
+  m_onNextSent = [&] {
     seenByHost = settings().calendarIntegration().value(kKZCalendarIntegrationExchange).toMap();
   };
   m_delegate.notifyListExchMeetingAuthFailure();

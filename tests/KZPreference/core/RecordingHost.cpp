@@ -42,7 +42,7 @@ quint64 RecordingHost::sendPluginCommand(const KZEventIdentify& event, const Con
   m_sent.append(QStringLiteral("%1 %2")
                     .arg(event.m_componentEventIndex)
                     .arg(content ? QString::fromUtf8(json) : QStringLiteral("nil")));
-  if (m_onSent) m_onSent(event.m_componentEventIndex);
+  if (const auto onSent = std::exchange(m_onNextSent, {})) onSent();
   return 17;
 }
 

@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <QTemporaryDir>
 #include <functional>
+#include <utility>
 
 #include "KZPreference/contract/PluginCommandSender.h"
 #include "host/KZFoundation/KZPluginCoreMgr.h"
@@ -51,7 +52,7 @@ class RecordingHost : public testing::Test, public KZPluginDelegate {
   QStringList takeTrace() { return std::exchange(m_trace, {}); }  // `Class::method text`
 
   KZPluginCoreMgr* m_core;
-  std::function<void(quint32 number)> m_onSent;
+  std::function<void()> m_onNextSent;  // what the host does inside the next command that it receives
   QStringList m_warnings;
 
  private:
