@@ -1,28 +1,84 @@
 #include "platform/Text.h"
 
+#include <QCache>
 #include <QFontMetricsF>
 #include <QGuiApplication>
+#include <QHash>
 #include <cmath>
 
 namespace {
 
-// Families in order of preference; the application's own comes last, so that no name is ever replaced silently.
-QFont baseFont() {
-  QFont font = QGuiApplication::font();
-  font.setFamilies({QStringLiteral("Inter"), font.family()});
-  return font;
+// A role, as a number, at a size in pixels.
+using FontKind = std::pair<int, int>;
+
+FontKind fontKind(FontRole role, double size) {
+  return {static_cast<int>(role), qRound(size)};
 }
+
+// Panes ask for the same fonts and measure the same texts several times, and shaping a text is dear: what was found is
+// kept until the application's font changes. Main thread only.
+class FontTable {
+ public:
+  static FontTable& current() {
+    static FontTable table;
+    if (table.m_base != QGuiApplication::font()) table.startWith(QGuiApplication::font());
+    return table;
+  }
+
+  const QFont& font(FontKind kind) { return entry(kind).font; }
+  double height(FontKind kind) { return entry(kind).height; }
+
+  double width(const QString& text, FontKind kind) {
+    const std::pair key(text, kind);
+    if (const double* known = m_widths.object(key)) return *known;
+    const double width = QFontMetricsF(font(kind)).horizontalAdvance(text);
+    m_widths.insert(key, new double(width), std::max<qsizetype>(text.size(), kSmallestCost));
+    return width;
+  }
+
+ private:
+  static constexpr qsizetype kRememberedCharacters = 4'000'000;
+  static constexpr qsizetype kSmallestCost = 100;
+
+  struct Entry {
+    QFont font;
+    double height = 0;
+  };
+
+  void startWith(const QFont& base) {
+    m_base = base;
+    m_entries.clear();
+    m_widths.clear();
+  }
+
+  const Entry& entry(FontKind kind) {
+    auto found = m_entries.constFind(kind);
+    if (found == m_entries.constEnd()) found = m_entries.insert(kind, made(kind));
+    return *found;
+  }
+
+  // The application's own family comes last, so that no name is ever replaced silently.
+  Entry made(FontKind kind) const {
+    QFont font = m_base;
+    font.setFamilies({QStringLiteral("Inter"), m_base.family()});
+    font.setPixelSize(kind.second);
+    if (kind.first == static_cast<int>(FontRole::BoldSystem)) font.setWeight(QFont::Bold);
+    return {.font = font, .height = std::ceil(QFontMetricsF(font).height())};
+  }
+
+  QFont m_base;
+  QHash<FontKind, Entry> m_entries;
+  QCache<std::pair<QString, FontKind>, double> m_widths{kRememberedCharacters};
+};
 
 }  // namespace
 
 QFont fontFor(FontRole role, double size) {
-  QFont font = baseFont();
-  font.setPixelSize(qRound(size));
-  if (role == FontRole::BoldSystem) font.setWeight(QFont::Bold);
-  return font;
+  return FontTable::current().font(fontKind(role, size));
 }
 
 Size sizeOfText(const QString& text, FontRole role, double size) {
-  const QFontMetricsF metrics(fontFor(role, size));
-  return {.width = text.isEmpty() ? 0.0 : metrics.horizontalAdvance(text), .height = std::ceil(metrics.height())};
+  FontTable& table = FontTable::current();
+  const FontKind kind = fontKind(role, size);
+  return {.width = text.isEmpty() ? 0.0 : table.width(text, kind), .height = table.height(kind)};
 }
