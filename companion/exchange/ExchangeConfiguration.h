@@ -68,9 +68,6 @@ struct ExchangeConfiguration {
   RedirectPrompt prompt;
 };
 
-// The ordinary network, the system's certificates, and the online services known to everybody.
-ExchangeConfiguration standardExchangeConfiguration(const QString& clientId, const QString& redirectUri);
-
 // The service that owns the host; nothing for any other host.
 std::optional<OnlineService> onlineServiceOf(const QList<OnlineService>& services, const QString& host);
 

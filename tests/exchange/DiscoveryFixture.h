@@ -21,6 +21,8 @@ class DiscoveryFixture : public testing::Test {
 
   void SetUp() override;
 
+  // Somebody else does.
+  void answerNoChallenge() { m_authenticator.reset(); }
   void detect(const QString& email);
   void sinkPassword();
   // What is asked now and from now on.
