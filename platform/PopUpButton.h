@@ -14,6 +14,8 @@ class PLATFORM_EXPORT PopUpButton : public QComboBox {
   void setTitle(const QString& title);
   QString title() const;
 
+  void showPopup() override;
+
  Q_SIGNALS:
   void chosen(const QString& title);  // by the user only
 
