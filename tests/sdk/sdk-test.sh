@@ -23,7 +23,7 @@ document_shows() {
 only_from_prefix() {
   local file
   for file in "$prefix"/bin/* "$prefix"/lib/brenn-mivra/*.so "$work/out/small-host"; do
-    ldd "$file" | grep -E 'not found|libKZ' | grep -vF "=> $prefix/lib/brenn-mivra/" && fail "$file needs another place"
+    ldd "$file" | grep -E 'not found|libKZ' | grep -vF "=> $prefix/" && fail "$file needs another place"
   done
   if grep -rlF -e "$build/lib" -e "$root/host" "$prefix/lib/cmake"; then fail "the package names the build"; fi
 }

@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QDebug>
 #include <QPluginLoader>
+#include <QWidget>
 
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZPluginCoreMgr.h"
