@@ -21,7 +21,7 @@ test: build
 	@tools/run-tests.sh $(BUILD) $(TEST_JOBS)
 
 lint: packages
-	@tools/lint.sh
+	@tools/lint.sh $(JOBS)
 
 sanitize: packages
 	@tools/build.sh $(SANITIZE_BUILD) $(JOBS) -DKZ_SANITIZE=ON
@@ -38,7 +38,7 @@ pictures: build
 
 # The tables of docs/host-guide.md, from the code's own.
 host-guide: build
-	@$(BUILD)/bin/host-guide-tables docs/host-guide.md
+	@tools/host-guide.py $(BUILD)/bin/host-guide-tables
 
 clean:
 	rm -rf $(BUILD) $(SANITIZE_BUILD) build-lint

@@ -30,15 +30,22 @@ void StaticText::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setPen(m_color == SystemColor::Text ? palette().color(QPalette::WindowText)
                                               : lookColor(m_color, lookSchemeFor(palette())));
-  const QString shown = fontMetrics().elidedText(text().left(kDrawnCharacters), Qt::ElideRight, width());
-  painter.drawText(rect(), int(alignment()) | Qt::TextSingleLine, shown);
+  const QRect visible = visiblePart();
+  const QString shown = fontMetrics().elidedText(text().left(kDrawnCharacters), Qt::ElideRight, visible.width());
+  painter.drawText(visible, int(alignment()) | Qt::TextSingleLine, shown);
+}
+
+// What reaches beyond the parent's right edge is cut there, so the text ends before it.
+QRect StaticText::visiblePart() const {
+  const int room = parentWidget() && !isWindow() ? parentWidget()->width() - x() : width();
+  return {0, 0, qMin(width(), room), height()};
 }
 
 bool StaticText::event(QEvent* event) {
   if (event->type() == QEvent::ToolTip && toolTip().isEmpty()) {
     const QString whole = text().left(kDrawnCharacters);
     const auto* help = static_cast<QHelpEvent*>(event);
-    if (fontMetrics().horizontalAdvance(whole) > width()) {
+    if (fontMetrics().horizontalAdvance(whole) > visiblePart().width()) {
       QToolTip::showText(help->globalPos(), whole.toHtmlEscaped(), this);
     }
     return true;

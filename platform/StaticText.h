@@ -22,5 +22,7 @@ class PLATFORM_EXPORT StaticText : public QLabel {
   bool event(QEvent* event) override;
 
  private:
+  QRect visiblePart() const;
+
   SystemColor m_color = SystemColor::Text;
 };

@@ -4,6 +4,7 @@ set -uo pipefail
 cd "$(dirname "$0")/.."
 
 jobs=${1:-$(nproc)}
+folder=build-lint
 export PYTHONDONTWRITEBYTECODE=1
 status=0
 
@@ -35,11 +36,22 @@ scripts_parse() {
   done < <(ours '*.sh' .ci/run)
 }
 
+host_guide() {
+  ninja -C "$folder" host-guide-tables && tools/host-guide.py --check "$folder/bin/host-guide-tables"
+}
+
+# Configured anew each time: new sources have to be seen.
+if ! output=$(cmake -S . -B "$folder" -G Ninja -DCMAKE_BUILD_TYPE=Debug -DKZ_UNITY=ON 2>&1); then
+  echo "$output"
+  exit 1
+fi
+
 check "format" formatted
 check "scripts" scripts_parse
 check "texts in files" tools/check-texts.py
 check "floors" tools/check-floors.py
 check "translations" tools/check-translations.py
 check "documents" tools/check-documents.py
-check "clang-tidy" tools/tidy.sh build-lint "$jobs"
+check "host guide" host_guide
+check "clang-tidy" tools/tidy.sh "$folder" "$jobs"
 exit $status

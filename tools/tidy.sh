@@ -1,19 +1,13 @@
 #!/usr/bin/env bash
-# tidy.sh FOLDER JOBS: clang-tidy over all our sources, batched as the build batches them, because reading Qt's headers
-# and matching in them takes most of the time and a batch does it once.
+# tidy.sh FOLDER JOBS: clang-tidy over all our sources as that build folder, which need not be built, batches them: reading
+# Qt's headers and matching in them takes most of the time, and a batch does it once.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 root=$PWD
 folder=$1
 jobs=$2
 
-if [[ ! -f $folder/build.ninja ]]; then
-  cmake -S . -B "$folder" -G Ninja -DKZ_UNITY=ON >/dev/null
-else
-  cmake "$folder" >/dev/null
-fi
-
-export log=$folder/tidy.log
+log=$folder/tidy.log
 list_units() {
   python3 - "$folder/compile_commands.json" <<'PY'
 import json, os, sys

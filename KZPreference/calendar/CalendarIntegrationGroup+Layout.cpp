@@ -140,6 +140,8 @@ void CalendarIntegrationGroup::initErrorText() {
                                       .size = labelFontSize,
                                       .alignment = Qt::AlignLeft});
   m_messageTxt->setSystemColor(SystemColor::Red);
+  // It may lie on the user name field, whose text must not show through.
+  m_messageTxt->setAutoFillBackground(true);
   m_messageTxt->hide();
   m_message.setMessageTxt(m_messageTxt);
 }

@@ -1,12 +1,28 @@
 #include "KZPreference/calendar/CalendarIntegrationMessage.h"
 
-#include <QAccessible>
+#include <QAccessibleWidget>
 
 #include "KZPreference/layout/Localization.h"
 #include "host/KZFoundation/KZConstants.h"
 
+namespace {
+
+// Screen readers speak a notification when it shows; of a plain text they take no notice.
+class StatusLineAccessible final : public QAccessibleWidget {
+ public:
+  explicit StatusLineAccessible(StaticText* line) : QAccessibleWidget(line, QAccessible::Notification) {}
+
+  QString text(QAccessible::Text kind) const override {
+    return kind == QAccessible::Name ? static_cast<StaticText*>(widget())->text() : QAccessibleWidget::text(kind);
+  }
+};
+
+}  // namespace
+
 void CalendarIntegrationMessage::setMessageTxt(StaticText* messageTxt) {
-  if (messageTxt) m_messageTxt = messageTxt;
+  if (!messageTxt || messageTxt == m_messageTxt) return;
+  m_messageTxt = messageTxt;
+  QAccessible::registerAccessibleInterface(new StatusLineAccessible(messageTxt));
 }
 
 void CalendarIntegrationMessage::showErrorMessage(const Dictionary& result) {
@@ -32,9 +48,12 @@ void CalendarIntegrationMessage::hideMessage() {
 
 void CalendarIntegrationMessage::show(const QString& text, SystemColor color) {
   if (!m_messageTxt) return;
+  const bool isReplaced = m_messageTxt->isVisible() && m_messageTxt->text() != text;
   m_messageTxt->setText(text);
   m_messageTxt->setSystemColor(color);
   m_messageTxt->show();
-  QAccessibleEvent announcement(m_messageTxt, QAccessible::Alert);
+  if (!isReplaced) return;
+  // A line that was hidden is announced by showing it.
+  QAccessibleEvent announcement(m_messageTxt, QAccessible::ObjectShow);
   QAccessible::updateAccessibility(&announcement);
 }

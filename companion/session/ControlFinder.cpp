@@ -28,25 +28,31 @@ QString controlNameOf(const QWidget& view) {
 }
 
 ControlFinder::ControlFinder(const QWidget* content) {
-  if (content) collect(const_cast<QWidget*>(content), {});
+  if (!content) return;
+  const QList<QWidget*> shown = subviewsOf(content);
+  for (QWidget* pane : shown) collect(pane, pane == shown.last() ? Place::InFront : Place::Behind, {});
+  for (View* pane : content->findChildren<View*>(Qt::FindDirectChildrenOnly)) {
+    if (!shown.contains(pane)) collect(pane, Place::Away, {});
+  }
 }
 
-void ControlFinder::collect(QWidget* parent, const QList<QString>& path) {
-  for (QWidget* view : subviewsOf(parent)) {
-    QList<QString> own = path;
-    const QString name = controlNameOf(*view);
-    if (!name.isNull()) {
-      own.append(name);
-      m_entries.append({view, own});
-    }
-    collect(view, own);
+void ControlFinder::collect(QWidget* view, Place place, const QList<QString>& path) {
+  QList<QString> own = path;
+  const QString name = controlNameOf(*view);
+  if (!name.isNull()) {
+    own.append(name);
+    m_entries.append({view, place, own});
   }
+  for (QWidget* child : subviewsOf(view)) collect(child, place, own);
 }
 
 QList<const ControlFinder::Entry*> ControlFinder::matching(const QList<QString>& wanted) const {
   QList<const Entry*> matches;
   for (const Entry& entry : m_entries) {
-    if (pathMatches(entry.path, wanted)) matches.append(&entry);
+    if (!pathMatches(entry.path, wanted)) continue;
+    if (!matches.isEmpty() && entry.place > matches.first()->place) continue;
+    if (!matches.isEmpty() && entry.place < matches.first()->place) matches.clear();
+    matches.append(&entry);
   }
   return matches;
 }

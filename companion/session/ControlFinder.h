@@ -19,7 +19,9 @@ class ControlFinder final {
     QString error;  // why there is none
   };
 
-  // "m_field", or with parents in front where that is not unique: "Group/m_field". Parents may be left out.
+  // "m_field", or with parents in front where that is not unique: "Group/m_field". Parents may be left out. A name
+  // in the pane in front comes before the same name in a pane that is fading away, and that before one in a pane
+  // that is not in the window.
   Found find(const QString& name) const;
 
   // The shortest name that finds the control, or the nearest of its parents that has one; null when there is
@@ -27,12 +29,15 @@ class ControlFinder final {
   QString nameOf(const QWidget* control) const;
 
  private:
+  enum class Place { InFront, Behind, Away };
   struct Entry {
     QWidget* control;
+    Place place;
     QList<QString> path;  // from the content view down, the control's own name last
   };
 
-  void collect(QWidget* parent, const QList<QString>& path);
+  void collect(QWidget* view, Place place, const QList<QString>& path);
+  // Those in the nearest place only.
   QList<const Entry*> matching(const QList<QString>& wanted) const;
 
   QList<Entry> m_entries;

@@ -1,0 +1,92 @@
+#include <gtest/gtest.h>
+
+#include <QAbstractItemView>
+#include <QHelpEvent>
+#include <QSignalSpy>
+#include <QTest>
+#include <QToolTip>
+
+#include "platform/FrameLayout.h"
+#include "platform/PopUpButton.h"
+#include "platform/StaticText.h"
+#include "platform/View.h"
+
+namespace {
+
+TEST(PopUpButton, ShowsATitleThatIsNoItemUntilTheUserChooses) {
+  PopUpButton button({"5", "10", "15"});
+  QSignalSpy chosen(&button, &PopUpButton::chosen);
+  button.resize(90, 22);
+  button.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&button));
+  const QImage item = button.grab().toImage();
+  EXPECT_EQ(button.title(), "5");
+
+  button.setTitle("45");
+  EXPECT_EQ(button.title(), "45");
+  EXPECT_EQ(button.count(), 3);
+  EXPECT_NE(button.grab().toImage(), item);
+  button.setTitle("");
+  EXPECT_EQ(button.title(), "");
+  button.setTitle("10");
+  EXPECT_EQ(button.title(), "10");
+  EXPECT_EQ(chosen.count(), 0);
+
+  button.setTitle("45");
+  button.setFocus();
+  QTest::keyClick(&button, Qt::Key_Down);
+  EXPECT_EQ(button.title(), "5");
+  ASSERT_EQ(chosen.count(), 1);
+  EXPECT_EQ(chosen.first().first(), "5");
+}
+
+QString toolTipOf(QWidget* view) {
+  QToolTip::hideText();
+  QHelpEvent event(QEvent::ToolTip, QPoint(1, 1), view->mapToGlobal(QPoint(1, 1)));
+  QCoreApplication::sendEvent(view, &event);
+  return QToolTip::text();
+}
+
+TEST(StaticText, ElidesWhatDoesNotFitAndTellsItInATip) {
+  QWidget parent;
+  parent.resize(400, 40);
+  const QString longName = QStringLiteral("A <b>name</b> that is far too long for its place");
+  auto* text = new StaticText("Ada", FontRole::Label, 13);
+  addSubview(&parent, text, {0, 0, 80, 22});
+  parent.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&parent));
+  EXPECT_EQ(toolTipOf(text), "");
+  text->setText(longName);
+  EXPECT_EQ(toolTipOf(text), longName.toHtmlEscaped());
+  EXPECT_EQ(text->text(), longName);
+
+  auto* shortened = new StaticText(text->fontMetrics().elidedText(longName, Qt::ElideRight, 80), FontRole::Label, 13);
+  addSubview(&parent, shortened, {100, 0, 80, 22});
+  EXPECT_EQ(text->grab().toImage(), shortened->grab().toImage());
+}
+
+class UnhideCounter final : public View {
+ public:
+  UnhideCounter() : View({0, 0, 10, 10}) {}
+  int count = 0;
+
+ protected:
+  void viewDidUnhide() override { ++count; }
+};
+
+TEST(View, HearsThatItBecameVisibleAgain) {
+  QWidget window;
+  auto* view = new UnhideCounter;
+  addSubview(&window, view, {0, 0, 10, 10});
+  EXPECT_EQ(view->count, 0);
+  window.show();
+  EXPECT_EQ(view->count, 1);
+  view->hide();
+  view->show();
+  EXPECT_EQ(view->count, 2);
+  window.hide();
+  window.show();
+  EXPECT_EQ(view->count, 3);
+}
+
+}  // namespace
