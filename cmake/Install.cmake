@@ -30,7 +30,9 @@ install(FILES ${CMAKE_BINARY_DIR}/BrennMivraHostConfig.cmake ${CMAKE_BINARY_DIR}
   DESTINATION ${sdkPackage})
 
 set(debianName brenn-mivra-preferences)
-install(FILES packaging/copyright DESTINATION share/doc/${debianName})
+file(ARCHIVE_CREATE OUTPUT ${CMAKE_BINARY_DIR}/changelog.gz PATHS ${CMAKE_SOURCE_DIR}/packaging/changelog
+  FORMAT raw COMPRESSION GZip COMPRESSION_LEVEL 9 MTIME 0)
+install(FILES packaging/copyright ${CMAKE_BINARY_DIR}/changelog.gz DESTINATION share/doc/${debianName})
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
@@ -40,9 +42,11 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
 set(CPACK_PACKAGE_NAME ${debianName})
 set(CPACK_PACKAGE_CONTACT "Brenn MivRa preferences team <preferences@brenn-mivra.example>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "preferences window for meeting applications, as a plug-in")
-set(CPACK_PACKAGE_DESCRIPTION "The plug-in shows the settings of a meeting application: account, calendars,
-notifications and video devices. A small application shows it at work, and prefs-session plays scripts
-with it. The headers and the CMake package are for hosts of one's own.")
+set(CPACK_PACKAGE_DESCRIPTION
+"The plug-in shows the settings of a meeting application: account, calendars,
+notifications and video devices. A small application shows it at work, and
+prefs-session plays scripts with it. The headers and the CMake package are
+for hosts of one's own.")
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION net)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)

@@ -14,6 +14,8 @@ packages=(
   dbus dbus-x11 gnome-keyring
   # certificates for the tests' https server, and a second reader of property lists
   openssl libplist-utils python3
+  # the Debian package
+  dpkg-dev file
   # lint
   clang-format clang-tidy git
 )
