@@ -30,8 +30,8 @@ install(FILES ${CMAKE_BINARY_DIR}/BrennMivraHostConfig.cmake ${CMAKE_BINARY_DIR}
   DESTINATION ${sdkPackage})
 
 set(debianName brenn-mivra-preferences)
-file(ARCHIVE_CREATE OUTPUT ${CMAKE_BINARY_DIR}/changelog.gz PATHS ${CMAKE_SOURCE_DIR}/packaging/changelog
-  FORMAT raw COMPRESSION GZip COMPRESSION_LEVEL 9 MTIME 0)
+execute_process(COMMAND gzip -9nc ${CMAKE_SOURCE_DIR}/packaging/changelog
+  OUTPUT_FILE ${CMAKE_BINARY_DIR}/changelog.gz COMMAND_ERROR_IS_FATAL ANY)
 install(FILES packaging/copyright ${CMAKE_BINARY_DIR}/changelog.gz DESTINATION share/doc/${debianName})
 
 set(CPACK_GENERATOR DEB)
