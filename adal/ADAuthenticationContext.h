@@ -6,9 +6,9 @@
 
 #include "adal/ADALExport.h"
 #include "adal/ADAuthenticationResult.h"
+#include "adal/ADPromptBehavior.h"
 #include "adal/ADUserIdentifier.h"
 
-enum class ADPromptBehavior { Auto = 0, Always = 1 };  // Always: the sign-in page is shown in any case
 enum class ADAuthorityValidation { Off };
 
 // Gets tokens from one authority and stores them in the default cache. Main thread only; nothing blocks.

@@ -5,11 +5,11 @@
 #include <QMutexLocker>
 #include <utility>
 
+#include "adal/ADClock.h"
 #include "adal/ADTokenCache.h"
 
 struct ADAuthenticationSettings::Private {
   mutable QMutex mutex;
-  Clock clock;
   BrowserOpener opener;
   TextLookUp lookUp;
   ADRequestLimits limits;
@@ -39,7 +39,7 @@ void ADAuthenticationSettings::setDefaultStorageDelegate(ADTokenCacheDelegate* d
 }
 
 void ADAuthenticationSettings::setClock(Clock clock) {
-  d->assign(d->clock, std::move(clock));
+  setADClock(std::move(clock));
 }
 void ADAuthenticationSettings::setBrowserOpener(BrowserOpener opener) {
   d->assign(d->opener, std::move(opener));
@@ -52,8 +52,7 @@ void ADAuthenticationSettings::setLimits(const ADRequestLimits& limits) {
 }
 
 QDateTime ADAuthenticationSettings::now() const {
-  const Clock clock = d->copyOf(d->clock);
-  return clock ? clock() : QDateTime::currentDateTimeUtc();
+  return adNow();
 }
 
 bool ADAuthenticationSettings::openBrowser(const QUrl& address) const {

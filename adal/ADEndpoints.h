@@ -5,9 +5,9 @@
 #include <functional>
 #include <optional>
 
-#include "adal/ADAuthenticationContext.h"
 #include "adal/ADError.h"
 #include "adal/ADParameters.h"
+#include "adal/ADPromptBehavior.h"
 
 class ADWebClient;
 struct ADWebAnswer;

@@ -5,10 +5,12 @@
 #include <QTimer>
 #include <memory>
 
-#include "adal/ADAuthenticationContext.h"
+#include "adal/ADAuthenticationResult.h"
 #include "adal/ADEndpoints.h"
 #include "adal/ADLoopbackListener.h"
+#include "adal/ADPromptBehavior.h"
 #include "adal/ADSignInDialog.h"
+#include "adal/ADUserIdentifier.h"
 #include "adal/ADWebClient.h"
 
 struct ADSignInRequest {

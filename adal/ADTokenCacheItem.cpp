@@ -1,9 +1,9 @@
 #include "adal/ADTokenCacheItem.h"
 
-#include "adal/ADAuthenticationSettings.h"
+#include "adal/ADClock.h"
 
 bool ADTokenCacheItem::isExpired() const {
-  return !expiresOn.isValid() || expiresOn <= ADAuthenticationSettings::sharedInstance().now();
+  return !expiresOn.isValid() || expiresOn <= adNow();
 }
 
 bool ADTokenCacheItem::isSameEntry(const ADTokenCacheItem& other) const {

@@ -34,4 +34,6 @@ void ContentView::resizeEvent(QResizeEvent* event) {
   QScrollArea::resizeEvent(event);
 }
 
-void ContentView::fill() { contentSubview()->resize(m_contentSize.expandedTo(viewport()->size())); }
+void ContentView::fill() {
+  contentSubview()->resize(m_contentSize.expandedTo(viewport()->size()));
+}

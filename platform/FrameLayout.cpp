@@ -9,6 +9,7 @@
 #include <optional>
 
 #include "platform/Look.h"
+#include "platform/WindowController.h"
 
 namespace {
 
@@ -56,7 +57,13 @@ double screenHeight(const QWidget* window) {
 void setWindowGeometry(QWidget* window, const Frame& frame) {
   const QPoint corner(qRound(frame.x), qRound(screenHeight(window) - frame.maxY()));
   const QPoint shift = corner - window->geometry().topLeft();
-  window->resize(roundedSize(frame));
+  const QSize size = roundedSize(frame);
+  // The user does not size a window; a view that has no parent yet must be free to change.
+  if (qobject_cast<Window*>(window)) {
+    window->setFixedSize(size);
+  } else {
+    window->resize(size);
+  }
   if (window->isVisible() && !shift.isNull()) window->move(window->pos() + shift);
 }
 

@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QColor>
-#include <QPalette>
-
+#include "platform/LookPalette.h"
 #include "platform/PlatformExport.h"
 
 class QStyle;
@@ -10,18 +8,6 @@ class QWidget;
 
 // The look of our own windows. It follows the application's palette (light, dark, high contrast) and never
 // changes the application itself. Main thread only.
-
-enum class LookScheme { Light, Dark, HighContrastLight, HighContrastDark };
-
-// Colours that carry a meaning; drawn legibly in every scheme.
-enum class SystemColor { Text, Red, Blue };
-
-// Dark when the window is darker than its text; high contrast when window, fields and buttons are all pure
-// black under pure white texts, or all pure white under pure black ones (one stark pair alone is an ordinary
-// palette).
-PLATFORM_EXPORT LookScheme lookSchemeFor(const QPalette& palette);
-PLATFORM_EXPORT const QPalette& lookPalette(LookScheme scheme);
-PLATFORM_EXPORT QColor lookColor(SystemColor color, LookScheme scheme);
 
 // One style object for the process, owned by the application object.
 PLATFORM_EXPORT QStyle* lookStyle();

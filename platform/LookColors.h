@@ -2,7 +2,7 @@
 
 #include <QColor>
 
-#include "platform/Look.h"
+#include "platform/LookPalette.h"
 
 // What the style draws with beyond the palette's roles.
 struct LookColors {

@@ -1,6 +1,4 @@
-#include <QPalette>
-
-#include "platform/Look.h"
+#include "platform/LookPalette.h"
 
 namespace {
 

@@ -9,7 +9,7 @@
 #include <QToolBar>
 #include <QToolButton>
 
-#include "platform/Look.h"
+#include "platform/LookPalette.h"
 
 namespace {
 

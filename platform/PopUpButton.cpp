@@ -1,5 +1,6 @@
 #include "platform/PopUpButton.h"
 
+#include <QKeyEvent>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
 
@@ -18,7 +19,15 @@ void PopUpButton::setTitle(const QString& title) {
   update();
 }
 
-QString PopUpButton::title() const { return currentIndex() < 0 ? m_foreignTitle : currentText(); }
+QString PopUpButton::title() const {
+  return currentIndex() < 0 ? m_foreignTitle : currentText();
+}
+
+// The search for an item by its letters would swallow the window's own shortcuts.
+void PopUpButton::keyPressEvent(QKeyEvent* event) {
+  if (event->modifiers().testFlag(Qt::ControlModifier)) return event->ignore();
+  QComboBox::keyPressEvent(event);
+}
 
 void PopUpButton::paintEvent(QPaintEvent*) {
   QStylePainter painter(this);

@@ -19,6 +19,7 @@ class PLATFORM_EXPORT PopUpButton : public QComboBox {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   QString m_foreignTitle;

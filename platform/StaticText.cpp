@@ -31,7 +31,8 @@ void StaticText::paintEvent(QPaintEvent*) {
   painter.setPen(m_color == SystemColor::Text ? palette().color(QPalette::WindowText)
                                               : lookColor(m_color, lookSchemeFor(palette())));
   const QRect visible = visiblePart();
-  const QString shown = fontMetrics().elidedText(text().left(kDrawnCharacters), Qt::ElideRight, visible.width());
+  const QString shown =
+      fontMetrics().elidedText(text().left(kDrawnCharacters), Qt::ElideRight, visible.width());
   painter.drawText(visible, int(alignment()) | Qt::TextSingleLine, shown);
 }
 

@@ -3,11 +3,12 @@
 #include <QLabel>
 
 #include "platform/Frame.h"
-#include "platform/Look.h"
+#include "platform/LookPalette.h"
 #include "platform/PlatformExport.h"
 #include "platform/Text.h"
 
-// A one-line text that cannot be edited or selected. A text that does not fit ends in "…"; the whole is its tool tip.
+// A one-line text that cannot be edited or selected. A text that does not fit ends in "…"; the whole is its
+// tool tip.
 class PLATFORM_EXPORT StaticText : public QLabel {
   Q_OBJECT
 

@@ -6,11 +6,22 @@
 
 #include "platform/FrameLayout.h"
 
-View::View(const Frame& frame) { setFrame(this, frame); }
+namespace {
+
+// No screen shows more of one line.
+constexpr qsizetype kPaintedCharacters = 4000;
+
+}  // namespace
+
+View::View(const Frame& frame) {
+  setFrame(this, frame);
+}
 
 View::~View() = default;
 
-QList<DrawnText> View::drawnTexts() const { return {}; }
+QList<DrawnText> View::drawnTexts() const {
+  return {};
+}
 
 void View::viewDidUnhide() {}
 
@@ -32,7 +43,7 @@ void View::paintEvent(QPaintEvent* event) {
     painter.setFont(fontFor(drawn.role, drawn.size));
     const QRectF box(drawn.frame.x, height - drawn.frame.maxY(), drawn.frame.width, drawn.frame.height);
     painter.drawText(box, int(drawn.alignment | Qt::AlignVCenter) | Qt::TextDontClip | Qt::TextSingleLine,
-                     drawn.text);
+                     drawn.text.left(kPaintedCharacters));
   }
 }
 

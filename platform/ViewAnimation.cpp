@@ -85,8 +85,8 @@ void ViewAnimation::stop() {
 void ViewAnimation::advance(double progress) {
   if (!m_window) return;
   const auto between = [progress](double from, double to) { return from + (to - from) * progress; };
-  m_window->resize(qRound(between(m_startSize.width, m_endFrame.width)),
-                   qRound(between(m_startSize.height, m_endFrame.height)));
+  m_window->setFixedSize(qRound(between(m_startSize.width, m_endFrame.width)),
+                         qRound(between(m_startSize.height, m_endFrame.height)));
   if (m_overlay) static_cast<FadeOverlay*>(m_overlay.data())->setProgress(progress);
 }
 

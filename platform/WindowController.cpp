@@ -37,7 +37,9 @@ WindowController* WindowController::of(const QWidget* view) {
 
 void WindowController::windowDidBecomeKey() {}
 void WindowController::windowWillClose() {}
-void WindowController::keyDown(QKeyEvent* event) { event->ignore(); }
+void WindowController::keyDown(QKeyEvent* event) {
+  event->ignore();
+}
 
 Window::Window() {
   setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |

@@ -7,7 +7,10 @@ from project_files import ROOT, finish, project_files, read
 
 LITERAL = r'"((?:[^"\\]|\\.)*)"'
 # Looked up where it is written; the panes' titles are handed to a helper that looks them up.
-LOOKED_UP = [re.compile(r"[lL]ocalizedString\(\s*" + LITERAL), re.compile(r"\badd\(m_\w+,\s*" + LITERAL)]
+# So are the words of the sign-in dialog and of the page that ends a sign-in.
+LOOKED_UP = [re.compile(r"[lL]ocalizedString\(\s*" + LITERAL), re.compile(r"\badd\(m_\w+,\s*" + LITERAL),
+             re.compile(r"\b(?:dialogText|labelFor|text)\(\s*" + LITERAL),
+             re.compile(r"\bcallbackPage\(" + LITERAL.replace("(", "(?:", 1) + r",\s*" + LITERAL)]
 ANY_LITERAL = re.compile(LITERAL)
 COLONS = (":", "\uff1a")
 
@@ -41,7 +44,7 @@ def language_findings(name, content, keys, literals):
 
 
 def main():
-    code = [read(path) for path in project_files("KZPreference/*.h", "KZPreference/*.cpp")]
+    code = [read(path) for path in project_files("KZPreference/*.h", "KZPreference/*.cpp", "adal/*.cpp")]
     keys = set().union(*map(keys_in, code))
     literals = {unescaped(literal) for text in code for literal in ANY_LITERAL.findall(text)}
     languages = project_files("KZPreference/resources/translations/*.ts")

@@ -11,13 +11,11 @@ packages=(
   # pictures and fonts (the second has the Japanese and Chinese letters)
   librsvg2-bin fonts-inter fonts-noto-cjk fontconfig
   # a keychain for the tests, on a bus of its own
-  dbus dbus-x11 gnome-keyring
-  # certificates for the tests' https server, and a second reader of property lists
-  openssl libplist-utils python3
+  dbus gnome-keyring
   # the Debian package
   dpkg-dev file
-  # lint
-  clang-format clang-tidy git
+  # lint, and the checks of the documents
+  clang-format clang-tidy python3 git
 )
 
 is_installed() {

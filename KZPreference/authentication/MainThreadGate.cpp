@@ -27,7 +27,8 @@ void MainThreadGate::Entrance::pass(const std::function<void()>& work) {
     }
     // Released when the work is done, or when it is dropped with its receiver.
     const std::shared_ptr<void> release(nullptr, [done](void*) { done->release(); });
-    QMetaObject::invokeMethod(m_receiver.get(), [work, release] { work(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        m_receiver.get(), [work, release] { work(); }, Qt::QueuedConnection);
   }
   done->acquire();
 }

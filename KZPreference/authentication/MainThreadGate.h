@@ -5,8 +5,9 @@
 #include <functional>
 #include <memory>
 
-// Runs work on the main thread while the caller waits; on the main thread itself it simply runs it. Any thread may
-// pass. When the gate goes (on the main thread), who waits is let go and what was not begun is dropped.
+// Runs work on the main thread while the caller waits; on the main thread itself it simply runs it. Any
+// thread may pass. When the gate goes (on the main thread), who waits is let go and what was not begun is
+// dropped.
 class MainThreadGate {
  public:
   MainThreadGate();

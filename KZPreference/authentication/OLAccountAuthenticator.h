@@ -5,9 +5,9 @@
 #include "KZPreference/contract/PreferenceActionDelegateProtocol.h"
 #include "host/KZFoundation/KZNotificationCenter.h"
 
-// Answers the Exchange client's credential challenges: from whoever is collecting a credential, or from the keychain
-// when meetings are listed. A refused credential is reported and never sent again. Challenges may be posted from any
-// thread and are answered before their post returns; all else on the main thread.
+// Answers the Exchange client's credential challenges: from whoever is collecting a credential, or from the
+// keychain when meetings are listed. A refused credential is reported and never sent again. Challenges may be
+// posted from any thread and are answered before their post returns; all else on the main thread.
 class OLAccountAuthenticator {
  public:
   explicit OLAccountAuthenticator(PreferenceActionDelegateProtocol* prefsDelegate);  // not owned

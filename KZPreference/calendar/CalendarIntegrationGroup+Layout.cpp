@@ -20,7 +20,9 @@ constexpr double kFirstRowBelowTop = 20 + 14 + 16;
 constexpr double kRowPitch = 10 + 16;
 constexpr double kDetectRoom = 22;
 
-Frame credentialFieldFrame(double y) { return {kFieldX, y, kFieldWidth, kFieldHeight}; }
+Frame credentialFieldFrame(double y) {
+  return {kFieldX, y, kFieldWidth, kFieldHeight};
+}
 
 }  // namespace
 
@@ -35,7 +37,9 @@ void CalendarIntegrationGroup::initControls() {
   updateByAppliedState();
 }
 
-Frame CalendarIntegrationGroup::emailFrame() const { return credentialFieldFrame(94); }
+Frame CalendarIntegrationGroup::emailFrame() const {
+  return credentialFieldFrame(94);
+}
 
 // Inside the right end of the email field.
 Frame CalendarIntegrationGroup::detectFrame() const {
@@ -56,13 +60,13 @@ Frame CalendarIntegrationGroup::messageFrame() const {
 void CalendarIntegrationGroup::initIntegratinLabel() {
   const QString title = PrefMeetingViewVisible::calendarIntegrationLabel();
   const Size size = sizeOfText(title, FontRole::BoldSystem, boldLabelFontSize);
-  m_integrationTxt = addStaticText(
-      this, {.name = QStringLiteral("m_integrationTxt"),
-             .frame = {marginAtLeftEdge, frameOf(this).height - size.height, size.width + textPad, size.height},
-             .text = title,
-             .role = FontRole::BoldSystem,
-             .size = boldLabelFontSize,
-             .alignment = Qt::AlignRight});
+  m_integrationTxt = addStaticText(this, {.name = QStringLiteral("m_integrationTxt"),
+                                          .frame = {marginAtLeftEdge, frameOf(this).height - size.height,
+                                                    size.width + textPad, size.height},
+                                          .text = title,
+                                          .role = FontRole::BoldSystem,
+                                          .size = boldLabelFontSize,
+                                          .alignment = Qt::AlignRight});
 }
 
 QRadioButton* CalendarIntegrationGroup::addRadioButton(const QString& name, int row, const QString& title) {
@@ -83,11 +87,12 @@ void CalendarIntegrationGroup::initInputTextFields() {
     connect(field, &QLineEdit::textEdited, this, &CalendarIntegrationGroup::controlTextDidChange);
     return field;
   };
-  m_emailInputTxt = add("m_emailInputTxt", emailFrame(), PrefMeetingViewVisible::emailPlaceHolder(), Echo::Plain);
-  m_usernameInputTxt =
-      add("m_usernameInputTxt", credentialFieldFrame(64), PrefMeetingViewVisible::usernamePlaceHoder(), Echo::Plain);
-  m_passwordInputTxt =
-      add("m_passwordInputTxt", credentialFieldFrame(34), PrefMeetingViewVisible::passwordPlaceHolder(), Echo::Secret);
+  m_emailInputTxt =
+      add("m_emailInputTxt", emailFrame(), PrefMeetingViewVisible::emailPlaceHolder(), Echo::Plain);
+  m_usernameInputTxt = add("m_usernameInputTxt", credentialFieldFrame(64),
+                           PrefMeetingViewVisible::usernamePlaceHoder(), Echo::Plain);
+  m_passwordInputTxt = add("m_passwordInputTxt", credentialFieldFrame(34),
+                           PrefMeetingViewVisible::passwordPlaceHolder(), Echo::Secret);
   m_emailInputTxt->setTextMargins(0, 0, int(kDetectRoom), 0);
   m_emailInputTxt->setEnabled(false);
   m_usernameInputTxt->hide();
@@ -148,8 +153,8 @@ void CalendarIntegrationGroup::initErrorText() {
 
 void CalendarIntegrationGroup::relayoutCredentialControls() {
   const Frame heading = frameOf(m_integrationTxt);
-  setFrame(m_integrationTxt, {marginAtLeftEdge, frameOf(this).height - heading.height, heading.width + textPad,
-                              heading.height});
+  setFrame(m_integrationTxt, {marginAtLeftEdge, frameOf(this).height - heading.height,
+                              heading.width + textPad, heading.height});
   setFrame(m_emailInputTxt, emailFrame());
   setFrame(m_usernameInputTxt, credentialFieldFrame(64));
   setFrame(m_passwordInputTxt, credentialFieldFrame(34));

@@ -19,7 +19,9 @@ CalendarIntegrationGroup::CalendarIntegrationGroup(const Frame& frame,
                                                    PreferenceActionDelegateProtocol* actionDelegate)
     : View(frame), m_actionDelegate(actionDelegate) {}
 
-CalendarIntegrationGroup::~CalendarIntegrationGroup() { setOLAccountAuthenticator(nullptr); }
+CalendarIntegrationGroup::~CalendarIntegrationGroup() {
+  setOLAccountAuthenticator(nullptr);
+}
 
 void CalendarIntegrationGroup::setOLAccountAuthenticator(OLAccountAuthenticator* authenticator) {
   if (m_authenticator) m_authenticator->setAuthDelegate(nullptr);
@@ -27,8 +29,12 @@ void CalendarIntegrationGroup::setOLAccountAuthenticator(OLAccountAuthenticator*
   if (m_authenticator) m_authenticator->setAuthDelegate(this);
 }
 
-QString CalendarIntegrationGroup::username() const { return m_usernameInputTxt->text(); }
-QString CalendarIntegrationGroup::password() const { return m_passwordInputTxt->text(); }
+QString CalendarIntegrationGroup::username() const {
+  return m_usernameInputTxt->text();
+}
+QString CalendarIntegrationGroup::password() const {
+  return m_passwordInputTxt->text();
+}
 
 // The applied account
 
@@ -51,7 +57,10 @@ bool CalendarIntegrationGroup::isOnpremiseCredValid() const {
 
 void CalendarIntegrationGroup::loadEmailFromPreferences() {
   const QString email = textValue(m_assist.exchangePrefs(), kKZCalendarIntegrationExchangeEmail);
-  if (!email.isNull()) m_emailInputTxt->setText(email);
+  if (email.isNull()) return;
+  m_emailInputTxt->setText(email);
+  // Of an address that is longer than the field the beginning shows.
+  m_emailInputTxt->setCursorPosition(0);
 }
 
 // Choosing a source
@@ -108,7 +117,8 @@ void CalendarIntegrationGroup::detectExchangeService() {
   startDetectingSpinner();
   m_isApplying = true;
   m_actionDelegate->applyOutlookAccount({{QRT_ExchangeDiscover_Email, email}});
-  PreferenceTelemetry::sharedInstance().writeFeatrueName(TelemetryValue_FeatureName_Click_ApplyExchangeAccount);
+  PreferenceTelemetry::sharedInstance().writeFeatrueName(
+      TelemetryValue_FeatureName_Click_ApplyExchangeAccount);
 }
 
 // The credential
@@ -127,8 +137,12 @@ void CalendarIntegrationGroup::needOutlookCredential(const Dictionary& result) {
   m_applyBtn->setEnabled(false);
 }
 
-void CalendarIntegrationGroup::onPasswordTxtEnter() { sinkCredential(); }
-void CalendarIntegrationGroup::onApplyButton() { sinkCredential(); }
+void CalendarIntegrationGroup::onPasswordTxtEnter() {
+  sinkCredential();
+}
+void CalendarIntegrationGroup::onApplyButton() {
+  sinkCredential();
+}
 
 void CalendarIntegrationGroup::sinkCredential() {
   if (username().isEmpty()) {
@@ -222,8 +236,12 @@ void CalendarIntegrationGroup::hideCredentialControls() {
 
 // The busy mark
 
-void CalendarIntegrationGroup::startDetectingSpinner() { startSpinnerBeside(m_emailInputTxt, 10); }
-void CalendarIntegrationGroup::startApplyingSpinner() { startSpinnerBeside(m_applyBtn, 2); }
+void CalendarIntegrationGroup::startDetectingSpinner() {
+  startSpinnerBeside(m_emailInputTxt, 10);
+}
+void CalendarIntegrationGroup::startApplyingSpinner() {
+  startSpinnerBeside(m_applyBtn, 2);
+}
 
 void CalendarIntegrationGroup::startSpinnerBeside(const QWidget* control, double gap) {
   const Frame beside = frameOf(control);

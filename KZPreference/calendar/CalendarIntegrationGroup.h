@@ -13,8 +13,9 @@ class QPushButton;
 class QRadioButton;
 class Spinner;
 
-// What both calendar integration groups share: applying an Exchange account (detect, credential, result, rejection,
-// cancel) with its controls, enabling rules and status line. A variant adds its sources. Main thread only.
+// What both calendar integration groups share: applying an Exchange account (detect, credential, result,
+// rejection, cancel) with its controls, enabling rules and status line. A variant adds its sources. Main
+// thread only.
 class CalendarIntegrationGroup : public View, public OutlookAccountAuthDelegate {
   Q_OBJECT
 
@@ -39,7 +40,8 @@ class CalendarIntegrationGroup : public View, public OutlookAccountAuthDelegate 
   void onAuthFailure(const Dictionary& result) override;
 
  protected:
-  CalendarIntegrationGroup(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate);  // not owned
+  CalendarIntegrationGroup(const Frame& frame,
+                           PreferenceActionDelegateProtocol* actionDelegate);  // not owned
 
   // The controls, in order; a variant's constructor calls it once its sources can be made.
   void initControls();

@@ -13,7 +13,8 @@ class StatusLineAccessible final : public QAccessibleWidget {
   explicit StatusLineAccessible(StaticText* line) : QAccessibleWidget(line, QAccessible::Notification) {}
 
   QString text(QAccessible::Text kind) const override {
-    return kind == QAccessible::Name ? static_cast<StaticText*>(widget())->text() : QAccessibleWidget::text(kind);
+    return kind == QAccessible::Name ? static_cast<StaticText*>(widget())->text()
+                                     : QAccessibleWidget::text(kind);
   }
 };
 

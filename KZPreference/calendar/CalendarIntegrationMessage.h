@@ -5,8 +5,8 @@
 #include "host/KZFoundation/Dictionary.h"
 #include "platform/StaticText.h"
 
-// Drives the status line of a calendar group. Every message that is shown is announced to screen readers. Main thread
-// only.
+// Drives the status line of a calendar group. Every message that is shown is announced to screen readers.
+// Main thread only.
 class CalendarIntegrationMessage {
  public:
   // Not owned; nullptr is ignored.

@@ -27,13 +27,27 @@ void CalendarIntegrationSubView::initRadioButtons() {
   m_noneRadioBtn = addRadioButton(QStringLiteral("m_noneRadioBtn"), 0, localizedString("None"));
   m_mivraRadioBtn = addRadioButton(QStringLiteral("m_mivraRadioBtn"), 1, localizedString("Mivra"));
   m_googleRadioBtn = addRadioButton(QStringLiteral("m_googleRadioBtn"), 2, localizedString("Google"));
-  m_outlookRadioBtn = addRadioButton(QStringLiteral("m_outlookRadioBtn"), 3, localizedString("Microsoft Outlook"));
+  m_outlookRadioBtn =
+      addRadioButton(QStringLiteral("m_outlookRadioBtn"), 3, localizedString("Microsoft Outlook"));
   // Google is not offered until an option record says so.
   m_googleRadioBtn->setEnabled(false);
+  for (const QRadioButton* button : radioButtons())
+    connect(button, &QRadioButton::toggled, this, &CalendarIntegrationSubView::updateTabStop);
   connect(m_noneRadioBtn, &QRadioButton::clicked, this, &CalendarIntegrationSubView::onNoneButton);
   connect(m_mivraRadioBtn, &QRadioButton::clicked, this, &CalendarIntegrationSubView::onMivRaButton);
   connect(m_googleRadioBtn, &QRadioButton::clicked, this, &CalendarIntegrationSubView::onGoogleButton);
   connect(m_outlookRadioBtn, &QRadioButton::clicked, this, &CalendarIntegrationSubView::onOutlookButton);
+}
+
+std::array<QRadioButton*, 4> CalendarIntegrationSubView::radioButtons() const {
+  return {m_noneRadioBtn, m_mivraRadioBtn, m_googleRadioBtn, m_outlookRadioBtn};
+}
+
+// Tab stops at the source that is on; the arrows go on from there.
+void CalendarIntegrationSubView::updateTabStop(bool isOn) {
+  if (!isOn) return;
+  for (QRadioButton* button : radioButtons())
+    button->setFocusPolicy(button->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 void CalendarIntegrationSubView::setCalendarPreference(const Dictionary& preference) {
@@ -60,7 +74,9 @@ void CalendarIntegrationSubView::relayoutButtons() {
     setFrame(button, frame);
     y -= kButtonPitch;
   };
-  const auto placeOrHide = [&place](QRadioButton* button) { button->isEnabled() ? place(button) : button->hide(); };
+  const auto placeOrHide = [&place](QRadioButton* button) {
+    button->isEnabled() ? place(button) : button->hide();
+  };
   placeOrHide(m_noneRadioBtn);
   place(m_mivraRadioBtn);
   placeOrHide(m_googleRadioBtn);
@@ -80,9 +96,15 @@ void CalendarIntegrationSubView::enableWithoutAccount(QRadioButton* button) {
   m_message.hideMessage();
 }
 
-void CalendarIntegrationSubView::enableNone() { enableWithoutAccount(m_noneRadioBtn); }
-void CalendarIntegrationSubView::enableMivRa() { enableWithoutAccount(m_mivraRadioBtn); }
-void CalendarIntegrationSubView::enableGoogle() { enableWithoutAccount(m_googleRadioBtn); }
+void CalendarIntegrationSubView::enableNone() {
+  enableWithoutAccount(m_noneRadioBtn);
+}
+void CalendarIntegrationSubView::enableMivRa() {
+  enableWithoutAccount(m_mivraRadioBtn);
+}
+void CalendarIntegrationSubView::enableGoogle() {
+  enableWithoutAccount(m_googleRadioBtn);
+}
 
 void CalendarIntegrationSubView::enableOutlook() {
   if (m_outlookRadioBtn->isEnabled()) CalendarIntegrationGroup::enableOutlook();
@@ -107,11 +129,11 @@ void CalendarIntegrationSubView::onGoogleButton() {
 }
 
 QString CalendarIntegrationSubView::calendarSourceByButton() const {
-  const auto sources =
-      std::to_array<std::pair<const QRadioButton*, QString>>({{m_mivraRadioBtn, kKZCalendarIntegrationSourceMivRa},
-                                                              {m_outlookRadioBtn, kKZCalendarIntegrationSourceOutlook},
-                                                              {m_googleRadioBtn, kKZCalendarIntegrationSourceGoogle},
-                                                              {m_noneRadioBtn, kKZCalendarIntegrationSourceNone}});
+  const auto sources = std::to_array<std::pair<const QRadioButton*, QString>>(
+      {{m_mivraRadioBtn, kKZCalendarIntegrationSourceMivRa},
+       {m_outlookRadioBtn, kKZCalendarIntegrationSourceOutlook},
+       {m_googleRadioBtn, kKZCalendarIntegrationSourceGoogle},
+       {m_noneRadioBtn, kKZCalendarIntegrationSourceNone}});
   for (const auto& [button, source] : sources)
     if (button->isChecked()) return source;
   return {};

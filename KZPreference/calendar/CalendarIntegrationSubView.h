@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 #include "KZPreference/calendar/CalendarIntegrationGroup.h"
 #include "KZPreference/contract/KZCalendarIntegrationOption.h"
 
@@ -29,6 +31,8 @@ class CalendarIntegrationSubView final : public CalendarIntegrationGroup {
   void enableMivRa();
   void enableGoogle();
   void enableWithoutAccount(QRadioButton* button);
+  std::array<QRadioButton*, 4> radioButtons() const;
+  void updateTabStop(bool isOn);
   QString calendarSourceByButton() const;
   void relayoutButtons();
 

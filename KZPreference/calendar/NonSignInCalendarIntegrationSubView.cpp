@@ -15,9 +15,11 @@ NonSignInCalendarIntegrationSubView::NonSignInCalendarIntegrationSubView(
 }
 
 void NonSignInCalendarIntegrationSubView::initRadioButtons() {
-  m_outlookRadioBtn = addRadioButton(QStringLiteral("m_outlookRadioBtn"), 0, localizedString("Microsoft Outlook"));
+  m_outlookRadioBtn =
+      addRadioButton(QStringLiteral("m_outlookRadioBtn"), 0, localizedString("Microsoft Outlook"));
   m_outlookRadioBtn->setChecked(true);
-  connect(m_outlookRadioBtn, &QRadioButton::clicked, this, &NonSignInCalendarIntegrationSubView::onOutlookButton);
+  connect(m_outlookRadioBtn, &QRadioButton::clicked, this,
+          &NonSignInCalendarIntegrationSubView::onOutlookButton);
 }
 
 void NonSignInCalendarIntegrationSubView::setCalendarPreference(const Dictionary& preference) {

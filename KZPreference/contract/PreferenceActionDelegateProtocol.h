@@ -4,8 +4,8 @@
 
 class CalendarPreferenceReceiver;
 
-// What panes, calendar groups and authenticators report to the core. Nothing is checked: values are stored and sent
-// as they come. Main thread only.
+// What panes, calendar groups and authenticators report to the core. Nothing is checked: values are stored
+// and sent as they come. Main thread only.
 class PreferenceActionDelegateProtocol {
  public:
   virtual ~PreferenceActionDelegateProtocol() = default;

@@ -8,7 +8,9 @@ PreferenceTelemetry& PreferenceTelemetry::sharedInstance() {
   return telemetry;
 }
 
-void PreferenceTelemetry::writeFeatrueName(const QString& name) { writeFeatrueName(name, QString(), QVariant()); }
+void PreferenceTelemetry::writeFeatrueName(const QString& name) {
+  writeFeatrueName(name, QString(), QVariant());
+}
 
 void PreferenceTelemetry::writeFeatrueName(const QString& name, const QString& key, const QVariant& value) {
   if (!m_preference) return;

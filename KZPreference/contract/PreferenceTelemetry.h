@@ -6,8 +6,8 @@
 
 class PluginCommandSender;
 
-// Turns the user's choices in the panes into telemetry records for the host. Before a delegate is set, records go
-// nowhere. Main thread only.
+// Turns the user's choices in the panes into telemetry records for the host. Before a delegate is set,
+// records go nowhere. Main thread only.
 class PreferenceTelemetry {
  public:
   static PreferenceTelemetry& sharedInstance();

@@ -4,10 +4,13 @@
 #include "KZPreference/authentication/ADTokenCacheWrapper.h"
 #include "KZPreference/authentication/AdalMivraLogDelegate.h"
 #include "KZPreference/core/KZPreferenceCore.h"
+#include "KZPreference/layout/Localization.h"
+#include "adal/ADAuthenticationSettings.h"
 
 PluginEntry::PluginEntry() {
   AdalMivraLogDelegate::load();
   ADMivraCacheDelegate::load();
+  ADAuthenticationSettings::sharedInstance().setTextLookUp(&localizedString);
 }
 
 KZPluginCoreMgr* PluginEntry::core() {

@@ -25,7 +25,8 @@ QCheckBox* addCheckbox(QWidget* view, const QString& name, const Frame& frame, c
   return checkbox;
 }
 
-PopUpButton* addPopUpButton(QWidget* view, const QString& name, const Frame& frame, const QStringList& items) {
+PopUpButton* addPopUpButton(QWidget* view, const QString& name, const Frame& frame,
+                            const QStringList& items) {
   auto* button = new PopUpButton(items);
   button->setObjectName(name);
   button->setFont(fontFor(FontRole::System, labelFontSize));

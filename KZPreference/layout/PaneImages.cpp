@@ -4,4 +4,6 @@
 
 const QString kImageBundle = QStringLiteral(":/KZPreference/images");
 
-QIcon paneImage(const QString& name) { return KZRetinaHelper::shareInstance().newPNGImageInBundle(kImageBundle, name); }
+QIcon paneImage(const QString& name) {
+  return KZRetinaHelper::shareInstance().newPNGImageInBundle(kImageBundle, name);
+}

@@ -15,24 +15,50 @@ constexpr double kCredentialRoom = 220;
 
 }  // namespace
 
-QString PrefMeetingViewVisible::meetingslabel() { return localizedString("Meetings"); }
-QString PrefMeetingViewVisible::pmrlabel() { return localizedString("Personal Room:"); }
-QString PrefMeetingViewVisible::siplabel() { return localizedString("Video address:"); }
-QString PrefMeetingViewVisible::dayslabel() { return localizedString("Number of days to show in meetings list:"); }
-QString PrefMeetingViewVisible::calendarlabel() { return localizedString("Calendar"); }
-QString PrefMeetingViewVisible::calendarIntegrationLabel() { return localizedString("Calendar integration"); }
-QString PrefMeetingViewVisible::applyBtnTitle() { return localizedString("Apply"); }
-QString PrefMeetingViewVisible::emaillabel() { return localizedString("Email:"); }
-QString PrefMeetingViewVisible::passwordlabel() { return localizedString("Password:"); }
-QString PrefMeetingViewVisible::emailPlaceHolder() { return localizedString("Email address"); }
-QString PrefMeetingViewVisible::usernamePlaceHoder() { return localizedString("DOMAIN\\username or Email"); }
-QString PrefMeetingViewVisible::passwordPlaceHolder() { return localizedString("Password"); }
+QString PrefMeetingViewVisible::meetingslabel() {
+  return localizedString("Meetings");
+}
+QString PrefMeetingViewVisible::pmrlabel() {
+  return localizedString("Personal Room:");
+}
+QString PrefMeetingViewVisible::siplabel() {
+  return localizedString("Video address:");
+}
+QString PrefMeetingViewVisible::dayslabel() {
+  return localizedString("Number of days to show in meetings list:");
+}
+QString PrefMeetingViewVisible::calendarlabel() {
+  return localizedString("Calendar");
+}
+QString PrefMeetingViewVisible::calendarIntegrationLabel() {
+  return localizedString("Calendar integration");
+}
+QString PrefMeetingViewVisible::applyBtnTitle() {
+  return localizedString("Apply");
+}
+QString PrefMeetingViewVisible::emaillabel() {
+  return localizedString("Email:");
+}
+QString PrefMeetingViewVisible::passwordlabel() {
+  return localizedString("Password:");
+}
+QString PrefMeetingViewVisible::emailPlaceHolder() {
+  return localizedString("Email address");
+}
+QString PrefMeetingViewVisible::usernamePlaceHoder() {
+  return localizedString("DOMAIN\\username or Email");
+}
+QString PrefMeetingViewVisible::passwordPlaceHolder() {
+  return localizedString("Password");
+}
 
 double PrefMeetingViewVisible::emailPasswordLabelWidth() {
   return std::max(systemTextWidth(emaillabel()), systemTextWidth(passwordlabel())) + textPad;
 }
 
-double PrefMeetingViewVisible::applyButtonWidth() { return systemTextWidth(applyBtnTitle()) + 20.0 + 20.0; }
+double PrefMeetingViewVisible::applyButtonWidth() {
+  return systemTextWidth(applyBtnTitle()) + 20.0 + 20.0;
+}
 
 // The gaps between label, address and link are not counted: the width is exactly this sum.
 Size PrefMeetingViewVisible::caculateMeetingSubViewSize() {
@@ -57,8 +83,8 @@ Size PrefMeetingViewVisible::caculateMeetingSubViewSize() {
 }
 
 Size PrefMeetingViewVisible::caculateCalendarViewSize() {
-  return {.width =
-              systemTextWidth(dayslabel()) + textPad + secondMarginAtLeftEdge + popupButtonWidth + marginAtRightEdge,
+  return {.width = systemTextWidth(dayslabel()) + textPad + secondMarginAtLeftEdge + popupButtonWidth +
+                   marginAtRightEdge,
           .height = 50};
 }
 
@@ -78,13 +104,14 @@ Size PrefMeetingViewVisible::caculateViewSize() {
 }
 
 Size NonSignInPrefMeetingViewVisible::caculateIntegrationViewSize() {
-  return {.width = PrefMeetingViewVisible::caculateIntegrationViewSize().width, .height = kGuestIntegrationHeight};
+  return {.width = PrefMeetingViewVisible::caculateIntegrationViewSize().width,
+          .height = kGuestIntegrationHeight};
 }
 
 Size NonSignInPrefMeetingViewVisible::caculateViewSize() {
   const Size calendar = caculateCalendarViewSize();
   const Size integration = caculateIntegrationViewSize();
   return {.width = std::max(calendar.width, integration.width),
-          .height =
-              marginAtTopEdge + calendar.height + integration.height + marginBetweenSubViews + marginAtBottomEdge};
+          .height = marginAtTopEdge + calendar.height + integration.height + marginBetweenSubViews +
+                    marginAtBottomEdge};
 }

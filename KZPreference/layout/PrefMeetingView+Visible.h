@@ -4,8 +4,8 @@
 
 #include "platform/Frame.h"
 
-// Texts and sizes of the signed-in Meetings pane and of its groups, known before they exist. The personal-room group
-// follows the stored addresses.
+// Texts and sizes of the signed-in Meetings pane and of its groups, known before they exist. The
+// personal-room group follows the stored addresses.
 class PrefMeetingViewVisible {
  public:
   static QString meetingslabel();

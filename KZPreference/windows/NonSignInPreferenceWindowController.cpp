@@ -5,7 +5,8 @@
 #include "KZPreference/panes/meetings/NonSignInPrefMeetingView.h"
 #include "host/KZUtility/KZTrace.h"
 
-NonSignInPreferenceWindowController::NonSignInPreferenceWindowController(PreferenceActionDelegateProtocol* delegate)
+NonSignInPreferenceWindowController::NonSignInPreferenceWindowController(
+    PreferenceActionDelegateProtocol* delegate)
     : PreferenceWindowController(delegate) {}
 
 NonSignInPreferenceWindowController::~NonSignInPreferenceWindowController() {

@@ -120,7 +120,8 @@ void PreferenceWindowController::onExchangeResolvingNeedCredential(const Diction
 void PreferenceWindowController::onExchangeResolveDone(const Dictionary& result) {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "result:%@", result);
   if (m_meetingView) m_meetingView->onExchangeResolveDone(result);
-  if (isEqualText(textValue(result, kKZResult), kKZSuccess)) m_prefsDelegate->calendarIntergrationSourceChanged();
+  if (isEqualText(textValue(result, kKZResult), kKZSuccess))
+    m_prefsDelegate->calendarIntergrationSourceChanged();
 }
 
 void PreferenceWindowController::requireToChangeCalendarIntegration(const Dictionary& requireInfo) {

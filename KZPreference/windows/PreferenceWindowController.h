@@ -10,8 +10,9 @@ class OLAccountAuthenticator;
 class PrefNotificationView;
 class PrefProximityView;
 
-// The window with the five panes. A variant says which General, Account and Meetings panes they are. Results from the
-// host go to the Meetings pane; before the first showing there are no panes, and they are dropped. Main thread only.
+// The window with the five panes. A variant says which General, Account and Meetings panes they are. Results
+// from the host go to the Meetings pane; before the first showing there are no panes, and they are dropped.
+// Main thread only.
 class PreferenceWindowController : public LWPrefsWindowController, public ExchangeResolveResultReceiving {
   Q_OBJECT
 

@@ -15,7 +15,8 @@ SignInPreferenceWindowController::~SignInPreferenceWindowController() {
   retire();
 }
 
-void SignInPreferenceWindowController::setCalendarIntergrationOption(const KZCalendarIntegrationOption& option) {
+void SignInPreferenceWindowController::setCalendarIntergrationOption(
+    const KZCalendarIntegrationOption& option) {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
   m_intergrationOption = option;
 }

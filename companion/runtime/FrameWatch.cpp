@@ -44,6 +44,7 @@ bool FrameWatch::eventFilter(QObject* object, QEvent* event) {
 bool FrameWatch::runOnce(std::chrono::milliseconds longest) {
   m_wasPainted = false;
   QCoreApplication::processEvents();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   if (!m_wasPainted) {
     // Sleeps until something happens, at most that long.
     QTimer::singleShot(longest, Qt::PreciseTimer, this, [] {});

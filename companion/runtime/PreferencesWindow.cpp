@@ -10,12 +10,15 @@
 #include "platform/WindowController.h"
 
 Window* findPreferencesWindow() {
+  Window* found = nullptr;
   const QWidgetList topLevels = QApplication::topLevelWidgets();
   for (QWidget* widget : topLevels) {
     auto* window = qobject_cast<Window*>(widget);
-    if (window && window->controller() && contentViewOf(*window)) return window;
+    if (!window || !window->controller() || !contentViewOf(*window)) continue;
+    // A window that is about to go may still be there beside the one that took its place.
+    if (!found || window->isVisible()) found = window;
   }
-  return nullptr;
+  return found;
 }
 
 QWidget* contentViewOf(const Window& window) {

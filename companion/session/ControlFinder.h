@@ -19,9 +19,9 @@ class ControlFinder final {
     QString error;  // why there is none
   };
 
-  // "m_field", or with parents in front where that is not unique: "Group/m_field". Parents may be left out. A name
-  // in the pane in front comes before the same name in a pane that is fading away, and that before one in a pane
-  // that is not in the window.
+  // "m_field", or with parents in front where that is not unique: "Group/m_field". Parents may be left out. A
+  // name in the pane in front comes before the same name in a pane that is fading away, and that before one
+  // in a pane that is not in the window.
   Found find(const QString& name) const;
 
   // The shortest name that finds the control, or the nearest of its parents that has one; null when there is

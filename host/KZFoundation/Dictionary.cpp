@@ -40,7 +40,9 @@ std::optional<bool> flagValue(const Dictionary& dictionary, const QString& key) 
   return flag ? std::optional(*flag) : std::nullopt;
 }
 
-bool isSet(const Dictionary& dictionary, const QString& key) { return flagValue(dictionary, key).value_or(false); }
+bool isSet(const Dictionary& dictionary, const QString& key) {
+  return flagValue(dictionary, key).value_or(false);
+}
 
 bool isEqualText(const QString& left, const QString& right) {
   return !left.isNull() && !right.isNull() && left == right;

@@ -9,8 +9,8 @@
 
 #include "host/KZFoundation/KZHostExport.h"
 
-// The payload of every command and notification. A missing value is an invalid QVariant (or a null QString) and
-// is never stored under a key.
+// The payload of every command and notification. A missing value is an invalid QVariant (or a null QString)
+// and is never stored under a key.
 using Dictionary = QVariantMap;
 
 // What accompanies a command: a dictionary, or nothing at all.

@@ -24,8 +24,8 @@ constexpr auto kCommands = std::to_array<KZCommandRow>({
      "\"AppActionType\": \"CheckForUpdates\", `QRT_LoginResult_site`, `QRT_LoginResult_cdnUrl` (when known)"},
     {KZCmdCheckForUpdatesAutomatically, "KZCmdCheckForUpdatesAutomatically", ToPlugin,
      "The host's own timer asks for updates", "`TelemetryKey_ActionFrom`"},
-    {KZCmdCheckForUpdatesAutomatically, "KZCmdCheckForUpdatesAutomatically", ToHost, "Check for updates quietly",
-     "as command 8"},
+    {KZCmdCheckForUpdatesAutomatically, "KZCmdCheckForUpdatesAutomatically", ToHost,
+     "Check for updates quietly", "as command 8"},
     {KZCmdJoinByNumber, "KZCmdJoinByNumber", ToPlugin, "The user wants to join by number",
      "`TelemetryKey_ActionFrom`"},
     {KZCmdRequireLink, "KZCmdRequireLink", ToHost, "Open a page of the meeting service",
@@ -67,8 +67,8 @@ constexpr auto kNotifications = std::to_array<KZNotifyRow>({
      "`kKZResult`, \"kz\": the record, `kOpenPrefsViewType`"},
     {KZNotifyCheckForUpdatesDone, "KZNotifyCheckForUpdatesDone", "A check for updates ended",
      "`kKZResult`, `kKZErrorHandleData`"},
-    {KZNotifyRefreshPreferenceDone, "KZNotifyRefreshPreferenceDone", "The personal room's addresses were read again",
-     "`QRT_Preference_PMRUrl`, `QRT_Preference_PMRSipUrl`"},
+    {KZNotifyRefreshPreferenceDone, "KZNotifyRefreshPreferenceDone",
+     "The personal room's addresses were read again", "`QRT_Preference_PMRUrl`, `QRT_Preference_PMRSipUrl`"},
     {KZNotifyResolveExchangeDone, "KZNotifyResolveExchangeDone", "The search of command 15 ended",
      "`kKZResult`, `QRT_ExchangeDiscover_Exchange`, `kKZErrorHandleData`"},
     {KZNotifyO365LoginRequesting, "KZNotifyO365LoginRequesting", "An Office 365 sign-in is needed",
@@ -80,11 +80,15 @@ constexpr auto kNotifications = std::to_array<KZNotifyRow>({
 
 }  // namespace
 
-std::span<const KZCommandRow> kzCommandTable() { return kCommands; }
-std::span<const KZNotifyRow> kzNotifyTable() { return kNotifications; }
+std::span<const KZCommandRow> kzCommandTable() {
+  return kCommands;
+}
+std::span<const KZNotifyRow> kzNotifyTable() {
+  return kNotifications;
+}
 
 const char* kzCommandName(quint64 number) {
-  const auto* row = std::ranges::find(kCommands, number,
-                                      [](const KZCommandRow& entry) { return static_cast<quint64>(entry.number); });
+  const auto* row = std::ranges::find(
+      kCommands, number, [](const KZCommandRow& entry) { return static_cast<quint64>(entry.number); });
   return row == kCommands.end() ? "" : row->name;
 }

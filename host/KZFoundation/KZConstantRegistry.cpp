@@ -19,4 +19,6 @@ QString registeredConstant(const char* name, const char* text) {
   return constant;
 }
 
-QString constantNamed(const QString& name) { return constants().value(name); }
+QString constantNamed(const QString& name) {
+  return constants().value(name);
+}

@@ -46,21 +46,28 @@ const QString kKZCalendarIntegrationSourceMivRa = registeredConstant("kKZCalenda
 const QString kKZCalendarIntegrationSourceGoogle = registeredConstant("kKZCalendarIntegrationSourceGoogle");
 const QString kKZCalendarIntegrationSourceOutlook = registeredConstant("kKZCalendarIntegrationSourceOutlook");
 const QString kKZCalendarIntegrationDays = registeredConstant("kKZCalendarIntegrationDays");
-const QString kKZCalendarIntegrationDaysDefault = registeredConstant("kKZCalendarIntegrationDaysDefault", "7");
+const QString kKZCalendarIntegrationDaysDefault =
+    registeredConstant("kKZCalendarIntegrationDaysDefault", "7");
 const QString kKZCalendarIntegrationExchange = registeredConstant("kKZCalendarIntegrationExchange");
 const QString kKZCalendarIntegrationExchangeEmail = registeredConstant("kKZCalendarIntegrationExchangeEmail");
-const QString kKZCalendarIntegrationExchangeUsername = registeredConstant("kKZCalendarIntegrationExchangeUsername");
-const QString kKZCalendarIntegrationExchangeExternalUrl = registeredConstant("kKZCalendarIntegrationExchangeExternalUrl");
-const QString kKZCalendarIntegrationExchangeInternalUrl = registeredConstant("kKZCalendarIntegrationExchangeInternalUrl");
+const QString kKZCalendarIntegrationExchangeUsername =
+    registeredConstant("kKZCalendarIntegrationExchangeUsername");
+const QString kKZCalendarIntegrationExchangeExternalUrl =
+    registeredConstant("kKZCalendarIntegrationExchangeExternalUrl");
+const QString kKZCalendarIntegrationExchangeInternalUrl =
+    registeredConstant("kKZCalendarIntegrationExchangeInternalUrl");
 const QString kKZCalendarIntegrationIsOnline = registeredConstant("kKZCalendarIntegrationIsOnline");
-const QString kKZCalendarIntegrationOnpremiseCredValid = registeredConstant("kKZCalendarIntegrationOnpremiseCredValid");
+const QString kKZCalendarIntegrationOnpremiseCredValid =
+    registeredConstant("kKZCalendarIntegrationOnpremiseCredValid");
 
 const QString QRT_ExchangeDiscover_Email = registeredConstant("QRT_ExchangeDiscover_Email");
 const QString QRT_ExchangeDiscover_Username = registeredConstant("QRT_ExchangeDiscover_Username");
 const QString QRT_ExchangeDiscover_Exchange = registeredConstant("QRT_ExchangeDiscover_Exchange");
 const QString QRT_ExchangeDiscover_ExchangeType = registeredConstant("QRT_ExchangeDiscover_ExchangeType");
-const QString QRT_ExchangeDiscover_ExchangeTypeOnpremise = registeredConstant("QRT_ExchangeDiscover_ExchangeTypeOnpremise");
-const QString QRT_ExchangeDiscover_O365LoginParams = registeredConstant("QRT_ExchangeDiscover_O365LoginParams");
+const QString QRT_ExchangeDiscover_ExchangeTypeOnpremise =
+    registeredConstant("QRT_ExchangeDiscover_ExchangeTypeOnpremise");
+const QString QRT_ExchangeDiscover_O365LoginParams =
+    registeredConstant("QRT_ExchangeDiscover_O365LoginParams");
 const QString QRT_CredentialType = registeredConstant("QRT_CredentialType");
 const QString QRT_CredentialTypeUsernamePassword = registeredConstant("QRT_CredentialTypeUsernamePassword");
 const QString QRT_CredentialTypeOAuthToken = registeredConstant("QRT_CredentialTypeOAuthToken");

@@ -15,7 +15,8 @@ struct KZNotification {
   Dictionary userInfo;
 };
 
-// Process-wide notifications. Any thread may post; observers run on the posting thread, before `post` returns.
+// Process-wide notifications. Any thread may post; observers run on the posting thread, before `post`
+// returns.
 class KZ_HOST_EXPORT KZNotificationCenter {
  public:
   using Handler = std::function<void(const KZNotification&)>;

@@ -28,8 +28,8 @@ class KZ_HOST_EXPORT KZPluginCoreMgr {
   virtual ~KZPluginCoreMgr();
   Q_DISABLE_COPY_MOVE(KZPluginCoreMgr)
 
-  // Commands sent before a delegate is set are dropped. The delegate is not owned and must outlive its use here;
-  // nullptr detaches.
+  // Commands sent before a delegate is set are dropped. The delegate is not owned and must outlive its use
+  // here; nullptr detaches.
   void setDelegate(KZPluginDelegate* delegate) { m_delegate = delegate; }
 
   virtual quint64 sendPluginCommand(quint64 command, const Content& content) = 0;
@@ -56,7 +56,8 @@ class KZ_HOST_EXPORT KZPluginFactory {
   // The plug-in's one core, made on the first call. Owned by the plug-in.
   virtual KZPluginCoreMgr* core() = 0;
 
-  // Destroys the core with all windows. Call before the application object goes; the host drops its pointer first.
+  // Destroys the core with all windows. Call before the application object goes; the host drops its pointer
+  // first.
   virtual void shutDown() = 0;
 };
 

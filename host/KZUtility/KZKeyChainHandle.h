@@ -6,28 +6,7 @@
 #include <optional>
 
 #include "host/KZFoundation/KZHostExport.h"
-
-// Where secrets are kept. Calls are synchronous and bounded in time; any thread.
-class KZ_HOST_EXPORT KZKeychainBackend {
- public:
-  enum class Status { Done, NotFound, Unavailable };
-  struct Item {
-    QString service;
-    QString account;
-  };
-  struct Answer {
-    Status status = Status::NotFound;
-    QByteArray secret;
-  };
-
-  KZKeychainBackend();
-  virtual ~KZKeychainBackend();
-  Q_DISABLE_COPY_MOVE(KZKeychainBackend)
-
-  [[nodiscard]] virtual Answer read(const Item& item) = 0;
-  [[nodiscard]] virtual Status write(const Item& item, const QByteArray& secret) = 0;
-  [[nodiscard]] virtual Status remove(const Item& item) = 0;
-};
+#include "host/KZUtility/KZKeychainBackend.h"
 
 // The host's keychain. Secrets go to the platform's keychain. Once that proves missing, locked or silent,
 // they live in memory until the run ends, with one warning trace, also when the keychain comes back: what it

@@ -3,8 +3,8 @@
 #include <QJsonDocument>
 #include <algorithm>
 
+#include "host/KZFoundation/Dictionary.h"
 #include "host/KZUtility/BoundedJson.h"
-#include "host/KZUtility/KZTrace.h"
 
 namespace {
 
@@ -89,8 +89,4 @@ QVariant masked(const QVariant& value, int depth) {
 
 QVariant kzMaskedValue(const QVariant& value) {
   return masked(value, 0);
-}
-
-Dictionary kzMaskSecrets(const Dictionary& dictionary) {
-  return maskedDictionary(dictionary, 0);
 }

@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <memory>
 
+#include "host/KZUtility/KZSecretMask.h"
 #include "host/KZUtility/KZTraceText.h"
 
 namespace {
@@ -70,6 +71,10 @@ void setKZTraceSink(KZTraceSink sink) {
 
 void muteKZTrace() {
   replaceSink(nullptr);
+}
+
+Dictionary kzMaskSecrets(const Dictionary& dictionary) {
+  return kzMaskedValue(dictionary).toMap();
 }
 
 namespace kztrace {

@@ -2,9 +2,6 @@
 
 #include <QMutexLocker>
 
-KZKeychainBackend::KZKeychainBackend() = default;
-KZKeychainBackend::~KZKeychainBackend() = default;
-
 KZKeychainBackend::Answer MemoryKeychain::read(const Item& item) {
   const QMutexLocker lock(&m_mutex);
   const auto found = m_secrets.constFind({item.service, item.account});

@@ -3,7 +3,7 @@
 #include <QMap>
 #include <QMutex>
 
-#include "host/KZUtility/KZKeyChainHandle.h"
+#include "host/KZUtility/KZKeychainBackend.h"
 
 // Secrets that are gone with the process.
 class MemoryKeychain final : public KZKeychainBackend {

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "host/KZUtility/KZKeyChainHandle.h"
+#include "host/KZUtility/KZKeychainBackend.h"
 
 typedef struct _GCancellable GCancellable;
 

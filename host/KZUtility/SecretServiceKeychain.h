@@ -3,7 +3,7 @@
 #include <chrono>
 #include <memory>
 
-#include "host/KZUtility/KZKeyChainHandle.h"
+#include "host/KZUtility/KZKeychainBackend.h"
 
 // The desktop's Secret Service. Every call is made on one worker thread and given up at the deadline,
 // whatever the service does; nothing is ever prompted for: a locked or missing default collection is

@@ -60,7 +60,8 @@ TEST(StaticText, ElidesWhatDoesNotFitAndTellsItInATip) {
   EXPECT_EQ(toolTipOf(text), longName.toHtmlEscaped());
   EXPECT_EQ(text->text(), longName);
 
-  auto* shortened = new StaticText(text->fontMetrics().elidedText(longName, Qt::ElideRight, 80), FontRole::Label, 13);
+  auto* shortened =
+      new StaticText(text->fontMetrics().elidedText(longName, Qt::ElideRight, 80), FontRole::Label, 13);
   addSubview(&parent, shortened, {100, 0, 80, 22});
   EXPECT_EQ(text->grab().toImage(), shortened->grab().toImage());
 }

@@ -20,12 +20,14 @@ TEST(Text, MeasuresInTheFontThatDraws) {
   for (const auto& row : rows) {
     const QString text = QString::fromUtf8(row.text);
     const Size size = sizeOfText(text, row.role, row.size);
-    EXPECT_DOUBLE_EQ(size.width, QFontMetricsF(fontFor(row.role, row.size)).horizontalAdvance(text)) << row.text;
+    EXPECT_DOUBLE_EQ(size.width, QFontMetricsF(fontFor(row.role, row.size)).horizontalAdvance(text))
+        << row.text;
     EXPECT_EQ(size.height, std::ceil(size.height));
     EXPECT_GE(size.height, row.size);
   }
   EXPECT_EQ(sizeOfText(QString(), FontRole::Label, 13).width, 0);
-  EXPECT_GT(sizeOfText("Account", FontRole::BoldSystem, 13).width, sizeOfText("Account", FontRole::Label, 13).width);
+  EXPECT_GT(sizeOfText("Account", FontRole::BoldSystem, 13).width,
+            sizeOfText("Account", FontRole::Label, 13).width);
 }
 
 TEST(Text, MeasuresAMegabyteWithinASecond) {

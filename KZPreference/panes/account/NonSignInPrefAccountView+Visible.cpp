@@ -7,11 +7,21 @@
 #include "host/KZUtility/KZPlistFileHandle.h"
 #include "platform/Text.h"
 
-QString NonSignInPrefAccountViewVisible::accountLabel() { return localizedString("Account"); }
-QString NonSignInPrefAccountViewVisible::fullNameLabel() { return localizedString("Your name:"); }
-QString NonSignInPrefAccountViewVisible::emailAddressLabel() { return localizedString("Your email address:"); }
-QString NonSignInPrefAccountViewVisible::editButtonLabel() { return localizedString("Edit"); }
-QString NonSignInPrefAccountViewVisible::applyButtonLabel() { return localizedString("Save"); }
+QString NonSignInPrefAccountViewVisible::accountLabel() {
+  return localizedString("Account");
+}
+QString NonSignInPrefAccountViewVisible::fullNameLabel() {
+  return localizedString("Your name:");
+}
+QString NonSignInPrefAccountViewVisible::emailAddressLabel() {
+  return localizedString("Your email address:");
+}
+QString NonSignInPrefAccountViewVisible::editButtonLabel() {
+  return localizedString("Edit");
+}
+QString NonSignInPrefAccountViewVisible::applyButtonLabel() {
+  return localizedString("Save");
+}
 
 double NonSignInPrefAccountViewVisible::labelWidth() {
   return std::max(systemTextWidth(fullNameLabel()), systemTextWidth(emailAddressLabel())) + textPad;
@@ -30,8 +40,10 @@ Size NonSignInPrefAccountViewVisible::accountLabelSize() {
   return sizeOfText(accountLabel(), FontRole::BoldSystem, boldLabelFontSize);
 }
 
-// Counted from the first margin although the rows begin at the second, so the fields end 4 points from the edge.
+// Counted from the first margin although the rows begin at the second, so the fields end 4 points from the
+// edge.
 Size NonSignInPrefAccountViewVisible::caculateViewSize() {
-  return {.width = marginAtLeftEdge + labelWidth() + marginBetweenLabelAndContent + fieldWidth + marginAtRightEdge,
+  return {.width =
+              marginAtLeftEdge + labelWidth() + marginBetweenLabelAndContent + fieldWidth + marginAtRightEdge,
           .height = 136};
 }

@@ -53,15 +53,16 @@ QLineEdit* NonSignInPrefAccountView::createInputTextFieldWithRect(const QString&
 QList<DrawnText> NonSignInPrefAccountView::drawnTexts() const {
   const Size size = accountLabelSize();
   return {{.text = accountLabel(),
-           .frame = {marginAtLeftEdge, frameOf(this).height - size.height - marginAtTopEdge, size.width, size.height},
+           .frame = {marginAtLeftEdge, frameOf(this).height - size.height - marginAtTopEdge, size.width,
+                     size.height},
            .role = FontRole::BoldSystem,
            .size = boldLabelFontSize}};
 }
 
 void NonSignInPrefAccountView::initLabels() {
   const auto add = [this](const char* name, double y, const QString& text) {
-    createTextFieldWithRect(QString::fromLatin1(name), {secondMarginAtLeftEdge, y, labelWidth(), kGuestRowHeight},
-                            text, Qt::AlignRight);
+    createTextFieldWithRect(QString::fromLatin1(name),
+                            {secondMarginAtLeftEdge, y, labelWidth(), kGuestRowHeight}, text, Qt::AlignRight);
   };
   add("m_nameLabel", kGuestNameRow, fullNameLabel());
   add("m_emailLabel", kGuestEmailRow, emailAddressLabel());
@@ -69,20 +70,23 @@ void NonSignInPrefAccountView::initLabels() {
 
 void NonSignInPrefAccountView::initTxts() {
   const double x = secondMarginAtLeftEdge + labelWidth() + marginBetweenLabelAndContent;
-  m_nameTxt = createTextFieldWithRect(QStringLiteral("m_nameTxt"), {x, kGuestNameRow, fieldWidth, kGuestRowHeight},
-                                      QString(), Qt::AlignLeft);
-  m_emailTxt = createTextFieldWithRect(QStringLiteral("m_emailTxt"), {x, kGuestEmailRow, fieldWidth, kGuestRowHeight},
-                                       QString(), Qt::AlignLeft);
+  m_nameTxt = createTextFieldWithRect(
+      QStringLiteral("m_nameTxt"), {x, kGuestNameRow, fieldWidth, kGuestRowHeight}, QString(), Qt::AlignLeft);
+  m_emailTxt =
+      createTextFieldWithRect(QStringLiteral("m_emailTxt"), {x, kGuestEmailRow, fieldWidth, kGuestRowHeight},
+                              QString(), Qt::AlignLeft);
   refreshDisplayModeTxt();
 }
 
 void NonSignInPrefAccountView::initInputTextFields() {
   const KZPlistFileHandle& profile = KZPlistFileHandle::sharedInstance();
   const double x = std::floor(labelWidth()) + secondMarginAtLeftEdge + marginBetweenLabelAndContent;
-  m_nameInputTxt = createInputTextFieldWithRect(
-      QStringLiteral("m_nameInputTxt"), {x, kGuestNameRow, fieldWidth, kGuestRowHeight}, profile.displayName());
-  m_emailInputTxt = createInputTextFieldWithRect(
-      QStringLiteral("m_emailInputTxt"), {x, kGuestEmailRow, fieldWidth, kGuestRowHeight}, profile.userName());
+  m_nameInputTxt =
+      createInputTextFieldWithRect(QStringLiteral("m_nameInputTxt"),
+                                   {x, kGuestNameRow, fieldWidth, kGuestRowHeight}, profile.displayName());
+  m_emailInputTxt =
+      createInputTextFieldWithRect(QStringLiteral("m_emailInputTxt"),
+                                   {x, kGuestEmailRow, fieldWidth, kGuestRowHeight}, profile.userName());
   m_nameInputTxt->setAccessibleName(fullNameLabel());
   m_emailInputTxt->setAccessibleName(emailAddressLabel());
   connect(m_emailInputTxt, &QLineEdit::textEdited, this, &NonSignInPrefAccountView::controlTextDidChange);
@@ -114,7 +118,9 @@ void NonSignInPrefAccountView::refreshAccountInfo() {
   changeEditStatus();
 }
 
-void NonSignInPrefAccountView::viewDidUnhide() { refreshAccountInfo(); }
+void NonSignInPrefAccountView::viewDidUnhide() {
+  refreshAccountInfo();
+}
 
 void NonSignInPrefAccountView::onEditButton() {
   if (m_bIsEditing) {
@@ -132,7 +138,9 @@ void NonSignInPrefAccountView::onInputTxtEnter() {
   if (m_bIsEditing) onEditButton();
 }
 
-void NonSignInPrefAccountView::controlTextDidChange() { m_warningMsg->hide(); }
+void NonSignInPrefAccountView::controlTextDidChange() {
+  m_warningMsg->hide();
+}
 
 void NonSignInPrefAccountView::changeEditStatus() {
   for (QWidget* field : {static_cast<QWidget*>(m_nameTxt), static_cast<QWidget*>(m_emailTxt),

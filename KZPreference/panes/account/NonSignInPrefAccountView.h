@@ -13,7 +13,8 @@ class NonSignInPrefAccountView final : public View, public NonSignInPrefAccountV
   Q_OBJECT
 
  public:
-  NonSignInPrefAccountView(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate);  // not owned
+  NonSignInPrefAccountView(const Frame& frame,
+                           PreferenceActionDelegateProtocol* actionDelegate);  // not owned
 
   // Back to reading, with the stored profile; what was typed is dropped.
   void refreshAccountInfo();

@@ -4,7 +4,8 @@
 
 #include "platform/Frame.h"
 
-// Texts and sizes of the signed-in Account pane, known before the pane exists. Sizes follow the stored profile.
+// Texts and sizes of the signed-in Account pane, known before the pane exists. Sizes follow the stored
+// profile.
 class PrefAccountViewVisible {
  public:
   static QString fullNameLabel();

@@ -21,8 +21,8 @@ PrefAccountView::PrefAccountView(const Frame& frame, PreferenceActionDelegatePro
   initChangeSiteButton();
 }
 
-StaticText* PrefAccountView::createTextFieldWithRect(const QString& name, const Frame& frame, const QString& text,
-                                                     Qt::Alignment alignment) {
+StaticText* PrefAccountView::createTextFieldWithRect(const QString& name, const Frame& frame,
+                                                     const QString& text, Qt::Alignment alignment) {
   return addStaticText(this, {.name = name,
                               .frame = frame,
                               .text = text,
@@ -33,8 +33,8 @@ StaticText* PrefAccountView::createTextFieldWithRect(const QString& name, const 
 
 void PrefAccountView::initLabels() {
   const auto add = [this](const char* name, double y, const QString& text) {
-    createTextFieldWithRect(QString::fromLatin1(name), {marginAtLeftEdge, y, labelWidth(), commonLabelHeight}, text,
-                            Qt::AlignRight);
+    createTextFieldWithRect(QString::fromLatin1(name), {marginAtLeftEdge, y, labelWidth(), commonLabelHeight},
+                            text, Qt::AlignRight);
   };
   add("m_nameLabel", kNameRow, fullNameLabel());
   add("m_siteLabel", kSiteRow, siteUrlLabel());
@@ -42,7 +42,8 @@ void PrefAccountView::initLabels() {
 }
 
 Frame PrefAccountView::contentFrame(double y) const {
-  return {marginAtLeftEdge + labelWidth() + marginBetweenLabelAndContent, y, contentWidth(), commonLabelHeight};
+  return {marginAtLeftEdge + labelWidth() + marginBetweenLabelAndContent, y, contentWidth(),
+          commonLabelHeight};
 }
 
 void PrefAccountView::initTxts() {
@@ -58,9 +59,11 @@ void PrefAccountView::initTxts() {
 void PrefAccountView::initChangeSiteButton() {
   // The link follows the site's text, not the column.
   Frame frame = contentFrame(kSiteRow);
-  frame.x += systemTextWidth(KZPlistFileHandle::sharedInstance().siteName()) + textPad + marginBetweenContentAndButton;
+  frame.x += systemTextWidth(KZPlistFileHandle::sharedInstance().siteName()) + textPad +
+             marginBetweenContentAndButton;
   frame.width = buttonWidth();
-  BRNHyperlinkTextField* link = addLink(this, QStringLiteral("m_changeSiteBtn"), frame, changeSiteButtonLabel());
+  BRNHyperlinkTextField* link =
+      addLink(this, QStringLiteral("m_changeSiteBtn"), frame, changeSiteButtonLabel());
   connect(link, &BRNHyperlinkTextField::clicked, this, &PrefAccountView::onChangeSiteButton);
 }
 
@@ -71,4 +74,6 @@ void PrefAccountView::setSite(const QString& site, const QString& email, const Q
   if (!name.isNull()) m_nameTxt->setText(name);
 }
 
-void PrefAccountView::onChangeSiteButton() { m_actionDelegate->changeSite(); }
+void PrefAccountView::onChangeSiteButton() {
+  m_actionDelegate->changeSite();
+}

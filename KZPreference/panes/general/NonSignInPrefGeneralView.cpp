@@ -9,4 +9,6 @@ NonSignInPrefGeneralView::NonSignInPrefGeneralView(const Frame& frame,
   initStartCheckingCheckbox(rectCheckStartingButton(), startCheckingString());
 }
 
-Frame NonSignInPrefGeneralView::rectCheckStartingButton() const { return checkboxFrame(marginAtBottomEdge); }
+Frame NonSignInPrefGeneralView::rectCheckStartingButton() const {
+  return checkboxFrame(marginAtBottomEdge);
+}

@@ -7,7 +7,9 @@
 #include "KZPreference/panes/general/NonSignInPrefGeneralView+Visible.h"
 #include "platform/Text.h"
 
-QString PrefGeneralViewVisible::startCheckingString() { return NonSignInPrefGeneralViewVisible::startCheckingString(); }
+QString PrefGeneralViewVisible::startCheckingString() {
+  return NonSignInPrefGeneralViewVisible::startCheckingString();
+}
 
 QString PrefGeneralViewVisible::outlookIntegratingString() {
   return localizedString("Schedule or start Mivra meetings from Microsoft Outlook");
@@ -16,6 +18,7 @@ QString PrefGeneralViewVisible::outlookIntegratingString() {
 Size PrefGeneralViewVisible::caculatePrefGeneralViewSize() {
   const double outlookWidth = sizeOfText(outlookIntegratingString(), FontRole::System, systemFontSize).width;
   const double outlookPaneWidth = marginAtLeftEdge + outlookWidth + marginAtRightEdge + generalCheckboxRoom;
-  return {.width = std::max(NonSignInPrefGeneralViewVisible::caculatePrefGeneralViewSize().width, outlookPaneWidth),
+  return {.width = std::max(NonSignInPrefGeneralViewVisible::caculatePrefGeneralViewSize().width,
+                            outlookPaneWidth),
           .height = 84};
 }

@@ -30,8 +30,12 @@ void PrefGeneralView::initOutlookIntegratingCheckbox() {
   connect(m_outlookIntegratingBtn, &QCheckBox::clicked, this, &PrefGeneralView::onOutlookIntegratingButton);
 }
 
-Frame PrefGeneralView::rectCheckStartingButton() const { return checkboxFrame(marginAtBottomEdge + 24); }
-Frame PrefGeneralView::rectOutlookIntegrationButton() const { return checkboxFrame(marginAtBottomEdge); }
+Frame PrefGeneralView::rectCheckStartingButton() const {
+  return checkboxFrame(marginAtBottomEdge + 24);
+}
+Frame PrefGeneralView::rectOutlookIntegrationButton() const {
+  return checkboxFrame(marginAtBottomEdge);
+}
 
 void PrefGeneralView::onOutlookIntegratingButton() {
   m_isOutlookIntegrating = m_outlookIntegratingBtn->isChecked();

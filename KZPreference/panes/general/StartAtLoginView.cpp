@@ -16,7 +16,9 @@ bool StartAtLoginView::storedChoice(const QString& key) {
   return kept.metaType() == QMetaType::fromType<bool>() ? kept.toBool() : true;
 }
 
-void StartAtLoginView::initCheckingStartState() { m_isStartWhenComputerStarts = storedChoice(KZLaunchAtLogin); }
+void StartAtLoginView::initCheckingStartState() {
+  m_isStartWhenComputerStarts = storedChoice(KZLaunchAtLogin);
+}
 
 void StartAtLoginView::initStartCheckingCheckbox(const Frame& frame, const QString& title) {
   m_startCheckingBtn = addCheckbox(this, QStringLiteral("m_startCheckingBtn"), frame, title);
@@ -32,7 +34,9 @@ Frame StartAtLoginView::checkboxFrame(double y) const {
           .height = 16};
 }
 
-QString StartAtLoginView::getLocalizedString(const char* key) const { return localizedString(key); }
+QString StartAtLoginView::getLocalizedString(const char* key) const {
+  return localizedString(key);
+}
 
 void StartAtLoginView::onStartCheckingButton() {
   m_isStartWhenComputerStarts = m_startCheckingBtn->isChecked();

@@ -5,7 +5,8 @@
 
 class QCheckBox;
 
-// What both General panes share: the start-at-login choice, written to the store and told to the host at each click.
+// What both General panes share: the start-at-login choice, written to the store and told to the host at each
+// click.
 class StartAtLoginView : public View {
   Q_OBJECT
 

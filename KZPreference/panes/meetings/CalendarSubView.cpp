@@ -29,15 +29,17 @@ void CalendarSubView::initDays() {
   const QString label = PrefMeetingViewVisible::dayslabel();
   const Size size = sizeOfText(label, FontRole::Label, labelFontSize);
   const Frame frame{secondMarginAtLeftEdge, 2, size.width + textPad, size.height};
-  addStaticText(this, {.name = QStringLiteral("m_daysTxt"),
-                       .frame = frame,
-                       .text = label,
-                       .role = FontRole::Label,
-                       .size = labelFontSize});
+  StaticText* text = addStaticText(this, {.name = QStringLiteral("m_daysTxt"),
+                                          .frame = frame,
+                                          .text = label,
+                                          .role = FontRole::Label,
+                                          .size = labelFontSize});
   m_daysBtn = addPopUpButton(this, QStringLiteral("m_daysBtn"),
                              {secondMarginAtLeftEdge + size.width + 8, 0, popupButtonWidth, 20},
                              {QStringLiteral("1"), QStringLiteral("7"), QStringLiteral("14")});
   m_daysBtn->setAccessibleName(label);
+  // A screen reader may take the chosen title for the name; then the label is found through this.
+  text->setBuddy(m_daysBtn);
   connect(m_daysBtn, &PopUpButton::chosen, this, &CalendarSubView::onDaysButton);
 }
 
@@ -49,6 +51,6 @@ void CalendarSubView::setCalendarPreference(const Dictionary& preference) {
 void CalendarSubView::onDaysButton() {
   const QString days = m_daysBtn->title();
   m_actionDelegate->setCalendarDays(days);
-  PreferenceTelemetry::sharedInstance().writeFeatrueName(TelemetryValue_FeatureName_Click_SelectCalendarListDays,
-                                                         TelemetryKey_CalendarListDaysCount, days);
+  PreferenceTelemetry::sharedInstance().writeFeatrueName(
+      TelemetryValue_FeatureName_Click_SelectCalendarListDays, TelemetryKey_CalendarListDaysCount, days);
 }

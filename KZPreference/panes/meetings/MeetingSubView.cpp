@@ -22,12 +22,17 @@ using namespace std::chrono_literals;
 constexpr double kRowGap = 8;
 constexpr auto kCopiedTime = 1s;
 
-Size labelSize(const QString& text) { return sizeOfText(text, FontRole::Label, labelFontSize); }
-Size titleSize(const QString& text) { return sizeOfText(text, FontRole::BoldSystem, boldLabelFontSize); }
+Size labelSize(const QString& text) {
+  return sizeOfText(text, FontRole::Label, labelFontSize);
+}
+Size titleSize(const QString& text) {
+  return sizeOfText(text, FontRole::BoldSystem, boldLabelFontSize);
+}
 
 DrawnText labelAt(double x, double y, const QString& text) {
   const Size size = labelSize(text);
-  return {.text = text, .frame = {x, y, size.width, size.height}, .role = FontRole::Label, .size = labelFontSize};
+  return {
+      .text = text, .frame = {x, y, size.width, size.height}, .role = FontRole::Label, .size = labelFontSize};
 }
 
 DrawnText columnLabelAt(double y, double width, const QString& text) {
@@ -55,8 +60,8 @@ void MeetingSubView::initEditButton() {
   const Size size = labelSize(text);
   BRNHyperlinkTextField* link =
       addLink(this, QStringLiteral("m_editBtn"),
-              {marginAtLeftEdge + title.width + marginBetweenLabelAndContent, frameOf(this).height - title.height,
-               size.width + textPad, size.height},
+              {marginAtLeftEdge + title.width + marginBetweenLabelAndContent,
+               frameOf(this).height - title.height, size.width + textPad, size.height},
               text);
   connect(link, &BRNHyperlinkTextField::clicked, this, &MeetingSubView::onEditButton);
 }
@@ -78,8 +83,8 @@ void MeetingSubView::setPMRUrl(const QString& pmrurl, const QString& sipurl) {
 }
 
 void MeetingSubView::placeCopyButtons() {
-  const double labelWidth =
-      std::max(labelTextWidth(PrefMeetingViewVisible::pmrlabel()), labelTextWidth(PrefMeetingViewVisible::siplabel()));
+  const double labelWidth = std::max(labelTextWidth(PrefMeetingViewVisible::pmrlabel()),
+                                     labelTextWidth(PrefMeetingViewVisible::siplabel()));
   const double left = secondMarginAtLeftEdge + labelWidth + marginBetweenLabelAndContent;
   const auto place = [left](BRNHyperlinkTextField* link, const QString& url, double y) {
     link->setVisible(!url.isEmpty());
@@ -89,6 +94,12 @@ void MeetingSubView::placeCopyButtons() {
   };
   place(m_copyPmrurlBtn, m_pmrurl, m_sipurl.isEmpty() ? 0 : labelSize(m_sipurl).height + kRowGap);
   place(m_copySipurlBtn, m_sipurl, 0);
+}
+
+// A link may reach beyond the group's frame, for which the gaps do not count; it shows as far as the pane goes.
+void MeetingSubView::resizeEvent(QResizeEvent* event) {
+  View::resizeEvent(event);
+  if (parentWidget()) resize(std::max(width(), parentWidget()->width() - x()), height());
 }
 
 QList<DrawnText> MeetingSubView::drawnTexts() const {
@@ -109,8 +120,9 @@ DrawnText MeetingSubView::drawMeetingLabel() const {
 
 QList<DrawnText> MeetingSubView::drawMedium() const {
   const bool isSip = !m_sipurl.isEmpty();
-  const DrawnText label = labelAt(secondMarginAtLeftEdge, 0,
-                                  isSip ? PrefMeetingViewVisible::siplabel() : PrefMeetingViewVisible::pmrlabel());
+  const DrawnText label =
+      labelAt(secondMarginAtLeftEdge, 0,
+              isSip ? PrefMeetingViewVisible::siplabel() : PrefMeetingViewVisible::pmrlabel());
   return {label, labelAt(label.frame.maxX() + marginLabelToContent, 0, isSip ? m_sipurl : m_pmrurl)};
 }
 
@@ -119,13 +131,15 @@ QList<DrawnText> MeetingSubView::drawMaximum() const {
   const QString siplabel = PrefMeetingViewVisible::siplabel();
   const double column = std::max(labelTextWidth(pmrlabel), labelTextWidth(siplabel));
   const double contentX = secondMarginAtLeftEdge + column + marginLabelToContent;
-  return {columnLabelAt(0, column, siplabel), columnLabelAt(labelSize(siplabel).height + kRowGap, column, pmrlabel),
+  return {columnLabelAt(0, column, siplabel),
+          columnLabelAt(labelSize(siplabel).height + kRowGap, column, pmrlabel),
           labelAt(contentX, 0, m_sipurl), labelAt(contentX, labelSize(m_sipurl).height + kRowGap, m_pmrurl)};
 }
 
 void MeetingSubView::onEditButton() {
   m_actionDelegate->editMeetingNowSetting();
-  PreferenceTelemetry::sharedInstance().writeFeatrueName(TelemetryValue_FeatureName_Click_EditMeetingNowSettings);
+  PreferenceTelemetry::sharedInstance().writeFeatrueName(
+      TelemetryValue_FeatureName_Click_EditMeetingNowSettings);
 }
 
 // The clipboard does not say whether it took a text, so it is read back.
@@ -163,5 +177,9 @@ void MeetingSubView::setCopiedUrlBtn(BRNHyperlinkTextField* button) {
   button->setStringValue(copied);
 }
 
-void MeetingSubView::resetCopyPmrUrlBtn() { m_copyPmrurlBtn->setStringValue(localizedString("Copy")); }
-void MeetingSubView::resetCopySipUrlBtn() { m_copySipurlBtn->setStringValue(localizedString("Copy")); }
+void MeetingSubView::resetCopyPmrUrlBtn() {
+  m_copyPmrurlBtn->setStringValue(localizedString("Copy"));
+}
+void MeetingSubView::resetCopySipUrlBtn() {
+  m_copySipurlBtn->setStringValue(localizedString("Copy"));
+}

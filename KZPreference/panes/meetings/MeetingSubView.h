@@ -17,6 +17,9 @@ class MeetingSubView final : public View {
 
   QList<DrawnText> drawnTexts() const override;
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
   void initEditButton();
   BRNHyperlinkTextField* createCopyButton(const QString& name, const QString& label);

@@ -20,7 +20,8 @@ void MeetingsPane::addCalendarView(const Frame& frame, PreferenceActionDelegateP
   addSubview(this, m_calendarView, frame);
 }
 
-void MeetingsPane::addIntegrationView(CalendarIntegrationGroup* group, const Frame& frame, const QString& name) {
+void MeetingsPane::addIntegrationView(CalendarIntegrationGroup* group, const Frame& frame,
+                                      const QString& name) {
   m_group = group;
   m_group->setObjectName(name);
   addSubview(this, m_group, frame);
@@ -43,8 +44,18 @@ void MeetingsPane::setCalendarPreference(const Dictionary& preference) {
   m_group->setCalendarPreference(preference);
 }
 
-void MeetingsPane::setOpeningByDashboard() { m_group->setOpeningByDashboard(); }
-void MeetingsPane::needOutlookCredential(const Dictionary& result) { m_group->needOutlookCredential(result); }
-void MeetingsPane::onExchangeResolveDone(const Dictionary& result) { m_group->onExchangeResolveDone(result); }
-void MeetingsPane::windowDidBecomeKey() { m_group->windowDidBecomeKey(); }
-void MeetingsPane::onWindowWillClose() { m_group->onWindowWillClose(); }
+void MeetingsPane::setOpeningByDashboard() {
+  m_group->setOpeningByDashboard();
+}
+void MeetingsPane::needOutlookCredential(const Dictionary& result) {
+  m_group->needOutlookCredential(result);
+}
+void MeetingsPane::onExchangeResolveDone(const Dictionary& result) {
+  m_group->onExchangeResolveDone(result);
+}
+void MeetingsPane::windowDidBecomeKey() {
+  m_group->windowDidBecomeKey();
+}
+void MeetingsPane::onWindowWillClose() {
+  m_group->onWindowWillClose();
+}

@@ -13,10 +13,11 @@ void NonSignInPrefMeetingView::initSubviews(PreferenceActionDelegateProtocol* ac
   const Size calendar = caculateCalendarViewSize();
   const Size integration = caculateIntegrationViewSize();
   const Frame integrationFrame{0, marginAtBottomEdge, integration.width, integration.height};
-  const Frame calendarFrame{0, integrationFrame.maxY() + marginBetweenSubViews, calendar.width, calendar.height};
+  const Frame calendarFrame{0, integrationFrame.maxY() + marginBetweenSubViews, calendar.width,
+                            calendar.height};
 
   addCalendarView(calendarFrame, actionDelegate);
-  addIntegrationView(new NonSignInCalendarIntegrationSubView(integrationFrame, actionDelegate), integrationFrame,
-                     QStringLiteral("m_integrationView"));
+  addIntegrationView(new NonSignInCalendarIntegrationSubView(integrationFrame, actionDelegate),
+                     integrationFrame, QStringLiteral("m_integrationView"));
   addSplitLine(QStringLiteral("m_splitline"), calendarFrame);
 }

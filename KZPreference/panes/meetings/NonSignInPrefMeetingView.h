@@ -8,7 +8,8 @@ class NonSignInPrefMeetingView final : public MeetingsPane, public NonSignInPref
   Q_OBJECT
 
  public:
-  NonSignInPrefMeetingView(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate);  // not owned
+  NonSignInPrefMeetingView(const Frame& frame,
+                           PreferenceActionDelegateProtocol* actionDelegate);  // not owned
 
  private:
   void initSubviews(PreferenceActionDelegateProtocol* actionDelegate);

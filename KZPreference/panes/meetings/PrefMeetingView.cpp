@@ -24,7 +24,8 @@ void PrefMeetingView::initSubviews(PreferenceActionDelegateProtocol* actionDeleg
   const Size calendar = caculateCalendarViewSize();
   const Size integration = caculateIntegrationViewSize();
   const Frame integrationFrame{0, marginAtBottomEdge, integration.width, integration.height};
-  const Frame calendarFrame{0, integrationFrame.maxY() + marginBetweenSubViews, calendar.width, calendar.height};
+  const Frame calendarFrame{0, integrationFrame.maxY() + marginBetweenSubViews, calendar.width,
+                            calendar.height};
   const Frame meetingFrame{0, calendarFrame.maxY() + marginBetweenSubViews, meeting.width, meeting.height};
 
   m_meetingView = new MeetingSubView(meetingFrame, actionDelegate);

@@ -3,6 +3,12 @@
 #include "KZPreference/layout/Localization.h"
 #include "KZPreference/panes/notifications/NotificationRowSize.h"
 
-QString MeetingAlertsSubViewVisible::meetingAlertsLabel() { return localizedString("Meeting notifications"); }
-QString MeetingAlertsSubViewVisible::minutesLabel() { return localizedString("minutes before scheduled start time."); }
-Size MeetingAlertsSubViewVisible::caculateViewSize() { return notificationRowSize(minutesLabel()); }
+QString MeetingAlertsSubViewVisible::meetingAlertsLabel() {
+  return localizedString("Meeting notifications");
+}
+QString MeetingAlertsSubViewVisible::minutesLabel() {
+  return localizedString("minutes before scheduled start time.");
+}
+Size MeetingAlertsSubViewVisible::caculateViewSize() {
+  return notificationRowSize(minutesLabel());
+}

@@ -4,7 +4,8 @@
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZFoundation/KZConstants.h"
 
-MeetingAlertsSubView::MeetingAlertsSubView(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate)
+MeetingAlertsSubView::MeetingAlertsSubView(const Frame& frame,
+                                           PreferenceActionDelegateProtocol* actionDelegate)
     : NotificationRow(frame, actionDelegate,
                       {.label = meetingAlertsLabel(),
                        .minutesLabel = minutesLabel(),
@@ -12,7 +13,9 @@ MeetingAlertsSubView::MeetingAlertsSubView(const Frame& frame, PreferenceActionD
                        .stateKey = kKZMeetintNotificationToast,
                        .minutesKey = kKZMeetintNotificationToastMinutes}) {}
 
-void MeetingAlertsSubView::report(bool state, const QString& minutes) { m_actionDelegate->setMeetingAlerts(state, minutes); }
+void MeetingAlertsSubView::report(bool state, const QString& minutes) {
+  m_actionDelegate->setMeetingAlerts(state, minutes);
+}
 
 void MeetingAlertsSubView::reportClick(bool state) {
   PreferenceTelemetry::sharedInstance().writeFeatrueName(
@@ -22,5 +25,6 @@ void MeetingAlertsSubView::reportClick(bool state) {
 
 void MeetingAlertsSubView::reportMinutes(const QString& minutes) {
   PreferenceTelemetry::sharedInstance().writeFeatrueName(
-      TelemetryValue_FeatureName_Click_PreferenceMeetingAlertMinutes, TelemetryKey_MeetingAlertMinutes, minutes);
+      TelemetryValue_FeatureName_Click_PreferenceMeetingAlertMinutes, TelemetryKey_MeetingAlertMinutes,
+      minutes);
 }

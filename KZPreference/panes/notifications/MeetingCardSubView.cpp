@@ -10,4 +10,6 @@ MeetingCardSubView::MeetingCardSubView(const Frame& frame, PreferenceActionDeleg
                        .stateKey = kKZMeetintNotificationCard,
                        .minutesKey = kKZMeetintNotificationCardMinutes}) {}
 
-void MeetingCardSubView::report(bool state, const QString& minutes) { m_actionDelegate->setMeetingCard(state, minutes); }
+void MeetingCardSubView::report(bool state, const QString& minutes) {
+  m_actionDelegate->setMeetingCard(state, minutes);
+}

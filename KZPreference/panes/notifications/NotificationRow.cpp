@@ -27,8 +27,9 @@ void NotificationRow::initAlertsLable() {
 }
 
 void NotificationRow::initMinutes() {
-  m_minutesBtn = addPopUpButton(this, QStringLiteral("m_minutesBtn"),
-                                {secondMarginAtLeftEdge, 0, popupButtonWidth, popupButtonHeight}, m_kind.minutes);
+  m_minutesBtn =
+      addPopUpButton(this, QStringLiteral("m_minutesBtn"),
+                     {secondMarginAtLeftEdge, 0, popupButtonWidth, popupButtonHeight}, m_kind.minutes);
   m_minutesBtn->setAccessibleName(m_kind.minutesLabel);
   connect(m_minutesBtn, &PopUpButton::chosen, this, &NotificationRow::onMinutesButton);
   // The text may use the whole row's width: what it measures is the font's business.

@@ -6,8 +6,8 @@
 class PopUpButton;
 class QCheckBox;
 
-// A check box with a choice of minutes under it. The user's changes are reported with both values; the row itself
-// stores nothing.
+// A check box with a choice of minutes under it. The user's changes are reported with both values; the row
+// itself stores nothing.
 class NotificationRow : public View {
   Q_OBJECT
 

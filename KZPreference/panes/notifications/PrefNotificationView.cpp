@@ -18,7 +18,8 @@ void storeNotificationValue(const char* key, const QVariant& value) {
 
 }  // namespace
 
-PrefNotificationView::PrefNotificationView(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate)
+PrefNotificationView::PrefNotificationView(const Frame& frame,
+                                           PreferenceActionDelegateProtocol* actionDelegate)
     : View(frame), m_actionDelegate(actionDelegate) {
   initSubviews();
 }
@@ -30,7 +31,9 @@ void PrefNotificationView::initSubviews() {
   addSubview(this, m_meetingAlertsView, row);
 }
 
-void PrefNotificationView::setPreference(const Content& preference) { m_meetingAlertsView->setPreference(preference); }
+void PrefNotificationView::setPreference(const Content& preference) {
+  m_meetingAlertsView->setPreference(preference);
+}
 
 void PrefNotificationView::onMeetingAlertsButton(const QCheckBox* sender) {
   storeNotificationValue("MeetingToast", sender->isChecked());

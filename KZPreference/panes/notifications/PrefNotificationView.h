@@ -17,7 +17,8 @@ class PrefNotificationView final : public View, public PrefNotificationViewVisib
 
   void setPreference(const Content& preference);
 
-  // Write the sender's value to the store under the keys of older versions. No control of this pane sends them.
+  // Write the sender's value to the store under the keys of older versions. No control of this pane sends
+  // them.
   void onMeetingAlertsButton(const QCheckBox* sender);
   void onMeetingAlertsMinutesButton(const PopUpButton* sender);
   void onSnoozeButton(const QCheckBox* sender);

@@ -3,6 +3,12 @@
 #include "KZPreference/layout/Localization.h"
 #include "KZPreference/panes/notifications/NotificationRowSize.h"
 
-QString SnoozeSubViewVisible::snoozeLabel() { return localizedString("Snooze"); }
-QString SnoozeSubViewVisible::minutesLabel() { return localizedString("minutes after Snooze."); }
-Size SnoozeSubViewVisible::caculateViewSize() { return notificationRowSize(minutesLabel()); }
+QString SnoozeSubViewVisible::snoozeLabel() {
+  return localizedString("Snooze");
+}
+QString SnoozeSubViewVisible::minutesLabel() {
+  return localizedString("minutes after Snooze.");
+}
+Size SnoozeSubViewVisible::caculateViewSize() {
+  return notificationRowSize(minutesLabel());
+}

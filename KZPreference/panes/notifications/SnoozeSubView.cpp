@@ -10,4 +10,6 @@ SnoozeSubView::SnoozeSubView(const Frame& frame, PreferenceActionDelegateProtoco
                        .stateKey = kKZMeetintNotificationSnooze,
                        .minutesKey = kKZMeetintNotificationSnoozeMinutes}) {}
 
-void SnoozeSubView::report(bool state, const QString& minutes) { m_actionDelegate->setSnooze(state, minutes); }
+void SnoozeSubView::report(bool state, const QString& minutes) {
+  m_actionDelegate->setSnooze(state, minutes);
+}

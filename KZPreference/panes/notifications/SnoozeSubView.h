@@ -1,7 +1,7 @@
 #pragma once
 
-#include "KZPreference/panes/notifications/SnoozeSubView+Visible.h"
 #include "KZPreference/panes/notifications/NotificationRow.h"
+#include "KZPreference/panes/notifications/SnoozeSubView+Visible.h"
 
 // The row for snoozing a notification.
 class SnoozeSubView final : public NotificationRow, public SnoozeSubViewVisible {

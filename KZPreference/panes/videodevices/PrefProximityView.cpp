@@ -14,14 +14,17 @@ PrefProximityView::PrefProximityView(const Frame& frame, PreferenceActionDelegat
 }
 
 void PrefProximityView::initAutodetectButton() {
-  m_autodetectBtn = addCheckbox(this, QStringLiteral("m_autodetectBtn"),
-                                {marginAtLeftEdge, marginAtBottomEdge,
-                                 frameOf(this).width - marginAtLeftEdge - marginAtRightEdge, checkboxButtonHeight},
-                                autodetectLabel());
+  m_autodetectBtn =
+      addCheckbox(this, QStringLiteral("m_autodetectBtn"),
+                  {marginAtLeftEdge, marginAtBottomEdge,
+                   frameOf(this).width - marginAtLeftEdge - marginAtRightEdge, checkboxButtonHeight},
+                  autodetectLabel());
   connect(m_autodetectBtn, &QCheckBox::clicked, this, &PrefProximityView::onAutodetectButton);
 }
 
-void PrefProximityView::viewDidUnhide() { setPreference(KZPlistFileHandle::sharedInstance().videoDevice()); }
+void PrefProximityView::viewDidUnhide() {
+  setPreference(KZPlistFileHandle::sharedInstance().videoDevice());
+}
 
 void PrefProximityView::setPreference(const Content& preference) {
   if (preference) m_prefs = *preference;

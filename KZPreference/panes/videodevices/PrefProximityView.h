@@ -6,7 +6,8 @@
 
 class QCheckBox;
 
-// The Video devices pane: automatic discovery of nearby devices. It reads the store again each time it is shown.
+// The Video devices pane: automatic discovery of nearby devices. It reads the store again each time it is
+// shown.
 class PrefProximityView final : public View, public PrefProximityViewVisible {
   Q_OBJECT
 

@@ -179,5 +179,61 @@
         <source>Automatically discover nearby devices</source>
         <translation>Geräte in der Nähe automatisch erkennen</translation>
     </message>
+    <message>
+        <source>Sign in</source>
+        <translation>Anmelden</translation>
+    </message>
+    <message>
+        <source>Sign in with your browser. It shows you a code at the end: enter the code here to go on.</source>
+        <translation>Melden Sie sich in Ihrem Browser an. Am Ende zeigt er einen Code: Geben Sie ihn hier ein, um fortzufahren.</translation>
+    </message>
+    <message>
+        <source>Waiting for you to sign in with your browser. This window closes by itself when you are done.</source>
+        <translation>Bitte melden Sie sich in Ihrem Browser an. Dieses Fenster schließt sich danach von selbst.</translation>
+    </message>
+    <message>
+        <source>If no browser opened, open this &amp;address yourself:</source>
+        <translation>Hat sich kein Browser geöffnet, öffnen Sie diese &amp;Adresse selbst:</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Code:</source>
+        <translation>&amp;Code:</translation>
+    </message>
+    <message>
+        <source>Open the browser again</source>
+        <translation>Browser erneut öffnen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>This is not the answer that is waited for.</source>
+        <translation>Das ist nicht die erwartete Antwort.</translation>
+    </message>
+    <message>
+        <source>Your answer has arrived. You can close this page.</source>
+        <translation>Ihre Antwort ist angekommen. Sie können diese Seite schließen.</translation>
+    </message>
+    <message>
+        <source>This request is too long.</source>
+        <translation>Diese Anfrage ist zu lang.</translation>
+    </message>
+    <message>
+        <source>This request cannot be read.</source>
+        <translation>Diese Anfrage ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>There is nothing here.</source>
+        <translation>Hier ist nichts.</translation>
+    </message>
 </context>
 </TS>

@@ -179,5 +179,61 @@
         <source>Automatically discover nearby devices</source>
         <translation>Detectar automáticamente los dispositivos cercanos</translation>
     </message>
+    <message>
+        <source>Sign in</source>
+        <translation>Iniciar sesión</translation>
+    </message>
+    <message>
+        <source>Sign in with your browser. It shows you a code at the end: enter the code here to go on.</source>
+        <translation>Inicie sesión en el navegador. Al final muestra un código: introdúzcalo aquí para continuar.</translation>
+    </message>
+    <message>
+        <source>Waiting for you to sign in with your browser. This window closes by itself when you are done.</source>
+        <translation>Esperando a que inicie sesión en el navegador. Esta ventana se cierra sola cuando termine.</translation>
+    </message>
+    <message>
+        <source>If no browser opened, open this &amp;address yourself:</source>
+        <translation>Si no se abrió ningún navegador, abra usted esta &amp;dirección:</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>&amp;Code:</source>
+        <translation>C&amp;ódigo:</translation>
+    </message>
+    <message>
+        <source>Open the browser again</source>
+        <translation>Abrir de nuevo el navegador</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuar</translation>
+    </message>
+    <message>
+        <source>This is not the answer that is waited for.</source>
+        <translation>Esta no es la respuesta esperada.</translation>
+    </message>
+    <message>
+        <source>Your answer has arrived. You can close this page.</source>
+        <translation>Su respuesta ha llegado. Puede cerrar esta página.</translation>
+    </message>
+    <message>
+        <source>This request is too long.</source>
+        <translation>Esta solicitud es demasiado larga.</translation>
+    </message>
+    <message>
+        <source>This request cannot be read.</source>
+        <translation>Esta solicitud no se puede leer.</translation>
+    </message>
+    <message>
+        <source>There is nothing here.</source>
+        <translation>Aquí no hay nada.</translation>
+    </message>
 </context>
 </TS>

@@ -179,5 +179,61 @@
         <source>Automatically discover nearby devices</source>
         <translation>Détecter automatiquement les appareils à proximité</translation>
     </message>
+    <message>
+        <source>Sign in</source>
+        <translation>Se connecter</translation>
+    </message>
+    <message>
+        <source>Sign in with your browser. It shows you a code at the end: enter the code here to go on.</source>
+        <translation>Connectez-vous dans votre navigateur. Il affiche un code à la fin : saisissez-le ici pour continuer.</translation>
+    </message>
+    <message>
+        <source>Waiting for you to sign in with your browser. This window closes by itself when you are done.</source>
+        <translation>En attente de votre connexion dans le navigateur. Cette fenêtre se ferme d’elle-même ensuite.</translation>
+    </message>
+    <message>
+        <source>If no browser opened, open this &amp;address yourself:</source>
+        <translation>Si aucun navigateur ne s’est ouvert, ouvrez cette &amp;adresse vous-même :</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>C&amp;opier</translation>
+    </message>
+    <message>
+        <source>&amp;Code:</source>
+        <translation>&amp;Code :</translation>
+    </message>
+    <message>
+        <source>Open the browser again</source>
+        <translation>Rouvrir le navigateur</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuer</translation>
+    </message>
+    <message>
+        <source>This is not the answer that is waited for.</source>
+        <translation>Ce n’est pas la réponse attendue.</translation>
+    </message>
+    <message>
+        <source>Your answer has arrived. You can close this page.</source>
+        <translation>Votre réponse est arrivée. Vous pouvez fermer cette page.</translation>
+    </message>
+    <message>
+        <source>This request is too long.</source>
+        <translation>Cette requête est trop longue.</translation>
+    </message>
+    <message>
+        <source>This request cannot be read.</source>
+        <translation>Cette requête est illisible.</translation>
+    </message>
+    <message>
+        <source>There is nothing here.</source>
+        <translation>Il n’y a rien ici.</translation>
+    </message>
 </context>
 </TS>

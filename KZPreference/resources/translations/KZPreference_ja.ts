@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>Copied</source>
-        <translation>コピーしました</translation>
+        <translation>コピー済</translation>
     </message>
     <message>
         <source>Calendar</source>
@@ -178,6 +178,62 @@
     <message>
         <source>Automatically discover nearby devices</source>
         <translation>近くのデバイスを自動的に検出する</translation>
+    </message>
+    <message>
+        <source>Sign in</source>
+        <translation>サインイン</translation>
+    </message>
+    <message>
+        <source>Sign in with your browser. It shows you a code at the end: enter the code here to go on.</source>
+        <translation>ブラウザでサインインしてください。最後にコードが表示されるので、ここに入力して続けてください。</translation>
+    </message>
+    <message>
+        <source>Waiting for you to sign in with your browser. This window closes by itself when you are done.</source>
+        <translation>ブラウザでのサインインを待っています。完了すると、このウインドウは自動的に閉じます。</translation>
+    </message>
+    <message>
+        <source>If no browser opened, open this &amp;address yourself:</source>
+        <translation>ブラウザが開かない場合は、このアドレスを開いてください(&amp;A):</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>コピー(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Code:</source>
+        <translation>コード(&amp;C):</translation>
+    </message>
+    <message>
+        <source>Open the browser again</source>
+        <translation>ブラウザをもう一度開く</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>続ける</translation>
+    </message>
+    <message>
+        <source>This is not the answer that is waited for.</source>
+        <translation>これは待っている応答ではありません。</translation>
+    </message>
+    <message>
+        <source>Your answer has arrived. You can close this page.</source>
+        <translation>応答を受け取りました。このページを閉じてかまいません。</translation>
+    </message>
+    <message>
+        <source>This request is too long.</source>
+        <translation>この要求は長すぎます。</translation>
+    </message>
+    <message>
+        <source>This request cannot be read.</source>
+        <translation>この要求は読み取れません。</translation>
+    </message>
+    <message>
+        <source>There is nothing here.</source>
+        <translation>ここには何もありません。</translation>
     </message>
 </context>
 </TS>

@@ -179,5 +179,61 @@
         <source>Automatically discover nearby devices</source>
         <translation>自动发现附近的设备</translation>
     </message>
+    <message>
+        <source>Sign in</source>
+        <translation>登录</translation>
+    </message>
+    <message>
+        <source>Sign in with your browser. It shows you a code at the end: enter the code here to go on.</source>
+        <translation>请在浏览器中登录。登录结束时会显示一个代码，请在此输入以继续。</translation>
+    </message>
+    <message>
+        <source>Waiting for you to sign in with your browser. This window closes by itself when you are done.</source>
+        <translation>正在等待您在浏览器中登录。完成后此窗口会自动关闭。</translation>
+    </message>
+    <message>
+        <source>If no browser opened, open this &amp;address yourself:</source>
+        <translation>如果浏览器没有打开，请自行打开此地址(&amp;A)：</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>复制(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Code:</source>
+        <translation>代码(&amp;C)：</translation>
+    </message>
+    <message>
+        <source>Open the browser again</source>
+        <translation>再次打开浏览器</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>继续</translation>
+    </message>
+    <message>
+        <source>This is not the answer that is waited for.</source>
+        <translation>这不是所等待的应答。</translation>
+    </message>
+    <message>
+        <source>Your answer has arrived. You can close this page.</source>
+        <translation>已收到您的应答。您可以关闭此页面。</translation>
+    </message>
+    <message>
+        <source>This request is too long.</source>
+        <translation>此请求过长。</translation>
+    </message>
+    <message>
+        <source>This request cannot be read.</source>
+        <translation>无法读取此请求。</translation>
+    </message>
+    <message>
+        <source>There is nothing here.</source>
+        <translation>这里没有内容。</translation>
+    </message>
 </context>
 </TS>

@@ -1,0 +1,4 @@
+#include "host/KZUtility/KZKeychainBackend.h"
+
+KZKeychainBackend::KZKeychainBackend() = default;
+KZKeychainBackend::~KZKeychainBackend() = default;

@@ -1,0 +1,153 @@
+#include "KZPreference/panes/meetings/MeetingSubView.h"
+
+#include <gtest/gtest.h>
+
+#include <QClipboard>
+#include <QTest>
+
+#include "KZPreference/core/PreferenceActionDelegate.h"
+#include "KZPreference/layout/PrefMeetingView+Visible.h"
+#include "KZPreference/layout/PrefsViewDefine.h"
+#include "host/KZFoundation/KZConstants.h"
+#include "host/KZUIExtension/BRNHyperlinkTextField.h"
+#include "host/KZUtility/KZPlistFileHandle.h"
+#include "host/KZUtility/KZTrace.h"
+#include "platform/FrameLayout.h"
+#include "tests/KZPreference/panes/meetings/SilentSender.h"
+
+namespace {
+
+const QString kRoom = QStringLiteral("https://brenn.example/meet/ann");
+const QString kVideo = QStringLiteral("ann@brenn.example");
+
+class MeetingSubViewTest : public testing::Test {
+ protected:
+  MeetingSubViewTest() {
+    muteKZTrace();
+    holder.resize(800, 200);
+    view = new MeetingSubView({.x = 0, .y = 0, .width = 600, .height = 72}, &delegate);
+    addSubview(&holder, view, frameOf(view));
+    holder.show();
+  }
+  ~MeetingSubViewTest() override { setKZTraceSink({}); }
+
+  BRNHyperlinkTextField& link(const char* name) const {
+    return *view->findChild<BRNHyperlinkTextField*>(name);
+  }
+  // What is drawn below the title, each text with its place.
+  QStringList drawn() const {
+    QStringList lines;
+    for (const DrawnText& text : view->drawnTexts().mid(1))
+      lines.append(QStringLiteral("%1 at %2,%3").arg(text.text).arg(text.frame.x).arg(text.frame.y));
+    return lines;
+  }
+
+  SilentSender sender;
+  PreferenceActionDelegate delegate{&sender};
+  QWidget holder;
+  MeetingSubView* view;
+};
+
+TEST_F(MeetingSubViewTest, AddressesAndTheirLinksAreWhereTheyShouldBe) {
+  const QString pmrlabel = PrefMeetingViewVisible::pmrlabel();
+  const QString siplabel = PrefMeetingViewVisible::siplabel();
+  const double column = std::max(labelTextWidth(pmrlabel), labelTextWidth(siplabel));
+  const double rowPitch = sizeOfText(kVideo, FontRole::Label, labelFontSize).height + 8;
+  const auto line = [](const QString& text, double x, double y) {
+    return QStringLiteral("%1 at %2,%3").arg(text).arg(x).arg(y);
+  };
+  EXPECT_TRUE(drawn().isEmpty());
+  EXPECT_TRUE(link("m_copyPmrurlBtn").isHidden() && link("m_copySipurlBtn").isHidden());
+
+  view->setPMRUrl(QString(), kVideo);
+  EXPECT_EQ(drawn(),
+            QStringList({line(siplabel, 60, 0), line(kVideo, 60 + labelTextWidth(siplabel) + 10, 0)}));
+  EXPECT_TRUE(link("m_copyPmrurlBtn").isHidden());
+  EXPECT_EQ(frameOf(&link("m_copySipurlBtn")).x, 60 + column + 10 + labelTextWidth(kVideo) + 10);
+
+  view->setPMRUrl(kRoom, QString());
+  EXPECT_EQ(drawn(),
+            QStringList({line(siplabel, 60, 0), line(pmrlabel, 60, rowPitch),
+                         line(kVideo, 60 + column + 10, 0), line(kRoom, 60 + column + 10, rowPitch)}));
+  EXPECT_EQ(frameOf(&link("m_copyPmrurlBtn")).x, 60 + column + 10 + labelTextWidth(kRoom) + 10);
+  EXPECT_EQ(frameOf(&link("m_copyPmrurlBtn")).y, rowPitch);
+  view->setPMRUrl(QString(), QString());
+  EXPECT_EQ(drawn().size(), 4);
+}
+
+TEST_F(MeetingSubViewTest, TheGroupsSizeFollowsTheStoredAddresses) {
+  const QString copy = QStringLiteral("Copy");
+  const double fixed = 32 + labelTextWidth(copy) + 60 + 4 + 4;
+  const double pmr = labelTextWidth(PrefMeetingViewVisible::pmrlabel());
+  const double sip = labelTextWidth(PrefMeetingViewVisible::siplabel());
+  const struct {
+    QVariant room;
+    QVariant video;
+    double width;
+    double height;
+  } cases[] = {
+      {QVariant(), QVariant(), 320, 20},
+      {QStringLiteral(""), 5, 320, 20},
+      {kRoom, QVariant(), fixed + pmr + labelTextWidth(kRoom), 48},
+      {QVariant(), kVideo, fixed + sip + labelTextWidth(kVideo), 48},
+      {kRoom, kVideo, fixed + std::max(pmr, sip) + labelTextWidth(kRoom), 72},
+  };
+  for (const auto& tried : cases) {
+    Dictionary info;
+    if (tried.room.isValid()) info.insert(QRT_Preference_PMRUrl, tried.room);
+    if (tried.video.isValid()) info.insert(QRT_Preference_PMRSipUrl, tried.video);
+    KZPlistFileHandle::sharedInstance().setPreferenceInfo(info);
+    const Size size = PrefMeetingViewVisible::caculateMeetingSubViewSize();
+    EXPECT_DOUBLE_EQ(size.width, tried.width);
+    EXPECT_EQ(size.height, tried.height);
+  }
+  KZPlistFileHandle::sharedInstance().close();
+}
+
+TEST_F(MeetingSubViewTest, CopyPutsTheAddressOnTheClipboardAndSaysSoForASecond) {
+  view->setPMRUrl(kRoom, kVideo);
+  BRNHyperlinkTextField& room = link("m_copyPmrurlBtn");
+  BRNHyperlinkTextField& video = link("m_copySipurlBtn");
+  const Frame before = frameOf(&room);
+  QTest::mouseClick(&room, Qt::LeftButton);
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), kRoom);
+  EXPECT_EQ(room.stringValue(), "Copied");
+  EXPECT_EQ(video.stringValue(), "Copy");
+  const double copiedWidth =
+      sizeOfText(QStringLiteral("Copied"), FontRole::BoldSystem, boldLabelFontSize).width + 4;
+  EXPECT_EQ(frameOf(&room),
+            (Frame{.x = before.x, .y = before.y, .width = copiedWidth, .height = before.height}));
+
+  QTest::qWait(500);
+  QTest::mouseClick(&video, Qt::LeftButton);
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), kVideo);
+  // A second click in the same second copies again; the first click's reset still comes at its time.
+  QTest::mouseClick(&room, Qt::LeftButton);
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), kRoom);
+  QTest::qWait(250);
+  EXPECT_EQ(room.stringValue(), "Copied");
+  EXPECT_TRUE(QTest::qWaitFor([&room] { return room.stringValue() == QLatin1String("Copy"); }, 600));
+  EXPECT_EQ(video.stringValue(), "Copied");
+  EXPECT_TRUE(QTest::qWaitFor([&video] { return video.stringValue() == QLatin1String("Copy"); }, 1500));
+  EXPECT_EQ(frameOf(&room).width, copiedWidth);
+}
+
+// With one address the group's frame can be too narrow for its link; the pane has the room.
+TEST_F(MeetingSubViewTest, ALinkBeyondTheFrameStillShows) {
+  const double x = frameOf(view).width - 10;
+  setFrame(&link("m_copySipurlBtn"), {.x = x, .y = 0, .width = 60, .height = 16});
+  link("m_copySipurlBtn").show();
+  setFrame(view, {.x = 0, .y = 8, .width = 500, .height = 72});
+  EXPECT_EQ(frameOf(view).width, 500);
+  EXPECT_EQ(link("m_copySipurlBtn").visibleRegion().boundingRect().width(), 60);
+}
+
+// The reset that is still to come must not touch a view that has gone.
+TEST_F(MeetingSubViewTest, AViewThatGoesWithinTheSecondIsLeftAlone) {
+  view->setPMRUrl(kRoom, kVideo);
+  QTest::mouseClick(&link("m_copyPmrurlBtn"), Qt::LeftButton);
+  delete view;
+  QTest::qWait(1100);
+}
+
+}  // namespace

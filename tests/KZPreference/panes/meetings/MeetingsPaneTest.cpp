@@ -1,0 +1,155 @@
+#include <gtest/gtest.h>
+#include <malloc.h>
+
+#include <QLineEdit>
+#include <QRadioButton>
+
+#include "KZPreference/core/PreferenceActionDelegate.h"
+#include "KZPreference/panes/meetings/NonSignInPrefMeetingView.h"
+#include "KZPreference/panes/meetings/PrefMeetingView.h"
+#include "host/KZFoundation/KZConstants.h"
+#include "host/KZUtility/KZPlistFileHandle.h"
+#include "host/KZUtility/KZTrace.h"
+#include "platform/FrameLayout.h"
+#include "platform/PopUpButton.h"
+#include "tests/KZPreference/panes/meetings/SilentSender.h"
+
+namespace {
+
+class MeetingsPaneTest : public testing::Test {
+ protected:
+  MeetingsPaneTest() {
+    muteKZTrace();
+    KZPlistFileHandle::sharedInstance().close();
+  }
+  ~MeetingsPaneTest() override { setKZTraceSink({}); }
+
+  std::unique_ptr<PrefMeetingView> signedInPane() {
+    const Size size = PrefMeetingView::caculateViewSize();
+    return std::make_unique<PrefMeetingView>(Frame{.x = 0, .y = 0, .width = 600, .height = size.height},
+                                             &delegate);
+  }
+  static Frame frameIn(const QWidget& pane, const char* name) {
+    return frameOf(pane.findChild<QWidget*>(QLatin1String(name)));
+  }
+
+  SilentSender sender;
+  PreferenceActionDelegate delegate{&sender};
+};
+
+// Where the radio button is below the group's upper edge; nothing when it is hidden.
+std::optional<double> rowOf(const QWidget& pane, const char* name) {
+  const auto* button = pane.findChild<QRadioButton*>(QLatin1String(name));
+  if (button->isHidden()) return std::nullopt;
+  return frameOf(button->parentWidget()).height - frameOf(button).y;
+}
+
+// Three records in a row, the first in each of the sixteen combinations: rows are packed from the top, a
+// source that was hidden once never comes back, and pane and heading grow every time.
+TEST_F(MeetingsPaneTest, OptionRecordsPackTheSourcesAndGrowThePane) {
+  for (int bits = 0; bits < 16; ++bits) {
+    const KZCalendarIntegrationOption first{.isEnableNone = (bits & 1) != 0,
+                                            .isEnableMivra = (bits & 2) != 0,
+                                            .isEnableGoogle = (bits & 4) != 0,
+                                            .isEnableOutlook = (bits & 8) != 0};
+    const KZCalendarIntegrationOption all{.isEnableNone = true, .isEnableGoogle = true};
+    const auto pane = signedInPane();
+    const char* const raised[] = {"m_meetingView", "m_calendarView", "m_splitline1", "m_splitline2"};
+    std::vector<Frame> before;
+    for (const char* name : raised) before.push_back(frameIn(*pane, name));
+    const double height = frameOf(pane.get()).height;
+    const double groupHeight = frameIn(*pane, "m_integrationView").height;
+    const double headingWidth = frameIn(*pane, "m_integrationTxt").width;
+    double growth = 0;
+    int records = 0;
+    for (const KZCalendarIntegrationOption& option : {first, all, first}) {
+      SCOPED_TRACE(std::to_string(bits) + ", record " + std::to_string(++records));
+      pane->setCalendarIntergrationOption(option);
+      growth += (option.isEnableNone ? 26 : 0) + (option.isEnableGoogle ? 26 : 0);
+      EXPECT_EQ(frameOf(pane.get()).height, height + growth);
+      EXPECT_EQ(frameIn(*pane, "m_integrationView").height, groupHeight + growth);
+      for (std::size_t i = 0; i < before.size(); ++i)
+        EXPECT_EQ(frameIn(*pane, raised[i]).y, before[i].y + growth) << raised[i];
+      const Frame heading = frameIn(*pane, "m_integrationTxt");
+      EXPECT_EQ(heading.width, headingWidth + 4 * records);
+      EXPECT_EQ(heading.maxY(), groupHeight + growth);
+      EXPECT_EQ(frameIn(*pane, "m_emailInputTxt").y, 94);
+
+      double row = 50;
+      const auto next = [&row](bool isShown) {
+        const auto place = isShown ? std::optional(row) : std::nullopt;
+        if (isShown) row += 26;
+        return place;
+      };
+      // Hidden by a record, and for good; one that is enabled again while hidden still takes its row.
+      const auto skip = [&row](bool isEnabled) {
+        if (isEnabled) row += 26;
+      };
+      if (first.isEnableNone) {
+        EXPECT_EQ(rowOf(*pane, "m_noneRadioBtn"), next(true));
+      } else {
+        EXPECT_EQ(rowOf(*pane, "m_noneRadioBtn"), std::nullopt);
+        skip(option.isEnableNone);
+      }
+      EXPECT_EQ(rowOf(*pane, "m_mivraRadioBtn"), next(true));
+      if (first.isEnableGoogle) {
+        EXPECT_EQ(rowOf(*pane, "m_googleRadioBtn"), next(true));
+      } else {
+        EXPECT_EQ(rowOf(*pane, "m_googleRadioBtn"), std::nullopt);
+        skip(option.isEnableGoogle);
+      }
+      EXPECT_EQ(rowOf(*pane, "m_outlookRadioBtn"), next(true));
+    }
+  }
+}
+
+TEST_F(MeetingsPaneTest, TenThousandRecordsAndUpdatesLeaveNothingElseBehind) {
+  const auto pane = signedInPane();
+  const auto round = [&pane] {
+    pane->setCalendarIntergrationOption({.isEnableNone = true, .isEnableGoogle = true});
+    pane->setCalendarPreference({{kKZCalendarIntegrationSource, kKZCalendarIntegrationSourceOutlook},
+                                 {kKZCalendarIntegrationDays, QStringLiteral("7")}});
+    pane->setPmrurl(QStringLiteral("https://brenn.example/ann"), QStringLiteral("ann@brenn.example"));
+  };
+  const double height = frameOf(pane.get()).height;
+  for (int i = 0; i < 100; ++i) round();
+  const qsizetype objects = pane->findChildren<QObject*>().size();
+  const auto used = mallinfo2().uordblks;
+  for (int i = 0; i < 10'000; ++i) round();
+  const auto grown = mallinfo2().uordblks - used;
+  EXPECT_EQ(pane->findChildren<QObject*>().size(), objects);
+  EXPECT_EQ(frameOf(pane.get()).height, height + 10'100 * 52);
+  RecordProperty("grown_bytes", std::to_string(grown));
+#ifndef __SANITIZE_ADDRESS__
+  EXPECT_LT(static_cast<long long>(grown), 64 * 1024);
+#endif
+}
+
+TEST_F(MeetingsPaneTest, TheDaysPopUpShowsWhatIsStoredAndStoresWhatIsChosen) {
+  const auto pane = signedInPane();
+  auto* days = pane->findChild<PopUpButton*>("m_daysBtn");
+  const struct {
+    QVariant stored;
+    const char* title;
+  } cases[] = {{QVariant(), "7"}, {"14", "14"}, {"1", "1"}, {"30", "30"}, {14, "7"}};
+  for (const auto& tried : cases) {
+    pane->setCalendarPreference({{kKZCalendarIntegrationDays, tried.stored}});
+    EXPECT_EQ(days->title(), tried.title);
+  }
+  days->setCurrentIndex(2);
+  Q_EMIT days->activated(2);
+  EXPECT_EQ(textValue(KZPlistFileHandle::sharedInstance().calendarIntegration(), kKZCalendarIntegrationDays),
+            "14");
+}
+
+TEST_F(MeetingsPaneTest, TheGuestsPaneStacksTwoGroups) {
+  const Size size = NonSignInPrefMeetingView::caculateViewSize();
+  const NonSignInPrefMeetingView pane({.x = 0, .y = 0, .width = 700, .height = size.height}, &delegate);
+  EXPECT_EQ(size.height, 24 + 50 + 36 + 172 + 24);
+  EXPECT_EQ(frameIn(pane, "m_calendarView").y, 24 + 172 + 36);
+  EXPECT_EQ(frameIn(pane, "m_splitline"), (Frame{.x = 24, .y = 24 + 172 + 18, .width = 652, .height = 1}));
+  EXPECT_EQ(frameIn(pane, "m_outlookRadioBtn").y, 172 - 50);
+  EXPECT_EQ(pane.findChildren<QRadioButton*>().size(), 1);
+}
+
+}  // namespace
