@@ -16,9 +16,9 @@ class ViewAnimation;
 
 enum class Animate { No, Yes };
 
-// A window with a toolbar of panes, of which it shows one. A switch keeps the window's upper edge in place and, with
-// `crossFade`, blends the panes. Subclasses fill the toolbar in `setupToolbar`, which the first showing calls. Main
-// thread only.
+// A window with a toolbar of panes, of which it shows one. A switch keeps the window's upper edge in place
+// and, with `crossFade`, blends the panes. Subclasses fill the toolbar in `setupToolbar`, which the first
+// showing calls. Main thread only.
 class LWPrefsWindowController : public WindowController {
   Q_OBJECT
   Q_PROPERTY(bool crossFade READ crossFade WRITE setCrossFade)
@@ -50,8 +50,8 @@ class LWPrefsWindowController : public WindowController {
   void addToolbarItemForIdentifier(const QString& identifier, const QString& label, const QIcon& image,
                                    ToolbarAction action);
   void addFlexibleSpacer();
-  // The pane's identifier is its label. A missing view is ignored; the view is owned from here on. Without an image,
-  // "preference_" and the label in lower case name one.
+  // The pane's identifier is its label. A missing view is ignored; the view is owned from here on. Without an
+  // image, "preference_" and the label in lower case name one.
   void addView(View* view, const QString& label);
   void addView(View* view, const QString& label, const QIcon& image);
 

@@ -20,7 +20,8 @@ constexpr int kWarningSign = 48;
 constexpr int kWarningTextLeft = kWarningMargin + kWarningSign + 16;
 constexpr int kMessageWidth = 320;
 constexpr int kMostLines = 10;
-constexpr int kLongestTitle = 300;  // a title beyond that is a mistake, and would make the window huge
+constexpr int kLongestMessage = 10'000;  // nobody reads on, and one endless line would take minutes to break
+constexpr int kLongestTitle = 300;       // a title beyond that is a mistake, and would make the window huge
 
 // The message and title look like labels, in the window's own colour.
 void makeMessageFlat(QPlainTextEdit* message) {
@@ -69,8 +70,10 @@ void KZWarningWindow::setTexts(const QString& title, const QString& message) {
   setAccessibleName(title);
   m_title->setText(title.left(kLongestTitle));
   m_title->setVisible(!title.isEmpty());
-  m_message->setPlainText(message);
-  m_message->setAccessibleName(message);
+  const QString shown =
+      message.size() > kLongestMessage ? message.left(kLongestMessage) + QChar(0x2026) : message;
+  m_message->setPlainText(shown);
+  m_message->setAccessibleName(shown);
   m_message->setVisible(!message.isEmpty());
   fitMessage();
 }

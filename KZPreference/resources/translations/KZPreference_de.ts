@@ -85,7 +85,7 @@
     </message>
     <message>
         <source>Video address:</source>
-        <translation>Videoadresse:</translation>
+        <translation>Adresse für Video:</translation>
     </message>
     <message>
         <source>Copy</source>

@@ -81,7 +81,7 @@
     </message>
     <message>
         <source>Personal Room:</source>
-        <translation>Sala personal:</translation>
+        <translation>Mi sala personal:</translation>
     </message>
     <message>
         <source>Video address:</source>

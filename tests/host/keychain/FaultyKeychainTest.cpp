@@ -3,6 +3,7 @@
 #include <QElapsedTimer>
 #include <functional>
 
+#include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/SecretServiceKeychain.h"
 #include "tests/host/TraceWatch.h"
 #include "tests/host/keychain/ServiceProcess.h"

@@ -4,6 +4,7 @@
 #include <atomic>
 #include <thread>
 
+#include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/SecretServiceKeychain.h"
 #include "tests/host/TraceWatch.h"
 #include "tests/host/keychain/ServiceProcess.h"

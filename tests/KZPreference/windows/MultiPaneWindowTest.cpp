@@ -1,0 +1,266 @@
+#include <gtest/gtest.h>
+
+#include <QLineEdit>
+#include <QProxyStyle>
+#include <QTest>
+#include <QToolBar>
+#include <QToolButton>
+#include <QVariantAnimation>
+
+#include "KZPreference/windows/LWPrefsWindowController.h"
+#include "host/KZUtility/KZTrace.h"
+#include "platform/FrameLayout.h"
+#include "platform/PopUpButton.h"
+#include "platform/View.h"
+#include "platform/ViewAnimation.h"
+
+namespace {
+
+class StillStyle final : public QProxyStyle {
+ public:
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* answer) const override {
+    return hint == SH_Widget_Animate ? 0 : QProxyStyle::styleHint(hint, option, widget, answer);
+  }
+};
+
+class Controller final : public LWPrefsWindowController {
+ public:
+  explicit Controller(const QStringList& labels = {"Short", "Tall", "Middle"}) : m_labels(labels) {}
+
+  int setups = 0;
+
+ protected:
+  void setupToolbar() override {
+    ++setups;
+    double height = 60;
+    for (const QString& label : m_labels) {
+      if (label == "-") {
+        addFlexibleSpacer();
+        continue;
+      }
+      auto* view = new View({0, 0, 320.5, height});
+      view->setObjectName(label + QString::number(height));
+      addView(view, label);
+      height = height == 60 ? 240 : 120;
+    }
+    addView(nullptr, "Nothing");
+  }
+
+ private:
+  QStringList m_labels;
+};
+
+class MultiPaneWindowTest : public testing::Test {
+ protected:
+  MultiPaneWindowTest() { muteKZTrace(); }
+  ~MultiPaneWindowTest() override { setKZTraceSink({}); }
+
+  void show() {
+    m_controller.showWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window()));
+    m_toolbarHeight = window()->height() - 60;
+  }
+  Window* window() { return m_controller.window(); }
+  QWidget* content() { return window()->findChild<QWidget*>("contentSubview"); }
+  View* pane(const char* name) { return window()->findChild<View*>(QLatin1String(name)); }
+  QList<QWidget*> shown() { return subviewsOf(content()); }
+  bool isFading() { return animation()->state() != QAbstractAnimation::Stopped; }
+  QVariantAnimation* animation() { return m_controller.findChild<QVariantAnimation*>(); }
+  void click(const QString& label, Qt::KeyboardModifiers modifiers = {}) {
+    for (QToolButton* button : window()->findChildren<QToolButton*>()) {
+      if (button->text() != label) continue;
+      QTest::mouseClick(window()->windowHandle(), Qt::LeftButton, modifiers,
+                        button->mapTo(window(), button->rect().center()));
+    }
+  }
+  void expectSettledOn(const char* name, double height) {
+    EXPECT_FALSE(isFading());
+    EXPECT_EQ(shown(), QList<QWidget*>{pane(name)});
+    EXPECT_TRUE(pane(name)->isVisible());
+    EXPECT_EQ(pane(name)->mapTo(window(), QPoint()), QPoint(0, m_toolbarHeight));
+    EXPECT_EQ(window()->height(), m_toolbarHeight + height);
+    EXPECT_EQ(frameOf(window()).width, 320.5);
+    EXPECT_EQ(window()->maximumSize(), window()->minimumSize());
+  }
+
+  Controller m_controller;
+  int m_toolbarHeight = 0;
+};
+
+TEST_F(MultiPaneWindowTest, TheFirstShowingBuildsAndCentresLaterOnesOnlyShow) {
+  show();
+  expectSettledOn("Short60", 60);
+  const QPoint middle = window()->geometry().center() - window()->screen()->availableGeometry().center();
+  EXPECT_LE(middle.manhattanLength(), 3);
+  EXPECT_EQ(window()->windowTitle(), "Preferences");
+
+  m_controller.loadViewForIdentifier("Tall", Animate::No);
+  m_controller.loadViewForIdentifier("Nowhere", Animate::Yes);
+  window()->move(7, 9);
+  m_controller.close();
+  EXPECT_FALSE(window()->isVisible());
+  m_controller.showWindow();
+  EXPECT_EQ(m_controller.setups, 1);
+  EXPECT_EQ(window()->pos(), QPoint(7, 9));
+  expectSettledOn("Tall240", 240);
+}
+
+TEST_F(MultiPaneWindowTest, AClickFadesAndKeepsTheUpperEdge) {
+  show();
+  const QPoint corner = window()->geometry().topLeft();
+  for (const auto& [label, name, height] : {std::tuple{"Tall", "Tall240", 240}, {"Short", "Short60", 60}}) {
+    const int from = window()->height();
+    click(label);
+    ASSERT_TRUE(isFading());
+    animation()->pause();
+    animation()->setCurrentTime(125);
+    EXPECT_NEAR(window()->height(), (from + m_toolbarHeight + height) / 2.0, 1);
+    EXPECT_EQ(window()->geometry().topLeft(), corner);
+    EXPECT_EQ(pane(name)->mapTo(window(), QPoint()).y(), m_toolbarHeight);
+    animation()->setCurrentTime(250);
+    expectSettledOn(name, height);
+    EXPECT_EQ(window()->geometry().topLeft(), corner);
+    EXPECT_EQ(window()->focusWidget(), nullptr);
+  }
+}
+
+TEST_F(MultiPaneWindowTest, ASecondSwitchInMidFlightEndsOnTheLastPane) {
+  show();
+  const QPoint corner = window()->geometry().topLeft();
+  click("Tall");
+  animation()->pause();
+  animation()->setCurrentTime(100);
+  click("Middle");
+  animation()->pause();
+  animation()->setCurrentTime(20);
+  click("Tall");
+  animation()->pause();
+  click("Tall");  // asked for already: the fade goes on
+  EXPECT_TRUE(isFading());
+  animation()->setCurrentTime(250);
+  expectSettledOn("Tall240", 240);
+
+  click("Short");
+  animation()->pause();
+  m_controller.loadViewForIdentifier("Middle", Animate::No);
+  expectSettledOn("Middle120", 120);
+  EXPECT_EQ(window()->geometry().topLeft(), corner);
+}
+
+TEST_F(MultiPaneWindowTest, ShiftSlowsTheFade) {
+  show();
+  const struct {
+    const char* label;
+    bool shiftSlows;
+    Qt::KeyboardModifiers modifiers;
+    int duration;
+  } rows[] = {{"Tall", true, Qt::ShiftModifier, 1250},
+              {"Middle", true, {}, 250},
+              {"Short", true, Qt::ControlModifier, 250},
+              {"Tall", false, Qt::ShiftModifier, 250}};
+  for (const auto& row : rows) {
+    m_controller.setShiftSlowsAnimation(row.shiftSlows);
+    click(row.label, row.modifiers);
+    EXPECT_TRUE(isFading());
+    EXPECT_EQ(animation()->duration(), row.duration) << row.label;
+  }
+}
+
+TEST_F(MultiPaneWindowTest, SwitchesAtOnceWithoutFadeAndWithReducedMotion) {
+  show();
+  m_controller.setCrossFade(false);
+  click("Tall");
+  expectSettledOn("Tall240", 240);
+  m_controller.setCrossFade(true);
+  StillStyle still;
+  window()->setStyle(&still);
+  click("Middle");
+  expectSettledOn("Middle120", 120);
+  window()->setStyle(nullptr);
+}
+
+TEST_F(MultiPaneWindowTest, SelectingTheShownPaneDoesNothing) {
+  show();
+  const QRect before = window()->geometry();
+  click("Short");
+  EXPECT_FALSE(isFading());
+  EXPECT_EQ(window()->geometry(), before);
+}
+
+TEST_F(MultiPaneWindowTest, OnlyCommandAndASmallWCloses) {
+  show();
+  auto* field = new QLineEdit;
+  addSubview(pane("Short60"), field, {0, 0, 50, 20});
+  auto* popUp = new PopUpButton({"w", "x"});
+  addSubview(pane("Short60"), popUp, {60, 0, 50, 20});
+  for (QWidget* focused :
+       {static_cast<QWidget*>(pane("Short60")), static_cast<QWidget*>(field), static_cast<QWidget*>(popUp)}) {
+    const struct {
+      Qt::Key key;
+      Qt::KeyboardModifiers modifiers;
+      bool isClosing;
+    } rows[] = {{Qt::Key_W, {}, false},
+                {Qt::Key_W, Qt::ControlModifier | Qt::ShiftModifier, false},
+                {Qt::Key_W, Qt::AltModifier, false},
+                {Qt::Key_Q, Qt::ControlModifier, false},
+                {Qt::Key_W, Qt::ControlModifier, true}};
+    for (const auto& row : rows) {
+      focused->setFocus();
+      QTest::keyClick(window()->windowHandle(), row.key, row.modifiers);
+      EXPECT_EQ(window()->isVisible(), !row.isClosing) << focused->metaObject()->className() << row.key;
+    }
+    m_controller.showWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window()));
+  }
+}
+
+TEST(MultiPaneWindow, APaneTallerThanTheScreenScrolls) {
+  muteKZTrace();
+  class TallController final : public LWPrefsWindowController {
+   protected:
+    void setupToolbar() override {
+      addView(new View({0, 0, 300, 100}), "Low");
+      addView(new View({0, 0, 300, 5000}), "High");
+    }
+  } controller;
+  controller.showWindow();
+  controller.loadViewForIdentifier("High", Animate::No);
+  EXPECT_LE(controller.window()->height(), controller.window()->screen()->availableSize().height());
+  EXPECT_EQ(controller.window()->findChild<QWidget*>("contentSubview")->height(), 5000);
+  setKZTraceSink({});
+}
+
+TEST(MultiPaneWindow, OnePaneOfALabelIsReachableAndTheCollisionIsTraced) {
+  QStringList trace;
+  setKZTraceSink([&](const KZTraceRecord& record) { trace.append(record.text); });
+  {
+    Controller controller({"Same", "-", "Other", "-", "Same"});
+    controller.showWindow();
+    auto* toolbar = controller.window()->findChild<QToolBar*>();
+    EXPECT_EQ(toolbar->actions().size(), 4);
+    EXPECT_EQ(subviewsOf(controller.window()->findChild<QWidget*>("contentSubview")),
+              QList<QWidget*>{controller.window()->findChild<View*>("Same120")});
+    EXPECT_EQ(trace, QStringList{"two toolbar items are called Same"});
+  }
+  {
+    Controller empty{QStringList()};
+    empty.showWindow();
+    empty.showWindow();
+    EXPECT_FALSE(empty.window()->isVisible());
+    Controller neverShown;
+  }
+  setKZTraceSink({});
+}
+
+TEST(MultiPaneWindow, TheSharedInstanceLivesUntilItIsDestroyed) {
+  LWPrefsWindowController& shared = LWPrefsWindowController::sharedPrefsWindowController<Controller>();
+  EXPECT_EQ(&LWPrefsWindowController::sharedPrefsWindowController<Controller>(), &shared);
+  shared.showWindow();
+  const QPointer<QWidget> window = shared.window();
+  LWPrefsWindowController::destroyPrefsWindowController();
+  EXPECT_FALSE(window);
+  LWPrefsWindowController::destroyPrefsWindowController();
+}
+
+}  // namespace
