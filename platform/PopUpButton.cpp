@@ -27,6 +27,8 @@ QString PopUpButton::title() const {
 // The list is a window of its own, which inherits neither style nor palette, and is dear to make: it is
 // dressed when it is wanted.
 void PopUpButton::showPopup() {
+  m_hasList = true;
+  view()->setFont(font());
   QWidget* list = view()->window();
   for (QWidget* part : list->findChildren<QWidget*>())
     if (part->style() != style()) part->setStyle(style());
@@ -34,6 +36,14 @@ void PopUpButton::showPopup() {
   list->setPalette(palette());
   view()->setPalette(palette());
   QComboBox::showPopup();
+}
+
+// The base would make the list only to dress it.
+void PopUpButton::changeEvent(QEvent* event) {
+  const QEvent::Type type = event->type();
+  const bool isDress = type == QEvent::FontChange || type == QEvent::StyleChange || type == QEvent::PaletteChange;
+  if (isDress && !m_hasList) return QWidget::changeEvent(event);
+  QComboBox::changeEvent(event);
 }
 
 // The search for an item by its letters would swallow the window's own shortcuts.

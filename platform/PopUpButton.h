@@ -20,9 +20,11 @@ class PLATFORM_EXPORT PopUpButton : public QComboBox {
   void chosen(const QString& title);  // by the user only
 
  protected:
+  void changeEvent(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
   QString m_foreignTitle;
+  bool m_hasList = false;
 };
