@@ -4,6 +4,7 @@
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QHash>
+#include <QPainter>
 #include <cmath>
 
 namespace {
@@ -81,4 +82,14 @@ Size sizeOfText(const QString& text, FontRole role, double size) {
   FontTable& table = FontTable::current();
   const FontKind kind = fontKind(role, size);
   return {.width = text.isEmpty() ? 0.0 : table.width(text, kind), .height = table.height(kind)};
+}
+
+void drawTextLine(QPainter* painter, const QRectF& box, Qt::Alignment alignment, const QString& text) {
+  const QFontMetricsF metrics(painter->font(), painter->device());
+  const double room = box.width() - metrics.horizontalAdvance(text);
+  double x = box.x();
+  if (alignment.testFlag(Qt::AlignRight)) x += room;
+  if (alignment.testFlag(Qt::AlignHCenter)) x += room / 2;
+  const double top = box.y() + (box.height() - metrics.height()) / 2;
+  painter->drawText(QPointF(x, std::round(top + metrics.ascent())), text);
 }
