@@ -9,7 +9,7 @@ BUILD ?= build
 SANITIZE_BUILD ?= build-sanitize
 TEST_JOBS ?= $(JOBS)
 
-.PHONY: run build test lint sanitize bench pictures host-guide clean packages
+.PHONY: run build test lint sanitize bench pictures host-guide package clean packages
 
 run: build
 	$(BUILD)/bin/companion
@@ -39,6 +39,10 @@ pictures: build
 # The tables of docs/host-guide.md, from the code's own.
 host-guide: build
 	@tools/host-guide.py $(BUILD)/bin/host-guide-tables
+
+# A Debian package of the plug-in, its programs and the host SDK.
+package: build
+	@cd $(BUILD) && cpack -G DEB
 
 clean:
 	rm -rf $(BUILD) $(SANITIZE_BUILD) build-lint

@@ -21,7 +21,7 @@ endif()
 # kz_target(NAME): what every library, plug-in and program of ours has in common.
 function(kz_target name)
   target_link_libraries(${name} PRIVATE kz_options)
-  target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR})
+  target_include_directories(${name} PUBLIC $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}>)
 endfunction()
 
 # kz_test(NAME SOURCES... LIBRARIES...): a GoogleTest program that runs without a display.

@@ -11,9 +11,7 @@ class LookStyle final : public QProxyStyle {
   LookStyle();
 
   void polish(QWidget* widget) override;
-  void unpolish(QWidget* widget) override;
   using QProxyStyle::polish;
-  using QProxyStyle::unpolish;
 
   int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
@@ -30,8 +28,4 @@ class LookStyle final : public QProxyStyle {
                    const QWidget* widget) const override;
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                           const QWidget* widget) const override;
-
- protected:
-  // Keeps the lists of pop-up buttons in their palette.
-  bool eventFilter(QObject* watched, QEvent* event) override;
 };

@@ -2,6 +2,7 @@
 #include <QWidget>
 
 #include "platform/LookStyleParts.h"
+#include "platform/Text.h"
 
 namespace {
 
@@ -107,11 +108,10 @@ void drawChoice(const QStyleOptionButton& option, bool isRadio, QPainter* painte
 
   const QRect text =
       QStyle::visualRect(option.direction, option.rect, option.rect.adjusted(kIndicatorRoom, 0, 0, 0));
-  const QString shown =
-      option.fontMetrics.elidedText(option.text, Qt::ElideRight, text.width(), Qt::TextShowMnemonic);
-  const int alignment = int(QStyle::visualAlignment(option.direction, Qt::AlignLeft | Qt::AlignVCenter));
+  const QString shown = option.fontMetrics.elidedText(option.text, Qt::ElideRight, text.width());
+  const Qt::Alignment alignment = QStyle::visualAlignment(option.direction, Qt::AlignLeft);
   painter->setPen(option.palette.color(widget ? widget->foregroundRole() : QPalette::WindowText));
-  painter->drawText(text, alignment | Qt::TextSingleLine | Qt::TextHideMnemonic, shown);
+  drawTextLine(painter, text, alignment, shown);
 }
 
 }  // namespace lookButtons

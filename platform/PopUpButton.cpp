@@ -1,5 +1,6 @@
 #include "platform/PopUpButton.h"
 
+#include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
@@ -21,6 +22,28 @@ void PopUpButton::setTitle(const QString& title) {
 
 QString PopUpButton::title() const {
   return currentIndex() < 0 ? m_foreignTitle : currentText();
+}
+
+// The list is a window of its own, which inherits neither style nor palette, and is dear to make: it is
+// dressed when it is wanted.
+void PopUpButton::showPopup() {
+  m_hasList = true;
+  view()->setFont(font());
+  QWidget* list = view()->window();
+  for (QWidget* part : list->findChildren<QWidget*>())
+    if (part->style() != style()) part->setStyle(style());
+  if (list->style() != style()) list->setStyle(style());
+  list->setPalette(palette());
+  view()->setPalette(palette());
+  QComboBox::showPopup();
+}
+
+// The base would make the list only to dress it.
+void PopUpButton::changeEvent(QEvent* event) {
+  const QEvent::Type type = event->type();
+  const bool isDress = type == QEvent::FontChange || type == QEvent::StyleChange || type == QEvent::PaletteChange;
+  if (isDress && !m_hasList) return QWidget::changeEvent(event);
+  QComboBox::changeEvent(event);
 }
 
 // The search for an item by its letters would swallow the window's own shortcuts.

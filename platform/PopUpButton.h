@@ -14,13 +14,17 @@ class PLATFORM_EXPORT PopUpButton : public QComboBox {
   void setTitle(const QString& title);
   QString title() const;
 
+  void showPopup() override;
+
  Q_SIGNALS:
   void chosen(const QString& title);  // by the user only
 
  protected:
+  void changeEvent(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
   QString m_foreignTitle;
+  bool m_hasList = false;
 };

@@ -33,7 +33,7 @@ void StaticText::paintEvent(QPaintEvent*) {
   const QRect visible = visiblePart();
   const QString shown =
       fontMetrics().elidedText(text().left(kDrawnCharacters), Qt::ElideRight, visible.width());
-  painter.drawText(visible, int(alignment()) | Qt::TextSingleLine, shown);
+  drawTextLine(&painter, visible, alignment(), shown);
 }
 
 // What reaches beyond the parent's right edge is cut there, so the text ends before it.

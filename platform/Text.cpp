@@ -4,6 +4,7 @@
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QHash>
+#include <QPainter>
 #include <cmath>
 
 namespace {
@@ -15,8 +16,8 @@ FontKind fontKind(FontRole role, double size) {
   return {static_cast<int>(role), qRound(size)};
 }
 
-// Panes ask for the same fonts and measure the same texts several times, and shaping a text is dear: what was found is
-// kept until the application's font changes. Main thread only.
+// Panes ask for the same fonts and measure the same texts several times, and shaping a text is dear: what was
+// found is kept until the application's font changes. Main thread only.
 class FontTable {
  public:
   static FontTable& current() {
@@ -81,4 +82,14 @@ Size sizeOfText(const QString& text, FontRole role, double size) {
   FontTable& table = FontTable::current();
   const FontKind kind = fontKind(role, size);
   return {.width = text.isEmpty() ? 0.0 : table.width(text, kind), .height = table.height(kind)};
+}
+
+void drawTextLine(QPainter* painter, const QRectF& box, Qt::Alignment alignment, const QString& text) {
+  const QFontMetricsF metrics(painter->font(), painter->device());
+  const double room = box.width() - metrics.horizontalAdvance(text);
+  double x = box.x();
+  if (alignment.testFlag(Qt::AlignRight)) x += room;
+  if (alignment.testFlag(Qt::AlignHCenter)) x += room / 2;
+  const double top = box.y() + (box.height() - metrics.height()) / 2;
+  painter->drawText(QPointF(x, std::round(top + metrics.ascent())), text);
 }

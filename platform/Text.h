@@ -1,10 +1,13 @@
 #pragma once
 
 #include <QFont>
+#include <QRectF>
 #include <QString>
 
 #include "platform/Frame.h"
 #include "platform/PlatformExport.h"
+
+class QPainter;
 
 // Texts are measured in the very fonts that they are drawn in.
 enum class FontRole { Label, System, BoldSystem };
@@ -15,3 +18,8 @@ PLATFORM_EXPORT QFont fontFor(FontRole role, double size);
 
 // Width as measured, height rounded up. An empty text has no width.
 PLATFORM_EXPORT Size sizeOfText(const QString& text, FontRole role, double size);
+
+// One line in the painter's font and pen, in the middle of the box. Another font that stands in for
+// characters which the painter's lacks does not move the line.
+PLATFORM_EXPORT void drawTextLine(QPainter* painter, const QRectF& box, Qt::Alignment alignment,
+                                  const QString& text);

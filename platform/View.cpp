@@ -42,8 +42,7 @@ void View::paintEvent(QPaintEvent* event) {
   for (const DrawnText& drawn : texts) {
     painter.setFont(fontFor(drawn.role, drawn.size));
     const QRectF box(drawn.frame.x, height - drawn.frame.maxY(), drawn.frame.width, drawn.frame.height);
-    painter.drawText(box, int(drawn.alignment | Qt::AlignVCenter) | Qt::TextDontClip | Qt::TextSingleLine,
-                     drawn.text.left(kPaintedCharacters));
+    drawTextLine(&painter, box, drawn.alignment, drawn.text.left(kPaintedCharacters));
   }
 }
 

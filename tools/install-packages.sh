@@ -12,6 +12,8 @@ packages=(
   librsvg2-bin fonts-inter fonts-noto-cjk fontconfig
   # a keychain for the tests, on a bus of its own
   dbus gnome-keyring
+  # the Debian package
+  dpkg-dev file
   # lint, and the checks of the documents
   clang-format clang-tidy python3 git
 )

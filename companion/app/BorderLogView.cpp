@@ -1,7 +1,6 @@
 #include "companion/app/BorderLogView.h"
 
 #include <QClipboard>
-#include <QComboBox>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -14,11 +13,12 @@
 
 #include "companion/app/BorderLog.h"
 #include "companion/app/BorderLogFilter.h"
+#include "platform/PopUpButton.h"
 
 BorderLogView::BorderLogView(BorderLog* log)
     : m_log(log),
       m_filter(new BorderLogFilter(this)),
-      m_kind(new QComboBox),
+      m_kind(new PopUpButton({})),
       m_text(new QLineEdit),
       m_table(new QTableView) {
   m_filter->setSourceModel(log);

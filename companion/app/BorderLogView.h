@@ -4,7 +4,7 @@
 
 class BorderLog;
 class BorderLogFilter;
-class QComboBox;
+class PopUpButton;
 class QLineEdit;
 class QTableView;
 
@@ -27,7 +27,7 @@ class BorderLogView final : public QWidget {
 
   BorderLog* m_log;
   BorderLogFilter* m_filter;
-  QComboBox* m_kind;
+  PopUpButton* m_kind;
   QLineEdit* m_text;
   QTableView* m_table;
   bool m_isAtEnd = true;

@@ -126,6 +126,7 @@ int main(int argc, char** argv) {
   int onlyName = 1;
   QApplication application(onlyName, argv);
   QApplication::setApplicationName("companion");
+  QGuiApplication::setDesktopFileName("brenn-mivra-companion");
   QApplication::setQuitOnLastWindowClosed(false);
   CompanionOptions options;
   if (!readOptions(arguments, &options)) return kUnusable;

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 #include "platform/Look.h"
@@ -16,7 +17,7 @@ double luminance(const QColor& color) {
 }
 
 double contrast(const QColor& left, const QColor& right) {
-  const auto [low, high] = std::minmax(luminance(left), luminance(right));
+  const auto [low, high] = std::minmax({luminance(left), luminance(right)});
   return (high + 0.05) / (low + 0.05);
 }
 
