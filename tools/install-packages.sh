@@ -14,6 +14,8 @@ packages=(
   dbus gnome-keyring
   # the Debian package
   dpkg-dev file
+  # certificates for the sandbox's https
+  openssl
   # lint, and the checks of the documents
   clang-format clang-tidy python3 git
 )
