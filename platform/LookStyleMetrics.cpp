@@ -48,8 +48,9 @@ int LookStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidg
   switch (hint) {
     case SH_Widget_Animate:
     case SH_Widget_Animation_Duration:
-      // Reduced motion is the application's to say.
-      return QApplication::style()->styleHint(hint);
+      // Reduced motion is the application's to say, unless it wears this style itself.
+      if (const QStyle* own = QApplication::style(); own != this) return own->styleHint(hint);
+      return QProxyStyle::styleHint(hint, option, widget, returnData);
     case SH_ToolTip_WakeUpDelay:
       return kToolTipDelay;
     case SH_ComboBox_Popup:
