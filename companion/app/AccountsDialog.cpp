@@ -7,8 +7,11 @@
 
 namespace {
 
+constexpr int kMeaningColumn = 3;
+constexpr int kColumnGap = 12;
+
 QTableWidget* createAccountsTable(const QList<SandboxAccount>& accounts) {
-  auto* table = new QTableWidget(static_cast<int>(accounts.size()), 4);
+  auto* table = new QTableWidget(static_cast<int>(accounts.size()), kMeaningColumn + 1);
   table->setHorizontalHeaderLabels({QStringLiteral("Address"), QStringLiteral("User name"),
                                     QStringLiteral("Password"), QStringLiteral("What happens")});
   table->setAccessibleName(QStringLiteral("Accounts to try"));
@@ -26,7 +29,11 @@ QTableWidget* createAccountsTable(const QList<SandboxAccount>& accounts) {
     }
   }
   table->resizeColumnsToContents();
-  table->horizontalHeader()->setStretchLastSection(true);
+  for (int column = 0; column < kMeaningColumn; ++column) {
+    table->setColumnWidth(column, table->columnWidth(column) + kColumnGap);
+  }
+  table->horizontalHeader()->setSectionResizeMode(kMeaningColumn, QHeaderView::Stretch);
+  table->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
   return table;
 }
 
@@ -35,7 +42,7 @@ QTableWidget* createAccountsTable(const QList<SandboxAccount>& accounts) {
 AccountsDialog::AccountsDialog(const QList<SandboxAccount>& accounts, QWidget* parent) : QDialog(parent) {
   setAttribute(Qt::WA_DeleteOnClose);
   setWindowTitle(QStringLiteral("Accounts to try"));
-  resize(940, 420);
+  resize(960, 480);
   auto* column = new QVBoxLayout(this);
   auto* text =
       new QLabel(QStringLiteral("The sandbox on this machine knows these. Enter one for Exchange in the "

@@ -8,7 +8,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-#include "companion/app/AccountsDialog.h"
 #include "companion/app/Border.h"
 #include "companion/app/BorderLogView.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
@@ -173,7 +172,10 @@ void CompanionWindow::offerAccounts(const QList<SandboxAccount>& accounts) {
 }
 
 void CompanionWindow::showAccountsToTry() {
-  (new AccountsDialog(m_accounts, this))->show();
+  if (!m_accountsDialog) m_accountsDialog = new AccountsDialog(m_accounts, this);
+  m_accountsDialog->show();
+  m_accountsDialog->raise();
+  m_accountsDialog->activateWindow();
 }
 
 void CompanionWindow::showIdentity() {

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QList>
+#include <QPointer>
 #include <QWidget>
 
+#include "companion/app/AccountsDialog.h"
 #include "companion/app/DemoServices.h"
 #include "companion/app/DemoUser.h"
 #include "companion/exchange/SandboxExchange.h"
@@ -51,4 +53,5 @@ class CompanionWindow final : public QWidget {
   QLabel* m_notice = nullptr;
   QPushButton* m_accountsButton = nullptr;
   QList<SandboxAccount> m_accounts;
+  QPointer<AccountsDialog> m_accountsDialog;
 };
