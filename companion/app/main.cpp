@@ -119,6 +119,11 @@ int runWithSandbox(Border* border, CompanionWindow* window, const CompanionOptio
     exchange.loseSandbox(reason);
     window->offerAccounts({});
   });
+  if (options.reach == CompanionExchange::Reach::Network) {
+    window->showNotice(
+        QStringLiteral("Exchange is looked for in the network and in a sandbox on this machine; "
+                       "what a meeting service would answer is invented here."));
+  }
   // The windows come first.
   QTimer::singleShot(0, &sandbox, [&sandbox] { sandbox.start(Sandbox::programPath()); });
   return QApplication::exec();

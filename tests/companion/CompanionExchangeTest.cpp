@@ -1,17 +1,26 @@
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include "companion/app/Border.h"
 #include "companion/app/CompanionExchange.h"
+#include "companion/app/DemoUser.h"
 #include "companion/app/Sandbox.h"
+#include "companion/runtime/PreferencesWindow.h"
+#include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZFoundation/KZNotificationCenter.h"
+#include "host/KZUtility/KZKeyChainHandle.h"
+#include "host/KZUtility/KZPlistFileHandle.h"
+#include "platform/WindowController.h"
 
 namespace {
 
@@ -28,14 +37,17 @@ QMessageBox* openQuestion() {
 class CompanionExchangeTest : public testing::Test {
  protected:
   void SetUp() override {
-    ASSERT_TRUE(border.loadPlugin(FAKE_PLUGIN));
-    // After the fake plug-in's own, whose answer it replaces.
-    authenticator = KZNotificationCenter::defaultCenter().addObserver(
-        "HTTPAuthenticationRequired", [this](const KZNotification& challenge) { onChallenge(challenge); });
     QObject::connect(&exchange, &CompanionExchange::noticed, &exchange,
                      [this](const QString& text) { notices.append(text); });
     QObject::connect(&sandbox, &Sandbox::ready, &exchange, &CompanionExchange::useSandbox);
     QObject::connect(&sandbox, &Sandbox::failed, &exchange, &CompanionExchange::loseSandbox);
+  }
+
+  void loadFakePlugin() {
+    ASSERT_TRUE(border.loadPlugin(FAKE_PLUGIN));
+    // After the fake plug-in's own, whose answer it replaces.
+    authenticator = KZNotificationCenter::defaultCenter().addObserver(
+        "HTTPAuthenticationRequired", [this](const KZNotification& challenge) { onChallenge(challenge); });
   }
 
   void startSandbox() {
@@ -88,6 +100,7 @@ class CompanionExchangeTest : public testing::Test {
 };
 
 TEST_F(CompanionExchangeTest, AWrongPasswordIsRefusedAndTheRightOneIsFoundWith) {
+  ASSERT_NO_FATAL_FAILURE(loadFakePlugin());
   ASSERT_NO_FATAL_FAILURE(startSandbox());
   if (IsSkipped()) return;
   password = "wrong";
@@ -107,6 +120,7 @@ TEST_F(CompanionExchangeTest, AWrongPasswordIsRefusedAndTheRightOneIsFoundWith) 
 }
 
 TEST_F(CompanionExchangeTest, ACancelledSearchAnswersNothingAndClosesItsQuestion) {
+  ASSERT_NO_FATAL_FAILURE(loadFakePlugin());
   ASSERT_NO_FATAL_FAILURE(startSandbox());
   if (IsSkipped()) return;
   detect("hosted@hosted.sandbox.example");
@@ -119,6 +133,7 @@ TEST_F(CompanionExchangeTest, ACancelledSearchAnswersNothingAndClosesItsQuestion
 }
 
 TEST_F(CompanionExchangeTest, TheUserDecidesWhereTheSearchGoesOn) {
+  ASSERT_NO_FATAL_FAILURE(loadFakePlugin());
   ASSERT_NO_FATAL_FAILURE(startSandbox());
   if (IsSkipped()) return;
   for (const auto& [button, number] : {std::pair("Do not allow", "15 "), std::pair("Allow", "26 ")}) {
@@ -134,6 +149,7 @@ TEST_F(CompanionExchangeTest, TheUserDecidesWhereTheSearchGoesOn) {
 }
 
 TEST_F(CompanionExchangeTest, SaysWhyItDoesNotSearch) {
+  ASSERT_NO_FATAL_FAILURE(loadFakePlugin());
   detect("onprem@corp.sandbox.example");
   EXPECT_TRUE(notifications().isEmpty()) << "answered while the command was still under way";
   EXPECT_TRUE(notificationNumber(1).contains("still starting"));
@@ -147,6 +163,7 @@ TEST_F(CompanionExchangeTest, SaysWhyItDoesNotSearch) {
 }
 
 TEST_F(CompanionExchangeTest, ASandboxThatDiesEndsTheSearch) {
+  ASSERT_NO_FATAL_FAILURE(loadFakePlugin());
   ASSERT_NO_FATAL_FAILURE(startSandbox());
   if (IsSkipped()) return;
   detect("onprem@corp.sandbox.example");
@@ -156,6 +173,52 @@ TEST_F(CompanionExchangeTest, ASandboxThatDiesEndsTheSearch) {
   ASSERT_TRUE(failed.wait(5000));
   EXPECT_TRUE(notificationNumber(2).contains("has ended"));
   EXPECT_EQ(notices.last().toStdString(), "The sandbox has ended.");
+}
+
+TEST_F(CompanionExchangeTest, TheMeetingsPaneFindsAnAccount) {
+  const QTemporaryDir folder;
+  KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
+  store.open(folder.path());
+  KZKeyChainHandle::sharedInstance().useStorage(KZKeyChainHandle::Storage::Memory);
+  ASSERT_TRUE(border.loadPlugin(PREFERENCES));
+  ASSERT_NO_FATAL_FAILURE(startSandbox());
+  if (IsSkipped()) return;
+  border.notify(static_cast<quint32>(KZNotify::KZNotifyGetPreferenceDone), demouser::preferenceData());
+  border.triggerCommand(2);
+  Window* window = findPreferencesWindow();
+  ASSERT_NE(window, nullptr);
+  window->controller()->setProperty("crossFade", false);
+  paneItemNamed(*window, "Meetings")->trigger();
+  const auto shown = [window](const char* name) {
+    QWidget* control = nullptr;
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+          for (QWidget* one : window->findChildren<QWidget*>(name)) {
+            if (one->isVisible() && one->isEnabled()) control = one;
+          }
+          return control != nullptr;
+        },
+        8000))
+        << name;
+    return control;
+  };
+  const auto click = [&](const char* name) {
+    if (auto* button = qobject_cast<QAbstractButton*>(shown(name))) button->click();
+  };
+  const auto type = [&](const char* name, const QString& text) {
+    if (QWidget* field = shown(name)) QTest::keyClicks(field, text);
+  };
+  click("m_outlookRadioBtn");
+  type("m_emailInputTxt", "onprem@corp.sandbox.example");
+  click("m_detectBtn");
+  type("m_usernameInputTxt", "CORP\\onprem");
+  type("m_passwordInputTxt", password);
+  click("m_applyBtn");
+  const QString found = notificationNumber(3);
+  EXPECT_TRUE(found.startsWith("15 ") && found.contains("https://")) << qPrintable(found);
+  EXPECT_FALSE(found.contains(password));
+  border.shutDown();
+  store.close();
 }
 
 }  // namespace
