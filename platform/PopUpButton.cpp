@@ -41,7 +41,8 @@ void PopUpButton::showPopup() {
 // The base would make the list only to dress it.
 void PopUpButton::changeEvent(QEvent* event) {
   const QEvent::Type type = event->type();
-  const bool isDress = type == QEvent::FontChange || type == QEvent::StyleChange || type == QEvent::PaletteChange;
+  const bool isDress =
+      type == QEvent::FontChange || type == QEvent::StyleChange || type == QEvent::PaletteChange;
   if (isDress && !m_hasList) return QWidget::changeEvent(event);
   QComboBox::changeEvent(event);
 }

@@ -135,8 +135,8 @@ QUrl HttpServer::url() const {
                   .arg(m_server->serverPort()));
 }
 
-void HttpServer::handle(const QString& path, Handler handler) {
-  m_handlers.insert(path, std::move(handler));
+void HttpServer::handle(const QString& path, const Handler& handler) {
+  m_handlers.insert(path, handler);
 }
 
 void HttpServer::accept() {

@@ -54,7 +54,7 @@ class HttpServer final {
   QUrl url() const;
 
   // Whoever asks for this very path is answered by the handler; the last one set counts.
-  void handle(const QString& path, Handler handler);
+  void handle(const QString& path, const Handler& handler);
 
  private:
   void watch();

@@ -9,11 +9,13 @@ packages=(
   qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev
   libplist-dev libsecret-1-dev libgtest-dev libbenchmark-dev
   # pictures and fonts (the second has the Japanese and Chinese letters)
-  librsvg2-bin fonts-inter fonts-noto-cjk fontconfig openssl
+  librsvg2-bin fonts-inter fonts-noto-cjk fontconfig
   # a keychain for the tests, on a bus of its own
   dbus gnome-keyring
   # the Debian package
   dpkg-dev file
+  # certificates for the sandbox's https
+  openssl
   # lint, and the checks of the documents
   clang-format clang-tidy python3 git
 )

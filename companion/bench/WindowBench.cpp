@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <algorithm>
+#include <cmath>
 #include <vector>
 
 #include "companion/runtime/PreferencesWindow.h"
@@ -24,7 +25,7 @@ double millisecondsBetween(FrameWatch::Clock::time_point start, FrameWatch::Cloc
 double quantile(std::vector<double> values, double share) {
   if (values.empty()) return 0;
   std::ranges::sort(values);
-  return values[static_cast<size_t>(share * static_cast<double>(values.size() - 1) + 0.5)];
+  return values[static_cast<size_t>(std::lround(share * static_cast<double>(values.size() - 1)))];
 }
 
 }  // namespace

@@ -38,7 +38,8 @@ TEST(FrameLayout, NeighboursThatTouchInPointsTouchInPixels) {
   View parent({0, 0, 100, 100});
   constexpr double rowHeight = 7.3;
   const QWidget* below = childIn(&parent, {0, 0, 50, rowHeight});
-  for (double y = rowHeight; y < 90; y += rowHeight) {
+  for (int place = 1; place <= 12; ++place) {
+    const double y = place * rowHeight;
     const QWidget* row = childIn(&parent, {0, y, 50, rowHeight});
     EXPECT_EQ(row->geometry().bottom() + 1, below->geometry().top()) << y;
     below = row;

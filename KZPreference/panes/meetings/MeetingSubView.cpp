@@ -96,7 +96,8 @@ void MeetingSubView::placeCopyButtons() {
   place(m_copySipurlBtn, m_sipurl, 0);
 }
 
-// A link may reach beyond the group's frame, for which the gaps do not count; it shows as far as the pane goes.
+// A link may reach beyond the group's frame, for which the gaps do not count; it shows as far as the pane
+// goes.
 void MeetingSubView::resizeEvent(QResizeEvent* event) {
   View::resizeEvent(event);
   if (parentWidget()) resize(std::max(width(), parentWidget()->width() - x()), height());
