@@ -1,7 +1,10 @@
+#include <unistd.h>
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QSocketNotifier>
+#include <array>
 #include <cstdio>
 
 #include "sandbox/Authority.h"
@@ -18,7 +21,8 @@ int main(int argc, char** argv) {
   parser.addOptions({{"port", "Listen at this port (default: a free one).", "number", "0"},
                      {"lifetime", "How long an access token is good, in seconds.", "seconds", "3600"},
                      {"scopes", "Take scopes in place of a resource."},
-                     {"give", "Sign everybody in without asking."}});
+                     {"give", "Sign everybody in without asking."},
+                     {"until-input-ends", "End when standard input does, for a parent that may die."}});
   parser.process(application);
 
   sandbox::HttpServer server;
@@ -43,5 +47,12 @@ int main(int argc, char** argv) {
   }
   std::printf("%s\n", QJsonDocument(where).toJson(QJsonDocument::Compact).constData());
   std::fflush(stdout);
+
+  QSocketNotifier input(STDIN_FILENO, QSocketNotifier::Read);
+  input.setEnabled(parser.isSet("until-input-ends"));
+  QObject::connect(&input, &QSocketNotifier::activated, &application, [] {
+    std::array<char, 256> ignored{};
+    if (::read(STDIN_FILENO, ignored.data(), ignored.size()) <= 0) QCoreApplication::quit();
+  });
   return QCoreApplication::exec();
 }

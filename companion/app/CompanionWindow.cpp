@@ -39,10 +39,12 @@ CompanionWindow::CompanionWindow(Border* border, DemoServices* services)
   column->addWidget(createButtons());
   column->addWidget(new BorderLogView(&border->log()), 1);
   m_notice = new QLabel(
-      QStringLiteral("Demonstration: everything that a meeting service would answer is invented here."));
+      QStringLiteral("Demonstration: everything that a meeting service would answer is invented here. "
+                     "Exchange is looked for in a sandbox on this machine."));
   m_notice->setWordWrap(true);
+  m_notice->setTextFormat(Qt::PlainText);
   column->addWidget(m_notice);
-  connect(services, &DemoServices::noticed, m_notice, &QLabel::setText);
+  connect(services, &DemoServices::noticed, this, &CompanionWindow::showNotice);
   connect(services, &DemoServices::siteWanted, this, &CompanionWindow::askForSite);
   // The guest's pane changes the identity.
   connect(&KZPlistFileHandle::sharedInstance(), &KZPlistFileHandle::valueChanged, this,
@@ -93,6 +95,10 @@ QWidget* CompanionWindow::createButtons() {
   row->addWidget(createButton("Join by number", "Command 10", &CompanionWindow::joinByNumber));
   row->addWidget(createButton("Close", "Command 3", &CompanionWindow::closePreferences));
   row->addStretch(1);
+  m_accountsButton = createButton("Accounts to try", "Addresses and passwords of the sandbox",
+                                  &CompanionWindow::showAccountsToTry);
+  m_accountsButton->setEnabled(false);
+  row->addWidget(m_accountsButton);
   return bar;
 }
 
@@ -154,6 +160,22 @@ void CompanionWindow::askForSite() {
     m_services->changeSite(site);
   });
   dialog->open();
+}
+
+void CompanionWindow::showNotice(const QString& text) {
+  m_notice->setText(text);
+}
+
+void CompanionWindow::offerAccounts(const QList<SandboxAccount>& accounts) {
+  m_accounts = accounts;
+  m_accountsButton->setEnabled(!accounts.isEmpty());
+}
+
+void CompanionWindow::showAccountsToTry() {
+  if (!m_accountsDialog) m_accountsDialog = new AccountsDialog(m_accounts, this);
+  m_accountsDialog->show();
+  m_accountsDialog->raise();
+  m_accountsDialog->activateWindow();
 }
 
 void CompanionWindow::showIdentity() {

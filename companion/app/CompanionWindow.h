@@ -1,9 +1,13 @@
 #pragma once
 
+#include <QList>
+#include <QPointer>
 #include <QWidget>
 
+#include "companion/app/AccountsDialog.h"
 #include "companion/app/DemoServices.h"
 #include "companion/app/DemoUser.h"
+#include "companion/exchange/SandboxExchange.h"
 
 class Border;
 class QLabel;
@@ -20,6 +24,9 @@ class CompanionWindow final : public QWidget {
   // Also tells the plug-in, as a host does after a sign-in or when it starts for a guest.
   void become(demouser::Variant variant);
   void showPreferences();
+  void showNotice(const QString& text);
+  // With none there is nothing to try.
+  void offerAccounts(const QList<SandboxAccount>& accounts);
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -35,6 +42,7 @@ class CompanionWindow final : public QWidget {
   void joinByNumber();
   void closePreferences();
   void askForSite();
+  void showAccountsToTry();
   void showIdentity();
 
   Border* m_border;
@@ -43,4 +51,7 @@ class CompanionWindow final : public QWidget {
   QRadioButton* m_guest = nullptr;
   QLabel* m_identity = nullptr;
   QLabel* m_notice = nullptr;
+  QPushButton* m_accountsButton = nullptr;
+  QList<SandboxAccount> m_accounts;
+  QPointer<AccountsDialog> m_accountsDialog;
 };

@@ -2,8 +2,6 @@
 
 #include <QObject>
 #include <QString>
-#include <QTimer>
-#include <functional>
 
 #include "host/KZFoundation/Dictionary.h"
 
@@ -27,17 +25,6 @@ class DemoServices final : public QObject {
   void answer(quint64 command, const Content& content);
   void refuseUpdates();
   void openLink(const Dictionary& content);
-  void search(const Dictionary& content);
-  void later(std::function<void()> nextStep);
-  void cancelSearch();
-  void finishSearch();
-  void askForCredential();
-  void takeCredential(const Dictionary& content);
-  void reportFound(const QString& username);
-  void reportFailure(quint32 index, const QString& message);
 
   Border* m_border;
-  QTimer m_searching;
-  std::function<void()> m_nextStep;  // of the search, when the timer fires
-  QString m_email;                   // of the search that runs
 };

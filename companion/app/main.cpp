@@ -4,12 +4,16 @@
 #include <QLocale>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <cstdio>
 
 #include "companion/app/Appearance.h"
 #include "companion/app/Border.h"
+#include "companion/app/CompanionExchange.h"
 #include "companion/app/CompanionWindow.h"
 #include "companion/app/DemoTour.h"
+#include "companion/app/Sandbox.h"
+#include "companion/exchange/StandardExchange.h"
 #include "companion/runtime/CommandLine.h"
 #include "companion/runtime/PluginLocation.h"
 #include "companion/runtime/QtMessages.h"
@@ -25,6 +29,8 @@ struct CompanionOptions {
   bool isDemo = false;
   bool isDemoAsked = false;
   bool isGuest = false;
+  CompanionExchange::Reach reach = CompanionExchange::Reach::Sandbox;
+  QString clientId;
   QString outFolder;
   QString stateFolder;
   QString pluginPath;
@@ -60,6 +66,8 @@ bool readOptions(const QStringList& arguments, CompanionOptions* options) {
        {"language", "The language of the texts, for example de.", "LANGUAGE"},
        {"state", "Where the settings live.", "DIR"},
        {"guest", "Start as a guest."},
+       {"network", "Look for Exchange in the network too, not in the sandbox alone."},
+       {"client-id", "The registration that signs in at Office 365; with --network.", "ID"},
        {"plugin", "The plug-in to load.", "FILE", defaultPluginPath()}});
   parser.process(arguments);
   if (!applyAppearance(parser.value("appearance"))) {
@@ -70,6 +78,8 @@ bool readOptions(const QStringList& arguments, CompanionOptions* options) {
   options->isDemoAsked = parser.isSet("demo");
   options->isDemo = options->isDemoAsked || !hasDisplay();
   options->isGuest = parser.isSet("guest");
+  if (parser.isSet("network")) options->reach = CompanionExchange::Reach::Network;
+  options->clientId = parser.value("client-id");
   options->outFolder = parser.value("out");
   options->stateFolder = parser.value("state");
   options->pluginPath = parser.value("plugin");
@@ -95,6 +105,30 @@ int playDemo(CompanionWindow* window, const CompanionOptions& options) {
   return 1;
 }
 
+int runWithSandbox(Border* border, CompanionWindow* window, const CompanionOptions& options) {
+  CompanionExchange exchange(
+      border, options.reach,
+      standardExchangeConfiguration(options.clientId, QStringLiteral("http://127.0.0.1/signed-in")));
+  Sandbox sandbox;
+  QObject::connect(&exchange, &CompanionExchange::noticed, window, &CompanionWindow::showNotice);
+  QObject::connect(&sandbox, &Sandbox::ready, window, [&exchange, window](const QJsonObject& description) {
+    exchange.useSandbox(description);
+    window->offerAccounts(sandboxAccounts(description));
+  });
+  QObject::connect(&sandbox, &Sandbox::failed, window, [&exchange, window](const QString& reason) {
+    exchange.loseSandbox(reason);
+    window->offerAccounts({});
+  });
+  if (options.reach == CompanionExchange::Reach::Network) {
+    window->showNotice(
+        QStringLiteral("Exchange is looked for in the network and in a sandbox on this machine; "
+                       "what a meeting service would answer is invented here."));
+  }
+  // The windows come first.
+  QTimer::singleShot(0, &sandbox, [&sandbox] { sandbox.start(Sandbox::programPath()); });
+  return QApplication::exec();
+}
+
 int runCompanion(const CompanionOptions& options) {
   const QTemporaryDir demoState;
   const QString stateFolder =
@@ -113,7 +147,7 @@ int runCompanion(const CompanionOptions& options) {
   window.show();
   window.become(options.isGuest ? demouser::Variant::Guest : demouser::Variant::SignedIn);
   window.showPreferences();
-  return QApplication::exec();
+  return runWithSandbox(&border, &window, options);
 }
 
 }  // namespace

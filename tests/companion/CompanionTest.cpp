@@ -5,12 +5,10 @@
 #include <QProcess>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QThread>
 
 #include "companion/app/Border.h"
 #include "companion/app/BorderLogView.h"
-#include "companion/app/DemoServices.h"
 #include "companion/app/DemoUser.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
@@ -75,44 +73,6 @@ TEST(Border, WritesDownWhatCrossesAlsoFromOtherThreads) {
   EXPECT_EQ(namesIn(border.log(), BorderEvent::Kind::CommandToHost),
             QStringList{"29 KZCmdExchOnlineTokenGot"});
   EXPECT_EQ(namesIn(border.log(), BorderEvent::Kind::Posted), QStringList{"HTTPAuthenticationDatasource"});
-}
-
-// The fake plug-in sends back every command that it does not know.
-TEST(DemoServices, AnswersASearchByItsAddress) {
-  struct Case {
-    const char* email;
-    QStringList notifications;
-  };
-  const Case cases[] = {
-      {"fail@example.com", {"15 KZNotifyResolveExchangeDone"}},
-      {"ada@example.com", {"15 KZNotifyResolveExchangeDone"}},
-      {"onprem@example.com",
-       {"26 KZNotifyExchangeResolvingNeedCredential", "15 KZNotifyResolveExchangeDone"}},
-  };
-  for (const Case& given : cases) {
-    Border border;
-    ASSERT_TRUE(border.loadPlugin(FAKE_PLUGIN));
-    DemoServices services(&border);
-    border.triggerCommand(15, Dictionary{{QRT_ExchangeDiscover_Email, given.email}});
-    for (qsizetype answer = 1; answer <= given.notifications.size(); ++answer) {
-      EXPECT_TRUE(QTest::qWaitFor(
-          [&] { return namesIn(border.log(), BorderEvent::Kind::Notification).size() == answer; }, 3000));
-      if (answer < given.notifications.size()) {
-        border.triggerCommand(27, Dictionary{{QRT_CredentialContent, "ada:pw"}});
-      }
-    }
-    EXPECT_EQ(namesIn(border.log(), BorderEvent::Kind::Notification), given.notifications) << given.email;
-  }
-}
-
-TEST(DemoServices, ACancelledSearchAnswersNothing) {
-  Border border;
-  ASSERT_TRUE(border.loadPlugin(FAKE_PLUGIN));
-  DemoServices services(&border);
-  border.triggerCommand(15, Dictionary{{QRT_ExchangeDiscover_Email, "ada@example.com"}});
-  border.triggerCommand(16);
-  QTest::qWait(1400);
-  EXPECT_TRUE(namesIn(border.log(), BorderEvent::Kind::Notification).isEmpty());
 }
 
 TEST(DemoUser, WhatAGuestEditedSurvivesASignIn) {

@@ -1,0 +1,66 @@
+#include "companion/app/Sandbox.h"
+
+#include <QCoreApplication>
+#include <QJsonDocument>
+#include <QStandardPaths>
+#include <chrono>
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto kStartTime = 20s;
+constexpr int kEndMilliseconds = 1000;
+
+}  // namespace
+
+Sandbox::Sandbox() {
+  m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+  m_patience.setSingleShot(true);
+  m_patience.setInterval(kStartTime);
+  connect(&m_patience, &QTimer::timeout, this,
+          [this] { fail(QStringLiteral("The sandbox does not answer.")); });
+  connect(&m_process, &QProcess::readyReadStandardOutput, this, &Sandbox::readFirstLine);
+  connect(&m_process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
+    if (error != QProcess::FailedToStart) return;
+    fail(QStringLiteral("The sandbox did not start: %1.").arg(m_process.errorString()));
+  });
+  connect(&m_process, &QProcess::finished, this, [this] { fail(QStringLiteral("The sandbox has ended.")); });
+}
+
+Sandbox::~Sandbox() {
+  m_process.disconnect(this);
+  if (m_process.state() == QProcess::NotRunning) return;
+  // It removes its certificates when it may end by itself; the process object kills what is left.
+  m_process.closeWriteChannel();
+  m_process.waitForFinished(kEndMilliseconds);
+}
+
+QString Sandbox::programPath() {
+  return QStandardPaths::findExecutable(QStringLiteral("kz-sandbox"),
+                                        {QCoreApplication::applicationDirPath()});
+}
+
+void Sandbox::start(const QString& path) {
+  if (path.isEmpty()) {
+    return fail(QStringLiteral("The sandbox is not running: kz-sandbox is not beside this program."));
+  }
+  m_patience.start();
+  m_process.start(path, {QStringLiteral("--until-input-ends")});
+}
+
+void Sandbox::readFirstLine() {
+  if (!m_patience.isActive() || !m_process.canReadLine()) return;
+  m_patience.stop();
+  const QJsonObject where = QJsonDocument::fromJson(m_process.readLine()).object();
+  const QJsonObject exchange = where.value(QLatin1String("exchange")).toObject();
+  if (!exchange.isEmpty()) return Q_EMIT ready(exchange);
+  fail(QStringLiteral("The sandbox plays no Exchange: the openssl program may be missing."));
+}
+
+void Sandbox::fail(const QString& reason) {
+  m_patience.stop();
+  m_process.disconnect(this);
+  m_process.closeWriteChannel();
+  Q_EMIT failed(reason);
+}

@@ -1,0 +1,224 @@
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "companion/app/Border.h"
+#include "companion/app/CompanionExchange.h"
+#include "companion/app/DemoUser.h"
+#include "companion/app/Sandbox.h"
+#include "companion/runtime/PreferencesWindow.h"
+#include "host/KZFoundation/KZCommands.h"
+#include "host/KZFoundation/KZConstants.h"
+#include "host/KZFoundation/KZNotificationCenter.h"
+#include "host/KZUtility/KZKeyChainHandle.h"
+#include "host/KZUtility/KZPlistFileHandle.h"
+#include "platform/WindowController.h"
+
+namespace {
+
+QMessageBox* openQuestion() {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    auto* box = qobject_cast<QMessageBox*>(window);
+    if (box && box->isVisible()) return box;
+  }
+  return nullptr;
+}
+
+// A companion whose fake plug-in sends back every command that it does not know, so that a test can play the
+// plug-in's part, and an authenticator in place of the plug-in's own.
+class CompanionExchangeTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    QObject::connect(&exchange, &CompanionExchange::noticed, &exchange,
+                     [this](const QString& text) { notices.append(text); });
+    QObject::connect(&sandbox, &Sandbox::ready, &exchange, &CompanionExchange::useSandbox);
+    QObject::connect(&sandbox, &Sandbox::failed, &exchange, &CompanionExchange::loseSandbox);
+  }
+
+  void loadFakePlugin() {
+    ASSERT_TRUE(border.loadPlugin(FAKE_PLUGIN));
+    // After the fake plug-in's own, whose answer it replaces.
+    authenticator = KZNotificationCenter::defaultCenter().addObserver(
+        "HTTPAuthenticationRequired", [this](const KZNotification& challenge) { onChallenge(challenge); });
+  }
+
+  void startSandbox() {
+    if (QStandardPaths::findExecutable("openssl").isEmpty()) GTEST_SKIP() << "openssl is missing";
+    QSignalSpy ready(&sandbox, &Sandbox::ready);
+    sandbox.start(KZ_SANDBOX);
+    ASSERT_TRUE(ready.wait(20'000));
+  }
+
+  void onChallenge(const KZNotification& challenge) {
+    if (textValue(challenge.userInfo, "ShowWarningMsg") == "true") return border.triggerCommand(22);
+    KZNotificationCenter::defaultCenter().post(
+        {"HTTPAuthenticationDatasource", nullptr, {{"Username", "CORP\\onprem"}, {"Password", password}}});
+  }
+
+  void detect(const QString& email) {
+    border.triggerCommand(15, Dictionary{{QRT_ExchangeDiscover_Email, email}});
+  }
+
+  void sinkPassword() {
+    border.triggerCommand(27, Dictionary{{QRT_CredentialType, QRT_CredentialTypeUsernamePassword},
+                                         {QRT_CredentialContent, "CORP\\onprem:" + password}});
+  }
+
+  QStringList notifications() {
+    QStringList shown;
+    for (int row = 0; row < border.log().rowCount(); ++row) {
+      const QModelIndex name = border.log().index(row, BorderLog::NameColumn);
+      if (name.data(BorderLog::kindRole).toInt() != static_cast<int>(BorderEvent::Kind::Notification)) {
+        continue;
+      }
+      shown.append(name.data().toString() + u' ' +
+                   name.siblingAtColumn(BorderLog::ContentColumn).data().toString());
+    }
+    return shown;
+  }
+
+  // The latest notification once there are that many; empty when they do not come.
+  QString notificationNumber(qsizetype count) {
+    const bool hasCome = QTest::qWaitFor([&] { return notifications().size() >= count; }, 8000);
+    return hasCome ? notifications().at(count - 1) : QString();
+  }
+
+  Border border;
+  CompanionExchange exchange{&border, CompanionExchange::Reach::Sandbox, {}};
+  Sandbox sandbox;
+  KZNotificationCenter::Token authenticator;
+  QString password = QStringLiteral("correct horse");
+  QStringList notices;
+};
+
+TEST_F(CompanionExchangeTest, AWrongPasswordIsRefusedAndTheRightOneIsFoundWith) {
+  ASSERT_NO_FATAL_FAILURE(loadFakePlugin());
+  ASSERT_NO_FATAL_FAILURE(startSandbox());
+  if (IsSkipped()) return;
+  password = "wrong";
+  detect("onprem@corp.sandbox.example");
+  EXPECT_TRUE(notificationNumber(1).startsWith("26 "));
+  sinkPassword();
+  EXPECT_TRUE(QTest::qWaitFor([this] { return notices.join(u' ').contains("Detect again"); }, 8000));
+  EXPECT_EQ(notifications().size(), 1);
+
+  password = "correct horse";
+  detect("onprem@corp.sandbox.example");
+  EXPECT_TRUE(notificationNumber(2).startsWith("26 "));
+  sinkPassword();
+  const QString found = notificationNumber(3);
+  EXPECT_TRUE(found.startsWith("15 ")) << qPrintable(found);
+  EXPECT_TRUE(found.contains("CORP") && found.contains("https://")) << qPrintable(found);
+}
+
+TEST_F(CompanionExchangeTest, ACancelledSearchAnswersNothingAndClosesItsQuestion) {
+  ASSERT_NO_FATAL_FAILURE(loadFakePlugin());
+  ASSERT_NO_FATAL_FAILURE(startSandbox());
+  if (IsSkipped()) return;
+  detect("hosted@hosted.sandbox.example");
+  ASSERT_TRUE(QTest::qWaitFor([] { return openQuestion() != nullptr; }, 8000));
+  EXPECT_FALSE(openQuestion()->isModal());
+  border.triggerCommand(16);
+  EXPECT_TRUE(QTest::qWaitFor([] { return openQuestion() == nullptr; }, 2000));
+  QTest::qWait(300);
+  EXPECT_TRUE(notifications().isEmpty()) << qPrintable(notifications().join(u'\n'));
+}
+
+TEST_F(CompanionExchangeTest, TheUserDecidesWhereTheSearchGoesOn) {
+  ASSERT_NO_FATAL_FAILURE(loadFakePlugin());
+  ASSERT_NO_FATAL_FAILURE(startSandbox());
+  if (IsSkipped()) return;
+  for (const auto& [button, number] : {std::pair("Do not allow", "15 "), std::pair("Allow", "26 ")}) {
+    const qsizetype before = notifications().size();
+    detect("hosted@hosted.sandbox.example");
+    ASSERT_TRUE(QTest::qWaitFor([] { return openQuestion() != nullptr; }, 8000)) << button;
+    for (QAbstractButton* choice : openQuestion()->buttons()) {
+      if (choice->text().remove(u'&') == button) QTest::mouseClick(choice, Qt::LeftButton);
+    }
+    const QString answer = notificationNumber(before + 1);
+    EXPECT_TRUE(answer.startsWith(number)) << button << ": " << qPrintable(answer);
+  }
+}
+
+TEST_F(CompanionExchangeTest, SaysWhyItDoesNotSearch) {
+  ASSERT_NO_FATAL_FAILURE(loadFakePlugin());
+  detect("onprem@corp.sandbox.example");
+  EXPECT_TRUE(notifications().isEmpty()) << "answered while the command was still under way";
+  EXPECT_TRUE(notificationNumber(1).contains("still starting"));
+  sandbox.start({});
+  EXPECT_TRUE(notices.join(u' ').contains("kz-sandbox is not beside"));
+  detect("onprem@corp.sandbox.example");
+  EXPECT_TRUE(notificationNumber(2).contains("The sandbox is not running"));
+  exchange.useSandbox({{"domain", "sandbox.example"}});
+  detect("ada@example.com");
+  EXPECT_TRUE(notificationNumber(3).contains("Only the sandbox"));
+}
+
+TEST_F(CompanionExchangeTest, ASandboxThatDiesEndsTheSearch) {
+  ASSERT_NO_FATAL_FAILURE(loadFakePlugin());
+  ASSERT_NO_FATAL_FAILURE(startSandbox());
+  if (IsSkipped()) return;
+  detect("onprem@corp.sandbox.example");
+  ASSERT_TRUE(notificationNumber(1).startsWith("26 "));
+  QSignalSpy failed(&sandbox, &Sandbox::failed);
+  QProcess::execute("kill", {"-9", QString::number(sandbox.processId())});
+  ASSERT_TRUE(failed.wait(5000));
+  EXPECT_TRUE(notificationNumber(2).contains("has ended"));
+  EXPECT_EQ(notices.last().toStdString(), "The sandbox has ended.");
+}
+
+TEST_F(CompanionExchangeTest, TheMeetingsPaneFindsAnAccount) {
+  const QTemporaryDir folder;
+  KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
+  store.open(folder.path());
+  KZKeyChainHandle::sharedInstance().useStorage(KZKeyChainHandle::Storage::Memory);
+  ASSERT_TRUE(border.loadPlugin(PREFERENCES));
+  ASSERT_NO_FATAL_FAILURE(startSandbox());
+  if (IsSkipped()) return;
+  border.notify(static_cast<quint32>(KZNotify::KZNotifyGetPreferenceDone), demouser::preferenceData());
+  border.triggerCommand(2);
+  Window* window = findPreferencesWindow();
+  ASSERT_NE(window, nullptr);
+  window->controller()->setProperty("crossFade", false);
+  paneItemNamed(*window, "Meetings")->trigger();
+  const auto shown = [window](const char* name) {
+    QWidget* control = nullptr;
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+          for (QWidget* one : window->findChildren<QWidget*>(name)) {
+            if (one->isVisible() && one->isEnabled()) control = one;
+          }
+          return control != nullptr;
+        },
+        8000))
+        << name;
+    return control;
+  };
+  const auto click = [&](const char* name) {
+    if (auto* button = qobject_cast<QAbstractButton*>(shown(name))) button->click();
+  };
+  const auto type = [&](const char* name, const QString& text) {
+    if (QWidget* field = shown(name)) QTest::keyClicks(field, text);
+  };
+  click("m_outlookRadioBtn");
+  type("m_emailInputTxt", "onprem@corp.sandbox.example");
+  click("m_detectBtn");
+  type("m_usernameInputTxt", "CORP\\onprem");
+  type("m_passwordInputTxt", password);
+  click("m_applyBtn");
+  const QString found = notificationNumber(3);
+  EXPECT_TRUE(found.startsWith("15 ") && found.contains("https://")) << qPrintable(found);
+  EXPECT_FALSE(found.contains(password));
+  border.shutDown();
+  store.close();
+}
+
+}  // namespace
