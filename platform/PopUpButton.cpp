@@ -43,6 +43,7 @@ void PopUpButton::changeEvent(QEvent* event) {
   const QEvent::Type type = event->type();
   const bool isDress =
       type == QEvent::FontChange || type == QEvent::StyleChange || type == QEvent::PaletteChange;
+  // NOLINTNEXTLINE(bugprone-parent-virtual-call): the base is left out on purpose.
   if (isDress && !m_hasList) return QWidget::changeEvent(event);
   QComboBox::changeEvent(event);
 }
