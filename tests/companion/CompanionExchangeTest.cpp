@@ -187,7 +187,6 @@ TEST_F(CompanionExchangeTest, TheMeetingsPaneFindsAnAccount) {
   border.triggerCommand(2);
   Window* window = findPreferencesWindow();
   ASSERT_NE(window, nullptr);
-  window->controller()->setProperty("crossFade", false);
   paneItemNamed(*window, "Meetings")->trigger();
   const auto shown = [window](const char* name) {
     QWidget* control = nullptr;
