@@ -8,7 +8,7 @@ set(sdkPackage lib/cmake/BrennMivraHost)
 set_target_properties(KZHost KZPlatform KZAdal PROPERTIES
   VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
 set_target_properties(KZHost KZPlatform KZAdal KZPreference PROPERTIES INSTALL_RPATH "$ORIGIN")
-set_target_properties(companion prefs-session PROPERTIES INSTALL_RPATH "$ORIGIN/../${privateLibraries}")
+set_target_properties(companion kz-sandbox prefs-session PROPERTIES INSTALL_RPATH "$ORIGIN/../${privateLibraries}")
 set_target_properties(KZHost PROPERTIES EXPORT_NAME Host)
 
 install(TARGETS KZHost EXPORT BrennMivraHostTargets
@@ -16,7 +16,7 @@ install(TARGETS KZHost EXPORT BrennMivraHostTargets
   FILE_SET HEADERS DESTINATION include/brenn-mivra)
 install(TARGETS KZPlatform KZAdal LIBRARY DESTINATION ${privateLibraries} NAMELINK_SKIP)
 install(TARGETS KZPreference LIBRARY DESTINATION ${privateLibraries})
-install(TARGETS companion prefs-session RUNTIME DESTINATION bin)
+install(TARGETS companion kz-sandbox prefs-session RUNTIME DESTINATION bin)
 install(FILES packaging/brenn-mivra-companion.desktop DESTINATION share/applications)
 install(FILES packaging/brenn-mivra-companion.svg DESTINATION share/icons/hicolor/scalable/apps)
 
@@ -52,6 +52,6 @@ set(CPACK_DEBIAN_PACKAGE_SECTION net)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-inter, fonts-noto-cjk, gnome-keyring")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-inter, fonts-noto-cjk, gnome-keyring, openssl")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "cmake, g++, qt6-base-dev")
 include(CPack)
