@@ -23,6 +23,7 @@ void LookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     case PE_FrameFocusRect:  // every control draws its own
     case PE_FrameStatusBarItem:
     case PE_IndicatorToolBarSeparator:  // a gap, no line
+    case PE_PanelScrollAreaCorner:      // the window itself, between two thin bars
       return;
     case PE_PanelLineEdit:
     case PE_FrameLineEdit: {
