@@ -10,6 +10,7 @@
 #include "companion/runtime/PluginLocation.h"
 #include "companion/runtime/QtMessages.h"
 #include "companion/session/Session.h"
+#include "companion/session/WriteWatch.h"
 #include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 
@@ -22,6 +23,7 @@ struct SessionOptions {
   QString stateFolder;
   KZKeyChainHandle::Storage keychain = KZKeyChainHandle::Storage::Memory;
   Session::Trace trace = Session::Trace::Off;
+  bool isPrintingWrites = false;
   QString pluginPath;
   QString scriptPath;
 };
@@ -42,6 +44,7 @@ bool readOptions(const QStringList& arguments, SessionOptions* options) {
       {{"state", "Where the settings store lives; left out, a fresh folder.", "DIR"},
        {"keychain", "Where secrets are kept: memory (the default) or system.", "KIND", "memory"},
        {"trace", "Print trace lines too."},
+       {"writes", "Print what is written into the settings store and the keychain."},
        {"plugin", "The plug-in to load.", "FILE", defaultPluginPath()}});
   parser.addPositionalArgument("FILE", "The script, \"-\" or left out: standard input.", "[FILE | -]");
   parser.process(arguments);
@@ -57,6 +60,7 @@ bool readOptions(const QStringList& arguments, SessionOptions* options) {
   options->stateFolder = parser.value("state");
   if (keychain == "system") options->keychain = KZKeyChainHandle::Storage::System;
   if (parser.isSet("trace")) options->trace = Session::Trace::On;
+  options->isPrintingWrites = parser.isSet("writes");
   options->pluginPath = parser.value("plugin");
   options->scriptPath = parser.positionalArguments().value(0, "-");
   return true;
@@ -71,6 +75,8 @@ bool openScript(const QString& path, QFile* script) {
 int playSession(const SessionOptions& options, QFile* script) {
   PluginHost host;
   LineWriter writer(stdout);
+  std::optional<WriteWatch> writes;
+  if (options.isPrintingWrites) writes.emplace(&writer, options.keychain);
   std::optional<Session> session(std::in_place, &host, &writer, options.trace);
   if (!host.load(options.pluginPath)) {
     complain(host.errorText());
@@ -78,6 +84,7 @@ int playSession(const SessionOptions& options, QFile* script) {
   }
   const Session::End end = session->play(script);
   session.reset();
+  writes.reset();
   setKZTraceSink([](const KZTraceRecord&) {});  // the end is not part of the script
   return static_cast<int>(end);
 }
