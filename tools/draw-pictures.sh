@@ -36,6 +36,20 @@ for pane in account meetings; do
 done
 take dark signed-in-meetings meetings-dark
 
+"$programs/prefs-session" >/dev/null <<STEPS
+{"notify": 7, "content": {"kKZResult": "kKZSuccess", "kz": {"disableCalendarIntegration": true, "enableListGoogleCalendarMeeting": true}}}
+{"command": 2}
+{"pane": "Meetings"}
+{"click": "m_outlookRadioBtn"}
+{"type": "m_emailInputTxt", "text": "ada@example.com"}
+{"click": "m_detectBtn"}
+{"notify": 26, "content": {"kKZResult": "kKZSuccess", "QRT_ExchangeDiscover_ExchangeType": "QRT_ExchangeDiscover_ExchangeTypeOnpremise"}}
+{"type": "m_usernameInputTxt", "text": "EXAMPLE\\\\ada"}
+{"type": "m_passwordInputTxt", "text": "an example"}
+{"wait": 400}
+{"screenshot": "$pictures/meetings-credential.png"}
+STEPS
+
 tools/draw-floors.py
 tools/draw-sequence.py "$programs"
 ls "$pictures"/*.png "$pictures"/*.svg
