@@ -25,8 +25,9 @@ class ExchangeService final {
   };
   using TokenCheck = std::function<bool(const QString& accessToken)>;
 
-  // `authority` is where online users sign in, `isGranted` knows its tokens.
-  ExchangeService(QString authority, TokenCheck isGranted);
+  // `authorities` is the address that the authorities lie below where online users sign in, `isGranted` knows
+  // their tokens.
+  ExchangeService(QString authorities, TokenCheck isGranted);
   Q_DISABLE_COPY_MOVE(ExchangeService)
 
   // False where there is no port or no certificate.
@@ -47,7 +48,7 @@ class ExchangeService final {
   QString note(const HttpRequest& request, bool isEncrypted);
   bool isAllowed(const QByteArray& authorization);
 
-  QString m_authority;
+  QString m_authorities;
   TokenCheck m_isGranted;
   HostServers m_servers;
   QHash<QString, int> m_refusals;  // by user name
