@@ -11,6 +11,8 @@
 
 class Border;
 class QLabel;
+class QStackedWidget;
+class QTabBar;
 class QPushButton;
 class QRadioButton;
 
@@ -25,6 +27,8 @@ class CompanionWindow final : public QWidget {
   void become(demouser::Variant variant);
   void showPreferences();
   void showNotice(const QString& text);
+  // The window takes the page; the first one is in front.
+  void addPage(const QString& title, QWidget* page);
   // With none there is nothing to try.
   void offerAccounts(const QList<SandboxAccount>& accounts);
 
@@ -32,6 +36,7 @@ class CompanionWindow final : public QWidget {
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  QWidget* createPages();
   QWidget* createHeader();
   QWidget* createSwitch();
   QWidget* createButtons();
@@ -49,6 +54,8 @@ class CompanionWindow final : public QWidget {
   DemoServices* m_services;
   QRadioButton* m_signedIn = nullptr;
   QRadioButton* m_guest = nullptr;
+  QTabBar* m_tabs = nullptr;
+  QStackedWidget* m_pages = nullptr;
   QLabel* m_identity = nullptr;
   QLabel* m_notice = nullptr;
   QPushButton* m_accountsButton = nullptr;
