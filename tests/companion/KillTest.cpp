@@ -19,7 +19,7 @@
 
 namespace {
 
-constexpr int kStepsInScript = 4000;
+constexpr int kStepsInScript = 500;
 constexpr int kLongestLifeMicroseconds = 40'000;
 constexpr int kSessionStartMilliseconds = 30'000;
 
