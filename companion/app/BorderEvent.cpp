@@ -2,6 +2,7 @@
 
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QUrl>
 #include <algorithm>
 
 #include "companion/session/ValueCodec.h"
@@ -12,7 +13,7 @@ namespace {
 
 constexpr qsizetype kLongestText = 4000;
 
-QString notificationName(quint32 index) {
+QString notificationName(quint64 index) {
   const auto table = kzNotifyTable();
   const auto row = std::ranges::find(table, static_cast<KZNotify>(index), &KZNotifyRow::index);
   return row == table.end() ? QString() : QString::fromLatin1(row->name);
@@ -24,12 +25,29 @@ QString numbered(quint64 number, const QString& name) {
 
 }  // namespace
 
-BorderEvent BorderEvent::command(Kind kind, quint64 number, const Content& content) {
-  return {kind, numbered(number, QLatin1String(kzCommandName(number))), shownContent(content)};
-}
-
-BorderEvent BorderEvent::notification(quint32 index, const Content& content) {
-  return {Kind::Notification, numbered(index, notificationName(index)), shownContent(content)};
+BorderEvent BorderEvent::of(const Crossing& crossing) {
+  switch (crossing.kind) {
+    case Kind::CommandToPlugin:
+    case Kind::CommandToHost:
+      return {crossing.kind, numbered(crossing.number, QLatin1String(kzCommandName(crossing.number))),
+              shownContent(crossing.content)};
+    case Kind::Notification:
+      return {crossing.kind, numbered(crossing.number, notificationName(crossing.number)),
+              shownContent(crossing.content)};
+    case Kind::PersonalRoom:
+      return {crossing.kind, QStringLiteral("setPMRJoinUrl:sipUrl:"), shownContent(crossing.content)};
+    case Kind::Challenge:
+    case Kind::Answer:
+      return {crossing.kind, crossing.name, shownContent(crossing.content)};
+    case Kind::Address:
+      // A query may carry a sign-in's state; the place suffices.
+      return {crossing.kind, QStringLiteral("openURL"),
+              QUrl(crossing.text).toDisplayString(QUrl::RemoveQuery)};
+    case Kind::Warning:
+    case Kind::Trace:
+      break;
+  }
+  return {crossing.kind, crossing.name, shortened(crossing.text)};
 }
 
 QString kindText(BorderEvent::Kind kind) {
@@ -40,8 +58,12 @@ QString kindText(BorderEvent::Kind kind) {
       return QStringLiteral("Command to host");
     case BorderEvent::Kind::Notification:
       return QStringLiteral("Notification");
-    case BorderEvent::Kind::Posted:
-      return QStringLiteral("Posted");
+    case BorderEvent::Kind::PersonalRoom:
+      return QStringLiteral("Personal room");
+    case BorderEvent::Kind::Challenge:
+      return QStringLiteral("Challenge");
+    case BorderEvent::Kind::Answer:
+      return QStringLiteral("Answer");
     case BorderEvent::Kind::Address:
       return QStringLiteral("Address");
     case BorderEvent::Kind::Warning:

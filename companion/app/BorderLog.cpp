@@ -16,11 +16,13 @@ QColor colorOf(BorderEvent::Kind kind) {
     case BorderEvent::Kind::Trace:
       return palette.color(QPalette::PlaceholderText);
     case BorderEvent::Kind::CommandToHost:
-    case BorderEvent::Kind::Posted:
+    case BorderEvent::Kind::Answer:
     case BorderEvent::Kind::Address:
       return lookColor(SystemColor::Blue, lookSchemeFor(palette));
     case BorderEvent::Kind::CommandToPlugin:
     case BorderEvent::Kind::Notification:
+    case BorderEvent::Kind::PersonalRoom:
+    case BorderEvent::Kind::Challenge:
       break;
   }
   return palette.color(QPalette::Text);
@@ -38,6 +40,10 @@ void BorderLog::append(const BorderEvent& event) {
   beginInsertRows({}, row, row);
   m_events.push_back(event);
   endInsertRows();
+}
+
+void BorderLog::record(const Crossing& crossing) {
+  QMetaObject::invokeMethod(this, [this, event = BorderEvent::of(crossing)] { append(event); });
 }
 
 void BorderLog::clear() {

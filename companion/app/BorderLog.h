@@ -17,6 +17,7 @@ class BorderLog final : public QAbstractTableModel {
   using QAbstractTableModel::QAbstractTableModel;
 
   void append(const BorderEvent& event);
+  void record(const Crossing& crossing);  // any thread
   void clear();
 
   // The row as one line, columns parted by tabs.

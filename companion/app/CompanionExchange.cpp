@@ -2,9 +2,9 @@
 
 #include <utility>
 
-#include "companion/app/Border.h"
 #include "companion/exchange/EmailDomain.h"
 #include "companion/exchange/SandboxExchange.h"
+#include "companion/runtime/Border.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZConstants.h"
 

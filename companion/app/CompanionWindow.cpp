@@ -7,9 +7,11 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStackedWidget>
+#include <QTabBar>
 
-#include "companion/app/Border.h"
-#include "companion/app/BorderLogView.h"
+#include "companion/app/FaultNotice.h"
+#include "companion/runtime/Border.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZConstants.h"
@@ -37,14 +39,12 @@ CompanionWindow::CompanionWindow(Border* border, DemoServices* services)
   column->setSpacing(14);
   column->addWidget(createHeader());
   column->addWidget(createButtons());
-  column->addWidget(new BorderLogView(&border->log()), 1);
-  m_notice = new QLabel(
-      QStringLiteral("Demonstration: everything that a meeting service would answer is invented here. "
-                     "Exchange is looked for in a sandbox on this machine."));
+  column->addWidget(new FaultNotice(this));
+  column->addWidget(createPages(), 1);
+  m_notice = new QLabel;
   m_notice->setWordWrap(true);
   m_notice->setTextFormat(Qt::PlainText);
   column->addWidget(m_notice);
-  connect(services, &DemoServices::noticed, this, &CompanionWindow::showNotice);
   connect(services, &DemoServices::siteWanted, this, &CompanionWindow::askForSite);
   // The guest's pane changes the identity.
   connect(&KZPlistFileHandle::sharedInstance(), &KZPlistFileHandle::valueChanged, this,
@@ -66,6 +66,26 @@ QWidget* CompanionWindow::createHeader() {
   row->addLayout(texts, 1);
   row->addWidget(createSwitch());
   return header;
+}
+
+QWidget* CompanionWindow::createPages() {
+  auto* box = new QWidget;
+  auto* column = new QVBoxLayout(box);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(10);
+  m_tabs = new QTabBar;
+  m_tabs->setExpanding(false);
+  m_tabs->setDrawBase(false);
+  m_pages = new QStackedWidget;
+  column->addWidget(m_tabs);
+  column->addWidget(m_pages, 1);
+  connect(m_tabs, &QTabBar::currentChanged, m_pages, &QStackedWidget::setCurrentIndex);
+  return box;
+}
+
+void CompanionWindow::addPage(const QString& title, QWidget* page) {
+  m_pages->addWidget(page);
+  m_tabs->addTab(title);
 }
 
 QWidget* CompanionWindow::createSwitch() {
@@ -126,6 +146,13 @@ void CompanionWindow::become(demouser::Variant variant) {
 
 void CompanionWindow::showPreferences() {
   m_border->triggerCommand(number(KZCommand::KZCmdShowPreference), fromApplication());
+}
+
+void CompanionWindow::comeToFront() {
+  setWindowState(windowState() & ~Qt::WindowMinimized);
+  show();
+  raise();
+  activateWindow();
 }
 
 void CompanionWindow::showAccount() {

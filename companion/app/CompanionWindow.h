@@ -11,6 +11,8 @@
 
 class Border;
 class QLabel;
+class QStackedWidget;
+class QTabBar;
 class QPushButton;
 class QRadioButton;
 
@@ -24,7 +26,10 @@ class CompanionWindow final : public QWidget {
   // Also tells the plug-in, as a host does after a sign-in or when it starts for a guest.
   void become(demouser::Variant variant);
   void showPreferences();
+  void comeToFront();
   void showNotice(const QString& text);
+  // The window takes the page; the first one is in front.
+  void addPage(const QString& title, QWidget* page);
   // With none there is nothing to try.
   void offerAccounts(const QList<SandboxAccount>& accounts);
 
@@ -32,6 +37,7 @@ class CompanionWindow final : public QWidget {
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  QWidget* createPages();
   QWidget* createHeader();
   QWidget* createSwitch();
   QWidget* createButtons();
@@ -49,6 +55,8 @@ class CompanionWindow final : public QWidget {
   DemoServices* m_services;
   QRadioButton* m_signedIn = nullptr;
   QRadioButton* m_guest = nullptr;
+  QTabBar* m_tabs = nullptr;
+  QStackedWidget* m_pages = nullptr;
   QLabel* m_identity = nullptr;
   QLabel* m_notice = nullptr;
   QPushButton* m_accountsButton = nullptr;

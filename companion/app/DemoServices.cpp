@@ -3,7 +3,7 @@
 #include <QTimer>
 #include <chrono>
 
-#include "companion/app/Border.h"
+#include "companion/runtime/Border.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZConstants.h"
 

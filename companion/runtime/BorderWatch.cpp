@@ -6,9 +6,14 @@
 #include "host/KZUtility/KZWorkspace.h"
 
 BorderWatch::BorderWatch(Handlers handlers) {
-  if (handlers.posted) {
-    m_datasource = KZNotificationCenter::defaultCenter().addObserver(
-        QStringLiteral("HTTPAuthenticationDatasource"), std::move(handlers.posted));
+  auto& center = KZNotificationCenter::defaultCenter();
+  if (handlers.challenged) {
+    m_challenges =
+        center.addObserver(QStringLiteral("HTTPAuthenticationRequired"), std::move(handlers.challenged));
+  }
+  if (handlers.answered) {
+    m_answers =
+        center.addObserver(QStringLiteral("HTTPAuthenticationDatasource"), std::move(handlers.answered));
   }
   KZWorkspace::sharedWorkspace().setOpener(std::move(handlers.opened));
   KZWarningWindowController::setObserver(std::move(handlers.warned));
@@ -16,7 +21,8 @@ BorderWatch::BorderWatch(Handlers handlers) {
 }
 
 BorderWatch::~BorderWatch() {
-  m_datasource.reset();
+  m_challenges.reset();
+  m_answers.reset();
   KZWorkspace::sharedWorkspace().setOpener({});
   KZWarningWindowController::setObserver({});
   setKZTraceSink({});

@@ -14,8 +14,9 @@ class QUrl;
 class BorderWatch final {
  public:
   struct Handlers {
-    std::function<void(const KZNotification&)> posted;  // on the posting thread
-    std::function<bool(const QUrl&)> opened;            // empty: the desktop opens them
+    std::function<void(const KZNotification&)> challenged;  // a host wants a credential; on its thread
+    std::function<void(const KZNotification&)> answered;    // somebody gave one; on the posting thread
+    std::function<bool(const QUrl&)> opened;                // empty: the desktop opens them
     std::function<void(const QString& title, const QString& message)> warned;
     KZTraceSink traced;  // on the tracing thread; empty: standard error
   };
@@ -25,5 +26,6 @@ class BorderWatch final {
   Q_DISABLE_COPY_MOVE(BorderWatch)
 
  private:
-  KZNotificationCenter::Token m_datasource;
+  KZNotificationCenter::Token m_challenges;
+  KZNotificationCenter::Token m_answers;
 };

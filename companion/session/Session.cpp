@@ -1,7 +1,6 @@
 #include "companion/session/Session.h"
 
 #include <QStringList>
-#include <QUrl>
 #include <algorithm>
 
 #include "companion/session/EventPump.h"
@@ -25,45 +24,45 @@ QString levelName(KZTraceLevel level) {
 
 }  // namespace
 
-Session::Session(PluginHost* host, LineWriter* writer, Trace trace)
-    : m_host(host),
-      m_writer(writer),
-      m_pluginSteps(host),
+Session::Session(Border* border, LineWriter* writer, Trace trace)
+    : m_writer(writer),
+      m_pluginSteps(border),
       m_userSteps(writer),
-      m_hostSteps(host, writer),
+      m_hostSteps(border, writer),
       m_scriptSteps(writer) {
   m_pluginSteps.addTo(&m_table);
   m_userSteps.addTo(&m_table);
   m_hostSteps.addTo(&m_table);
   m_scriptSteps.addTo(&m_table);
-  m_watch.emplace(handlers(trace));
-  host->setCommandHandler([writer](quint64 number, const Content& content) {
-    writer->print({{"sent", static_cast<qint64>(number)},
-                   {"name", kzCommandName(number)},
-                   {"content", valuecodec::encodeContent(content)}});
-  });
+  m_observer = border->addObserver([this, trace](const Crossing& crossing) { print(crossing, trace); });
 }
 
-BorderWatch::Handlers Session::handlers(Trace trace) {
-  LineWriter* writer = m_writer;
-  BorderWatch::Handlers handlers;
-  handlers.posted = [writer, own = m_pluginSteps.poster()](const KZNotification& notification) {
-    if (notification.object == own) return;
-    writer->print(
-        {{"posted", notification.name}, {"userInfo", valuecodec::encodeContent(notification.userInfo)}});
-  };
-  handlers.opened = [writer](const QUrl& url) {
-    writer->print({{"opened", url.toString(QUrl::FullyEncoded)}});
-    return true;
-  };
-  handlers.warned = [writer](const QString& title, const QString& message) {
-    writer->print({{"warning", QJsonObject{{"title", title}, {"message", message}}}});
-  };
-  handlers.traced = [writer, trace](const KZTraceRecord& record) {
-    if (trace == Trace::Off) return;
-    writer->print({{"trace", levelName(record.level)}, {"method", record.method}, {"text", record.text}});
-  };
-  return handlers;
+void Session::print(const Crossing& crossing, Trace trace) {
+  switch (crossing.kind) {
+    case Crossing::Kind::CommandToHost:
+      return m_writer->print({{"sent", static_cast<qint64>(crossing.number)},
+                              {"name", kzCommandName(crossing.number)},
+                              {"content", valuecodec::encodeContent(crossing.content)}});
+    case Crossing::Kind::Answer:
+      if (crossing.poster == m_pluginSteps.poster()) return;
+      return m_writer->print(
+          {{"posted", crossing.name}, {"userInfo", valuecodec::encodeContent(crossing.content)}});
+    case Crossing::Kind::Address:
+      return m_writer->print({{"opened", crossing.text}});
+    case Crossing::Kind::Warning:
+      return m_writer->print(
+          {{"warning", QJsonObject{{"title", crossing.name}, {"message", crossing.text}}}});
+    case Crossing::Kind::Trace:
+      if (trace == Trace::Off) return;
+      return m_writer->print(
+          {{"trace", levelName(crossing.level)}, {"method", crossing.name}, {"text", crossing.text}});
+    // What the script did itself.
+    case Crossing::Kind::CommandToPlugin:
+    case Crossing::Kind::Notification:
+    case Crossing::Kind::PersonalRoom:
+    case Crossing::Kind::Challenge:
+      return;
+  }
 }
 
 Session::End Session::play(QIODevice* script) {
@@ -100,8 +99,7 @@ StepOutcome Session::playStep(const QJsonObject& step) {
 
 Session::End Session::fail(const QString& reason, int lineNumber) {
   // The error is the last line: nothing that the plug-in still does is printed.
-  m_watch.reset();
-  m_host->setCommandHandler({});
+  m_observer.reset();
   m_writer->print({{"error", reason}, {"line", lineNumber}});
   return End::StepFailed;
 }

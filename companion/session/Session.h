@@ -1,10 +1,8 @@
 #pragma once
 
 #include <QIODevice>
-#include <optional>
 
-#include "companion/runtime/BorderWatch.h"
-#include "companion/runtime/PluginHost.h"
+#include "companion/runtime/Border.h"
 #include "companion/session/HostSteps.h"
 #include "companion/session/LineWriter.h"
 #include "companion/session/PluginSteps.h"
@@ -19,22 +17,21 @@ class Session final {
   // The program's exit status.
   enum class End { Played = 0, StepFailed = 2 };
 
-  Session(PluginHost* host, LineWriter* writer,
+  Session(Border* border, LineWriter* writer,
           Trace trace);  // not owned; load the plug-in before playing
 
   End play(QIODevice* script);
 
  private:
-  BorderWatch::Handlers handlers(Trace trace);
+  void print(const Crossing& crossing, Trace trace);
   StepOutcome playStep(const QJsonObject& step);
   End fail(const QString& reason, int lineNumber);
 
-  PluginHost* m_host;
   LineWriter* m_writer;
   PluginSteps m_pluginSteps;
   UserSteps m_userSteps;
   HostSteps m_hostSteps;
   ScriptSteps m_scriptSteps;
   StepTable m_table;
-  std::optional<BorderWatch> m_watch;
+  Border::Token m_observer;
 };

@@ -6,7 +6,6 @@
 #include <optional>
 
 #include "companion/runtime/CommandLine.h"
-#include "companion/runtime/PluginHost.h"
 #include "companion/runtime/PluginLocation.h"
 #include "companion/runtime/QtMessages.h"
 #include "companion/session/Session.h"
@@ -73,19 +72,19 @@ bool openScript(const QString& path, QFile* script) {
 }
 
 int playSession(const SessionOptions& options, QFile* script) {
-  PluginHost host;
+  Border border([](const QUrl&) { return true; });
   LineWriter writer(stdout);
   std::optional<WriteWatch> writes;
   if (options.isPrintingWrites) writes.emplace(&writer, options.keychain);
-  std::optional<Session> session(std::in_place, &host, &writer, options.trace);
-  if (!host.load(options.pluginPath)) {
-    complain(host.errorText());
+  // What is traced while the plug-in is loaded is heard, what the end traces is not part of the script.
+  std::optional<Session> session(std::in_place, &border, &writer, options.trace);
+  if (!border.loadPlugin(options.pluginPath)) {
+    complain(border.errorText());
     return kPluginFailed;
   }
   const Session::End end = session->play(script);
   session.reset();
   writes.reset();
-  setKZTraceSink([](const KZTraceRecord&) {});  // the end is not part of the script
   return static_cast<int>(end);
 }
 

@@ -10,10 +10,11 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "companion/app/Border.h"
+#include "companion/app/BorderLog.h"
 #include "companion/app/CompanionExchange.h"
 #include "companion/app/DemoUser.h"
 #include "companion/app/Sandbox.h"
+#include "companion/runtime/Border.h"
 #include "companion/runtime/PreferencesWindow.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZConstants.h"
@@ -74,8 +75,8 @@ class CompanionExchangeTest : public testing::Test {
 
   QStringList notifications() {
     QStringList shown;
-    for (int row = 0; row < border.log().rowCount(); ++row) {
-      const QModelIndex name = border.log().index(row, BorderLog::NameColumn);
+    for (int row = 0; row < log.rowCount(); ++row) {
+      const QModelIndex name = log.index(row, BorderLog::NameColumn);
       if (name.data(BorderLog::kindRole).toInt() != static_cast<int>(BorderEvent::Kind::Notification)) {
         continue;
       }
@@ -91,7 +92,9 @@ class CompanionExchangeTest : public testing::Test {
     return hasCome ? notifications().at(count - 1) : QString();
   }
 
-  Border border;
+  Border border{[](const QUrl&) { return true; }};
+  BorderLog log;
+  Border::Token logging = border.addObserver([this](const Crossing& crossing) { log.record(crossing); });
   CompanionExchange exchange{&border, CompanionExchange::Reach::Sandbox, {}};
   Sandbox sandbox;
   KZNotificationCenter::Token authenticator;

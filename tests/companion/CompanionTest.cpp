@@ -7,9 +7,9 @@
 #include <QTemporaryDir>
 #include <QThread>
 
-#include "companion/app/Border.h"
 #include "companion/app/BorderLogView.h"
 #include "companion/app/DemoUser.h"
+#include "companion/runtime/Border.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 
@@ -39,7 +39,7 @@ TEST(BorderLog, SecretsAreNeverShownOrCopied) {
   BorderLogView view(&log);
   const Dictionary content = {{QRT_CredentialType, QRT_CredentialTypeUsernamePassword},
                               {QRT_CredentialContent, "ada:s3cret"}};
-  log.append(BorderEvent::command(BorderEvent::Kind::CommandToHost, 27, content));
+  log.record({.kind = Crossing::Kind::CommandToHost, .number = 27, .content = content});
   EXPECT_FALSE(view.textToCopy().contains("s3cret")) << qPrintable(view.textToCopy());
   EXPECT_TRUE(view.textToCopy().contains("KZCmdSinkOutlookAccountCredential"));
 }
@@ -47,8 +47,8 @@ TEST(BorderLog, SecretsAreNeverShownOrCopied) {
 TEST(BorderLog, CopiesWhatTheFilterLetsThrough) {
   BorderLog log;
   BorderLogView view(&log);
-  log.append(BorderEvent::command(BorderEvent::Kind::CommandToPlugin, 2, {}));
-  log.append(BorderEvent::notification(8, Dictionary{{"word", "Updates"}}));
+  log.record({.kind = Crossing::Kind::CommandToPlugin, .number = 2});
+  log.record({.kind = Crossing::Kind::Notification, .number = 8, .content = Dictionary{{"word", "Updates"}}});
   view.findChild<QLineEdit*>()->setText("updates");
   EXPECT_EQ(view.textToCopy().count(u'\n'), 1) << qPrintable(view.textToCopy());
   view.findChild<QLineEdit*>()->setText("\"word\"");
@@ -56,8 +56,11 @@ TEST(BorderLog, CopiesWhatTheFilterLetsThrough) {
   EXPECT_EQ(view.textToCopy().count(u'\n'), 1);
 }
 
-TEST(Border, WritesDownWhatCrossesAlsoFromOtherThreads) {
-  Border border;
+TEST(Border, TellsWhatCrossesAlsoFromOtherThreads) {
+  Border border([](const QUrl&) { return true; });
+  BorderLog log;
+  const Border::Token logging =
+      border.addObserver([&log](const Crossing& crossing) { log.record(crossing); });
   ASSERT_TRUE(border.loadPlugin(FAKE_PLUGIN));
   border.triggerCommand(9, Dictionary{{"a", 1}});
   border.triggerCommand(28);
@@ -69,10 +72,9 @@ TEST(Border, WritesDownWhatCrossesAlsoFromOtherThreads) {
   EXPECT_TRUE(sent.wait(2000));
   worker->wait();
   QCoreApplication::processEvents();
-  EXPECT_EQ(namesIn(border.log(), BorderEvent::Kind::Trace), QStringList{"FakeCore::handle"});
-  EXPECT_EQ(namesIn(border.log(), BorderEvent::Kind::CommandToHost),
-            QStringList{"29 KZCmdExchOnlineTokenGot"});
-  EXPECT_EQ(namesIn(border.log(), BorderEvent::Kind::Posted), QStringList{"HTTPAuthenticationDatasource"});
+  EXPECT_EQ(namesIn(log, BorderEvent::Kind::Trace), QStringList{"FakeCore::handle"});
+  EXPECT_EQ(namesIn(log, BorderEvent::Kind::CommandToHost), QStringList{"29 KZCmdExchOnlineTokenGot"});
+  EXPECT_EQ(namesIn(log, BorderEvent::Kind::Answer), QStringList{"HTTPAuthenticationDatasource"});
 }
 
 TEST(DemoUser, WhatAGuestEditedSurvivesASignIn) {

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QString>
+
+#include "companion/app/BorderLog.h"
+#include "companion/app/CompanionExchange.h"
+#include "companion/app/CompanionOptions.h"
+#include "companion/app/CompanionWindow.h"
+#include "companion/app/DemoServices.h"
+#include "companion/app/Sandbox.h"
+#include "companion/runtime/Border.h"
+
+// Everything that the companion is made of, put together. Open the settings store and choose the keychain
+// before; the application object must outlive it. Main thread only.
+class Companion final : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit Companion(const CompanionOptions& options);
+  ~Companion() override;
+
+  // False when the plug-in cannot be loaded; the reason is in `errorText`.
+  [[nodiscard]] bool loadPlugin(const QString& path) { return m_border.loadPlugin(path); }
+  const QString& errorText() const { return m_border.errorText(); }
+
+  // The windows first, then the sandbox. After a successful load.
+  void start(demouser::Variant variant);
+
+  // Both windows, over those of other programs.
+  void comeToFront();
+
+  CompanionWindow* window() { return &m_window; }
+
+ private:
+  void createPages();
+  void connectSandbox();
+
+  Border m_border;
+  BorderLog m_log;
+  Border::Token m_logging;
+  DemoServices m_services;
+  CompanionWindow m_window;
+  CompanionExchange m_exchange;
+  Sandbox m_sandbox;
+};

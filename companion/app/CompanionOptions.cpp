@@ -1,0 +1,37 @@
+#include "companion/app/CompanionOptions.h"
+
+#include <QCommandLineParser>
+#include <QGuiApplication>
+
+#include "companion/runtime/PluginLocation.h"
+
+CompanionOptions CompanionOptions::read(const QStringList& arguments) {
+  QCommandLineParser parser;
+  parser.setApplicationDescription(
+      "A small meeting application that shows the preferences plug-in at work.\n"
+      "Without a display it plays a demonstration and prints the paths of the pictures that it took.");
+  parser.addHelpOption();
+  parser.addOptions(
+      {{"demo", "Play the demonstration, also with a display."},
+       {"out", "Where the demonstration's pictures go; left out, a fresh folder.", "DIR"},
+       {"appearance", "light, dark, high-contrast, high-contrast-dark or system.", "NAME", "system"},
+       {"language", "The language of the texts, for example de.", "LANGUAGE"},
+       {"state", "Where the settings live.", "DIR"},
+       {"guest", "Start as a guest."},
+       {"network", "Look for Exchange in the network too, not in the sandbox alone."},
+       {"client-id", "The registration that signs in at Office 365; with --network.", "ID"},
+       {"plugin", "The plug-in to load.", "FILE", defaultPluginPath()}});
+  parser.process(arguments);
+  CompanionOptions options;
+  options.isDemoAsked = parser.isSet("demo");
+  options.isDemo = options.isDemoAsked || QGuiApplication::platformName() == "offscreen";
+  options.isGuest = parser.isSet("guest");
+  if (parser.isSet("network")) options.reach = CompanionExchange::Reach::Network;
+  options.appearance = parser.value("appearance");
+  options.language = parser.value("language");
+  options.clientId = parser.value("client-id");
+  options.outFolder = parser.value("out");
+  options.stateFolder = parser.value("state");
+  options.pluginPath = parser.value("plugin");
+  return options;
+}
