@@ -61,6 +61,11 @@ void Companion::connectSandbox() {
   });
 }
 
+void Companion::comeToFront() {
+  m_window.comeToFront();
+  m_window.showPreferences();
+}
+
 void Companion::start(demouser::Variant variant) {
   m_window.show();
   m_window.become(variant);

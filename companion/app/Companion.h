@@ -27,6 +27,9 @@ class Companion final : public QObject {
   // The windows first, then the sandbox. After a successful load.
   void start(demouser::Variant variant);
 
+  // Both windows, over those of other programs.
+  void comeToFront();
+
   CompanionWindow* window() { return &m_window; }
 
  private:

@@ -10,6 +10,7 @@
 #include <QStackedWidget>
 #include <QTabBar>
 
+#include "companion/app/FaultNotice.h"
 #include "companion/runtime/Border.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZFoundation/KZCommands.h"
@@ -38,6 +39,7 @@ CompanionWindow::CompanionWindow(Border* border, DemoServices* services)
   column->setSpacing(14);
   column->addWidget(createHeader());
   column->addWidget(createButtons());
+  column->addWidget(new FaultNotice(this));
   column->addWidget(createPages(), 1);
   m_notice = new QLabel;
   m_notice->setWordWrap(true);
@@ -140,6 +142,13 @@ void CompanionWindow::become(demouser::Variant variant) {
 
 void CompanionWindow::showPreferences() {
   m_border->triggerCommand(number(KZCommand::KZCmdShowPreference), fromApplication());
+}
+
+void CompanionWindow::comeToFront() {
+  setWindowState(windowState() & ~Qt::WindowMinimized);
+  show();
+  raise();
+  activateWindow();
 }
 
 void CompanionWindow::showAccount() {

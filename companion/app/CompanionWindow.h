@@ -22,6 +22,7 @@ class CompanionWindow final : public QWidget {
   // Also tells the plug-in, as a host does after a sign-in or when it starts for a guest.
   void become(demouser::Variant variant);
   void showPreferences();
+  void comeToFront();
   void showNotice(const QString& text);
   // The window takes the page; the first one is in front.
   void addPage(const QString& title, QWidget* page);
