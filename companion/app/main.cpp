@@ -9,6 +9,7 @@
 #include "companion/app/Companion.h"
 #include "companion/app/DemoTour.h"
 #include "companion/runtime/CommandLine.h"
+#include "companion/runtime/FrameWatch.h"
 #include "companion/runtime/QtMessages.h"
 #include "companion/runtime/SingleInstance.h"
 #include "host/KZUtility/KZKeyChainHandle.h"
@@ -64,6 +65,21 @@ int leaveToTheFirst(SingleInstance::Claim claim) {
   return kAlreadyRunning;
 }
 
+void say(const char* line) {
+  std::puts(line);
+  std::fflush(stdout);
+}
+
+// Both lines at once: whoever measures waits for them.
+int sayFirstFrame(CompanionWindow* window) {
+  FrameWatch frames;
+  frames.waitForFrameOf(window);
+  say("first frame");
+  QCoreApplication::processEvents();
+  say("ready");
+  return 0;
+}
+
 int runFirst(const CompanionOptions& options, const QString& stateFolder, const SingleInstance& instance) {
   KZPlistFileHandle::sharedInstance().open(stateFolder);
   KZKeyChainHandle::sharedInstance().useStorage(options.isDemo ? KZKeyChainHandle::Storage::Memory
@@ -76,7 +92,7 @@ int runFirst(const CompanionOptions& options, const QString& stateFolder, const 
   if (options.isDemo) return playDemo(companion.window(), options);
   QObject::connect(&instance, &SingleInstance::asked, &companion, &Companion::comeToFront);
   companion.start(options.isGuest ? demouser::Variant::Guest : demouser::Variant::SignedIn);
-  return QApplication::exec();
+  return options.endsAtFirstFrame ? sayFirstFrame(companion.window()) : QApplication::exec();
 }
 
 int runCompanion(const CompanionOptions& options) {
