@@ -7,9 +7,8 @@
 #include <QString>
 #include <functional>
 
-#include "sandbox/Certificates.h"
 #include "sandbox/ExchangeCases.h"
-#include "sandbox/HttpServer.h"
+#include "sandbox/HostServers.h"
 
 namespace sandbox {
 
@@ -26,8 +25,9 @@ class ExchangeService final {
   };
   using TokenCheck = std::function<bool(const QString& accessToken)>;
 
-  // `authority` is where online users sign in, `isGranted` knows its tokens.
-  ExchangeService(QString authority, TokenCheck isGranted);
+  // `authorities` is the address that the authorities lie below where online users sign in, `isGranted` knows
+  // their tokens.
+  ExchangeService(QString authorities, TokenCheck isGranted);
   Q_DISABLE_COPY_MOVE(ExchangeService)
 
   // False where there is no port or no certificate.
@@ -44,17 +44,13 @@ class ExchangeService final {
   HttpResponse discover(const HttpRequest& request, bool isEncrypted);
   HttpResponse discoverPlainly(const QString& host) const;
   HttpResponse discoverOnPremise(const HttpRequest& request, const QString& host);
-  HttpResponse lead(const HttpRequest& request, const QString& host) const;
   HttpResponse listMeetings(const HttpRequest& request);
   QString note(const HttpRequest& request, bool isEncrypted);
   bool isAllowed(const QByteArray& authorization);
 
-  QString m_authority;
+  QString m_authorities;
   TokenCheck m_isGranted;
-  Certificates m_certificates;
-  HttpServer m_plain;
-  std::unique_ptr<HttpServer> m_encrypted;
-  std::unique_ptr<HttpServer> m_otherName;
+  HostServers m_servers;
   QHash<QString, int> m_refusals;  // by user name
   QList<Visit> m_visits;
 };

@@ -109,7 +109,8 @@ int runCompanion(const CompanionOptions& options) {
 
 int main(int argc, char** argv) {
   const QStringList arguments = argumentsOf(argc, argv);
-  if (arguments.contains("--demo")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  const bool isOffscreen = qgetenv("QT_QPA_PLATFORM").startsWith("offscreen");
+  if (arguments.contains("--demo") && !isOffscreen) qputenv("QT_QPA_PLATFORM", "offscreen");
   choosePlatform();
   installQtMessageFilter();
   int onlyName = 1;
