@@ -1,13 +1,21 @@
 #include "companion/app/Companion.h"
 
+#include <QCoreApplication>
 #include <QDesktopServices>
+#include <QEventLoop>
 #include <QTimer>
+#include <QWindow>
+#include <chrono>
 
 #include "companion/app/BorderLogView.h"
 #include "companion/exchange/StandardExchange.h"
 
 namespace {
 
+using namespace std::chrono_literals;
+
+// A window may start out of sight.
+constexpr auto kLongestFirstFrame = 500ms;
 const QString kSignedInUri = QStringLiteral("http://127.0.0.1/signed-in");
 
 QString introduction(CompanionExchange::Reach reach) {
@@ -28,11 +36,10 @@ Companion::Companion(const CompanionOptions& options)
       m_logging(m_border.addObserver([this](const Crossing& crossing) { m_log.record(crossing); })),
       m_services(&m_border),
       m_window(&m_border, &m_services),
-      m_exchange(&m_border, options.reach, standardExchangeConfiguration(options.clientId, kSignedInUri)) {
+      m_options(options) {
   createPages();
   m_window.showNotice(introduction(options.reach));
   connect(&m_services, &DemoServices::noticed, &m_window, &CompanionWindow::showNotice);
-  connect(&m_exchange, &CompanionExchange::noticed, &m_window, &CompanionWindow::showNotice);
   connectSandbox();
 }
 
@@ -47,11 +54,11 @@ void Companion::createPages() {
 
 void Companion::connectSandbox() {
   connect(&m_sandbox, &Sandbox::ready, this, [this](const QJsonObject& description) {
-    m_exchange.useSandbox(description);
+    m_exchange->useSandbox(description);
     m_window.offerAccounts(sandboxAccounts(description));
   });
   connect(&m_sandbox, &Sandbox::failed, this, [this](const QString& reason) {
-    m_exchange.loseSandbox(reason);
+    m_exchange->loseSandbox(reason);
     m_window.offerAccounts({});
   });
 }
@@ -61,8 +68,29 @@ void Companion::comeToFront() {
   m_window.showPreferences();
 }
 
-void Companion::start(demouser::Variant variant) {
+void Companion::showWindow() {
   m_window.show();
+  QTimer patience;
+  patience.setSingleShot(true);
+  patience.start(kLongestFirstFrame);
+  while (!m_window.windowHandle()->isExposed() && patience.isActive()) {
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
+  }
+}
+
+bool Companion::loadPlugin(const QString& path) {
+  createExchange();
+  return m_border.loadPlugin(path);
+}
+
+// Late, because it makes TLS ready, which takes longer than the whole window.
+void Companion::createExchange() {
+  m_exchange = std::make_unique<CompanionExchange>(
+      &m_border, m_options.reach, standardExchangeConfiguration(m_options.clientId, kSignedInUri));
+  connect(m_exchange.get(), &CompanionExchange::noticed, &m_window, &CompanionWindow::showNotice);
+}
+
+void Companion::start(demouser::Variant variant) {
   m_window.become(variant);
   m_window.showPreferences();
   // The windows come first.

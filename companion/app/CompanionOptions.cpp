@@ -26,9 +26,9 @@ CompanionOptions CompanionOptions::read(const QStringList& arguments) {
   CompanionOptions options;
   options.isDemoAsked = parser.isSet("demo");
   options.isGuest = parser.isSet("guest");
-  options.endsAtFirstFrame = parser.isSet("first-frame");
+  options.saysWhenShown = parser.isSet("first-frame");
   const bool isOffscreen = QGuiApplication::platformName() == "offscreen";
-  options.isDemo = options.isDemoAsked || (isOffscreen && !options.endsAtFirstFrame);
+  options.isDemo = options.isDemoAsked || (isOffscreen && !options.saysWhenShown);
   if (parser.isSet("network")) options.reach = CompanionExchange::Reach::Network;
   options.appearance = parser.value("appearance");
   options.language = parser.value("language");

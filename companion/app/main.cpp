@@ -9,7 +9,6 @@
 #include "companion/app/Companion.h"
 #include "companion/app/DemoTour.h"
 #include "companion/runtime/CommandLine.h"
-#include "companion/runtime/FrameWatch.h"
 #include "companion/runtime/QtMessages.h"
 #include "companion/runtime/SingleInstance.h"
 #include "host/KZUtility/KZKeyChainHandle.h"
@@ -65,19 +64,12 @@ int leaveToTheFirst(SingleInstance::Claim claim) {
   return kAlreadyRunning;
 }
 
-void say(const char* line) {
+// Once what is painted has reached the display; at once, because whoever measures waits for the line.
+void sayWhenShown(const char* line) {
+  QCoreApplication::processEvents();
+  qGuiApp->sync();
   std::puts(line);
   std::fflush(stdout);
-}
-
-// Both lines at once: whoever measures waits for them.
-int sayFirstFrame(CompanionWindow* window) {
-  FrameWatch frames;
-  frames.waitForFrameOf(window);
-  say("first frame");
-  QCoreApplication::processEvents();
-  say("ready");
-  return 0;
 }
 
 int runFirst(const CompanionOptions& options, const QString& stateFolder, const SingleInstance& instance) {
@@ -85,6 +77,8 @@ int runFirst(const CompanionOptions& options, const QString& stateFolder, const 
   KZKeyChainHandle::sharedInstance().useStorage(options.isDemo ? KZKeyChainHandle::Storage::Memory
                                                                : KZKeyChainHandle::Storage::System);
   Companion companion(options);
+  if (!options.isDemo) companion.showWindow();
+  if (options.saysWhenShown) sayWhenShown("first frame");
   if (!companion.loadPlugin(options.pluginPath)) {
     complain(companion.errorText());
     return kPluginFailed;
@@ -92,7 +86,9 @@ int runFirst(const CompanionOptions& options, const QString& stateFolder, const 
   if (options.isDemo) return playDemo(companion.window(), options);
   QObject::connect(&instance, &SingleInstance::asked, &companion, &Companion::comeToFront);
   companion.start(options.isGuest ? demouser::Variant::Guest : demouser::Variant::SignedIn);
-  return options.endsAtFirstFrame ? sayFirstFrame(companion.window()) : QApplication::exec();
+  if (!options.saysWhenShown) return QApplication::exec();
+  sayWhenShown("ready");
+  return 0;
 }
 
 int runCompanion(const CompanionOptions& options) {
