@@ -37,7 +37,6 @@ Companion::Companion(const CompanionOptions& options)
       m_services(&m_border),
       m_window(&m_border, &m_services),
       m_options(options) {
-  createPages();
   m_window.showNotice(introduction(options.reach));
   connect(&m_services, &DemoServices::noticed, &m_window, &CompanionWindow::showNotice);
   connectSandbox();
@@ -79,6 +78,7 @@ void Companion::showWindow() {
 }
 
 bool Companion::loadPlugin(const QString& path) {
+  createPages();
   createExchange();
   return m_border.loadPlugin(path);
 }
