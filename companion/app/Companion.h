@@ -9,6 +9,7 @@
 #include "companion/app/CompanionWindow.h"
 #include "companion/app/DemoServices.h"
 #include "companion/app/Sandbox.h"
+#include "companion/app/TryOutView.h"
 #include "companion/runtime/Border.h"
 
 // Everything that the companion is made of, put together. Open the settings store and choose the keychain
@@ -47,6 +48,7 @@ class Companion final : public QObject {
   DemoServices m_services;
   CompanionWindow m_window;
   const CompanionOptions m_options;
+  TryOutView* m_tryOut = nullptr;  // the window's
   std::unique_ptr<CompanionExchange> m_exchange;
   Sandbox m_sandbox;
 };
