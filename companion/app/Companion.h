@@ -47,8 +47,8 @@ class Companion final : public QObject {
   Border::Token m_logging;
   DemoServices m_services;
   CompanionWindow m_window;
-  TryOutView* m_tryOut = nullptr;  // the window's
   const CompanionOptions m_options;
+  TryOutView* m_tryOut = nullptr;  // the window's
   std::unique_ptr<CompanionExchange> m_exchange;
   Sandbox m_sandbox;
 };

@@ -2,10 +2,10 @@
 #include <malloc.h>
 
 #include <QCoreApplication>
+#include <QPushButton>
+#include <algorithm>
 
-#include "companion/app/BorderLog.h"
-#include "companion/app/BorderLogView.h"
-#include "companion/runtime/Border.h"
+#include "companion/app/Companion.h"
 
 namespace {
 
@@ -18,19 +18,22 @@ qint64 bytesInUse() {
   return static_cast<qint64>(info.uordblks + info.hblkhd);
 }
 
+QPushButton* buttonOf(const QWidget& window, const QString& title) {
+  const auto buttons = window.findChildren<QPushButton*>();
+  const auto found = std::ranges::find(buttons, title, &QPushButton::text);
+  return found == buttons.end() ? nullptr : *found;
+}
+
 TEST(LongDay, AnEventASecondLeavesMemoryFlat) {
-  Border border([](const QUrl&) { return true; });
-  BorderLog log;
-  const Border::Token logging =
-      border.addObserver([&log](const Crossing& crossing) { log.record(crossing); });
-  BorderLogView view(&log);
-  view.resize(800, 400);
-  view.show();
-  ASSERT_TRUE(border.loadPlugin(FAKE_PLUGIN));
+  Companion companion({});
+  companion.showWindow();
+  ASSERT_TRUE(companion.loadPlugin(FAKE_PLUGIN));
+  QPushButton* const button = buttonOf(*companion.window(), "Join by number");
+  ASSERT_TRUE(button);
   qint64 early = 0;
   for (int second = 1; second <= kSecondsOfADay; ++second) {
-    // With its trace that is two events, so the list is full after a tenth of the day.
-    border.triggerCommand(9, Dictionary{{"second", second}});
+    // A command and its trace, so the inspector is full after a tenth of the day.
+    button->click();
     if (second % 500 == 0) QCoreApplication::processEvents();
     if (second == kSecondsOfADay / 10) early = bytesInUse();
   }
