@@ -75,7 +75,7 @@ int playSession(const SessionOptions& options, QFile* script) {
   Border border([](const QUrl&) { return true; });
   LineWriter writer(stdout);
   std::optional<WriteWatch> writes;
-  if (options.isPrintingWrites) writes.emplace(&writer, options.keychain);
+  if (options.isPrintingWrites) writes.emplace(&writer);
   // What is traced while the plug-in is loaded is heard, what the end traces is not part of the script.
   std::optional<Session> session(std::in_place, &border, &writer, options.trace);
   if (!border.loadPlugin(options.pluginPath)) {

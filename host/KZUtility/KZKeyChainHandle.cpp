@@ -80,9 +80,16 @@ struct KZKeyChainHandle::Private {
     (void)memory.write(item, secret);
     const auto keychain = currentBackend();
     if (keychain && keychain->write(item, secret) != Status::Done) giveUp(keychain);
+    Q_EMIT handle->itemWritten(item.account);
   }
 
   Status remove(const Item& item) {
+    const Status status = removeFromAll(item);
+    if (status == Status::Done) Q_EMIT handle->itemRemoved(item.account);
+    return status;
+  }
+
+  Status removeFromAll(const Item& item) {
     const Status inMemory = memory.remove(item);
     const auto keychain = currentBackend();
     if (!keychain) return inMemory;

@@ -44,6 +44,9 @@ class KZ_HOST_EXPORT KZKeyChainHandle : public QObject {
  Q_SIGNALS:
   // Once for each keychain that fails, on the thread of the call that it failed.
   void lost();
+  // After an item was written or removed, in the keychain or in memory; on the thread of the call.
+  void itemWritten(const QString& account);
+  void itemRemoved(const QString& account);
 
  private:
   KZKeyChainHandle();

@@ -6,7 +6,7 @@
 #include "host/KZUtility/KZKeychainBackend.h"
 
 // Secrets that are gone with the process.
-class KZ_HOST_EXPORT MemoryKeychain final : public KZKeychainBackend {
+class MemoryKeychain final : public KZKeychainBackend {
  public:
   [[nodiscard]] Answer read(const Item& item) override;
   [[nodiscard]] Status write(const Item& item, const QByteArray& secret) override;
