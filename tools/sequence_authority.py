@@ -35,7 +35,7 @@ class Authority:
 
     def __init__(self, sandbox, tell, tell_answer):
         self.tell, self.tell_answer = tell, tell_answer
-        self.process = subprocess.Popen([sandbox, "--give", "--until-input-ends"], stdin=subprocess.PIPE,
+        self.process = subprocess.Popen([sandbox, "--give", "--lifetime", "1", "--until-input-ends"], stdin=subprocess.PIPE,
                                         stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
 
     def __enter__(self):

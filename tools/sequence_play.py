@@ -10,7 +10,8 @@ A script is one for prefs-session whose comments say what else the picture holds
     #> until sent N       waits for that command
     #> leave out KEYS     keys that the picture does not show
 
-AUTHORITY in a step is the address of a sign-in authority that runs as long as the script does."""
+AUTHORITY in a step is the address of a sign-in authority that runs as long as the script does; its tokens are good for
+a second."""
 import contextlib
 import dataclasses
 import json
