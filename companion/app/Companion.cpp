@@ -28,6 +28,7 @@ Companion::Companion(const CompanionOptions& options)
       m_logging(m_border.addObserver([this](const Crossing& crossing) { m_log.record(crossing); })),
       m_services(&m_border),
       m_window(&m_border, &m_services),
+      m_tryOut(new TryOutView),
       m_exchange(&m_border, options.reach, standardExchangeConfiguration(options.clientId, kSignedInUri)) {
   createPages();
   m_window.showNotice(introduction(options.reach));
@@ -43,16 +44,20 @@ Companion::~Companion() {
 
 void Companion::createPages() {
   m_window.addPage(QStringLiteral("Inspector"), new BorderLogView(&m_log));
+  m_window.addPage(QStringLiteral("Try out"), m_tryOut);
+  connect(m_tryOut, &TryOutView::siteChosen, &m_window, &CompanionWindow::useSite);
 }
 
 void Companion::connectSandbox() {
-  connect(&m_sandbox, &Sandbox::ready, this, [this](const QJsonObject& description) {
-    m_exchange.useSandbox(description);
-    m_window.offerAccounts(sandboxAccounts(description));
+  connect(&m_sandbox, &Sandbox::ready, this, [this](const QJsonObject& exchange, const QJsonObject& site) {
+    m_exchange.useSandbox(exchange);
+    m_tryOut->setAccounts(sandboxAccounts(exchange));
+    m_tryOut->setSites(sandboxSites(site));
   });
   connect(&m_sandbox, &Sandbox::failed, this, [this](const QString& reason) {
     m_exchange.loseSandbox(reason);
-    m_window.offerAccounts({});
+    m_tryOut->setAccounts({});
+    m_tryOut->setSites({});
   });
 }
 

@@ -8,6 +8,7 @@
 #include "companion/app/CompanionWindow.h"
 #include "companion/app/DemoServices.h"
 #include "companion/app/Sandbox.h"
+#include "companion/app/TryOutView.h"
 #include "companion/runtime/Border.h"
 
 // Everything that the companion is made of, put together. Open the settings store and choose the keychain
@@ -40,6 +41,7 @@ class Companion final : public QObject {
   Border::Token m_logging;
   DemoServices m_services;
   CompanionWindow m_window;
+  TryOutView* m_tryOut;  // the window's
   CompanionExchange m_exchange;
   Sandbox m_sandbox;
 };
