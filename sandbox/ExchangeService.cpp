@@ -22,6 +22,12 @@ QString urlOf(const QString& host, const QString& path) {
   return QStringLiteral("https://") + host + path;
 }
 
+// A server takes the name of its domain and the email address alike.
+bool isNameOf(const ExchangeAccount& account, const QString& name) {
+  return name.compare(QLatin1String(account.username), Qt::CaseInsensitive) == 0 ||
+         name.compare(QLatin1String(account.email), Qt::CaseInsensitive) == 0;
+}
+
 bool isOnlineDiscovery(const QString& host) {
   const auto services = onlineCases();
   return std::any_of(services.begin(), services.end(),
@@ -142,12 +148,11 @@ bool ExchangeService::isAllowed(const QByteArray& authorization) {
   if (authorization.startsWith("Bearer ")) return m_isGranted(QString::fromLatin1(authorization.sliced(7)));
   if (!authorization.startsWith("Basic ")) return false;
   const QString credential = QString::fromUtf8(QByteArray::fromBase64(authorization.sliced(6)));
-  const QString username = credential.section(QLatin1Char(':'), 0, 0);
   const ExchangeAccount& account = exchangeAccounts().front();
-  const bool isRight = username == QLatin1String(account.username) &&
-                       credential.section(QLatin1Char(':'), 1) == QLatin1String(account.password) &&
-                       m_refusals.value(username) < refusalsUntilLocked;
-  if (!isRight) ++m_refusals[username];
+  if (!isNameOf(account, credential.section(QLatin1Char(':'), 0, 0))) return false;
+  const bool isRight = credential.section(QLatin1Char(':'), 1) == QLatin1String(account.password) &&
+                       m_refusals < refusalsUntilLocked;
+  if (!isRight) ++m_refusals;
   return isRight;
 }
 

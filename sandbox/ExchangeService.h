@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <QHash>
 #include <QJsonObject>
 #include <QList>
 #include <QString>
@@ -51,7 +50,7 @@ class ExchangeService final {
   QString m_authorities;
   TokenCheck m_isGranted;
   HostServers m_servers;
-  QHash<QString, int> m_refusals;  // by user name
+  int m_refusals = 0;  // of the one account that can get in
   QList<Visit> m_visits;
 };
 

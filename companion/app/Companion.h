@@ -1,12 +1,14 @@
 #pragma once
 
 #include <QString>
+#include <memory>
 
 #include "companion/app/CompanionExchange.h"
 #include "companion/app/CompanionOptions.h"
 #include "companion/app/CompanionWindow.h"
 #include "companion/app/DemoServices.h"
 #include "companion/app/Sandbox.h"
+#include "companion/app/TryOutView.h"
 #include "companion/inspector/InspectorLog.h"
 #include "companion/runtime/Border.h"
 
@@ -19,11 +21,15 @@ class Companion final : public QObject {
   explicit Companion(const CompanionOptions& options);
   ~Companion() override;
 
+  // Returns when the window is on the screen, or would not come. What the user does with it waits until the
+  // events run: load the plug-in before.
+  void showWindow();
+
   // False when the plug-in cannot be loaded; the reason is in `errorText`.
-  [[nodiscard]] bool loadPlugin(const QString& path) { return m_border.loadPlugin(path); }
+  [[nodiscard]] bool loadPlugin(const QString& path);
   const QString& errorText() const { return m_border.errorText(); }
 
-  // The windows first, then the sandbox. After a successful load.
+  // Preferences first, then the sandbox. After a successful load.
   void start(demouser::Variant variant);
 
   // Both windows, over those of other programs.
@@ -33,6 +39,7 @@ class Companion final : public QObject {
 
  private:
   void createPages();
+  void createExchange();
   void connectSandbox();
 
   Border m_border;
@@ -40,6 +47,8 @@ class Companion final : public QObject {
   Border::Token m_logging;
   DemoServices m_services;
   CompanionWindow m_window;
-  CompanionExchange m_exchange;
+  const CompanionOptions m_options;
+  TryOutView* m_tryOut = nullptr;  // the window's
+  std::unique_ptr<CompanionExchange> m_exchange;
   Sandbox m_sandbox;
 };

@@ -115,10 +115,6 @@ QWidget* CompanionWindow::createButtons() {
   row->addWidget(createButton("Join by number", "Command 10", &CompanionWindow::joinByNumber));
   row->addWidget(createButton("Close", "Command 3", &CompanionWindow::closePreferences));
   row->addStretch(1);
-  m_accountsButton = createButton("Accounts to try", "Addresses and passwords of the sandbox",
-                                  &CompanionWindow::showAccountsToTry);
-  m_accountsButton->setEnabled(false);
-  row->addWidget(m_accountsButton);
   return bar;
 }
 
@@ -182,27 +178,18 @@ void CompanionWindow::askForSite() {
   dialog->setTextValue(KZPlistFileHandle::sharedInstance().siteName());
   connect(dialog, &QInputDialog::textValueSelected, this, [this](const QString& entered) {
     const QString site = entered.trimmed();
-    if (site.isEmpty()) return;
-    KZPlistFileHandle::sharedInstance().setSiteName(site);
-    m_services->changeSite(site);
+    if (!site.isEmpty()) useSite(site);
   });
   dialog->open();
 }
 
+void CompanionWindow::useSite(const QString& site) {
+  KZPlistFileHandle::sharedInstance().setSiteName(site);
+  m_services->changeSite(site);
+}
+
 void CompanionWindow::showNotice(const QString& text) {
   m_notice->setText(text);
-}
-
-void CompanionWindow::offerAccounts(const QList<SandboxAccount>& accounts) {
-  m_accounts = accounts;
-  m_accountsButton->setEnabled(!accounts.isEmpty());
-}
-
-void CompanionWindow::showAccountsToTry() {
-  if (!m_accountsDialog) m_accountsDialog = new AccountsDialog(m_accounts, this);
-  m_accountsDialog->show();
-  m_accountsDialog->raise();
-  m_accountsDialog->activateWindow();
 }
 
 void CompanionWindow::showIdentity() {

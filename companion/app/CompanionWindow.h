@@ -1,13 +1,9 @@
 #pragma once
 
-#include <QList>
-#include <QPointer>
 #include <QWidget>
 
-#include "companion/app/AccountsDialog.h"
 #include "companion/app/DemoServices.h"
 #include "companion/app/DemoUser.h"
-#include "companion/exchange/SandboxExchange.h"
 
 class Border;
 class QLabel;
@@ -30,8 +26,8 @@ class CompanionWindow final : public QWidget {
   void showNotice(const QString& text);
   // The window takes the page; the first one is in front.
   void addPage(const QString& title, QWidget* page);
-  // With none there is nothing to try.
-  void offerAccounts(const QList<SandboxAccount>& accounts);
+  // The user belongs to another site from now on.
+  void useSite(const QString& site);
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -48,7 +44,6 @@ class CompanionWindow final : public QWidget {
   void joinByNumber();
   void closePreferences();
   void askForSite();
-  void showAccountsToTry();
   void showIdentity();
 
   Border* m_border;
@@ -59,7 +54,4 @@ class CompanionWindow final : public QWidget {
   QStackedWidget* m_pages = nullptr;
   QLabel* m_identity = nullptr;
   QLabel* m_notice = nullptr;
-  QPushButton* m_accountsButton = nullptr;
-  QList<SandboxAccount> m_accounts;
-  QPointer<AccountsDialog> m_accountsDialog;
 };

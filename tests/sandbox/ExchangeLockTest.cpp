@@ -32,7 +32,7 @@ TEST_F(ExchangeLockTest, TheThirdRefusalLocksTheAccountUntilTheSandboxStartsAnew
   EXPECT_EQ(statusWith("CORP\\onprem:wrong"), 401);
   EXPECT_EQ(statusWith("CORP\\onprem:correct horse"), 200);
   EXPECT_EQ(statusWith("CORP\\onprem:wrong"), 401);
-  EXPECT_EQ(statusWith("CORP\\onprem:correct horse"), 200) << "locked too early";
+  EXPECT_EQ(statusWith("onprem@corp.sandbox.example:correct horse"), 200) << "locked too early";
   EXPECT_EQ(statusWith("CORP\\onprem:wrong"), 401);
   EXPECT_EQ(statusWith("CORP\\onprem:correct horse"), 401);
   ASSERT_NO_FATAL_FAILURE(startAnew());
