@@ -79,7 +79,7 @@ QWidget* InspectorView::createLists() {
   lists->setStretchFactor(0, 3);
   lists->setStretchFactor(1, 2);
   m_details->setMinimumWidth(200);
-  lists->setSizes({560, 300});
+  lists->setSizes({590, 262});
   return lists;
 }
 

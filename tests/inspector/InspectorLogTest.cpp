@@ -5,6 +5,7 @@
 #include <QThread>
 #include <algorithm>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "companion/inspector/InspectorModel.h"
