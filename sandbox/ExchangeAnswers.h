@@ -4,12 +4,11 @@
 #include <QString>
 #include <QUrl>
 
-#include "sandbox/HttpServer.h"
+#include "sandbox/HttpMessage.h"
 
 namespace sandbox {
 
 HttpResponse xmlAnswer(const QByteArray& xml);
-HttpResponse notHere();
 HttpResponse challengeAnswer(const QList<QByteArray>& challenges);
 
 // The discovery protocol's answers.

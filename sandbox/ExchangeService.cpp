@@ -1,9 +1,12 @@
 #include "sandbox/ExchangeService.h"
 
 #include <QJsonArray>
+#include <algorithm>
 #include <utility>
 
+#include "sandbox/Answers.h"
 #include "sandbox/ExchangeAnswers.h"
+#include "sandbox/OnlineCases.h"
 
 namespace sandbox {
 
@@ -11,47 +14,37 @@ namespace {
 
 const QString discoveryPath = QStringLiteral("/autodiscover/autodiscover.xml");
 const QString meetingPath = QStringLiteral("/EWS/Exchange.asmx");
-const QString onlineHost = QStringLiteral("autodiscover.online.") + sandboxDomain;
 
 constexpr std::chrono::seconds slowTime{1};
-constexpr int longestLoop = 100;
 constexpr int refusalsUntilLocked = 3;
 
 QString urlOf(const QString& host, const QString& path) {
   return QStringLiteral("https://") + host + path;
 }
 
-HttpResponse delivered(HttpResponse::Delivery delivery) {
-  HttpResponse response = notHere();
-  response.delivery = delivery;
-  return response;
+// A server takes the name of its domain and the email address alike.
+bool isNameOf(const ExchangeAccount& account, const QString& name) {
+  return name.compare(QLatin1String(account.username), Qt::CaseInsensitive) == 0 ||
+         name.compare(QLatin1String(account.email), Qt::CaseInsensitive) == 0;
 }
 
-HttpResponse leadTo(const QString& url) {
-  HttpResponse response{.status = 302};
-  response.headers.append({"Location", url.toLatin1()});
-  return response;
-}
-
-quint16 portOf(const HttpServer& server) {
-  return static_cast<quint16>(server.url().port());
+bool isOnlineDiscovery(const QString& host) {
+  const auto services = onlineCases();
+  return std::any_of(services.begin(), services.end(),
+                     [&host](const OnlineCase& one) { return host == onlineDiscoveryHost(one); });
 }
 
 }  // namespace
 
-ExchangeService::ExchangeService(QString authority, TokenCheck isGranted)
-    : m_authority(std::move(authority)), m_isGranted(std::move(isGranted)) {}
+ExchangeService::ExchangeService(QString authorities, TokenCheck isGranted)
+    : m_authorities(std::move(authorities)), m_isGranted(std::move(isGranted)) {}
 
 bool ExchangeService::listen() {
-  const auto ours = m_certificates.serverOf(exchangeHosts());
-  const auto others = m_certificates.serverOf({QStringLiteral("another.example")});
-  if (!ours || !others) return false;
-  m_encrypted = std::make_unique<HttpServer>(*ours);
-  m_otherName = std::make_unique<HttpServer>(*others);
-  handle(m_plain, false);
-  handle(*m_encrypted, true);
-  handle(*m_otherName, true);
-  return m_plain.listen() && m_encrypted->listen() && m_otherName->listen();
+  if (!m_servers.listen(exchangeHosts())) return false;
+  handle(m_servers.plain(), false);
+  handle(m_servers.encrypted(), true);
+  handle(m_servers.otherName(), true);
+  return true;
 }
 
 void ExchangeService::handle(HttpServer& server, bool isEncrypted) {
@@ -69,25 +62,20 @@ QJsonObject ExchangeService::describe() const {
                        {"priority", priority},
                        {"weight", 1}};
   };
-  return {
-      {"domain", sandboxDomain},
-      {"address", "127.0.0.1"},
-      {"http", portOf(m_plain)},
-      {"https", portOf(*m_encrypted)},
-      {"otherName", QJsonObject{{"domain", "certificate." + sandboxDomain}, {"https", portOf(*m_otherName)}}},
-      {"certificates", m_certificates.authority()},
-      {"services", QJsonObject{{serviceName, QJsonArray{record("spare", 20), record("exchange", 10)}}}},
-      {"online", QJsonObject{{"hostSuffixes", QJsonArray{"online." + sandboxDomain}},
-                             {"autodiscover", urlOf(onlineHost, discoveryPath)},
-                             {"authority", m_authority},
-                             {"resource", "https://mail.online." + sandboxDomain},
-                             {"clientId", "sandbox-companion"},
-                             {"redirectUri", "http://127.0.0.1/signed-in"}}},
-      {"accounts", describeAccounts()}};
+  return {{"domain", sandboxDomain},
+          {"address", "127.0.0.1"},
+          {"http", m_servers.plainPort()},
+          {"https", m_servers.encryptedPort()},
+          {"otherName",
+           QJsonObject{{"domain", "certificate." + sandboxDomain}, {"https", m_servers.otherNamePort()}}},
+          {"certificates", m_servers.certificates()},
+          {"services", QJsonObject{{serviceName, QJsonArray{record("spare", 20), record("exchange", 10)}}}},
+          {"online", describeOnlineCases(m_authorities)},
+          {"accounts", describeAccounts()}};
 }
 
 QString ExchangeService::note(const HttpRequest& request, bool isEncrypted) {
-  const QString host = QString::fromLatin1(request.headers.value("host")).section(QLatin1Char(':'), 0, 0);
+  const QString host = request.host();
   m_visits.append({host, request.path, request.method, request.headers.value("authorization"), isEncrypted});
   return host;
 }
@@ -95,7 +83,7 @@ QString ExchangeService::note(const HttpRequest& request, bool isEncrypted) {
 HttpResponse ExchangeService::discover(const HttpRequest& request, bool isEncrypted) {
   const QString host = note(request, isEncrypted);
   if (!isEncrypted) return discoverPlainly(host);
-  if (host == onlineHost) return discoverOnPremise(request, host);
+  if (isOnlineDiscovery(host)) return discoverOnPremise(request, host);
   const ExchangeAccount* const account = accountOfHost(host);
   if (account == nullptr) return notHere();
   switch (account->what) {
@@ -110,17 +98,17 @@ HttpResponse ExchangeService::discover(const HttpRequest& request, bool isEncryp
     case ExchangeCase::ServiceRecord:
       return host.startsWith(QLatin1String("exchange.")) ? discoverOnPremise(request, host) : notHere();
     case ExchangeCase::Online:
-      return otherUrlAnswer(urlOf(onlineHost, discoveryPath));
+      return otherUrlAnswer(urlOf(onlineDiscoveryHost(onlineCaseOf(host)), discoveryPath));
     case ExchangeCase::OtherEmail:
       return otherEmailAnswer(QStringLiteral("onprem@corp.") + sandboxDomain);
     case ExchangeCase::Silent:
-      return delivered(HttpResponse::Delivery::Silent);
+      return delivered({}, HttpResponse::Delivery::Silent);
     case ExchangeCase::Drip:
-      return delivered(HttpResponse::Delivery::Drip);
+      return delivered(notHere(), HttpResponse::Delivery::Drip);
     case ExchangeCase::ServerError:
       return {.status = 500};
     case ExchangeCase::Loop:
-      return lead(request, host);
+      return leadRound(request);
     case ExchangeCase::BareChallenge:
       return challengeAnswer({"Negotiate", "NTLM"});
     case ExchangeCase::Entities:
@@ -139,12 +127,6 @@ HttpResponse ExchangeService::discoverPlainly(const QString& host) const {
   const ExchangeAccount* const account = accountOfHost(host);
   if (account == nullptr || account->what != ExchangeCase::PlainRedirect) return notHere();
   return leadTo(urlOf(QStringLiteral("autodiscover.corp.") + sandboxDomain, discoveryPath));
-}
-
-HttpResponse ExchangeService::lead(const HttpRequest& request, const QString& host) const {
-  const int step = request.query.queryItemValue(QStringLiteral("step")).toInt() + 1;
-  if (step > longestLoop) return notHere();
-  return leadTo(urlOf(host, discoveryPath) + QStringLiteral("?step=%1").arg(step));
 }
 
 HttpResponse ExchangeService::discoverOnPremise(const HttpRequest& request, const QString& host) {
@@ -166,12 +148,11 @@ bool ExchangeService::isAllowed(const QByteArray& authorization) {
   if (authorization.startsWith("Bearer ")) return m_isGranted(QString::fromLatin1(authorization.sliced(7)));
   if (!authorization.startsWith("Basic ")) return false;
   const QString credential = QString::fromUtf8(QByteArray::fromBase64(authorization.sliced(6)));
-  const QString username = credential.section(QLatin1Char(':'), 0, 0);
   const ExchangeAccount& account = exchangeAccounts().front();
-  const bool isRight = username == QLatin1String(account.username) &&
-                       credential.section(QLatin1Char(':'), 1) == QLatin1String(account.password) &&
-                       m_refusals.value(username) < refusalsUntilLocked;
-  if (!isRight) ++m_refusals[username];
+  if (!isNameOf(account, credential.section(QLatin1Char(':'), 0, 0))) return false;
+  const bool isRight = credential.section(QLatin1Char(':'), 1) == QLatin1String(account.password) &&
+                       m_refusals < refusalsUntilLocked;
+  if (!isRight) ++m_refusals;
   return isRight;
 }
 

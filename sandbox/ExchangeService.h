@@ -1,15 +1,13 @@
 #pragma once
 
 #include <QByteArray>
-#include <QHash>
 #include <QJsonObject>
 #include <QList>
 #include <QString>
 #include <functional>
 
-#include "sandbox/Certificates.h"
 #include "sandbox/ExchangeCases.h"
-#include "sandbox/HttpServer.h"
+#include "sandbox/HostServers.h"
 
 namespace sandbox {
 
@@ -26,8 +24,9 @@ class ExchangeService final {
   };
   using TokenCheck = std::function<bool(const QString& accessToken)>;
 
-  // `authority` is where online users sign in, `isGranted` knows its tokens.
-  ExchangeService(QString authority, TokenCheck isGranted);
+  // `authorities` is the address that the authorities lie below where online users sign in, `isGranted` knows
+  // their tokens.
+  ExchangeService(QString authorities, TokenCheck isGranted);
   Q_DISABLE_COPY_MOVE(ExchangeService)
 
   // False where there is no port or no certificate.
@@ -44,18 +43,14 @@ class ExchangeService final {
   HttpResponse discover(const HttpRequest& request, bool isEncrypted);
   HttpResponse discoverPlainly(const QString& host) const;
   HttpResponse discoverOnPremise(const HttpRequest& request, const QString& host);
-  HttpResponse lead(const HttpRequest& request, const QString& host) const;
   HttpResponse listMeetings(const HttpRequest& request);
   QString note(const HttpRequest& request, bool isEncrypted);
   bool isAllowed(const QByteArray& authorization);
 
-  QString m_authority;
+  QString m_authorities;
   TokenCheck m_isGranted;
-  Certificates m_certificates;
-  HttpServer m_plain;
-  std::unique_ptr<HttpServer> m_encrypted;
-  std::unique_ptr<HttpServer> m_otherName;
-  QHash<QString, int> m_refusals;  // by user name
+  HostServers m_servers;
+  int m_refusals = 0;  // of the one account that can get in
   QList<Visit> m_visits;
 };
 

@@ -7,16 +7,18 @@
 #include <array>
 #include <cstdio>
 
-#include "sandbox/Authority.h"
 #include "sandbox/ExchangeService.h"
 #include "sandbox/HttpServer.h"
+#include "sandbox/MeetingSite.h"
+#include "sandbox/OnlineAuthorities.h"
 
 // Runs the sandbox until it is ended. The first line on standard output says where it is.
 int main(int argc, char** argv) {
   QCoreApplication application(argc, argv);
   QCommandLineParser parser;
   parser.setApplicationDescription(
-      "A small sign-in authority and Exchange on the loopback address, for trying things out.");
+      "A small meeting service, update service, Exchange and sign-in authority on the loopback address, for "
+      "trying things out.");
   parser.addHelpOption();
   parser.addOptions({{"port", "Listen at this port (default: a free one).", "number", "0"},
                      {"lifetime", "How long an access token is good, in seconds.", "seconds", "3600"},
@@ -31,19 +33,21 @@ int main(int argc, char** argv) {
     return 1;
   }
   using sandbox::Authority;
-  Authority authority(server, QStringLiteral("/common"));
-  authority.setConsent(parser.isSet("give") ? Authority::Consent::Give : Authority::Consent::AskUser);
-  authority.setGeneration(parser.isSet("scopes") ? Authority::Generation::Scope
-                                                 : Authority::Generation::Resource);
-  authority.setLifetime(parser.value("lifetime").toInt());
-
+  const sandbox::OnlineAuthorities authorities(
+      server,
+      {.consent = parser.isSet("give") ? Authority::Consent::Give : Authority::Consent::AskUser,
+       .generation = parser.isSet("scopes") ? Authority::Generation::Scope : Authority::Generation::Resource,
+       .lifetime = parser.value("lifetime").toInt()});
   sandbox::ExchangeService exchange(
-      authority.address(), [&authority](const QString& token) { return authority.isGranted(token); });
-  QJsonObject where{{"authority", authority.address()}};
-  if (exchange.listen()) {
+      server.url().toString(), [&authorities](const QString& token) { return authorities.isGranted(token); });
+  sandbox::MeetingSite site;
+  QJsonObject where{{"authority", authorities.faultless().address()}};
+  if (exchange.listen() && site.listen()) {
     where.insert("exchange", exchange.describe());
+    where.insert("site", site.describe());
   } else {
-    std::fputs("No Exchange is played: the openssl program made no certificates.\n", stderr);
+    std::fputs("No Exchange and no meeting site is played: the openssl program made no certificates.\n",
+               stderr);
   }
   std::printf("%s\n", QJsonDocument(where).toJson(QJsonDocument::Compact).constData());
   std::fflush(stdout);

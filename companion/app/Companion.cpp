@@ -1,6 +1,7 @@
 #include "companion/app/Companion.h"
 
 #include <QDesktopServices>
+#include <QFileDialog>
 #include <QTimer>
 
 #include "companion/app/BorderLogView.h"
@@ -26,34 +27,68 @@ QString introduction(CompanionExchange::Reach reach) {
 Companion::Companion(const CompanionOptions& options)
     : m_border([](const QUrl& url) { return QDesktopServices::openUrl(url); }),
       m_logging(m_border.addObserver([this](const Crossing& crossing) { m_log.record(crossing); })),
+      m_recording(&m_border),
       m_services(&m_border),
       m_window(&m_border, &m_services),
+      m_tryOut(new TryOutView),
       m_exchange(&m_border, options.reach, standardExchangeConfiguration(options.clientId, kSignedInUri)) {
   createPages();
   m_window.showNotice(introduction(options.reach));
   connect(&m_services, &DemoServices::noticed, &m_window, &CompanionWindow::showNotice);
   connect(&m_exchange, &CompanionExchange::noticed, &m_window, &CompanionWindow::showNotice);
   connectSandbox();
+  connectRecording();
 }
 
 Companion::~Companion() {
+  m_recording.stop();
   // What the plug-in's end still tells must find its observers.
   m_border.shutDown();
 }
 
 void Companion::createPages() {
   m_window.addPage(QStringLiteral("Inspector"), new BorderLogView(&m_log));
+  m_window.addPage(QStringLiteral("Try out"), m_tryOut);
+  connect(m_tryOut, &TryOutView::siteChosen, &m_window, &CompanionWindow::useSite);
 }
 
 void Companion::connectSandbox() {
-  connect(&m_sandbox, &Sandbox::ready, this, [this](const QJsonObject& description) {
-    m_exchange.useSandbox(description);
-    m_window.offerAccounts(sandboxAccounts(description));
+  connect(&m_sandbox, &Sandbox::ready, this, [this](const QJsonObject& exchange, const QJsonObject& site) {
+    m_exchange.useSandbox(exchange);
+    m_tryOut->setAccounts(sandboxAccounts(exchange));
+    m_tryOut->setSites(sandboxSites(site));
   });
   connect(&m_sandbox, &Sandbox::failed, this, [this](const QString& reason) {
     m_exchange.loseSandbox(reason);
-    m_window.offerAccounts({});
+    m_tryOut->setAccounts({});
+    m_tryOut->setSites({});
   });
+}
+
+void Companion::connectRecording() {
+  connect(&m_recording, &Recording::noticed, &m_window, &CompanionWindow::showNotice);
+  connect(&m_recording, &Recording::changed, &m_window, &CompanionWindow::showRecording);
+  connect(&m_window, &CompanionWindow::recordingToggled, this, &Companion::toggleRecording);
+}
+
+void Companion::toggleRecording() {
+  if (m_recording.isRunning()) return m_recording.stop();
+  auto* dialog = new QFileDialog(&m_window, QStringLiteral("Record to"), Recording::suggestedPath());
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  dialog->setAcceptMode(QFileDialog::AcceptSave);
+  dialog->setDefaultSuffix(QStringLiteral("jsonl"));
+  connect(dialog, &QFileDialog::fileSelected, this, &Companion::recordAnew);
+  dialog->open();
+}
+
+// A record must hold how the plug-in came to where it is, so it goes there once more.
+void Companion::recordAnew(const QString& path) {
+  if (m_recording.start(path)) m_window.startOver();
+}
+
+void Companion::comeToFront() {
+  m_window.comeToFront();
+  m_window.showPreferences();
 }
 
 void Companion::start(demouser::Variant variant) {

@@ -7,7 +7,9 @@
 #include "companion/app/CompanionOptions.h"
 #include "companion/app/CompanionWindow.h"
 #include "companion/app/DemoServices.h"
+#include "companion/app/Recording.h"
 #include "companion/app/Sandbox.h"
+#include "companion/app/TryOutView.h"
 #include "companion/runtime/Border.h"
 
 // Everything that the companion is made of, put together. Open the settings store and choose the keychain
@@ -23,20 +25,32 @@ class Companion final : public QObject {
   [[nodiscard]] bool loadPlugin(const QString& path) { return m_border.loadPlugin(path); }
   const QString& errorText() const { return m_border.errorText(); }
 
+  // Records from now on; call it before loading, so that the record is whole. False when the file cannot be
+  // made.
+  [[nodiscard]] bool record(const QString& path) { return m_recording.start(path); }
+
   // The windows first, then the sandbox. After a successful load.
   void start(demouser::Variant variant);
+
+  // Both windows, over those of other programs.
+  void comeToFront();
 
   CompanionWindow* window() { return &m_window; }
 
  private:
   void createPages();
   void connectSandbox();
+  void connectRecording();
+  void toggleRecording();
+  void recordAnew(const QString& path);
 
   Border m_border;
   BorderLog m_log;
   Border::Token m_logging;
+  Recording m_recording;
   DemoServices m_services;
   CompanionWindow m_window;
+  TryOutView* m_tryOut;  // the window's
   CompanionExchange m_exchange;
   Sandbox m_sandbox;
 };

@@ -20,6 +20,7 @@ CompanionOptions CompanionOptions::read(const QStringList& arguments) {
        {"guest", "Start as a guest."},
        {"network", "Look for Exchange in the network too, not in the sandbox alone."},
        {"client-id", "The registration that signs in at Office 365; with --network.", "ID"},
+       {"record", "Write what happens as a record.", "FILE"},
        {"plugin", "The plug-in to load.", "FILE", defaultPluginPath()}});
   parser.process(arguments);
   CompanionOptions options;
@@ -31,6 +32,7 @@ CompanionOptions CompanionOptions::read(const QStringList& arguments) {
   options.language = parser.value("language");
   options.clientId = parser.value("client-id");
   options.outFolder = parser.value("out");
+  options.recordPath = parser.value("record");
   options.stateFolder = parser.value("state");
   options.pluginPath = parser.value("plugin");
   return options;

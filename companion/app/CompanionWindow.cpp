@@ -10,6 +10,7 @@
 #include <QStackedWidget>
 #include <QTabBar>
 
+#include "companion/app/FaultNotice.h"
 #include "companion/runtime/Border.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZFoundation/KZCommands.h"
@@ -38,6 +39,7 @@ CompanionWindow::CompanionWindow(Border* border, DemoServices* services)
   column->setSpacing(14);
   column->addWidget(createHeader());
   column->addWidget(createButtons());
+  column->addWidget(new FaultNotice(this));
   column->addWidget(createPages(), 1);
   m_notice = new QLabel;
   m_notice->setWordWrap(true);
@@ -113,10 +115,9 @@ QWidget* CompanionWindow::createButtons() {
   row->addWidget(createButton("Join by number", "Command 10", &CompanionWindow::joinByNumber));
   row->addWidget(createButton("Close", "Command 3", &CompanionWindow::closePreferences));
   row->addStretch(1);
-  m_accountsButton = createButton("Accounts to try", "Addresses and passwords of the sandbox",
-                                  &CompanionWindow::showAccountsToTry);
-  m_accountsButton->setEnabled(false);
-  row->addWidget(m_accountsButton);
+  m_recordButton = createButton("Record", "Writes what happens to a file, for a report",
+                                &CompanionWindow::recordingToggled);
+  row->addWidget(m_recordButton);
   return bar;
 }
 
@@ -146,6 +147,22 @@ void CompanionWindow::showPreferences() {
   m_border->triggerCommand(number(KZCommand::KZCmdShowPreference), fromApplication());
 }
 
+void CompanionWindow::startOver() {
+  become(m_guest->isChecked() ? demouser::Variant::Guest : demouser::Variant::SignedIn);
+  showPreferences();
+}
+
+void CompanionWindow::showRecording(bool isRunning) {
+  m_recordButton->setText(isRunning ? QStringLiteral("Stop recording") : QStringLiteral("Record"));
+}
+
+void CompanionWindow::comeToFront() {
+  setWindowState(windowState() & ~Qt::WindowMinimized);
+  show();
+  raise();
+  activateWindow();
+}
+
 void CompanionWindow::showAccount() {
   m_border->triggerCommand(number(KZCommand::KZCmdShowPreference),
                            Dictionary{{kOpenPrefsViewType, kPrefsAccountView}});
@@ -173,27 +190,18 @@ void CompanionWindow::askForSite() {
   dialog->setTextValue(KZPlistFileHandle::sharedInstance().siteName());
   connect(dialog, &QInputDialog::textValueSelected, this, [this](const QString& entered) {
     const QString site = entered.trimmed();
-    if (site.isEmpty()) return;
-    KZPlistFileHandle::sharedInstance().setSiteName(site);
-    m_services->changeSite(site);
+    if (!site.isEmpty()) useSite(site);
   });
   dialog->open();
 }
 
+void CompanionWindow::useSite(const QString& site) {
+  KZPlistFileHandle::sharedInstance().setSiteName(site);
+  m_services->changeSite(site);
+}
+
 void CompanionWindow::showNotice(const QString& text) {
   m_notice->setText(text);
-}
-
-void CompanionWindow::offerAccounts(const QList<SandboxAccount>& accounts) {
-  m_accounts = accounts;
-  m_accountsButton->setEnabled(!accounts.isEmpty());
-}
-
-void CompanionWindow::showAccountsToTry() {
-  if (!m_accountsDialog) m_accountsDialog = new AccountsDialog(m_accounts, this);
-  m_accountsDialog->show();
-  m_accountsDialog->raise();
-  m_accountsDialog->activateWindow();
 }
 
 void CompanionWindow::showIdentity() {

@@ -1,13 +1,9 @@
 #pragma once
 
-#include <QList>
-#include <QPointer>
 #include <QWidget>
 
-#include "companion/app/AccountsDialog.h"
 #include "companion/app/DemoServices.h"
 #include "companion/app/DemoUser.h"
-#include "companion/exchange/SandboxExchange.h"
 
 class Border;
 class QLabel;
@@ -26,11 +22,18 @@ class CompanionWindow final : public QWidget {
   // Also tells the plug-in, as a host does after a sign-in or when it starts for a guest.
   void become(demouser::Variant variant);
   void showPreferences();
+  void comeToFront();
+  // Tells the plug-in anew who is there and shows the Preferences.
+  void startOver();
+  void showRecording(bool isRunning);
   void showNotice(const QString& text);
   // The window takes the page; the first one is in front.
   void addPage(const QString& title, QWidget* page);
-  // With none there is nothing to try.
-  void offerAccounts(const QList<SandboxAccount>& accounts);
+  // The user belongs to another site from now on.
+  void useSite(const QString& site);
+
+ Q_SIGNALS:
+  void recordingToggled();
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -47,7 +50,6 @@ class CompanionWindow final : public QWidget {
   void joinByNumber();
   void closePreferences();
   void askForSite();
-  void showAccountsToTry();
   void showIdentity();
 
   Border* m_border;
@@ -58,7 +60,5 @@ class CompanionWindow final : public QWidget {
   QStackedWidget* m_pages = nullptr;
   QLabel* m_identity = nullptr;
   QLabel* m_notice = nullptr;
-  QPushButton* m_accountsButton = nullptr;
-  QList<SandboxAccount> m_accounts;
-  QPointer<AccountsDialog> m_accountsDialog;
+  QPushButton* m_recordButton = nullptr;
 };

@@ -22,8 +22,9 @@ class Sandbox final : public QObject {
   qint64 processId() const { return m_process.processId(); }
 
  Q_SIGNALS:
-  void ready(const QJsonObject& exchange);  // the Exchange that it plays, for withSandbox
-  void failed(const QString& reason);       // a sentence for the user; once, also after ready
+  // The Exchange that it plays, for withSandbox, and its meeting sites, for sandboxSites.
+  void ready(const QJsonObject& exchange, const QJsonObject& site);
+  void failed(const QString& reason);  // a sentence for the user; once, also after ready
 
  private:
   void readFirstLine();

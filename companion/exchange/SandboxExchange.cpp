@@ -67,8 +67,9 @@ ServiceLookup serviceLookup(const QJsonObject& description, ServiceLookup others
 
 ExchangeConfiguration withSandbox(ExchangeConfiguration configuration, const QJsonObject& description) {
   if (textAt(description, "domain").isEmpty()) return configuration;
-  configuration.onlineServices.append(
-      onlineServiceFrom(description.value(QLatin1String("online")).toObject()));
+  for (const QJsonValue& online : description.value(QLatin1String("online")).toArray()) {
+    configuration.onlineServices.append(onlineServiceFrom(online.toObject()));
+  }
   configuration.endpoint = endpointFinder(description, std::move(configuration.endpoint));
   configuration.services = serviceLookup(description, std::move(configuration.services));
   return configuration;

@@ -15,6 +15,7 @@ bool SessionOptions::read(const QStringList& arguments, QString* reason) {
       {{"state", "Where the settings store lives; left out, a fresh folder.", "DIR"},
        {"keychain", "Where secrets are kept: memory (the default) or system.", "KIND", "memory"},
        {"trace", "Print trace lines too."},
+       {"writes", "Print what is written into the settings store and the keychain."},
        {"record", "Write what is played and what comes out as a record.", "RECORD"},
        {"check", "Compare what comes out with what the script, a record, says came out."},
        {"plugin", "The plug-in to load.", "FILE", defaultPluginPath()}});
@@ -32,6 +33,7 @@ bool SessionOptions::read(const QStringList& arguments, QString* reason) {
   stateFolder = parser.value("state");
   if (storage == "system") keychain = KZKeyChainHandle::Storage::System;
   if (parser.isSet("trace")) trace = Session::Trace::On;
+  isPrintingWrites = parser.isSet("writes");
   isCheck = parser.isSet("check");
   recordPath = parser.value("record");
   pluginPath = parser.value("plugin");

@@ -11,6 +11,7 @@ struct SessionOptions {
   QString stateFolder;  // empty: a fresh one
   KZKeyChainHandle::Storage keychain = KZKeyChainHandle::Storage::Memory;
   Session::Trace trace = Session::Trace::Off;
+  bool isPrintingWrites = false;
   QString pluginPath;
   QString scriptPath;  // "-": standard input
   QString recordPath;  // empty: nothing is recorded

@@ -13,6 +13,7 @@
 #include "companion/runtime/QtMessages.h"
 #include "companion/session/Session.h"
 #include "companion/session/SessionOptions.h"
+#include "companion/session/WriteWatch.h"
 #include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 
@@ -79,6 +80,8 @@ class RecordLines final {
 int playSession(const SessionOptions& options, QIODevice* script, RecordLines* lines) {
   Border border([](const QUrl&) { return true; });
   LineWriter writer(stdout);
+  std::optional<WriteWatch> writes;
+  if (options.isPrintingWrites) writes.emplace(&writer);
   // What is traced while the plug-in is loaded is heard, what the end traces is not part of the script.
   std::optional<Session> session(std::in_place, &border, &writer, options.trace);
   std::optional<Recorder> recorder;
