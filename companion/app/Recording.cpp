@@ -37,13 +37,19 @@ bool Recording::start(const QString& path) {
   }
   m_file = std::move(file);
   m_recorder = std::make_unique<Recorder>(
-      m_border, [this](const QByteArray& line) { return m_file->write(line); },
+      m_border, [this](const QByteArray& line) { return take(line); },
       Recorder::Options{
           .clock = timeSinceStart, .slack = kPauseSlack, .keychain = HostStateWatch::Keychain::ReadOnce});
-  connect(m_recorder.get(), &Recorder::ended, this, &Recording::onEnded, Qt::QueuedConnection);
   Q_EMIT changed(true);
   Q_EMIT noticed(QStringLiteral("Recording to %1; passwords and tokens are replaced.").arg(path));
   return true;
+}
+
+bool Recording::take(const QByteArray& line) {
+  if (m_file->write(line)) return true;
+  // The recorder is at work.
+  QMetaObject::invokeMethod(this, &Recording::onFailed, Qt::QueuedConnection);
+  return false;
 }
 
 void Recording::stop() {
@@ -55,7 +61,7 @@ void Recording::stop() {
           .arg(m_file->path()));
 }
 
-void Recording::onEnded() {
+void Recording::onFailed() {
   if (!m_recorder) return;
   m_recorder.reset();
   Q_EMIT changed(false);

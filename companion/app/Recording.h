@@ -27,7 +27,8 @@ class Recording final : public QObject {
   void noticed(const QString& text);  // for the user
 
  private:
-  void onEnded();
+  [[nodiscard]] bool take(const QByteArray& line);  // on the thread that wrote it
+  void onFailed();
 
   Border* m_border;
   std::unique_ptr<RecordFile> m_file;

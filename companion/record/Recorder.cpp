@@ -174,9 +174,7 @@ void Recorder::writeUnnamed(const QString& what) {
 }
 
 void Recorder::write(const QByteArray& line) {
-  if (m_isOver) return;
-  m_isOver = !m_sink(line);
-  if (m_isOver) Q_EMIT ended();
+  if (!m_isOver) m_isOver = !m_sink(line);
 }
 
 void Recorder::writePause() {

@@ -26,7 +26,8 @@ class Recorder final : public QObject {
     HostStateWatch::Keychain keychain = HostStateWatch::Keychain::Followed;
     const void* hostPoster = nullptr;  // marks answers that the host itself posts
   };
-  // Takes a line without its end; false ends the recording. On the thread on which it happened.
+  // Takes a line without its end; false ends the recording. On the thread on which it
+  // happened; the first from within the constructor.
   using Sink = std::function<bool(const QByteArray& line)>;
 
   // How the lines begin that tell what came out.
@@ -35,10 +36,6 @@ class Recorder final : public QObject {
   // The border is not owned and must outlive this.
   Recorder(Border* border, Sink sink, Options options);
   ~Recorder() override;
-
- Q_SIGNALS:
-  // The sink took no more. On the thread on which it happened; connect it queued.
-  void ended();
 
  private:
   using Step = InputWatch::Step;

@@ -98,6 +98,7 @@ int playSession(const SessionOptions& options, QIODevice* script, RecordLines* l
   const Session::End end = session->play(script);
   recorder.reset();
   session.reset();
+  writes.reset();
   return end == Session::End::Played ? lines->status(&writer) : static_cast<int>(end);
 }
 
