@@ -6,13 +6,14 @@
 #include <QJsonObject>
 #include <QUuid>
 
+#include "sandbox/Answers.h"
+
 namespace sandbox {
 
 namespace {
 
 constexpr QByteArray::Base64Options urlSafeBase64 =
     QByteArray::Base64UrlEncoding | QByteArray::OmitTrailingEquals;
-constexpr qint64 floodSize = 100 * 1024 * 1024;
 
 QString valueOf(const QUrlQuery& query, const char* name) {
   return query.queryItemValue(QLatin1String(name), QUrl::FullyDecoded);
@@ -23,31 +24,12 @@ QString newSecret(const char* kind) {
          QUuid::createUuid().toString(QUuid::Id128);
 }
 
-HttpResponse json(const QJsonObject& object, int status = 200) {
-  return {.status = status, .body = QJsonDocument(object).toJson(QJsonDocument::Compact)};
-}
-
 HttpResponse refused(const char* error) {
-  return json({{"error", QLatin1String(error)}}, 400);
+  return jsonAnswer({{"error", QLatin1String(error)}}, 400);
 }
 
-HttpResponse html(const QString& body, int status = 200) {
-  return {.status = status,
-          .contentType = "text/html; charset=utf-8",
-          .body = ("<!DOCTYPE html><html><head><meta charset=\"utf-8\"><title>Sandbox</title></head><body>" +
-                   body + "</body></html>")
-                      .toUtf8()};
-}
-
-HttpResponse redirectTo(const QUrl& address, int status) {
-  HttpResponse response{.status = status};
-  response.headers.append({"Location", address.toEncoded()});
-  return response;
-}
-
-HttpResponse delivered(HttpResponse response, HttpResponse::Delivery delivery) {
-  response.delivery = delivery;
-  return response;
+HttpResponse html(const QString& content, int status = 200) {
+  return pageAnswer(QStringLiteral("Sandbox"), content, status);
 }
 
 bool provesKey(const QString& verifier, const QString& challenge) {
@@ -83,11 +65,11 @@ HttpResponse Authority::configuration() const {
   if (!m_hasConfiguration) return html("<p>nothing here</p>", 404);
   QJsonArray scopes{"openid"};
   if (m_generation == Generation::Scope) scopes.append("offline_access");
-  return json({{"issuer", address()},
-               {"authorization_endpoint", address() + "/oauth2/authorize"},
-               {"token_endpoint", address() + "/oauth2/token"},
-               {"scopes_supported", scopes},
-               {"code_challenge_methods_supported", QJsonArray{"S256"}}});
+  return jsonAnswer({{"issuer", address()},
+                     {"authorization_endpoint", address() + "/oauth2/authorize"},
+                     {"token_endpoint", address() + "/oauth2/token"},
+                     {"scopes_supported", scopes},
+                     {"code_challenge_methods_supported", QJsonArray{"S256"}}});
 }
 
 HttpResponse Authority::page(const HttpRequest& request) {
@@ -136,7 +118,7 @@ HttpResponse Authority::answerPage(const QUrlQuery& query, bool isGiven) {
   }
   answer.addQueryItem("state", valueOf(query, "state"));
   redirect.setQuery(answer);
-  return redirectTo(redirect, 302);
+  return leadTo(QString::fromLatin1(redirect.toEncoded()));
 }
 
 HttpResponse Authority::token(const HttpRequest& request) {
@@ -147,20 +129,18 @@ HttpResponse Authority::token(const HttpRequest& request) {
     case Fault::Silent:
       return delivered({}, Delivery::Silent);
     case Fault::Slow:
-      return delivered(json({{"access_token", "never-complete"}}), Delivery::Drip);
+      return delivered(jsonAnswer({{"access_token", "never-complete"}}), Delivery::Drip);
     case Fault::CutOff:
-      return delivered(json({{"access_token", "cut-off"}}), Delivery::CutOff);
-    case Fault::Flood: {
-      HttpResponse response = delivered({}, Delivery::Flood);
-      response.floodBytes = floodSize;
-      return response;
-    }
+      return delivered(jsonAnswer({{"access_token", "cut-off"}}), Delivery::CutOff);
+    case Fault::Flood:
+      return floodAnswer();
     case Fault::ServerError:
-      return json({{"error", "server_error"}, {"error_description", valueOf(form, "refresh_token")}}, 500);
+      return jsonAnswer({{"error", "server_error"}, {"error_description", valueOf(form, "refresh_token")}},
+                        500);
     case Fault::Html:
       return html("<p>Out to lunch</p>");
     case Fault::RedirectElsewhere:
-      return redirectTo(m_elsewhere, 307);
+      return leadTo(QString::fromLatin1(m_elsewhere.toEncoded()), 307);
     case Fault::InvalidGrant:
       return refused("invalid_grant");
     default:
@@ -199,7 +179,7 @@ HttpResponse Authority::granted(const QString& clientId) {
   if (m_generation == Generation::Resource) answer.insert("expires_in", QString::number(m_lifetime));
   if (m_fault == Fault::NoExpiry) answer.remove("expires_in");
   if (m_fault == Fault::NoAccessToken) answer.remove("access_token");
-  return json(answer);
+  return jsonAnswer(answer);
 }
 
 QString Authority::idToken(const QString& clientId) const {

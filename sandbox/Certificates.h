@@ -1,14 +1,15 @@
 #pragma once
 
+#include <QByteArray>
 #include <QSslConfiguration>
 #include <QString>
 #include <QStringList>
-#include <QTemporaryDir>
 #include <optional>
 
 namespace sandbox {
 
-// An authority of certificates that lives as long as this object, made with the openssl program.
+// An authority of certificates that lives as long as this object, made with the openssl program. Its key and
+// those of its servers are in memory alone, so that not even a killed sandbox leaves one behind.
 class Certificates final {
  public:
   Certificates();
@@ -21,10 +22,7 @@ class Certificates final {
   std::optional<QSslConfiguration> serverOf(const QStringList& names) const;
 
  private:
-  bool run(const QStringList& arguments) const;
-  QString file(const QString& name) const { return m_folder.filePath(name); }
-
-  QTemporaryDir m_folder;
+  QByteArray m_keyAndCertificate;
   QString m_authority;
 };
 

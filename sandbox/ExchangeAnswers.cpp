@@ -29,10 +29,6 @@ HttpResponse xmlAnswer(const QByteArray& xml) {
   return {.contentType = "text/xml; charset=utf-8", .body = xml};
 }
 
-HttpResponse notHere() {
-  return {.status = 404, .contentType = "text/plain", .body = "not here\n"};
-}
-
 HttpResponse challengeAnswer(const QList<QByteArray>& challenges) {
   HttpResponse response{.status = 401, .contentType = "text/plain", .body = "who is there?\n"};
   for (const QByteArray& challenge : challenges) response.headers.append({"WWW-Authenticate", challenge});

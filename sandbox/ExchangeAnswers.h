@@ -9,7 +9,6 @@
 namespace sandbox {
 
 HttpResponse xmlAnswer(const QByteArray& xml);
-HttpResponse notHere();
 HttpResponse challengeAnswer(const QList<QByteArray>& challenges);
 
 // The discovery protocol's answers.

@@ -3,6 +3,7 @@
 #include <QJsonArray>
 #include <utility>
 
+#include "sandbox/Answers.h"
 #include "sandbox/ExchangeAnswers.h"
 
 namespace sandbox {
@@ -14,27 +15,10 @@ const QString meetingPath = QStringLiteral("/EWS/Exchange.asmx");
 const QString onlineHost = QStringLiteral("autodiscover.online.") + sandboxDomain;
 
 constexpr std::chrono::seconds slowTime{1};
-constexpr int longestLoop = 100;
 constexpr int refusalsUntilLocked = 3;
 
 QString urlOf(const QString& host, const QString& path) {
   return QStringLiteral("https://") + host + path;
-}
-
-HttpResponse delivered(HttpResponse::Delivery delivery) {
-  HttpResponse response = notHere();
-  response.delivery = delivery;
-  return response;
-}
-
-HttpResponse leadTo(const QString& url) {
-  HttpResponse response{.status = 302};
-  response.headers.append({"Location", url.toLatin1()});
-  return response;
-}
-
-quint16 portOf(const HttpServer& server) {
-  return static_cast<quint16>(server.url().port());
 }
 
 }  // namespace
@@ -43,15 +27,11 @@ ExchangeService::ExchangeService(QString authority, TokenCheck isGranted)
     : m_authority(std::move(authority)), m_isGranted(std::move(isGranted)) {}
 
 bool ExchangeService::listen() {
-  const auto ours = m_certificates.serverOf(exchangeHosts());
-  const auto others = m_certificates.serverOf({QStringLiteral("another.example")});
-  if (!ours || !others) return false;
-  m_encrypted = std::make_unique<HttpServer>(*ours);
-  m_otherName = std::make_unique<HttpServer>(*others);
-  handle(m_plain, false);
-  handle(*m_encrypted, true);
-  handle(*m_otherName, true);
-  return m_plain.listen() && m_encrypted->listen() && m_otherName->listen();
+  if (!m_servers.listen(exchangeHosts())) return false;
+  handle(m_servers.plain(), false);
+  handle(m_servers.encrypted(), true);
+  handle(m_servers.otherName(), true);
+  return true;
 }
 
 void ExchangeService::handle(HttpServer& server, bool isEncrypted) {
@@ -69,25 +49,25 @@ QJsonObject ExchangeService::describe() const {
                        {"priority", priority},
                        {"weight", 1}};
   };
-  return {
-      {"domain", sandboxDomain},
-      {"address", "127.0.0.1"},
-      {"http", portOf(m_plain)},
-      {"https", portOf(*m_encrypted)},
-      {"otherName", QJsonObject{{"domain", "certificate." + sandboxDomain}, {"https", portOf(*m_otherName)}}},
-      {"certificates", m_certificates.authority()},
-      {"services", QJsonObject{{serviceName, QJsonArray{record("spare", 20), record("exchange", 10)}}}},
-      {"online", QJsonObject{{"hostSuffixes", QJsonArray{"online." + sandboxDomain}},
-                             {"autodiscover", urlOf(onlineHost, discoveryPath)},
-                             {"authority", m_authority},
-                             {"resource", "https://mail.online." + sandboxDomain},
-                             {"clientId", "sandbox-companion"},
-                             {"redirectUri", "http://127.0.0.1/signed-in"}}},
-      {"accounts", describeAccounts()}};
+  return {{"domain", sandboxDomain},
+          {"address", "127.0.0.1"},
+          {"http", m_servers.plainPort()},
+          {"https", m_servers.encryptedPort()},
+          {"otherName",
+           QJsonObject{{"domain", "certificate." + sandboxDomain}, {"https", m_servers.otherNamePort()}}},
+          {"certificates", m_servers.certificates()},
+          {"services", QJsonObject{{serviceName, QJsonArray{record("spare", 20), record("exchange", 10)}}}},
+          {"online", QJsonObject{{"hostSuffixes", QJsonArray{"online." + sandboxDomain}},
+                                 {"autodiscover", urlOf(onlineHost, discoveryPath)},
+                                 {"authority", m_authority},
+                                 {"resource", "https://mail.online." + sandboxDomain},
+                                 {"clientId", "sandbox-companion"},
+                                 {"redirectUri", "http://127.0.0.1/signed-in"}}},
+          {"accounts", describeAccounts()}};
 }
 
 QString ExchangeService::note(const HttpRequest& request, bool isEncrypted) {
-  const QString host = QString::fromLatin1(request.headers.value("host")).section(QLatin1Char(':'), 0, 0);
+  const QString host = request.host();
   m_visits.append({host, request.path, request.method, request.headers.value("authorization"), isEncrypted});
   return host;
 }
@@ -114,13 +94,13 @@ HttpResponse ExchangeService::discover(const HttpRequest& request, bool isEncryp
     case ExchangeCase::OtherEmail:
       return otherEmailAnswer(QStringLiteral("onprem@corp.") + sandboxDomain);
     case ExchangeCase::Silent:
-      return delivered(HttpResponse::Delivery::Silent);
+      return delivered({}, HttpResponse::Delivery::Silent);
     case ExchangeCase::Drip:
-      return delivered(HttpResponse::Delivery::Drip);
+      return delivered(notHere(), HttpResponse::Delivery::Drip);
     case ExchangeCase::ServerError:
       return {.status = 500};
     case ExchangeCase::Loop:
-      return lead(request, host);
+      return leadRound(request);
     case ExchangeCase::BareChallenge:
       return challengeAnswer({"Negotiate", "NTLM"});
     case ExchangeCase::Entities:
@@ -139,12 +119,6 @@ HttpResponse ExchangeService::discoverPlainly(const QString& host) const {
   const ExchangeAccount* const account = accountOfHost(host);
   if (account == nullptr || account->what != ExchangeCase::PlainRedirect) return notHere();
   return leadTo(urlOf(QStringLiteral("autodiscover.corp.") + sandboxDomain, discoveryPath));
-}
-
-HttpResponse ExchangeService::lead(const HttpRequest& request, const QString& host) const {
-  const int step = request.query.queryItemValue(QStringLiteral("step")).toInt() + 1;
-  if (step > longestLoop) return notHere();
-  return leadTo(urlOf(host, discoveryPath) + QStringLiteral("?step=%1").arg(step));
 }
 
 HttpResponse ExchangeService::discoverOnPremise(const HttpRequest& request, const QString& host) {

@@ -7,9 +7,8 @@
 #include <QString>
 #include <functional>
 
-#include "sandbox/Certificates.h"
 #include "sandbox/ExchangeCases.h"
-#include "sandbox/HttpServer.h"
+#include "sandbox/HostServers.h"
 
 namespace sandbox {
 
@@ -44,17 +43,13 @@ class ExchangeService final {
   HttpResponse discover(const HttpRequest& request, bool isEncrypted);
   HttpResponse discoverPlainly(const QString& host) const;
   HttpResponse discoverOnPremise(const HttpRequest& request, const QString& host);
-  HttpResponse lead(const HttpRequest& request, const QString& host) const;
   HttpResponse listMeetings(const HttpRequest& request);
   QString note(const HttpRequest& request, bool isEncrypted);
   bool isAllowed(const QByteArray& authorization);
 
   QString m_authority;
   TokenCheck m_isGranted;
-  Certificates m_certificates;
-  HttpServer m_plain;
-  std::unique_ptr<HttpServer> m_encrypted;
-  std::unique_ptr<HttpServer> m_otherName;
+  HostServers m_servers;
   QHash<QString, int> m_refusals;  // by user name
   QList<Visit> m_visits;
 };

@@ -5,17 +5,16 @@
 #include <QSslSocket>
 #include <QTcpSocket>
 #include <QTimer>
-#include <algorithm>
 #include <memory>
 #include <optional>
+
+#include "sandbox/HttpDelivery.h"
 
 namespace sandbox {
 
 namespace {
 
 constexpr qsizetype longestRequest = 1024 * 1024;
-constexpr std::chrono::milliseconds dripInterval{100};
-constexpr qsizetype floodChunk = 256 * 1024;
 
 // Nothing while the request is not complete.
 std::optional<HttpRequest> parseRequest(const QByteArray& data) {
@@ -37,69 +36,11 @@ std::optional<HttpRequest> parseRequest(const QByteArray& data) {
   return request;
 }
 
-QByteArray responseHead(const HttpResponse& response, qint64 length) {
-  QByteArray head = "HTTP/1.1 " + QByteArray::number(response.status) +
-                    " -\r\nContent-Type: " + response.contentType +
-                    "\r\nContent-Length: " + QByteArray::number(length) + "\r\nConnection: close\r\n";
-  for (const auto& [name, value] : response.headers) head += name + ": " + value + "\r\n";
-  return head + "\r\n";
-}
-
-void drip(QTcpSocket* socket, const QByteArray& bytes) {
-  auto* const timer = new QTimer(socket);
-  const auto sent = std::make_shared<qsizetype>(0);
-  QObject::connect(timer, &QTimer::timeout, socket, [socket, bytes, sent] {
-    if (*sent < bytes.size()) socket->write(bytes.constData() + (*sent)++, 1);
-  });
-  timer->start(dripInterval);
-}
-
-qint64 bytesOnTheWay(const QTcpSocket* socket) {
-  const auto* const encrypted = qobject_cast<const QSslSocket*>(socket);
-  return socket->bytesToWrite() + (encrypted != nullptr ? encrypted->encryptedBytesToWrite() : 0);
-}
-
-void flood(QTcpSocket* socket, qint64 bytes) {
-  const auto left = std::make_shared<qint64>(bytes);
-  const auto pump = [socket, left] {
-    if (*left <= 0 || bytesOnTheWay(socket) > 0) return;
-    const qsizetype size = static_cast<qsizetype>(std::min<qint64>(*left, floodChunk));
-    *left -= size;
-    socket->write(QByteArray(size, ' '));
-  };
-  QObject::connect(socket, &QTcpSocket::bytesWritten, socket, pump);
-  if (auto* const encrypted = qobject_cast<QSslSocket*>(socket)) {
-    QObject::connect(encrypted, &QSslSocket::encryptedBytesWritten, socket, pump);
-  }
-  pump();
-}
-
-void sendResponse(QTcpSocket* socket, const HttpResponse& response) {
-  switch (response.delivery) {
-    case HttpResponse::Delivery::Whole:
-      socket->write(responseHead(response, response.body.size()) + response.body);
-      socket->disconnectFromHost();
-      return;
-    case HttpResponse::Delivery::Silent:
-      return;
-    case HttpResponse::Delivery::HangUp:
-      socket->disconnectFromHost();
-      return;
-    case HttpResponse::Delivery::Drip:
-      drip(socket, responseHead(response, response.body.size()) + response.body);
-      return;
-    case HttpResponse::Delivery::CutOff:
-      socket->write(responseHead(response, response.body.size() + 100) + response.body);
-      socket->disconnectFromHost();
-      return;
-    case HttpResponse::Delivery::Flood:
-      socket->write(responseHead(response, response.floodBytes));
-      flood(socket, response.floodBytes);
-      return;
-  }
-}
-
 }  // namespace
+
+QString HttpRequest::host() const {
+  return QString::fromLatin1(headers.value("host")).section(QLatin1Char(':'), 0, 0);
+}
 
 QUrlQuery HttpRequest::form() const {
   QByteArray encoded = body;
@@ -157,12 +98,12 @@ void HttpServer::read(QTcpSocket* socket) {
   }
   socket->readAll();
   const HttpResponse response = respond(*request);
-  if (response.delay.count() == 0) return sendResponse(socket, response);
-  QTimer::singleShot(response.delay, socket, [socket, response] { sendResponse(socket, response); });
+  if (response.delay.count() == 0) return deliver(socket, response);
+  QTimer::singleShot(response.delay, socket, [socket, response] { deliver(socket, response); });
 }
 
 HttpResponse HttpServer::respond(const HttpRequest& request) const {
-  const Handler handler = m_handlers.value(request.path);
+  const Handler handler = m_handlers.value(request.path, m_othersHandler);
   return handler ? handler(request)
                  : HttpResponse{.status = 404, .contentType = "text/plain", .body = "not here\n"};
 }

@@ -23,19 +23,22 @@ struct HttpRequest {
   QHash<QByteArray, QByteArray> headers;  // names in small letters
   QByteArray body;
 
+  // The name that was asked for, without a port.
+  QString host() const;
   QUrlQuery form() const;
 };
 
 struct HttpResponse {
   // How the answer goes out: as it should, or as a bad server or network would send it.
-  enum class Delivery { Whole, Silent, HangUp, Drip, CutOff, Flood };
+  enum class Delivery { Whole, Silent, HangUp, Drip, Paced, CutOff, Flood };
 
   int status = 200;
   QByteArray contentType = "application/json";
   QByteArray body = {};
   QList<std::pair<QByteArray, QByteArray>> headers = {};
   Delivery delivery = Delivery::Whole;
-  qint64 floodBytes = 0;  // how much a flood sends
+  qint64 floodBytes = 0;              // how much a flood sends
+  std::chrono::milliseconds pace{0};  // how long the body of a paced answer takes
   std::chrono::milliseconds delay{0};
 };
 
@@ -55,6 +58,8 @@ class HttpServer final {
 
   // Whoever asks for this very path is answered by the handler; the last one set counts.
   void handle(const QString& path, const Handler& handler);
+  // For every other path.
+  void handleOthers(const Handler& handler) { m_othersHandler = handler; }
 
  private:
   void watch();
@@ -64,6 +69,7 @@ class HttpServer final {
 
   std::unique_ptr<QTcpServer> m_server;
   QHash<QString, Handler> m_handlers;
+  Handler m_othersHandler;
 };
 
 }  // namespace sandbox

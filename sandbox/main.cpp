@@ -10,13 +10,15 @@
 #include "sandbox/Authority.h"
 #include "sandbox/ExchangeService.h"
 #include "sandbox/HttpServer.h"
+#include "sandbox/MeetingSite.h"
 
 // Runs the sandbox until it is ended. The first line on standard output says where it is.
 int main(int argc, char** argv) {
   QCoreApplication application(argc, argv);
   QCommandLineParser parser;
   parser.setApplicationDescription(
-      "A small sign-in authority and Exchange on the loopback address, for trying things out.");
+      "A small meeting service, update service, Exchange and sign-in authority on the loopback address, for "
+      "trying things out.");
   parser.addHelpOption();
   parser.addOptions({{"port", "Listen at this port (default: a free one).", "number", "0"},
                      {"lifetime", "How long an access token is good, in seconds.", "seconds", "3600"},
@@ -40,10 +42,13 @@ int main(int argc, char** argv) {
   sandbox::ExchangeService exchange(
       authority.address(), [&authority](const QString& token) { return authority.isGranted(token); });
   QJsonObject where{{"authority", authority.address()}};
-  if (exchange.listen()) {
+  sandbox::MeetingSite site;
+  if (exchange.listen() && site.listen()) {
     where.insert("exchange", exchange.describe());
+    where.insert("site", site.describe());
   } else {
-    std::fputs("No Exchange is played: the openssl program made no certificates.\n", stderr);
+    std::fputs("No Exchange and no meeting site is played: the openssl program made no certificates.\n",
+               stderr);
   }
   std::printf("%s\n", QJsonDocument(where).toJson(QJsonDocument::Compact).constData());
   std::fflush(stdout);
