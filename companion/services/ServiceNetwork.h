@@ -27,6 +27,7 @@ class ServiceNetwork final : public QObject {
 
   // Why nobody may be asked there now, in a sentence; empty where somebody may.
   QString refusalOf(const QUrl& address) const;
+  bool mayAsk(const QUrl& address) const { return refusalOf(address).isEmpty(); }
   bool isReady() const { return m_reach == NetworkReach::Network || !m_sandbox.isEmpty(); }
   QList<SandboxSite> sandboxSites() const;
 

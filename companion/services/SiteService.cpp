@@ -76,8 +76,9 @@ void SiteService::refresh() {
   if (!m_network->isReady() || siteStore().siteName().isEmpty()) return m_refresh.reset();
   m_refresh = m_network->fetch();
   askSite(*m_refresh, siteStore().siteName(), [this](const Answer& answer) {
-    if (answer.site) return take(*answer.site);
-    Q_EMIT noticed(answer.failure);
+    if (answer.site) take(*answer.site);
+    if (!answer.site) Q_EMIT noticed(answer.failure);
+    Q_EMIT refreshed();
   });
 }
 

@@ -49,6 +49,7 @@ class SiteService final : public QObject {
  Q_SIGNALS:
   void noticed(const QString& text);  // for the user
   void siteWanted();                  // the user wants another one
+  void refreshed();                   // the stored site has answered, or will not
   void changed();                     // another site, or another download address
 
  private:

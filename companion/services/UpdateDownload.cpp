@@ -23,16 +23,17 @@ UpdateDownload::UpdateDownload(std::unique_ptr<WebFetch> fetch, const QString& f
   });
 }
 
-UpdateDownload::~UpdateDownload() {
-  m_fetch.reset();
-}
-
 void UpdateDownload::start() {
   m_patience.start();
   m_fetch->start({.address = m_manifest.package,
                   .take = [this](const QByteArray& piece) { return take(piece); },
                   .takenBytes = m_manifest.bytes},
                  [this](const WebAnswer& answer) { end(answer); });
+}
+
+void UpdateDownload::stop() {
+  m_patience.stop();
+  m_fetch->cancel();
 }
 
 bool UpdateDownload::take(const QByteArray& piece) {

@@ -7,15 +7,15 @@
 #include "companion/network/WebFetch.h"
 #include "companion/services/UpdatePackageFile.h"
 
-// Fetches one package. Destroying it ends it and leaves nothing behind.
+// Fetches one package. Destroying it leaves nothing behind.
 class UpdateDownload final : public QObject {
   Q_OBJECT
 
  public:
   UpdateDownload(std::unique_ptr<WebFetch> fetch, const QString& folder, const UpdateManifest& manifest);
-  ~UpdateDownload() override;
 
   void start();
+  void stop();  // unanswered
 
  Q_SIGNALS:
   void progressed(qint64 bytes, qint64 ofBytes);

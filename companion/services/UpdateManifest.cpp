@@ -29,5 +29,5 @@ std::optional<UpdateManifest> readUpdateManifest(const QUrl& address, const QByt
 std::optional<QVersionNumber> readVersion(const QString& text) {
   static const QRegularExpression dotted(QStringLiteral("\\A[0-9]{1,8}(\\.[0-9]{1,8}){0,5}\\z"));
   if (!dotted.match(text).hasMatch()) return {};
-  return QVersionNumber::fromString(text).normalized();
+  return QVersionNumber::fromString(text);
 }

@@ -75,7 +75,7 @@ void UpdateService::readManifest(const WebAnswer& answer) {
   const auto manifest = readUpdateManifest(answer.address, answer.body);
   if (!manifest) return fail(messageOf(WebTrouble::BadAnswer, answer.address.host()));
   const QString current = QCoreApplication::applicationVersion();
-  if (manifest->version <= readVersion(current).value_or(QVersionNumber())) {
+  if (manifest->version.normalized() <= readVersion(current).value_or(QVersionNumber()).normalized()) {
     return succeed(QStringLiteral("Version %1 is the newest one.").arg(current));
   }
   if (m_check == Check::Asked) return download(*manifest);
@@ -131,6 +131,9 @@ void UpdateService::fail(const QString& reason) {
 void UpdateService::end() {
   m_check = Check::None;
   m_look.reset();
-  if (m_download) m_download.release()->deleteLater();
+  if (m_download) {
+    m_download->stop();
+    m_download.release()->deleteLater();
+  }
   Q_EMIT ended();
 }
