@@ -1,24 +1,46 @@
 #include "companion/app/Companion.h"
 
+#include <QCoreApplication>
 #include <QDesktopServices>
+#include <QDir>
+#include <QStandardPaths>
 #include <QTimer>
 
 #include "companion/app/BorderLogView.h"
+#include "companion/app/MeetingsView.h"
+#include "companion/app/TelemetryView.h"
 #include "companion/exchange/StandardExchange.h"
 
 namespace {
 
 const QString kSignedInUri = QStringLiteral("http://127.0.0.1/signed-in");
 
-QString introduction(CompanionExchange::Reach reach) {
-  if (reach == CompanionExchange::Reach::Network) {
+QString introduction(NetworkReach reach) {
+  if (reach == NetworkReach::Network) {
     return QStringLiteral(
-        "Exchange is looked for in the network and in a sandbox on this machine; what a meeting service "
-        "would answer is invented here.");
+        "Meeting sites and Exchange are looked for in the network and in a sandbox on this computer.");
   }
-  return QStringLiteral(
-      "Demonstration: everything that a meeting service would answer is invented here. Exchange is looked "
-      "for in a sandbox on this machine.");
+  return QStringLiteral("Meeting sites and Exchange are played by a sandbox on this computer.");
+}
+
+QString ownFolder(QStandardPaths::StandardLocation location, const QString& name) {
+  return QDir(QStandardPaths::writableLocation(location))
+      .filePath(QStringLiteral("brenn-mivra-meetings/") + name);
+}
+
+CompanionServices::Settings serviceSettings(const CompanionOptions& options,
+                                            const ExchangeConfiguration& exchange) {
+  QStringList arguments;
+  if (!options.stateFolder.isEmpty()) {
+    arguments = {QStringLiteral("--state"), QFileInfo(options.stateFolder).absoluteFilePath()};
+  }
+  return {.reach = options.reach,
+          .exchange = exchange,
+          .record = demouser::record(),
+          .dataFolder = ownFolder(QStandardPaths::GenericDataLocation, QStringLiteral("telemetry")),
+          .packageFolder = ownFolder(QStandardPaths::GenericCacheLocation, QStringLiteral("updates")),
+          .autostart = AutostartEntry(AutostartEntry::userFolder(), QCoreApplication::applicationFilePath(),
+                                      arguments)};
 }
 
 }  // namespace
@@ -26,12 +48,13 @@ QString introduction(CompanionExchange::Reach reach) {
 Companion::Companion(const CompanionOptions& options)
     : m_border([](const QUrl& url) { return QDesktopServices::openUrl(url); }),
       m_logging(m_border.addObserver([this](const Crossing& crossing) { m_log.record(crossing); })),
-      m_services(&m_border),
+      m_services(&m_border,
+                 serviceSettings(options, standardExchangeConfiguration(options.clientId, kSignedInUri))),
       m_window(&m_border, &m_services),
       m_exchange(&m_border, options.reach, standardExchangeConfiguration(options.clientId, kSignedInUri)) {
   createPages();
   m_window.showNotice(introduction(options.reach));
-  connect(&m_services, &DemoServices::noticed, &m_window, &CompanionWindow::showNotice);
+  connect(&m_services, &CompanionServices::noticed, &m_window, &CompanionWindow::showNotice);
   connect(&m_exchange, &CompanionExchange::noticed, &m_window, &CompanionWindow::showNotice);
   connectSandbox();
 }
@@ -42,16 +65,20 @@ Companion::~Companion() {
 }
 
 void Companion::createPages() {
+  m_window.addPage(QStringLiteral("Meetings"), new MeetingsView(&m_services.meetings()));
+  m_window.addPage(QStringLiteral("Telemetry"), new TelemetryView(&m_services.telemetry()));
   m_window.addPage(QStringLiteral("Inspector"), new BorderLogView(&m_log));
 }
 
 void Companion::connectSandbox() {
   connect(&m_sandbox, &Sandbox::ready, this, [this](const QJsonObject& description) {
     m_exchange.useSandbox(description);
+    m_services.useSandbox(m_sandbox.site(), description);
     m_window.offerAccounts(sandboxAccounts(description));
   });
   connect(&m_sandbox, &Sandbox::failed, this, [this](const QString& reason) {
     m_exchange.loseSandbox(reason);
+    m_services.loseSandbox();
     m_window.offerAccounts({});
   });
 }
@@ -60,6 +87,7 @@ void Companion::start(demouser::Variant variant) {
   m_window.show();
   m_window.become(variant);
   m_window.showPreferences();
+  m_services.start();
   // The windows come first.
   QTimer::singleShot(0, &m_sandbox, [this] { m_sandbox.start(Sandbox::programPath()); });
 }

@@ -6,9 +6,9 @@
 #include "companion/app/CompanionExchange.h"
 #include "companion/app/CompanionOptions.h"
 #include "companion/app/CompanionWindow.h"
-#include "companion/app/DemoServices.h"
 #include "companion/app/Sandbox.h"
 #include "companion/runtime/Border.h"
+#include "companion/services/CompanionServices.h"
 
 // Everything that the companion is made of, put together. Open the settings store and choose the keychain
 // before; the application object must outlive it. Main thread only.
@@ -35,7 +35,7 @@ class Companion final : public QObject {
   Border m_border;
   BorderLog m_log;
   Border::Token m_logging;
-  DemoServices m_services;
+  CompanionServices m_services;
   CompanionWindow m_window;
   CompanionExchange m_exchange;
   Sandbox m_sandbox;

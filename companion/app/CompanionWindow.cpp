@@ -3,13 +3,14 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QHBoxLayout>
-#include <QInputDialog>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStackedWidget>
 #include <QTabBar>
 
+#include "companion/app/SiteDialog.h"
+#include "companion/app/UpdateBar.h"
 #include "companion/runtime/Border.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZFoundation/KZCommands.h"
@@ -29,7 +30,7 @@ Dictionary fromApplication() {
 
 }  // namespace
 
-CompanionWindow::CompanionWindow(Border* border, DemoServices* services)
+CompanionWindow::CompanionWindow(Border* border, CompanionServices* services)
     : m_border(border), m_services(services) {
   setWindowTitle(QStringLiteral("Brenn Mivra Meetings – Companion"));
   resize(900, 560);
@@ -42,8 +43,9 @@ CompanionWindow::CompanionWindow(Border* border, DemoServices* services)
   m_notice = new QLabel;
   m_notice->setWordWrap(true);
   m_notice->setTextFormat(Qt::PlainText);
+  column->addWidget(new UpdateBar(&services->updates()));
   column->addWidget(m_notice);
-  connect(services, &DemoServices::siteWanted, this, &CompanionWindow::askForSite);
+  connect(&services->site(), &SiteService::siteWanted, this, &CompanionWindow::askForSite);
   // The guest's pane changes the identity.
   connect(&KZPlistFileHandle::sharedInstance(), &KZPlistFileHandle::valueChanged, this,
           &CompanionWindow::showIdentity);
@@ -109,7 +111,10 @@ QWidget* CompanionWindow::createButtons() {
   preferences->setDefault(true);
   row->addWidget(preferences);
   row->addWidget(createButton("Account", "Command 2 with the Account pane", &CompanionWindow::showAccount));
-  row->addWidget(createButton("Check for updates", "Command 8", &CompanionWindow::checkForUpdates));
+  auto* updates = new QPushButton(QStringLiteral("Check for updates"));
+  updates->setToolTip(QStringLiteral("Command 8"));
+  connect(updates, &QPushButton::clicked, &m_services->updates(), &UpdateService::check);
+  row->addWidget(updates);
   row->addWidget(createButton("Join by number", "Command 10", &CompanionWindow::joinByNumber));
   row->addWidget(createButton("Close", "Command 3", &CompanionWindow::closePreferences));
   row->addStretch(1);
@@ -133,13 +138,12 @@ void CompanionWindow::become(demouser::Variant variant) {
   (isGuest ? m_guest : m_signedIn)->setChecked(true);
   demouser::become(variant);
   showIdentity();
-  if (isGuest) return m_border->triggerCommand(number(KZCommand::KZCmdInitGuestPreference));
-  const Dictionary preference = demouser::preferenceData();
-  const Dictionary record = dictionaryValue(preference, QStringLiteral("kz"));
+  if (isGuest) {
+    m_services->site().signOut();
+    return m_border->triggerCommand(number(KZCommand::KZCmdInitGuestPreference));
+  }
   m_border->triggerCommand(number(KZCommand::KZCmdDestroyPreference));
-  m_border->setPersonalRoom(textValue(record, QRT_Preference_PMRUrl),
-                            textValue(record, QRT_Preference_PMRSipUrl));
-  m_border->notify(static_cast<quint32>(KZNotify::KZNotifyGetPreferenceDone), preference);
+  m_services->site().signIn();
 }
 
 void CompanionWindow::showPreferences() {
@@ -149,10 +153,6 @@ void CompanionWindow::showPreferences() {
 void CompanionWindow::showAccount() {
   m_border->triggerCommand(number(KZCommand::KZCmdShowPreference),
                            Dictionary{{kOpenPrefsViewType, kPrefsAccountView}});
-}
-
-void CompanionWindow::checkForUpdates() {
-  m_border->triggerCommand(number(KZCommand::KZCmdCheckForUpdates), fromApplication());
 }
 
 void CompanionWindow::joinByNumber() {
@@ -166,18 +166,12 @@ void CompanionWindow::closePreferences() {
 }
 
 void CompanionWindow::askForSite() {
-  auto* dialog = new QInputDialog(this);
-  dialog->setAttribute(Qt::WA_DeleteOnClose);
-  dialog->setWindowTitle(QStringLiteral("Change site"));
-  dialog->setLabelText(QStringLiteral("Site of your meeting service:"));
-  dialog->setTextValue(KZPlistFileHandle::sharedInstance().siteName());
-  connect(dialog, &QInputDialog::textValueSelected, this, [this](const QString& entered) {
-    const QString site = entered.trimmed();
-    if (site.isEmpty()) return;
-    KZPlistFileHandle::sharedInstance().setSiteName(site);
-    m_services->changeSite(site);
-  });
-  dialog->open();
+  if (!m_siteDialog) {
+    m_siteDialog = new SiteDialog(&m_services->site(), m_services->network().sandboxSites(), this);
+  }
+  m_siteDialog->show();
+  m_siteDialog->raise();
+  m_siteDialog->activateWindow();
 }
 
 void CompanionWindow::showNotice(const QString& text) {

@@ -5,9 +5,9 @@
 #include <QWidget>
 
 #include "companion/app/AccountsDialog.h"
-#include "companion/app/DemoServices.h"
 #include "companion/app/DemoUser.h"
 #include "companion/exchange/SandboxExchange.h"
+#include "companion/services/CompanionServices.h"
 
 class Border;
 class QLabel;
@@ -15,13 +15,14 @@ class QStackedWidget;
 class QTabBar;
 class QPushButton;
 class QRadioButton;
+class SiteDialog;
 
 // The companion's own window: who is there, what a host can ask of its plug-in, and what crosses the border.
 class CompanionWindow final : public QWidget {
   Q_OBJECT
 
  public:
-  CompanionWindow(Border* border, DemoServices* services);  // not owned; must outlive the window
+  CompanionWindow(Border* border, CompanionServices* services);  // not owned; must outlive the window
 
   // Also tells the plug-in, as a host does after a sign-in or when it starts for a guest.
   void become(demouser::Variant variant);
@@ -43,7 +44,6 @@ class CompanionWindow final : public QWidget {
   QPushButton* createButton(const QString& title, const QString& toolTip, void (CompanionWindow::*action)());
 
   void showAccount();
-  void checkForUpdates();
   void joinByNumber();
   void closePreferences();
   void askForSite();
@@ -51,7 +51,7 @@ class CompanionWindow final : public QWidget {
   void showIdentity();
 
   Border* m_border;
-  DemoServices* m_services;
+  CompanionServices* m_services;
   QRadioButton* m_signedIn = nullptr;
   QRadioButton* m_guest = nullptr;
   QTabBar* m_tabs = nullptr;
@@ -61,4 +61,5 @@ class CompanionWindow final : public QWidget {
   QPushButton* m_accountsButton = nullptr;
   QList<SandboxAccount> m_accounts;
   QPointer<AccountsDialog> m_accountsDialog;
+  QPointer<SiteDialog> m_siteDialog;
 };

@@ -19,6 +19,7 @@ class Sandbox final : public QObject {
 
   // Returns at once; ready or failed follows. An empty path fails. Start at most once.
   void start(const QString& path);
+  QJsonObject site() const { return m_site; }  // the meeting sites that it plays; empty before ready
   qint64 processId() const { return m_process.processId(); }
 
  Q_SIGNALS:
@@ -31,4 +32,5 @@ class Sandbox final : public QObject {
 
   QProcess m_process;
   QTimer m_patience;
+  QJsonObject m_site;
 };

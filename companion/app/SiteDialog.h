@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QDialog>
+
+class QComboBox;
+class QLabel;
+class QPushButton;
+class SiteService;
+struct SandboxSite;
+
+// Asks for another site, which must answer before it is taken; one that does not may be taken all the same.
+class SiteDialog final : public QDialog {
+  Q_OBJECT
+
+ public:
+  // The service is not owned and must outlive the dialog. `sites` are offered.
+  SiteDialog(SiteService* service, const QList<SandboxSite>& sites, QWidget* parent);
+  ~SiteDialog() override;
+
+ private:
+  QString site() const;
+  QWidget* createButtons();
+  void ask();
+  void showFailure(const QString& reason);
+  void forgetFailure();
+  void useAnyway();
+
+  SiteService* m_service;
+  QComboBox* m_site;
+  QLabel* m_text;
+  QPushButton* m_change = nullptr;
+  QPushButton* m_useAnyway = nullptr;
+};
