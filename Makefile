@@ -32,7 +32,7 @@ bench: build
 	$(BUILD)/bin/prefs-bench --window
 	$(BUILD)/bin/prefs-bench --window --fade
 
-# The pictures of README.md, drawn by the demonstration.
+# The pictures of the documents, from runs of the programs.
 pictures: build
 	@tools/draw-pictures.sh $(BUILD)
 

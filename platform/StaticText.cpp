@@ -39,7 +39,9 @@ void StaticText::paintEvent(QPaintEvent*) {
 // What reaches beyond the parent's right edge is cut there, so the text ends before it.
 QRect StaticText::visiblePart() const {
   const int room = parentWidget() && !isWindow() ? parentWidget()->width() - x() : width();
-  return {0, 0, qMin(width(), room), height()};
+  QRect visible = contentsRect();
+  visible.setRight(qMin(visible.right(), room - 1));
+  return visible;
 }
 
 bool StaticText::event(QEvent* event) {

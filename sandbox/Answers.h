@@ -3,7 +3,7 @@
 #include <QJsonObject>
 #include <QString>
 
-#include "sandbox/HttpServer.h"
+#include "sandbox/HttpMessage.h"
 
 namespace sandbox {
 

@@ -14,6 +14,7 @@ namespace {
 
 constexpr QByteArray::Base64Options urlSafeBase64 =
     QByteArray::Base64UrlEncoding | QByteArray::OmitTrailingEquals;
+constexpr std::chrono::seconds lateTime{2};
 
 QString valueOf(const QUrlQuery& query, const char* name) {
   return query.queryItemValue(QLatin1String(name), QUrl::FullyDecoded);
@@ -146,8 +147,15 @@ HttpResponse Authority::token(const HttpRequest& request) {
     default:
       break;
   }
+  HttpResponse response = redeem(form);
+  if (m_fault == Fault::Late) response.delay = lateTime;
+  return response;
+}
+
+HttpResponse Authority::redeem(const QUrlQuery& form) {
   const QString type = valueOf(form, "grant_type");
   if (type == "authorization_code") return redeemCode(form);
+  if (type == "refresh_token" && m_fault == Fault::RefusedRefresh) return refused("invalid_grant");
   if (type == "refresh_token") return redeemRefreshToken(form);
   return refused("unsupported_grant_type");
 }

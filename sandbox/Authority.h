@@ -20,6 +20,7 @@ class Authority final {
   // What goes wrong at the token endpoint.
   enum class Fault {
     None,
+    Late,
     Silent,
     Slow,
     CutOff,
@@ -32,6 +33,7 @@ class Authority final {
     NoAccessToken,
     OtherAudience,
     InvalidGrant,
+    RefusedRefresh,
   };
   enum class Consent { AskUser, Give, Refuse };
 
@@ -70,6 +72,7 @@ class Authority final {
   HttpResponse consentPage(const QUrlQuery& query) const;
   HttpResponse answerPage(const QUrlQuery& query, bool isGiven);
   HttpResponse token(const HttpRequest& request);
+  HttpResponse redeem(const QUrlQuery& form);
   HttpResponse redeemCode(const QUrlQuery& form);
   HttpResponse redeemRefreshToken(const QUrlQuery& form);
   HttpResponse granted(const QString& clientId);

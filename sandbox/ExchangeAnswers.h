@@ -4,7 +4,7 @@
 #include <QString>
 #include <QUrl>
 
-#include "sandbox/HttpServer.h"
+#include "sandbox/HttpMessage.h"
 
 namespace sandbox {
 

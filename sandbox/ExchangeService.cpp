@@ -1,10 +1,12 @@
 #include "sandbox/ExchangeService.h"
 
 #include <QJsonArray>
+#include <algorithm>
 #include <utility>
 
 #include "sandbox/Answers.h"
 #include "sandbox/ExchangeAnswers.h"
+#include "sandbox/OnlineCases.h"
 
 namespace sandbox {
 
@@ -12,7 +14,6 @@ namespace {
 
 const QString discoveryPath = QStringLiteral("/autodiscover/autodiscover.xml");
 const QString meetingPath = QStringLiteral("/EWS/Exchange.asmx");
-const QString onlineHost = QStringLiteral("autodiscover.online.") + sandboxDomain;
 
 constexpr std::chrono::seconds slowTime{1};
 constexpr int refusalsUntilLocked = 3;
@@ -21,10 +22,22 @@ QString urlOf(const QString& host, const QString& path) {
   return QStringLiteral("https://") + host + path;
 }
 
+// A server takes the name of its domain and the email address alike.
+bool isNameOf(const ExchangeAccount& account, const QString& name) {
+  return name.compare(QLatin1String(account.username), Qt::CaseInsensitive) == 0 ||
+         name.compare(QLatin1String(account.email), Qt::CaseInsensitive) == 0;
+}
+
+bool isOnlineDiscovery(const QString& host) {
+  const auto services = onlineCases();
+  return std::any_of(services.begin(), services.end(),
+                     [&host](const OnlineCase& one) { return host == onlineDiscoveryHost(one); });
+}
+
 }  // namespace
 
-ExchangeService::ExchangeService(QString authority, TokenCheck isGranted)
-    : m_authority(std::move(authority)), m_isGranted(std::move(isGranted)) {}
+ExchangeService::ExchangeService(QString authorities, TokenCheck isGranted)
+    : m_authorities(std::move(authorities)), m_isGranted(std::move(isGranted)) {}
 
 bool ExchangeService::listen() {
   if (!m_servers.listen(exchangeHosts())) return false;
@@ -57,12 +70,7 @@ QJsonObject ExchangeService::describe() const {
            QJsonObject{{"domain", "certificate." + sandboxDomain}, {"https", m_servers.otherNamePort()}}},
           {"certificates", m_servers.certificates()},
           {"services", QJsonObject{{serviceName, QJsonArray{record("spare", 20), record("exchange", 10)}}}},
-          {"online", QJsonObject{{"hostSuffixes", QJsonArray{"online." + sandboxDomain}},
-                                 {"autodiscover", urlOf(onlineHost, discoveryPath)},
-                                 {"authority", m_authority},
-                                 {"resource", "https://mail.online." + sandboxDomain},
-                                 {"clientId", "sandbox-companion"},
-                                 {"redirectUri", "http://127.0.0.1/signed-in"}}},
+          {"online", describeOnlineCases(m_authorities)},
           {"accounts", describeAccounts()}};
 }
 
@@ -75,7 +83,7 @@ QString ExchangeService::note(const HttpRequest& request, bool isEncrypted) {
 HttpResponse ExchangeService::discover(const HttpRequest& request, bool isEncrypted) {
   const QString host = note(request, isEncrypted);
   if (!isEncrypted) return discoverPlainly(host);
-  if (host == onlineHost) return discoverOnPremise(request, host);
+  if (isOnlineDiscovery(host)) return discoverOnPremise(request, host);
   const ExchangeAccount* const account = accountOfHost(host);
   if (account == nullptr) return notHere();
   switch (account->what) {
@@ -90,7 +98,7 @@ HttpResponse ExchangeService::discover(const HttpRequest& request, bool isEncryp
     case ExchangeCase::ServiceRecord:
       return host.startsWith(QLatin1String("exchange.")) ? discoverOnPremise(request, host) : notHere();
     case ExchangeCase::Online:
-      return otherUrlAnswer(urlOf(onlineHost, discoveryPath));
+      return otherUrlAnswer(urlOf(onlineDiscoveryHost(onlineCaseOf(host)), discoveryPath));
     case ExchangeCase::OtherEmail:
       return otherEmailAnswer(QStringLiteral("onprem@corp.") + sandboxDomain);
     case ExchangeCase::Silent:
@@ -140,12 +148,11 @@ bool ExchangeService::isAllowed(const QByteArray& authorization) {
   if (authorization.startsWith("Bearer ")) return m_isGranted(QString::fromLatin1(authorization.sliced(7)));
   if (!authorization.startsWith("Basic ")) return false;
   const QString credential = QString::fromUtf8(QByteArray::fromBase64(authorization.sliced(6)));
-  const QString username = credential.section(QLatin1Char(':'), 0, 0);
   const ExchangeAccount& account = exchangeAccounts().front();
-  const bool isRight = username == QLatin1String(account.username) &&
-                       credential.section(QLatin1Char(':'), 1) == QLatin1String(account.password) &&
-                       m_refusals.value(username) < refusalsUntilLocked;
-  if (!isRight) ++m_refusals[username];
+  if (!isNameOf(account, credential.section(QLatin1Char(':'), 0, 0))) return false;
+  const bool isRight = credential.section(QLatin1Char(':'), 1) == QLatin1String(account.password) &&
+                       m_refusals < refusalsUntilLocked;
+  if (!isRight) ++m_refusals;
   return isRight;
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <QHash>
 #include <QJsonObject>
 #include <QList>
 #include <QString>
@@ -25,8 +24,9 @@ class ExchangeService final {
   };
   using TokenCheck = std::function<bool(const QString& accessToken)>;
 
-  // `authority` is where online users sign in, `isGranted` knows its tokens.
-  ExchangeService(QString authority, TokenCheck isGranted);
+  // `authorities` is the address that the authorities lie below where online users sign in, `isGranted` knows
+  // their tokens.
+  ExchangeService(QString authorities, TokenCheck isGranted);
   Q_DISABLE_COPY_MOVE(ExchangeService)
 
   // False where there is no port or no certificate.
@@ -47,10 +47,10 @@ class ExchangeService final {
   QString note(const HttpRequest& request, bool isEncrypted);
   bool isAllowed(const QByteArray& authorization);
 
-  QString m_authority;
+  QString m_authorities;
   TokenCheck m_isGranted;
   HostServers m_servers;
-  QHash<QString, int> m_refusals;  // by user name
+  int m_refusals = 0;  // of the one account that can get in
   QList<Visit> m_visits;
 };
 

@@ -7,7 +7,7 @@
 #include <chrono>
 #include <memory>
 
-#include "sandbox/HttpServer.h"
+#include "sandbox/HttpMessage.h"
 
 namespace sandbox {
 

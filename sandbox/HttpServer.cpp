@@ -38,15 +38,6 @@ std::optional<HttpRequest> parseRequest(const QByteArray& data) {
 
 }  // namespace
 
-QString HttpRequest::host() const {
-  return QString::fromLatin1(headers.value("host")).section(QLatin1Char(':'), 0, 0);
-}
-
-QUrlQuery HttpRequest::form() const {
-  QByteArray encoded = body;
-  return QUrlQuery(QString::fromLatin1(encoded.replace('+', "%20")));
-}
-
 HttpServer::HttpServer() : m_server(std::make_unique<QTcpServer>()) {
   watch();
 }

@@ -7,17 +7,17 @@ namespace sandbox {
 namespace {
 
 constexpr SiteToTry sites[] = {
-    {SiteCase::Works, "meetings.sandbox.example", "works and offers version 9.1.0"},
-    {SiteCase::Current, "current.sandbox.example", "works; no newer version is there"},
+    {SiteCase::Works, "meetings.sandbox.example", "Works and offers version 9.1.0"},
+    {SiteCase::Current, "current.sandbox.example", "Works; there is no newer version"},
     {SiteCase::Slow, "slow.meetings.sandbox.example",
-     "works, but each answer takes a second and the update three: time to cancel it"},
-    {SiteCase::Silent, "silent.meetings.sandbox.example", "never answers"},
-    {SiteCase::ServerError, "error.meetings.sandbox.example", "always answers that it has a problem (500)"},
-    {SiteCase::OtherName, "certificate.meetings.sandbox.example", "shows a certificate of another name"},
-    {SiteCase::Loop, "loop.meetings.sandbox.example", "leads on a hundred times"},
-    {SiteCase::Garbage, "garbage.meetings.sandbox.example", "answers everything with a web page"},
-    {SiteCase::Huge, "huge.meetings.sandbox.example", "offers an update that is far longer than it says"},
-    {SiteCase::Damaged, "damaged.meetings.sandbox.example", "offers an update that was damaged on its way"},
+     "Works, but each answer takes a second and the update three: time to cancel it"},
+    {SiteCase::Silent, "silent.meetings.sandbox.example", "Never answers"},
+    {SiteCase::ServerError, "error.meetings.sandbox.example", "Always answers that it has a problem (500)"},
+    {SiteCase::OtherName, "certificate.meetings.sandbox.example", "Shows a certificate of another name"},
+    {SiteCase::Loop, "loop.meetings.sandbox.example", "Leads on a hundred times"},
+    {SiteCase::Garbage, "garbage.meetings.sandbox.example", "Answers everything with a web page"},
+    {SiteCase::Huge, "huge.meetings.sandbox.example", "Offers an update that is far longer than it says"},
+    {SiteCase::Damaged, "damaged.meetings.sandbox.example", "Offers an update that was damaged on its way"},
 };
 
 }  // namespace

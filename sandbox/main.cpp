@@ -7,10 +7,10 @@
 #include <array>
 #include <cstdio>
 
-#include "sandbox/Authority.h"
 #include "sandbox/ExchangeService.h"
 #include "sandbox/HttpServer.h"
 #include "sandbox/MeetingSite.h"
+#include "sandbox/OnlineAuthorities.h"
 
 // Runs the sandbox until it is ended. The first line on standard output says where it is.
 int main(int argc, char** argv) {
@@ -33,16 +33,15 @@ int main(int argc, char** argv) {
     return 1;
   }
   using sandbox::Authority;
-  Authority authority(server, QStringLiteral("/common"));
-  authority.setConsent(parser.isSet("give") ? Authority::Consent::Give : Authority::Consent::AskUser);
-  authority.setGeneration(parser.isSet("scopes") ? Authority::Generation::Scope
-                                                 : Authority::Generation::Resource);
-  authority.setLifetime(parser.value("lifetime").toInt());
-
+  const sandbox::OnlineAuthorities authorities(
+      server,
+      {.consent = parser.isSet("give") ? Authority::Consent::Give : Authority::Consent::AskUser,
+       .generation = parser.isSet("scopes") ? Authority::Generation::Scope : Authority::Generation::Resource,
+       .lifetime = parser.value("lifetime").toInt()});
   sandbox::ExchangeService exchange(
-      authority.address(), [&authority](const QString& token) { return authority.isGranted(token); });
-  QJsonObject where{{"authority", authority.address()}};
+      server.url().toString(), [&authorities](const QString& token) { return authorities.isGranted(token); });
   sandbox::MeetingSite site;
+  QJsonObject where{{"authority", authorities.faultless().address()}};
   if (exchange.listen() && site.listen()) {
     where.insert("exchange", exchange.describe());
     where.insert("site", site.describe());

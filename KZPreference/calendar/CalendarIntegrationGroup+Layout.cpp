@@ -67,6 +67,15 @@ void CalendarIntegrationGroup::initIntegratinLabel() {
                                           .role = FontRole::BoldSystem,
                                           .size = boldLabelFontSize,
                                           .alignment = Qt::AlignRight});
+  alignHeading();
+}
+
+// Its frame grows with every option record; the text stays in line with the other headings.
+void CalendarIntegrationGroup::alignHeading() {
+  const double textWidth =
+      sizeOfText(m_integrationTxt->text(), FontRole::BoldSystem, boldLabelFontSize).width;
+  m_integrationTxt->setContentsMargins(0, 0, static_cast<int>(frameOf(m_integrationTxt).width - textWidth),
+                                       0);
 }
 
 QRadioButton* CalendarIntegrationGroup::addRadioButton(const QString& name, int row, const QString& title) {
@@ -155,6 +164,7 @@ void CalendarIntegrationGroup::relayoutCredentialControls() {
   const Frame heading = frameOf(m_integrationTxt);
   setFrame(m_integrationTxt, {marginAtLeftEdge, frameOf(this).height - heading.height,
                               heading.width + textPad, heading.height});
+  alignHeading();
   setFrame(m_emailInputTxt, emailFrame());
   setFrame(m_usernameInputTxt, credentialFieldFrame(64));
   setFrame(m_passwordInputTxt, credentialFieldFrame(34));

@@ -70,6 +70,7 @@ class CalendarIntegrationGroup : public View, public OutlookAccountAuthDelegate 
 
  private:
   void initIntegratinLabel();
+  void alignHeading();
   void initInputTextFields();
   void initDetectButton();
   void initApplyButton();

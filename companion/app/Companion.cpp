@@ -51,6 +51,7 @@ Companion::Companion(const CompanionOptions& options)
       m_services(&m_border,
                  serviceSettings(options, standardExchangeConfiguration(options.clientId, kSignedInUri))),
       m_window(&m_border, &m_services),
+      m_tryOut(new TryOutView),
       m_exchange(&m_border, options.reach, standardExchangeConfiguration(options.clientId, kSignedInUri)) {
   createPages();
   m_window.showNotice(introduction(options.reach));
@@ -68,19 +69,28 @@ void Companion::createPages() {
   m_window.addPage(QStringLiteral("Meetings"), new MeetingsView(&m_services.meetings()));
   m_window.addPage(QStringLiteral("Telemetry"), new TelemetryView(&m_services.telemetry()));
   m_window.addPage(QStringLiteral("Inspector"), new BorderLogView(&m_log));
+  m_window.addPage(QStringLiteral("Try out"), m_tryOut);
+  connect(m_tryOut, &TryOutView::siteChosen, &m_window, &CompanionWindow::useSite);
 }
 
 void Companion::connectSandbox() {
-  connect(&m_sandbox, &Sandbox::ready, this, [this](const QJsonObject& description) {
-    m_exchange.useSandbox(description);
-    m_services.useSandbox(m_sandbox.site(), description);
-    m_window.offerAccounts(sandboxAccounts(description));
+  connect(&m_sandbox, &Sandbox::ready, this, [this](const QJsonObject& exchange, const QJsonObject& site) {
+    m_exchange.useSandbox(exchange);
+    m_services.useSandbox(site, exchange);
+    m_tryOut->setAccounts(sandboxAccounts(exchange));
+    m_tryOut->setSites(sandboxSites(site));
   });
   connect(&m_sandbox, &Sandbox::failed, this, [this](const QString& reason) {
     m_exchange.loseSandbox(reason);
     m_services.loseSandbox();
-    m_window.offerAccounts({});
+    m_tryOut->setAccounts({});
+    m_tryOut->setSites({});
   });
+}
+
+void Companion::comeToFront() {
+  m_window.comeToFront();
+  m_window.showPreferences();
 }
 
 void Companion::start(demouser::Variant variant) {

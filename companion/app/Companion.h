@@ -7,6 +7,7 @@
 #include "companion/app/CompanionOptions.h"
 #include "companion/app/CompanionWindow.h"
 #include "companion/app/Sandbox.h"
+#include "companion/app/TryOutView.h"
 #include "companion/runtime/Border.h"
 #include "companion/services/CompanionServices.h"
 
@@ -26,6 +27,9 @@ class Companion final : public QObject {
   // The windows first, then the sandbox. After a successful load.
   void start(demouser::Variant variant);
 
+  // Both windows, over those of other programs.
+  void comeToFront();
+
   CompanionWindow* window() { return &m_window; }
 
  private:
@@ -37,6 +41,7 @@ class Companion final : public QObject {
   Border::Token m_logging;
   CompanionServices m_services;
   CompanionWindow m_window;
+  TryOutView* m_tryOut;  // the window's
   CompanionExchange m_exchange;
   Sandbox m_sandbox;
 };

@@ -76,7 +76,7 @@ QString CompanionExchange::refusalOf(const Dictionary& content) const {
   const QString domain = emailDomain(textValue(content, QRT_ExchangeDiscover_Email).trimmed());
   // What is no address at all gets the discovery's own answer.
   if (domain.isEmpty() || isWithinDomain(domain, sandboxDomain)) return {};
-  return QStringLiteral("Only the sandbox is asked here: use one of its Accounts to try.");
+  return QStringLiteral("Only the sandbox is asked here: use one of the accounts on the page Try out.");
 }
 
 void CompanionExchange::reportFailure(const QString& message) {

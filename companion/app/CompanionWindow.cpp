@@ -9,6 +9,7 @@
 #include <QStackedWidget>
 #include <QTabBar>
 
+#include "companion/app/FaultNotice.h"
 #include "companion/app/SiteDialog.h"
 #include "companion/app/UpdateBar.h"
 #include "companion/runtime/Border.h"
@@ -39,13 +40,14 @@ CompanionWindow::CompanionWindow(Border* border, CompanionServices* services)
   column->setSpacing(14);
   column->addWidget(createHeader());
   column->addWidget(createButtons());
+  column->addWidget(new FaultNotice(this));
   column->addWidget(createPages(), 1);
   m_notice = new QLabel;
   m_notice->setWordWrap(true);
   m_notice->setTextFormat(Qt::PlainText);
   column->addWidget(new UpdateBar(&services->updates()));
   column->addWidget(m_notice);
-  connect(&services->site(), &SiteService::siteWanted, this, &CompanionWindow::askForSite);
+  connect(&services->site(), &SiteService::siteWanted, this, &CompanionWindow::openSiteDialog);
   // The guest's pane changes the identity.
   connect(&KZPlistFileHandle::sharedInstance(), &KZPlistFileHandle::valueChanged, this,
           &CompanionWindow::showIdentity);
@@ -118,10 +120,6 @@ QWidget* CompanionWindow::createButtons() {
   row->addWidget(createButton("Join by number", "Command 10", &CompanionWindow::joinByNumber));
   row->addWidget(createButton("Close", "Command 3", &CompanionWindow::closePreferences));
   row->addStretch(1);
-  m_accountsButton = createButton("Accounts to try", "Addresses and passwords of the sandbox",
-                                  &CompanionWindow::showAccountsToTry);
-  m_accountsButton->setEnabled(false);
-  row->addWidget(m_accountsButton);
   return bar;
 }
 
@@ -150,6 +148,13 @@ void CompanionWindow::showPreferences() {
   m_border->triggerCommand(number(KZCommand::KZCmdShowPreference), fromApplication());
 }
 
+void CompanionWindow::comeToFront() {
+  setWindowState(windowState() & ~Qt::WindowMinimized);
+  show();
+  raise();
+  activateWindow();
+}
+
 void CompanionWindow::showAccount() {
   m_border->triggerCommand(number(KZCommand::KZCmdShowPreference),
                            Dictionary{{kOpenPrefsViewType, kPrefsAccountView}});
@@ -165,29 +170,21 @@ void CompanionWindow::closePreferences() {
   if (m_guest->isChecked()) m_border->triggerCommand(number(KZCommand::KZCmdInitGuestPreference));
 }
 
-void CompanionWindow::askForSite() {
-  if (!m_siteDialog) {
+SiteDialog* CompanionWindow::openSiteDialog() {
+  if (!m_siteDialog)
     m_siteDialog = new SiteDialog(&m_services->site(), m_services->network().sandboxSites(), this);
-  }
   m_siteDialog->show();
   m_siteDialog->raise();
   m_siteDialog->activateWindow();
+  return m_siteDialog;
+}
+
+void CompanionWindow::useSite(const QString& site) {
+  openSiteDialog()->ask(site);
 }
 
 void CompanionWindow::showNotice(const QString& text) {
   m_notice->setText(text);
-}
-
-void CompanionWindow::offerAccounts(const QList<SandboxAccount>& accounts) {
-  m_accounts = accounts;
-  m_accountsButton->setEnabled(!accounts.isEmpty());
-}
-
-void CompanionWindow::showAccountsToTry() {
-  if (!m_accountsDialog) m_accountsDialog = new AccountsDialog(m_accounts, this);
-  m_accountsDialog->show();
-  m_accountsDialog->raise();
-  m_accountsDialog->activateWindow();
 }
 
 void CompanionWindow::showIdentity() {

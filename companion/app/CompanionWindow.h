@@ -1,12 +1,9 @@
 #pragma once
 
-#include <QList>
 #include <QPointer>
 #include <QWidget>
 
-#include "companion/app/AccountsDialog.h"
 #include "companion/app/DemoUser.h"
-#include "companion/exchange/SandboxExchange.h"
 #include "companion/services/CompanionServices.h"
 
 class Border;
@@ -27,11 +24,12 @@ class CompanionWindow final : public QWidget {
   // Also tells the plug-in, as a host does after a sign-in or when it starts for a guest.
   void become(demouser::Variant variant);
   void showPreferences();
+  void comeToFront();
   void showNotice(const QString& text);
   // The window takes the page; the first one is in front.
   void addPage(const QString& title, QWidget* page);
-  // With none there is nothing to try.
-  void offerAccounts(const QList<SandboxAccount>& accounts);
+  // Asks the site, and belongs to it from then on.
+  void useSite(const QString& site);
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -46,8 +44,7 @@ class CompanionWindow final : public QWidget {
   void showAccount();
   void joinByNumber();
   void closePreferences();
-  void askForSite();
-  void showAccountsToTry();
+  SiteDialog* openSiteDialog();
   void showIdentity();
 
   Border* m_border;
@@ -58,8 +55,5 @@ class CompanionWindow final : public QWidget {
   QStackedWidget* m_pages = nullptr;
   QLabel* m_identity = nullptr;
   QLabel* m_notice = nullptr;
-  QPushButton* m_accountsButton = nullptr;
-  QList<SandboxAccount> m_accounts;
-  QPointer<AccountsDialog> m_accountsDialog;
   QPointer<SiteDialog> m_siteDialog;
 };

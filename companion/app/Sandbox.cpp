@@ -54,9 +54,8 @@ void Sandbox::readFirstLine() {
   m_patience.stop();
   const QJsonObject where = QJsonDocument::fromJson(m_process.readLine()).object();
   const QJsonObject exchange = where.value(QLatin1String("exchange")).toObject();
-  m_site = where.value(QLatin1String("site")).toObject();
-  if (!exchange.isEmpty()) return Q_EMIT ready(exchange);
-  fail(QStringLiteral("The sandbox plays no Exchange: the openssl program may be missing."));
+  if (!exchange.isEmpty()) return Q_EMIT ready(exchange, where.value(QLatin1String("site")).toObject());
+  fail(QStringLiteral("The sandbox plays nothing: the openssl program may be missing."));
 }
 
 void Sandbox::fail(const QString& reason) {

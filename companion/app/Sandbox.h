@@ -19,12 +19,12 @@ class Sandbox final : public QObject {
 
   // Returns at once; ready or failed follows. An empty path fails. Start at most once.
   void start(const QString& path);
-  QJsonObject site() const { return m_site; }  // the meeting sites that it plays; empty before ready
   qint64 processId() const { return m_process.processId(); }
 
  Q_SIGNALS:
-  void ready(const QJsonObject& exchange);  // the Exchange that it plays, for withSandbox
-  void failed(const QString& reason);       // a sentence for the user; once, also after ready
+  // The Exchange that it plays, for withSandbox, and its meeting sites, for sandboxSites.
+  void ready(const QJsonObject& exchange, const QJsonObject& site);
+  void failed(const QString& reason);  // a sentence for the user; once, also after ready
 
  private:
   void readFirstLine();
@@ -32,5 +32,4 @@ class Sandbox final : public QObject {
 
   QProcess m_process;
   QTimer m_patience;
-  QJsonObject m_site;
 };

@@ -58,7 +58,7 @@ QWidget* SiteDialog::createButtons() {
   row->addWidget(m_change);
   connect(keep, &QPushButton::clicked, this, &QDialog::reject);
   connect(m_useAnyway, &QPushButton::clicked, this, &SiteDialog::useAnyway);
-  connect(m_change, &QPushButton::clicked, this, &SiteDialog::ask);
+  connect(m_change, &QPushButton::clicked, this, &SiteDialog::askChosen);
   return bar;
 }
 
@@ -66,7 +66,12 @@ QString SiteDialog::site() const {
   return m_site->currentText().trimmed().toLower();
 }
 
-void SiteDialog::ask() {
+void SiteDialog::ask(const QString& site) {
+  m_site->setCurrentText(site);
+  askChosen();
+}
+
+void SiteDialog::askChosen() {
   forgetFailure();
   m_change->setEnabled(false);
   m_text->setText(QStringLiteral("Asking the site."));

@@ -2,11 +2,12 @@
 
 #include <QDialog>
 
+#include "companion/services/SandboxSites.h"
+
 class QComboBox;
 class QLabel;
 class QPushButton;
 class SiteService;
-struct SandboxSite;
 
 // Asks for another site, which must answer before it is taken; one that does not may be taken all the same.
 class SiteDialog final : public QDialog {
@@ -17,10 +18,13 @@ class SiteDialog final : public QDialog {
   SiteDialog(SiteService* service, const QList<SandboxSite>& sites, QWidget* parent);
   ~SiteDialog() override;
 
+  // As if the user had typed it.
+  void ask(const QString& site);
+
  private:
   QString site() const;
   QWidget* createButtons();
-  void ask();
+  void askChosen();
   void showFailure(const QString& reason);
   void forgetFailure();
   void useAnyway();

@@ -10,11 +10,13 @@
 #include "companion/app/DemoTour.h"
 #include "companion/runtime/CommandLine.h"
 #include "companion/runtime/QtMessages.h"
+#include "companion/runtime/SingleInstance.h"
 #include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 
 namespace {
 
+constexpr int kAlreadyRunning = 1;
 constexpr int kUnusable = 2;
 constexpr int kPluginFailed = 3;
 
@@ -50,11 +52,20 @@ int playDemo(CompanionWindow* window, const CompanionOptions& options) {
   return 1;
 }
 
-int runCompanion(const CompanionOptions& options) {
-  const QTemporaryDir demoState;
-  const QString stateFolder =
-      options.isDemo && options.stateFolder.isEmpty() ? demoState.path() : options.stateFolder;
-  KZPlistFileHandle::sharedInstance().open(stateFolder.isEmpty() ? defaultStateFolder() : stateFolder);
+// The exit status for one that is not the first.
+int leaveToTheFirst(SingleInstance::Claim claim) {
+  if (claim == SingleInstance::Claim::Asked) {
+    std::printf("Brenn Mivra Meetings is running already; it shows its Preferences.\n");
+    return 0;
+  }
+  complain(
+      QStringLiteral("Brenn Mivra Meetings is running already, but it does not answer. End it, or name "
+                     "another folder with --state."));
+  return kAlreadyRunning;
+}
+
+int runFirst(const CompanionOptions& options, const QString& stateFolder, const SingleInstance& instance) {
+  KZPlistFileHandle::sharedInstance().open(stateFolder);
   KZKeyChainHandle::sharedInstance().useStorage(options.isDemo ? KZKeyChainHandle::Storage::Memory
                                                                : KZKeyChainHandle::Storage::System);
   Companion companion(options);
@@ -63,15 +74,27 @@ int runCompanion(const CompanionOptions& options) {
     return kPluginFailed;
   }
   if (options.isDemo) return playDemo(companion.window(), options);
+  QObject::connect(&instance, &SingleInstance::asked, &companion, &Companion::comeToFront);
   companion.start(options.isGuest ? demouser::Variant::Guest : demouser::Variant::SignedIn);
   return QApplication::exec();
+}
+
+int runCompanion(const CompanionOptions& options) {
+  const QTemporaryDir demoState;
+  QString stateFolder = options.stateFolder;
+  if (stateFolder.isEmpty()) stateFolder = options.isDemo ? demoState.path() : defaultStateFolder();
+  SingleInstance instance(stateFolder);
+  const SingleInstance::Claim claim = instance.claim();
+  if (claim != SingleInstance::Claim::First) return leaveToTheFirst(claim);
+  return runFirst(options, stateFolder, instance);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
   const QStringList arguments = argumentsOf(argc, argv);
-  if (arguments.contains("--demo")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  const bool isOffscreen = qgetenv("QT_QPA_PLATFORM").startsWith("offscreen");
+  if (arguments.contains("--demo") && !isOffscreen) qputenv("QT_QPA_PLATFORM", "offscreen");
   choosePlatform();
   installQtMessageFilter();
   int onlyName = 1;

@@ -52,8 +52,9 @@ ServiceLookup serviceLookup(const QJsonObject& description, ServiceLookup others
 
 ExchangeConfiguration withSandbox(ExchangeConfiguration configuration, const QJsonObject& description) {
   if (textAt(description, "domain").isEmpty()) return configuration;
-  configuration.onlineServices.append(
-      onlineServiceFrom(description.value(QLatin1String("online")).toObject()));
+  for (const QJsonValue& online : description.value(QLatin1String("online")).toArray()) {
+    configuration.onlineServices.append(onlineServiceFrom(online.toObject()));
+  }
   configuration.network.endpoint = sandboxEndpoints(description, std::move(configuration.network.endpoint));
   configuration.services = serviceLookup(description, std::move(configuration.services));
   return configuration;

@@ -15,8 +15,8 @@ struct SandboxAccount {
 };
 
 // `configuration` with the sandbox added to it: its hosts are found on this machine, its certificates vouch
-// for them alone, its online service is one more. `description` is the "exchange" of what kz-sandbox prints
-// first; with an empty one nothing is added.
+// for them alone, its online services are further ones. `description` is the "exchange" of what kz-sandbox
+// prints first; with an empty one nothing is added.
 ExchangeConfiguration withSandbox(ExchangeConfiguration configuration, const QJsonObject& description);
 
 QList<SandboxAccount> sandboxAccounts(const QJsonObject& description);

@@ -1,6 +1,5 @@
 #include "companion/services/ServiceNetwork.h"
 
-#include <QJsonArray>
 #include <utility>
 
 #include "companion/network/SandboxEndpoints.h"
@@ -31,16 +30,6 @@ QString ServiceNetwork::refusalOf(const QUrl& address) const {
              "%1 is outside the sandbox and was not asked. Choose the site meetings.%2 in Preferences, or "
              "start the companion with --network.")
       .arg(address.host(), domain);
-}
-
-QList<SandboxSite> ServiceNetwork::sandboxSites() const {
-  QList<SandboxSite> sites;
-  for (const QJsonValue& value : m_sandbox.value(QLatin1String("sites")).toArray()) {
-    const QJsonObject site = value.toObject();
-    sites.append(
-        {site.value(QLatin1String("site")).toString(), site.value(QLatin1String("meaning")).toString()});
-  }
-  return sites;
 }
 
 std::unique_ptr<WebFetch> ServiceNetwork::fetch() const {

@@ -6,12 +6,7 @@
 #include <memory>
 
 #include "companion/network/WebFetch.h"
-
-// A site of the sandbox, for the user to try.
-struct SandboxSite {
-  QString site;
-  QString meaning;
-};
+#include "companion/services/SandboxSites.h"
 
 // How the services reach meeting sites, and which of them they may ask. Main thread only.
 class ServiceNetwork final : public QObject {
@@ -29,7 +24,7 @@ class ServiceNetwork final : public QObject {
   QString refusalOf(const QUrl& address) const;
   bool mayAsk(const QUrl& address) const { return refusalOf(address).isEmpty(); }
   bool isReady() const { return m_reach == NetworkReach::Network || !m_sandbox.isEmpty(); }
-  QList<SandboxSite> sandboxSites() const;
+  QList<SandboxSite> sandboxSites() const { return ::sandboxSites(m_sandbox); }
 
   // Reaches what may be asked now; it learns of no later change. Must not outlive this.
   std::unique_ptr<WebFetch> fetch() const;

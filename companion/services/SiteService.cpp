@@ -123,9 +123,11 @@ void SiteService::adoptSilent(const QString& site) {
 }
 
 void SiteService::showAgain() {
+  // A guest's window shows no site.
+  if (!m_isSignedIn) return;
   // A window reads the site when it is built.
   m_border->triggerCommand(static_cast<quint64>(KZCommand::KZCmdDestroyPreference));
-  signIn();
+  tellPlugin(record());
   m_border->triggerCommand(static_cast<quint64>(KZCommand::KZCmdShowPreference),
                            Dictionary{{kOpenPrefsViewType, kPrefsAccountView}});
 }

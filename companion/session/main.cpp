@@ -9,6 +9,7 @@
 #include "companion/runtime/PluginLocation.h"
 #include "companion/runtime/QtMessages.h"
 #include "companion/session/Session.h"
+#include "companion/session/WriteWatch.h"
 #include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 
@@ -21,6 +22,7 @@ struct SessionOptions {
   QString stateFolder;
   KZKeyChainHandle::Storage keychain = KZKeyChainHandle::Storage::Memory;
   Session::Trace trace = Session::Trace::Off;
+  bool isPrintingWrites = false;
   QString pluginPath;
   QString scriptPath;
 };
@@ -41,6 +43,7 @@ bool readOptions(const QStringList& arguments, SessionOptions* options) {
       {{"state", "Where the settings store lives; left out, a fresh folder.", "DIR"},
        {"keychain", "Where secrets are kept: memory (the default) or system.", "KIND", "memory"},
        {"trace", "Print trace lines too."},
+       {"writes", "Print what is written into the settings store and the keychain."},
        {"plugin", "The plug-in to load.", "FILE", defaultPluginPath()}});
   parser.addPositionalArgument("FILE", "The script, \"-\" or left out: standard input.", "[FILE | -]");
   parser.process(arguments);
@@ -56,6 +59,7 @@ bool readOptions(const QStringList& arguments, SessionOptions* options) {
   options->stateFolder = parser.value("state");
   if (keychain == "system") options->keychain = KZKeyChainHandle::Storage::System;
   if (parser.isSet("trace")) options->trace = Session::Trace::On;
+  options->isPrintingWrites = parser.isSet("writes");
   options->pluginPath = parser.value("plugin");
   options->scriptPath = parser.positionalArguments().value(0, "-");
   return true;
@@ -70,6 +74,8 @@ bool openScript(const QString& path, QFile* script) {
 int playSession(const SessionOptions& options, QFile* script) {
   Border border([](const QUrl&) { return true; });
   LineWriter writer(stdout);
+  std::optional<WriteWatch> writes;
+  if (options.isPrintingWrites) writes.emplace(&writer);
   // What is traced while the plug-in is loaded is heard, what the end traces is not part of the script.
   std::optional<Session> session(std::in_place, &border, &writer, options.trace);
   if (!border.loadPlugin(options.pluginPath)) {
@@ -78,6 +84,7 @@ int playSession(const SessionOptions& options, QFile* script) {
   }
   const Session::End end = session->play(script);
   session.reset();
+  writes.reset();
   return static_cast<int>(end);
 }
 

@@ -50,23 +50,23 @@ QString temporaryPrefix(const QString& name) {
 
 }  // namespace
 
-QString replaceFile(const QString& folder, const QString& name, const QByteArray& bytes) {
+int replaceFile(const QString& folder, const QString& name, const QByteArray& bytes) {
   QByteArray temporary = QFile::encodeName(QDir(folder).filePath(temporaryPrefix(name))) + "XXXXXX";
   const Descriptor file(::mkostemp(temporary.data(), O_CLOEXEC));
-  if (!file.isOpen()) return qt_error_string(errno);
+  if (!file.isOpen()) return errno;
   const QByteArray target = QFile::encodeName(QDir(folder).filePath(name));
   const bool isFirst = ::access(target.constData(), F_OK) != 0;
   const bool isReplaced = writeAll(file.get(), bytes) && ::fsync(file.get()) == 0 &&
                           ::rename(temporary.constData(), target.constData()) == 0;
   if (!isReplaced) {
-    const QString reason = qt_error_string(errno);
+    const int reason = errno;
     ::unlink(temporary.constData());
     return reason;
   }
   // A first file must still have its name after a power cut. A later one may be the old or the new file then,
   // both whole, which is not worth doubling the wait at every change.
   if (isFirst) syncFolder(folder);
-  return {};
+  return 0;
 }
 
 void removeAbandonedFiles(const QString& folder, const QString& name) {

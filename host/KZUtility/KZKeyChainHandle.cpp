@@ -40,9 +40,13 @@ const QString& passwordKey() {
 }  // namespace
 
 struct KZKeyChainHandle::Private {
+  explicit Private(KZKeyChainHandle* owner) : handle(owner) {}
+
+  KZKeyChainHandle* const handle;
   QMutex mutex;
   std::shared_ptr<KZKeychainBackend> backend;  // null while everything is in memory
-  MemoryKeychain memory;                       // besides, what is known of the backend's items
+  bool isLost = false;
+  MemoryKeychain memory;  // besides, what is known of the backend's items
 
   std::shared_ptr<KZKeychainBackend> currentBackend() {
     const QMutexLocker lock(&mutex);
@@ -54,9 +58,11 @@ struct KZKeyChainHandle::Private {
       const QMutexLocker lock(&mutex);
       if (backend != lost) return;
       backend.reset();
+      isLost = true;
     }
     MVRNSWarningFuncTraceIMPL("KZUtility", Q_FUNC_INFO,
                               "the keychain is not available: secrets stay in memory for this run");
+    Q_EMIT handle->lost();
   }
 
   Answer read(const Item& item) {
@@ -74,9 +80,16 @@ struct KZKeyChainHandle::Private {
     (void)memory.write(item, secret);
     const auto keychain = currentBackend();
     if (keychain && keychain->write(item, secret) != Status::Done) giveUp(keychain);
+    Q_EMIT handle->itemWritten(item.account);
   }
 
   Status remove(const Item& item) {
+    const Status status = removeFromAll(item);
+    if (status == Status::Done) Q_EMIT handle->itemRemoved(item.account);
+    return status;
+  }
+
+  Status removeFromAll(const Item& item) {
     const Status inMemory = memory.remove(item);
     const auto keychain = currentBackend();
     if (!keychain) return inMemory;
@@ -93,7 +106,7 @@ KZKeyChainHandle& KZKeyChainHandle::sharedInstance() {
   return *handle;
 }
 
-KZKeyChainHandle::KZKeyChainHandle() : d(std::make_unique<Private>()) {}
+KZKeyChainHandle::KZKeyChainHandle() : d(std::make_unique<Private>(this)) {}
 KZKeyChainHandle::~KZKeyChainHandle() = default;
 
 void KZKeyChainHandle::useStorage(Storage storage) {
@@ -103,7 +116,13 @@ void KZKeyChainHandle::useStorage(Storage storage) {
 void KZKeyChainHandle::useBackend(std::shared_ptr<KZKeychainBackend> backend) {
   const QMutexLocker lock(&d->mutex);
   d->backend.swap(backend);
+  d->isLost = false;
   d->memory.clear();
+}
+
+bool KZKeyChainHandle::isLost() const {
+  const QMutexLocker lock(&d->mutex);
+  return d->isLost;
 }
 
 void KZKeyChainHandle::getOutlookUsername(QString* username, QString* password) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QObject>
 #include <QString>
 #include <memory>
 #include <optional>
@@ -12,7 +13,9 @@
 // they live in memory until the run ends, with one warning trace, also when the keychain comes back: what it
 // holds then stays as it was, and what this run had read from it before is still known. Never in a file. Any
 // thread.
-class KZ_HOST_EXPORT KZKeyChainHandle {
+class KZ_HOST_EXPORT KZKeyChainHandle : public QObject {
+  Q_OBJECT
+
  public:
   enum class Storage { Memory, System };
 
@@ -22,6 +25,8 @@ class KZ_HOST_EXPORT KZKeyChainHandle {
   // anew.
   void useStorage(Storage storage);
   void useBackend(std::shared_ptr<KZKeychainBackend> backend);  // another keychain than these two
+  // Whether the keychain that was chosen last has failed, so that what is committed lasts for this run only.
+  bool isLost() const;
 
   // The saved on-premise credential; each text is null when absent. Committing two missing texts removes it.
   void getOutlookUsername(QString* username, QString* password);
@@ -36,9 +41,16 @@ class KZ_HOST_EXPORT KZKeyChainHandle {
   [[nodiscard]] KZKeychainBackend::Answer copyGenericPassword(const KZKeychainBackend::Item& item);
   [[nodiscard]] KZKeychainBackend::Status deleteGenericPassword(const KZKeychainBackend::Item& item);
 
+ Q_SIGNALS:
+  // Once for each keychain that fails, on the thread of the call that it failed.
+  void lost();
+  // After an item was written or removed, in the keychain or in memory; on the thread of the call.
+  void itemWritten(const QString& account);
+  void itemRemoved(const QString& account);
+
  private:
   KZKeyChainHandle();
-  ~KZKeyChainHandle();
+  ~KZKeyChainHandle() override;
 
   struct Private;
   std::unique_ptr<Private> d;

@@ -46,15 +46,27 @@ KZPlistFileHandle::~KZPlistFileHandle() = default;
 void KZPlistFileHandle::open(const QString& folder) {
   m_file = std::make_unique<PropertyListFile>(folder);
   m_values = m_file->read();
+  noteProblem();
 }
 
 void KZPlistFileHandle::close() {
   m_file.reset();
   m_values.clear();
+  noteProblem();
 }
 
 QString KZPlistFileHandle::filePath() const {
   return m_file ? m_file->path() : QString();
+}
+
+KZSaveProblem KZPlistFileHandle::saveProblem() const {
+  return m_file ? m_file->problem() : KZSaveProblem::None;
+}
+
+void KZPlistFileHandle::noteProblem() {
+  if (m_problem == saveProblem()) return;
+  m_problem = saveProblem();
+  Q_EMIT saveProblemChanged(m_problem);
 }
 
 bool KZPlistFileHandle::isPlistKeyExist(const QString& key) const {
@@ -74,6 +86,7 @@ void KZPlistFileHandle::setValue(const QString& key, const QVariant& value) {
   if (m_file) {
     if (isChanged) m_file->set(key, after);
     m_file->flush();
+    noteProblem();
   }
   if (isChanged) Q_EMIT valueChanged(key, before, after);
 }

@@ -6,6 +6,7 @@
 
 #include "host/KZFoundation/Dictionary.h"
 #include "host/KZFoundation/KZHostExport.h"
+#include "host/KZUtility/KZSaveProblem.h"
 
 class PropertyListFile;
 
@@ -24,6 +25,9 @@ class KZ_HOST_EXPORT KZPlistFileHandle : public QObject {
   // Forgets everything and is in memory only again; the file stays.
   void close();
   QString filePath() const;  // null while in memory only
+  // None while the file has all that was set, or there is none. What it lacks is written with the next change
+  // that succeeds.
+  KZSaveProblem saveProblem() const;
 
   // Keys as in the file. A missing value removes the key.
   bool isPlistKeyExist(const QString& key) const;
@@ -59,11 +63,16 @@ class KZ_HOST_EXPORT KZPlistFileHandle : public QObject {
  Q_SIGNALS:
   // After the value is in force, whether or not the disk took it.
   void valueChanged(const QString& key, const QVariant& before, const QVariant& after);
+  // Before `valueChanged`; `open` and `close` emit it too.
+  void saveProblemChanged(KZSaveProblem problem);
 
  private:
   KZPlistFileHandle();
   ~KZPlistFileHandle() override;
 
+  void noteProblem();
+
   Dictionary m_values;
   std::unique_ptr<PropertyListFile> m_file;
+  KZSaveProblem m_problem = KZSaveProblem::None;  // as last told
 };

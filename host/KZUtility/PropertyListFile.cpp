@@ -21,6 +21,21 @@ void traceStoreError(const QString& path, const QString& reason) {
   MVRNSErrorFuncTraceIMPL("KZUtility", Q_FUNC_INFO, "settings store %@: %@", path, reason);
 }
 
+KZSaveProblem problemOf(int error) {
+  switch (error) {
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG:
+      return KZSaveProblem::DiskFull;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+      return KZSaveProblem::NotAllowed;
+    default:
+      return KZSaveProblem::Failed;
+  }
+}
+
 }  // namespace
 
 bool PropertyListFile::Stamp::operator==(const Stamp& other) const {
@@ -46,18 +61,19 @@ void PropertyListFile::set(const QString& key, const QVariant& value) {
 }
 
 void PropertyListFile::flush() {
-  if (m_pending.isEmpty() || m_access == Access::MemoryOnly) return;
+  if (m_pending.isEmpty() || m_problem == KZSaveProblem::FileUnusable) return;
   // Another process has written: its keys are taken over. When the file is gone, all of ours goes back.
   const std::optional<Stamp> found = stamp();
   if (found && found != m_seen) load();
-  if (m_access == Access::MemoryOnly) return;
+  if (m_problem == KZSaveProblem::FileUnusable) return;
   applyPending();
   const QByteArray xml = xmlOfPropertyList(m_document.get());
   if (xml.size() > kLargestPropertyList)
-    return traceStoreError(path(), QStringLiteral("too large to be written"));
+    return fail(KZSaveProblem::Failed, QStringLiteral("too large to be written"));
   makeFolder();
-  const QString failure = replaceFile(m_folder, kPropertyListName, xml);
-  if (!failure.isNull()) return traceStoreError(path(), failure);
+  const int error = replaceFile(m_folder, kPropertyListName, xml);
+  if (error != 0) return fail(problemOf(error), qt_error_string(error));
+  m_problem = KZSaveProblem::None;
   m_pending.clear();
   m_seen = stamp();
 }
@@ -81,8 +97,7 @@ void PropertyListFile::load() {
   struct stat state = {};
   if (::lstat(name.constData(), &state) != 0) {
     if (errno == ENOENT) return;
-    m_access = Access::MemoryOnly;
-    return traceStoreError(path(), qt_error_string(errno));
+    return fail(KZSaveProblem::FileUnusable, qt_error_string(errno));
   }
   if (!S_ISREG(state.st_mode)) return reject(QStringLiteral("not a regular file"), state.st_uid);
   if (state.st_uid != ::geteuid()) return reject(QStringLiteral("another user's file"), state.st_uid);
@@ -106,9 +121,8 @@ QString PropertyListFile::loadFrom(int descriptor) {
 
 void PropertyListFile::reject(const QString& reason, uid_t owner) {
   const bool isAside = owner == ::geteuid() && setAside();
-  if (!isAside) m_access = Access::MemoryOnly;
-  traceStoreError(path(), isAside ? reason + QStringLiteral("; it was set aside")
-                                  : reason + QStringLiteral("; settings last for this run only"));
+  if (isAside) return traceStoreError(path(), reason + QStringLiteral("; it was set aside"));
+  fail(KZSaveProblem::FileUnusable, reason + QStringLiteral("; settings last for this run only"));
 }
 
 bool PropertyListFile::setAside() const {
@@ -123,6 +137,11 @@ bool PropertyListFile::setAside() const {
     if (errno != EEXIST) return false;
   }
   return false;
+}
+
+void PropertyListFile::fail(KZSaveProblem problem, const QString& reason) {
+  m_problem = problem;
+  traceStoreError(path(), reason);
 }
 
 void PropertyListFile::applyPending() {

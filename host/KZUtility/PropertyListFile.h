@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "host/KZFoundation/Dictionary.h"
+#include "host/KZUtility/KZSaveProblem.h"
 #include "host/KZUtility/PropertyListConversion.h"
 
 // One XML property list on the disk, as KZPlistFileHandle promises it. What another process wrote meanwhile
@@ -17,6 +18,8 @@ class PropertyListFile final {
   explicit PropertyListFile(const QString& folder);
 
   QString path() const;
+  // As the last reading or writing left it.
+  KZSaveProblem problem() const { return m_problem; }
 
   // Once, before anything is set.
   Dictionary read();
@@ -27,7 +30,6 @@ class PropertyListFile final {
   void flush();
 
  private:
-  enum class Access { ReadWrite, MemoryOnly };
   struct Stamp {
     dev_t device;
     ino_t inode;
@@ -45,9 +47,10 @@ class PropertyListFile final {
   void reject(const QString& reason, uid_t owner);
   [[nodiscard]] bool setAside() const;
   void applyPending();
+  void fail(KZSaveProblem problem, const QString& reason);
 
   QString m_folder;
-  Access m_access = Access::ReadWrite;
+  KZSaveProblem m_problem = KZSaveProblem::None;
   // The whole document, so that what nobody here knows is written back as it was.
   PropertyList m_document;
   QHash<QString, QVariant> m_pending;

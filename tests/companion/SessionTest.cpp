@@ -83,6 +83,24 @@ TEST(Session, PrintsTraceOnlyWhenAsked) {
   EXPECT_EQ(run.object(0).value("method"), "FakeCore::handle");
 }
 
+TEST(Session, PrintsWritesWithoutTheirSecretsWhenAsked) {
+  const QStringList script = {
+      R"({"set": "store", "values": {"siteName": "one"}})",
+      R"({"set": "store", "values": {"siteName": "one"}})",
+      R"({"set": "store", "values": {"siteName": null}})",
+      R"({"set": "keychain", "username": "ann", "password": "p:w"})",
+      R"({"set": "keychain", "username": null, "password": null})",
+  };
+  const QStringList expected = {
+      R"({"stored":"siteName","value":"one","before":null})",
+      R"({"stored":"siteName","value":null,"before":"one"})",
+      R"-({"kept":"OutlookAccount(Onpremise)"})-",
+      R"-({"removed":"OutlookAccount(Onpremise)"})-",
+  };
+  EXPECT_EQ(textOf(runSession(script, {"--writes"}).lines), textOf(expected));
+  EXPECT_EQ(textOf(runSession(script).lines), "");
+}
+
 TEST(Session, UserActions) {
   struct Case {
     const char* what;

@@ -1,8 +1,9 @@
-"""The checks of lint find what they are there to find."""
+"""The checks of lint find what they are there to find, and the pictures show what they are there to show."""
 import importlib.util
 import pathlib
 import sys
 import unittest
+import xml.etree.ElementTree
 
 TOOLS = pathlib.Path(__file__).resolve().parents[2] / "tools"
 sys.path.insert(0, str(TOOLS))
@@ -128,6 +129,46 @@ class HostGuideTest(unittest.TestCase):
     def test_a_mark_without_a_table_is_an_error(self):
         with self.assertRaises(SystemExit):
             tool("host-guide").filled_in("# Guide\n", self.PRINTED)
+
+
+class PicturesTest(unittest.TestCase):
+    def test_floors_are_drawn_as_they_are_checked(self):
+        picture = tool("draw-floors")
+        self.assertEqual(picture.PICTURE.read_text(encoding="utf-8"), picture.svg(), "make pictures mends it")
+
+    def test_no_secret_and_nothing_that_differs_from_run_to_run_is_drawn(self):
+        lines = tool("sequence_text").content_lines
+        content = {"kKZResult": "kKZSuccess", "b": True, "gone": 1,
+                   "inner": '{"code": "s3", "at": "http://127.0.0.1:4711/x"}', "Password": "pw", "state": ""}
+        self.assertEqual(list(lines(content, {"gone"})), [
+            (0, "Password", "…"), (0, "b", "true"), (0, "inner", "JSON text"), (1, "at", "“http://127.0.0.1:…/x”"),
+            (1, "code", "…"), (0, "kKZResult", "kKZSuccess"), (0, "state", "“”")])
+
+    def test_a_write_shows_what_it_changed(self):
+        changed = tool("sequence_text").changed
+        self.assertEqual(changed({"a": 1, "b": {"c": 1, "d": 2}}, {"a": 1, "b": {"c": 1, "d": 3}, "e": 4}),
+                         {"b": {"d": 3}, "e": 4})
+        self.assertEqual(changed(None, {"a": 1}), {"a": 1})
+
+    def test_a_control_is_found_below_its_parents_or_not_at_all(self):
+        view = {"children": [{"name": row, "children": [{"name": "m_box", "text": row}]} for row in ("one", "two")]}
+        text = tool("sequence_text")
+        self.assertEqual(text.control_text(text.find_control(view, "two/m_box")), "“two”")
+        for name in ("m_box", "m_lost"):
+            with self.subTest(name=name), self.assertRaises(SystemExit):
+                text.find_control(view, name)
+
+    def test_a_drawing_holds_every_event_and_is_well_formed(self):
+        event = tool("sequence_play").Event
+        long = "k" * 80
+        events = [event("", "", "A <heading>"), event("User", "Plug-in", "clicks “<&>”", kind="user"),
+                  event("Plug-in", "Host", "9 Command", [(0, "key", long)], "command"), event("Host", "Host", "thinks")]
+        picture = tool("sequence_draw").Picture("A & B", events)
+        root = xml.etree.ElementTree.fromstring(picture.svg())
+        drawn = ["".join(text.itertext()) for text in root.iter("{http://www.w3.org/2000/svg}text")]
+        self.assertEqual(drawn, ["User", "Host", "Plug-in", "A <heading>", "clicks “<&>”", "9 Command", "key:", long,
+                                 "thinks"])
+        self.assertGreater(picture.places["Plug-in"] - picture.places["Host"], 80 * 5.5)
 
 
 if __name__ == "__main__":

@@ -3,7 +3,7 @@
 #include "host/KZFoundation/KZConstants.h"
 
 DiscoveryFixture::DiscoveryFixture()
-    : server(QStringLiteral("http://127.0.0.1:1/common"),
+    : server(QStringLiteral("http://127.0.0.1:1"),
              [](const QString& token) { return token == QLatin1String("good-token"); }) {
   auto& center = KZNotificationCenter::defaultCenter();
   m_authenticator =

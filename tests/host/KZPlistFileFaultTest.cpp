@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QSignalSpy>
 #include <csignal>
 
 #include "tests/host/StoreFolder.h"
@@ -147,10 +148,13 @@ TEST(KZPlistFileFault, WritesNothingWhereItMayNot) {
     mode_t mode;
     QByteArray bytes;
     int errorsAfterTwoChanges;
+    KZSaveProblem problem;
   };
   const QByteArray good = StoreFolder::plist("<key>siteName</key><string>a</string>");
   // Readable: each failed write shows. Damaged and stuck, or out of sight: said once, and nothing is tried.
-  const Row rows[] = {{0500, good, 2}, {0500, "damaged", 1}, {0000, good, 1}};
+  const Row rows[] = {{0500, good, 2, KZSaveProblem::NotAllowed},
+                      {0500, "damaged", 1, KZSaveProblem::FileUnusable},
+                      {0000, good, 1, KZSaveProblem::FileUnusable}};
   for (const Row& row : rows) {
     const OrdinaryUser user;
     const StoreFolder folder;
@@ -162,6 +166,7 @@ TEST(KZPlistFileFault, WritesNothingWhereItMayNot) {
     StoreFolder::store().setCdnUrl("first");
     StoreFolder::store().setCdnUrl("second");
     EXPECT_EQ(watch.count(KZTraceLevel::Error), row.errorsAfterTwoChanges);
+    EXPECT_EQ(StoreFolder::store().saveProblem(), row.problem);
     EXPECT_EQ(StoreFolder::store().cdnUrl(), "second");
     ASSERT_EQ(::chmod(place.constData(), 0700), 0);
     EXPECT_EQ(folder.bytes(), row.bytes);
@@ -173,6 +178,7 @@ TEST(KZPlistFileFault, KeepsAValueThatTheDiskRefusedAndTriesAgain) {
   const StoreFolder folder;
   const TraceWatch watch;
   KZPlistFileHandle& store = StoreFolder::store();
+  QSignalSpy told(&store, &KZPlistFileHandle::saveProblemChanged);
   store.setSiteName("old");
   const QByteArray before = folder.bytes();
   {
@@ -181,10 +187,14 @@ TEST(KZPlistFileFault, KeepsAValueThatTheDiskRefusedAndTriesAgain) {
     store.setCdnUrl("also");
     EXPECT_EQ(watch.count(KZTraceLevel::Error), 2);
   }
+  EXPECT_EQ(store.saveProblem(), KZSaveProblem::DiskFull);
+  EXPECT_EQ(told.size(), 1);
   EXPECT_EQ(store.siteName(), "new");
   EXPECT_EQ(folder.bytes(), before);
   EXPECT_EQ(folder.names(), QStringList{"preferences.plist"});
   store.setSiteName("new");
+  EXPECT_EQ(store.saveProblem(), KZSaveProblem::None);
+  EXPECT_EQ(told.size(), 2);
   folder.reopen();
   EXPECT_EQ(store.siteName(), "new");
   EXPECT_EQ(store.cdnUrl(), "also");
@@ -205,6 +215,7 @@ TEST(KZPlistFileFault, SurvivesAFolderThatIsNoneOrGoesAway) {
   ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
   store.setCdnUrl("third");
   EXPECT_EQ(watch.count(KZTraceLevel::Error), 1);
+  EXPECT_EQ(store.saveProblem(), KZSaveProblem::Failed);
   EXPECT_EQ(store.cdnUrl(), "third");
 }
 

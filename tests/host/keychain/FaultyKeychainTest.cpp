@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QElapsedTimer>
+#include <QSignalSpy>
 #include <functional>
 
 #include "host/KZUtility/KZKeyChainHandle.h"
@@ -20,6 +21,8 @@ void expectMemoryAfterOneWarning() {
   const TraceWatch watch;
   KZKeyChainHandle& handle = KZKeyChainHandle::sharedInstance();
   handle.useBackend(std::make_shared<SecretServiceKeychain>(kDeadline));
+  EXPECT_FALSE(handle.isLost());
+  QSignalSpy lost(&handle, &KZKeyChainHandle::lost);
   QElapsedTimer timer;
   timer.start();
   handle.commitOutlookUsername("anna", "s3cr3t");
@@ -38,6 +41,8 @@ void expectMemoryAfterOneWarning() {
   EXPECT_EQ(watch.count(KZTraceLevel::Warning), 1);
   EXPECT_EQ(watch.records().size(), 1U);
   EXPECT_FALSE(watch.lastText().contains("s3cr3t"));
+  EXPECT_TRUE(handle.isLost());
+  EXPECT_EQ(lost.size(), 1);
   timer.restart();
   handle.useStorage(KZKeyChainHandle::Storage::Memory);
   EXPECT_FALSE(handle.getOutlookOnlineData().has_value());

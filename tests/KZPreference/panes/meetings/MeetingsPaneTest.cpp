@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 #include <malloc.h>
 
+#include <QImage>
 #include <QLineEdit>
 #include <QRadioButton>
 
@@ -42,6 +43,29 @@ std::optional<double> rowOf(const QWidget& pane, const char* name) {
   const auto* button = pane.findChild<QRadioButton*>(QLatin1String(name));
   if (button->isHidden()) return std::nullopt;
   return frameOf(button->parentWidget()).height - frameOf(button).y;
+}
+
+// The first column of the view's picture that is not its background.
+int firstInkOf(QWidget* view) {
+  const QImage picture = view->grab().toImage();
+  for (int x = 0; x < picture.width(); ++x) {
+    for (int y = 0; y < picture.height(); ++y) {
+      if (picture.pixel(x, y) != picture.pixel(0, 0)) return x;
+    }
+  }
+  return -1;
+}
+
+// The heading's frame grows to the right with every record, its text is right-aligned and does not move.
+TEST_F(MeetingsPaneTest, TheHeadingStaysInLineWithTheOthers) {
+  const auto pane = signedInPane();
+  auto* heading = pane->findChild<QWidget*>("m_integrationTxt");
+  for (int records = 0; records <= 3; ++records) {
+    const int ink = firstInkOf(heading);
+    EXPECT_GE(ink, 0) << records;
+    EXPECT_LE(ink, 2) << records;
+    pane->setCalendarIntergrationOption({.isEnableNone = true, .isEnableGoogle = true});
+  }
 }
 
 // Three records in a row, the first in each of the sixteen combinations: rows are packed from the top, a

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QLabel>
+
+#include "host/KZUtility/KZSaveProblem.h"
+
+// Tells the user while settings or passwords cannot be kept, and what to do about it; hidden otherwise.
+// Follows the store and the keychain by itself. Main thread only.
+class FaultNotice final : public QLabel {
+  Q_OBJECT
+
+ public:
+  explicit FaultNotice(QWidget* parent);
+
+ private:
+  void renew();
+};
