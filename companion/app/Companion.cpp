@@ -3,8 +3,11 @@
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
+#include <QEventLoop>
 #include <QStandardPaths>
 #include <QTimer>
+#include <QWindow>
+#include <chrono>
 
 #include "companion/app/BorderLogView.h"
 #include "companion/app/MeetingsView.h"
@@ -13,6 +16,10 @@
 
 namespace {
 
+using namespace std::chrono_literals;
+
+// A window may start out of sight.
+constexpr auto kLongestFirstFrame = 500ms;
 const QString kSignedInUri = QStringLiteral("http://127.0.0.1/signed-in");
 
 QString introduction(NetworkReach reach) {
@@ -48,15 +55,9 @@ CompanionServices::Settings serviceSettings(const CompanionOptions& options,
 Companion::Companion(const CompanionOptions& options)
     : m_border([](const QUrl& url) { return QDesktopServices::openUrl(url); }),
       m_logging(m_border.addObserver([this](const Crossing& crossing) { m_log.record(crossing); })),
-      m_services(&m_border,
-                 serviceSettings(options, standardExchangeConfiguration(options.clientId, kSignedInUri))),
-      m_window(&m_border, &m_services),
-      m_tryOut(new TryOutView),
-      m_exchange(&m_border, options.reach, standardExchangeConfiguration(options.clientId, kSignedInUri)) {
-  createPages();
+      m_window(&m_border),
+      m_options(options) {
   m_window.showNotice(introduction(options.reach));
-  connect(&m_services, &CompanionServices::noticed, &m_window, &CompanionWindow::showNotice);
-  connect(&m_exchange, &CompanionExchange::noticed, &m_window, &CompanionWindow::showNotice);
   connectSandbox();
 }
 
@@ -66,23 +67,24 @@ Companion::~Companion() {
 }
 
 void Companion::createPages() {
-  m_window.addPage(QStringLiteral("Meetings"), new MeetingsView(&m_services.meetings()));
-  m_window.addPage(QStringLiteral("Telemetry"), new TelemetryView(&m_services.telemetry()));
+  m_window.addPage(QStringLiteral("Meetings"), new MeetingsView(&m_services->meetings()));
+  m_window.addPage(QStringLiteral("Telemetry"), new TelemetryView(&m_services->telemetry()));
   m_window.addPage(QStringLiteral("Inspector"), new BorderLogView(&m_log));
+  m_tryOut = new TryOutView;
   m_window.addPage(QStringLiteral("Try out"), m_tryOut);
   connect(m_tryOut, &TryOutView::siteChosen, &m_window, &CompanionWindow::useSite);
 }
 
 void Companion::connectSandbox() {
   connect(&m_sandbox, &Sandbox::ready, this, [this](const QJsonObject& exchange, const QJsonObject& site) {
-    m_exchange.useSandbox(exchange);
-    m_services.useSandbox(site, exchange);
+    m_exchange->useSandbox(exchange);
+    m_services->useSandbox(site, exchange);
     m_tryOut->setAccounts(sandboxAccounts(exchange));
     m_tryOut->setSites(sandboxSites(site));
   });
   connect(&m_sandbox, &Sandbox::failed, this, [this](const QString& reason) {
-    m_exchange.loseSandbox(reason);
-    m_services.loseSandbox();
+    m_exchange->loseSandbox(reason);
+    m_services->loseSandbox();
     m_tryOut->setAccounts({});
     m_tryOut->setSites({});
   });
@@ -93,11 +95,36 @@ void Companion::comeToFront() {
   m_window.showPreferences();
 }
 
-void Companion::start(demouser::Variant variant) {
+void Companion::showWindow() {
   m_window.show();
+  QTimer patience;
+  patience.setSingleShot(true);
+  patience.start(kLongestFirstFrame);
+  while (!m_window.windowHandle()->isExposed() && patience.isActive()) {
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
+  }
+}
+
+bool Companion::loadPlugin(const QString& path) {
+  createServices();
+  createPages();
+  return m_border.loadPlugin(path);
+}
+
+// Late, because it makes TLS ready, which takes longer than the whole window.
+void Companion::createServices() {
+  const ExchangeConfiguration configuration = standardExchangeConfiguration(m_options.clientId, kSignedInUri);
+  m_exchange = std::make_unique<CompanionExchange>(&m_border, m_options.reach, configuration);
+  m_services = std::make_unique<CompanionServices>(&m_border, serviceSettings(m_options, configuration));
+  connect(m_exchange.get(), &CompanionExchange::noticed, &m_window, &CompanionWindow::showNotice);
+  connect(m_services.get(), &CompanionServices::noticed, &m_window, &CompanionWindow::showNotice);
+  m_window.useServices(m_services.get());
+}
+
+void Companion::start(demouser::Variant variant) {
   m_window.become(variant);
   m_window.showPreferences();
-  m_services.start();
+  m_services->start();
   // The windows come first.
   QTimer::singleShot(0, &m_sandbox, [this] { m_sandbox.start(Sandbox::programPath()); });
 }

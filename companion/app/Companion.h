@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <memory>
 
 #include "companion/app/BorderLog.h"
 #include "companion/app/CompanionExchange.h"
@@ -20,11 +21,15 @@ class Companion final : public QObject {
   explicit Companion(const CompanionOptions& options);
   ~Companion() override;
 
+  // Returns when the window is on the screen, or would not come. What the user does with it waits until the
+  // events run: load the plug-in before.
+  void showWindow();
+
   // False when the plug-in cannot be loaded; the reason is in `errorText`.
-  [[nodiscard]] bool loadPlugin(const QString& path) { return m_border.loadPlugin(path); }
+  [[nodiscard]] bool loadPlugin(const QString& path);
   const QString& errorText() const { return m_border.errorText(); }
 
-  // The windows first, then the sandbox. After a successful load.
+  // Preferences first, then the sandbox. After a successful load.
   void start(demouser::Variant variant);
 
   // Both windows, over those of other programs.
@@ -34,14 +39,16 @@ class Companion final : public QObject {
 
  private:
   void createPages();
+  void createServices();
   void connectSandbox();
 
   Border m_border;
   BorderLog m_log;
   Border::Token m_logging;
-  CompanionServices m_services;
+  std::unique_ptr<CompanionServices> m_services;  // the pages use them to their end
   CompanionWindow m_window;
-  TryOutView* m_tryOut;  // the window's
-  CompanionExchange m_exchange;
+  const CompanionOptions m_options;
+  TryOutView* m_tryOut = nullptr;  // the window's
+  std::unique_ptr<CompanionExchange> m_exchange;
   Sandbox m_sandbox;
 };

@@ -31,8 +31,7 @@ Dictionary fromApplication() {
 
 }  // namespace
 
-CompanionWindow::CompanionWindow(Border* border, CompanionServices* services)
-    : m_border(border), m_services(services) {
+CompanionWindow::CompanionWindow(Border* border) : m_border(border) {
   setWindowTitle(QStringLiteral("Brenn Mivra Meetings – Companion"));
   resize(900, 560);
   auto* column = new QVBoxLayout(this);
@@ -45,12 +44,17 @@ CompanionWindow::CompanionWindow(Border* border, CompanionServices* services)
   m_notice = new QLabel;
   m_notice->setWordWrap(true);
   m_notice->setTextFormat(Qt::PlainText);
-  column->addWidget(new UpdateBar(&services->updates()));
   column->addWidget(m_notice);
-  connect(&services->site(), &SiteService::siteWanted, this, &CompanionWindow::openSiteDialog);
   // The guest's pane changes the identity.
   connect(&KZPlistFileHandle::sharedInstance(), &KZPlistFileHandle::valueChanged, this,
           &CompanionWindow::showIdentity);
+}
+
+void CompanionWindow::useServices(CompanionServices* services) {
+  m_services = services;
+  auto* column = static_cast<QVBoxLayout*>(layout());
+  column->insertWidget(column->indexOf(m_notice), new UpdateBar(&services->updates()));
+  connect(&services->site(), &SiteService::siteWanted, this, &CompanionWindow::openSiteDialog);
 }
 
 QWidget* CompanionWindow::createHeader() {
@@ -113,10 +117,7 @@ QWidget* CompanionWindow::createButtons() {
   preferences->setDefault(true);
   row->addWidget(preferences);
   row->addWidget(createButton("Account", "Command 2 with the Account pane", &CompanionWindow::showAccount));
-  auto* updates = new QPushButton(QStringLiteral("Check for updates"));
-  updates->setToolTip(QStringLiteral("Command 8"));
-  connect(updates, &QPushButton::clicked, &m_services->updates(), &UpdateService::check);
-  row->addWidget(updates);
+  row->addWidget(createButton("Check for updates", "Command 8", &CompanionWindow::checkForUpdates));
   row->addWidget(createButton("Join by number", "Command 10", &CompanionWindow::joinByNumber));
   row->addWidget(createButton("Close", "Command 3", &CompanionWindow::closePreferences));
   row->addStretch(1);
@@ -158,6 +159,10 @@ void CompanionWindow::comeToFront() {
 void CompanionWindow::showAccount() {
   m_border->triggerCommand(number(KZCommand::KZCmdShowPreference),
                            Dictionary{{kOpenPrefsViewType, kPrefsAccountView}});
+}
+
+void CompanionWindow::checkForUpdates() {
+  m_services->updates().check();
 }
 
 void CompanionWindow::joinByNumber() {

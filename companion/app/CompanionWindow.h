@@ -19,7 +19,10 @@ class CompanionWindow final : public QWidget {
   Q_OBJECT
 
  public:
-  CompanionWindow(Border* border, CompanionServices* services);  // not owned; must outlive the window
+  explicit CompanionWindow(Border* border);  // not owned; must outlive the window
+
+  // Before anything is done in the window; once. Not owned; must outlive the window.
+  void useServices(CompanionServices* services);
 
   // Also tells the plug-in, as a host does after a sign-in or when it starts for a guest.
   void become(demouser::Variant variant);
@@ -42,13 +45,14 @@ class CompanionWindow final : public QWidget {
   QPushButton* createButton(const QString& title, const QString& toolTip, void (CompanionWindow::*action)());
 
   void showAccount();
+  void checkForUpdates();
   void joinByNumber();
   void closePreferences();
   SiteDialog* openSiteDialog();
   void showIdentity();
 
   Border* m_border;
-  CompanionServices* m_services;
+  CompanionServices* m_services = nullptr;
   QRadioButton* m_signedIn = nullptr;
   QRadioButton* m_guest = nullptr;
   QTabBar* m_tabs = nullptr;

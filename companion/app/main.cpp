@@ -64,11 +64,21 @@ int leaveToTheFirst(SingleInstance::Claim claim) {
   return kAlreadyRunning;
 }
 
+// Once what is painted has reached the display; at once, because whoever measures waits for the line.
+void sayWhenShown(const char* line) {
+  QCoreApplication::processEvents();
+  qGuiApp->sync();
+  std::puts(line);
+  std::fflush(stdout);
+}
+
 int runFirst(const CompanionOptions& options, const QString& stateFolder, const SingleInstance& instance) {
   KZPlistFileHandle::sharedInstance().open(stateFolder);
   KZKeyChainHandle::sharedInstance().useStorage(options.isDemo ? KZKeyChainHandle::Storage::Memory
                                                                : KZKeyChainHandle::Storage::System);
   Companion companion(options);
+  if (!options.isDemo) companion.showWindow();
+  if (options.saysWhenShown) sayWhenShown("first frame");
   if (!companion.loadPlugin(options.pluginPath)) {
     complain(companion.errorText());
     return kPluginFailed;
@@ -76,7 +86,9 @@ int runFirst(const CompanionOptions& options, const QString& stateFolder, const 
   if (options.isDemo) return playDemo(companion.window(), options);
   QObject::connect(&instance, &SingleInstance::asked, &companion, &Companion::comeToFront);
   companion.start(options.isGuest ? demouser::Variant::Guest : demouser::Variant::SignedIn);
-  return QApplication::exec();
+  if (!options.saysWhenShown) return QApplication::exec();
+  sayWhenShown("ready");
+  return 0;
 }
 
 int runCompanion(const CompanionOptions& options) {
