@@ -22,7 +22,7 @@ void WebFetch::start(const HttpQuestion& question, Done done) {
   m_call = std::make_unique<HttpCall>(m_network, m_configuration);
   // Also what fails at once is told later, like everything else.
   QMetaObject::invokeMethod(
-      m_call.get(), [this] { ask(m_question.address); }, Qt::QueuedConnection);
+      m_call.get(), [this, address = question.address] { ask(address); }, Qt::QueuedConnection);
 }
 
 void WebFetch::cancel() {
