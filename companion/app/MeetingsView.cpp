@@ -51,6 +51,8 @@ MeetingsView::MeetingsView(NextMeetings* meetings)
   row->addWidget(m_refresh, 0, Qt::AlignTop);
   column->addLayout(row);
   column->addWidget(m_table, 1);
+  // Takes the table's place while there is nothing to list.
+  column->addStretch();
   m_text->setObjectName(QStringLiteral("meetingsText"));
   m_text->setTextFormat(Qt::PlainText);
   m_text->setWordWrap(true);

@@ -81,9 +81,12 @@ void NextMeetings::watchBorder(Border* border) {
 
 void NextMeetings::setWatched(bool isWatched) {
   m_isWatched = isWatched;
-  if (!isWatched) return m_again.stop();
-  m_again.start();
-  refreshSoon();
+  if (isWatched) {
+    m_again.start();
+    return refreshSoon();
+  }
+  m_again.stop();
+  m_soon.stop();
 }
 
 void NextMeetings::refreshSoon() {

@@ -135,7 +135,7 @@ TEST_F(MeetingListTest, ListsAnAccountWithAPasswordUntilItIsRefused) {
   click("m_applyBtn");
   EXPECT_TRUE(lists("Stand-up")) << listText().toStdString();
 
-  KZKeyChainHandle::sharedInstance().setOutlookUsername("CORP\\onprem", "changed");
+  KZKeyChainHandle::sharedInstance().commitOutlookUsername("CORP\\onprem", "changed");
   services.meetings().refresh();
   EXPECT_TRUE(QTest::qWaitFor([this] { return listText().contains("did not accept the saved"); }, 8000))
       << listText().toStdString();
