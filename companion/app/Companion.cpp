@@ -9,10 +9,11 @@
 #include <QWindow>
 #include <chrono>
 
-#include "companion/app/BorderLogView.h"
 #include "companion/app/MeetingsView.h"
 #include "companion/app/TelemetryView.h"
 #include "companion/exchange/StandardExchange.h"
+#include "companion/inspector/InspectorView.h"
+#include "host/KZUtility/KZPlistFileHandle.h"
 
 namespace {
 
@@ -54,9 +55,14 @@ CompanionServices::Settings serviceSettings(const CompanionOptions& options,
 
 Companion::Companion(const CompanionOptions& options)
     : m_border([](const QUrl& url) { return QDesktopServices::openUrl(url); }),
-      m_logging(m_border.addObserver([this](const Crossing& crossing) { m_log.record(crossing); })),
+      m_logging(m_border.addObserver(
+          [this](const Crossing& crossing) { m_log.record(InspectorEvent::of(crossing)); })),
       m_window(&m_border),
       m_options(options) {
+  connect(&KZPlistFileHandle::sharedInstance(), &KZPlistFileHandle::valueChanged, &m_log,
+          [this](const QString& key, const QVariant& before, const QVariant& after) {
+            m_log.record(InspectorEvent::ofStoreWrite(key, before, after));
+          });
   m_window.showNotice(introduction(options.reach));
   connectSandbox();
 }
@@ -69,7 +75,9 @@ Companion::~Companion() {
 void Companion::createPages() {
   m_window.addPage(QStringLiteral("Meetings"), new MeetingsView(&m_services->meetings()));
   m_window.addPage(QStringLiteral("Telemetry"), new TelemetryView(&m_services->telemetry()));
-  m_window.addPage(QStringLiteral("Inspector"), new BorderLogView(&m_log));
+  auto* inspector = new InspectorView(&m_log);
+  connect(inspector, &InspectorView::noticed, &m_window, &CompanionWindow::showNotice);
+  m_window.addPage(QStringLiteral("Inspector"), inspector);
   m_tryOut = new TryOutView;
   m_window.addPage(QStringLiteral("Try out"), m_tryOut);
   connect(m_tryOut, &TryOutView::siteChosen, &m_window, &CompanionWindow::useSite);

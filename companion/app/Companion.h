@@ -3,12 +3,12 @@
 #include <QString>
 #include <memory>
 
-#include "companion/app/BorderLog.h"
 #include "companion/app/CompanionExchange.h"
 #include "companion/app/CompanionOptions.h"
 #include "companion/app/CompanionWindow.h"
 #include "companion/app/Sandbox.h"
 #include "companion/app/TryOutView.h"
+#include "companion/inspector/InspectorLog.h"
 #include "companion/runtime/Border.h"
 #include "companion/services/CompanionServices.h"
 
@@ -43,7 +43,7 @@ class Companion final : public QObject {
   void connectSandbox();
 
   Border m_border;
-  BorderLog m_log;
+  InspectorLog m_log;
   Border::Token m_logging;
   std::unique_ptr<CompanionServices> m_services;  // the pages use them to their end
   CompanionWindow m_window;

@@ -176,8 +176,7 @@ void CompanionWindow::closePreferences() {
 }
 
 SiteDialog* CompanionWindow::openSiteDialog() {
-  if (!m_siteDialog)
-    m_siteDialog = new SiteDialog(&m_services->site(), m_services->network().sandboxSites(), this);
+  if (!m_siteDialog) m_siteDialog = new SiteDialog(&m_services->site(), this);
   m_siteDialog->show();
   m_siteDialog->raise();
   m_siteDialog->activateWindow();

@@ -1,24 +1,22 @@
 #include "companion/app/SiteDialog.h"
 
-#include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 
 #include "companion/services/SiteService.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 
-SiteDialog::SiteDialog(SiteService* service, const QList<SandboxSite>& sites, QWidget* parent)
-    : QDialog(parent), m_service(service), m_site(new QComboBox), m_text(new QLabel) {
+SiteDialog::SiteDialog(SiteService* service, QWidget* parent)
+    : QDialog(parent),
+      m_service(service),
+      m_site(new QLineEdit(KZPlistFileHandle::sharedInstance().siteName())),
+      m_text(new QLabel) {
   setAttribute(Qt::WA_DeleteOnClose);
   setWindowTitle(QStringLiteral("Change site"));
   setMinimumWidth(480);
-  m_site->setEditable(true);
-  for (const SandboxSite& one : sites) {
-    m_site->addItem(one.site);
-    m_site->setItemData(m_site->count() - 1, one.meaning, Qt::ToolTipRole);
-  }
-  m_site->setCurrentText(KZPlistFileHandle::sharedInstance().siteName());
+  m_site->selectAll();
   auto* label = new QLabel(QStringLiteral("Site of your meeting service:"));
   label->setBuddy(m_site);
   m_text->setObjectName(QStringLiteral("siteText"));
@@ -32,7 +30,7 @@ SiteDialog::SiteDialog(SiteService* service, const QList<SandboxSite>& sites, QW
   column->addWidget(m_site);
   column->addWidget(m_text);
   column->addWidget(createButtons());
-  connect(m_site, &QComboBox::currentTextChanged, this, &SiteDialog::forgetFailure);
+  connect(m_site, &QLineEdit::textChanged, this, &SiteDialog::forgetFailure);
   m_site->setFocus();
 }
 
@@ -63,11 +61,11 @@ QWidget* SiteDialog::createButtons() {
 }
 
 QString SiteDialog::site() const {
-  return m_site->currentText().trimmed().toLower();
+  return m_site->text().trimmed().toLower();
 }
 
 void SiteDialog::ask(const QString& site) {
-  m_site->setCurrentText(site);
+  m_site->setText(site);
   askChosen();
 }
 

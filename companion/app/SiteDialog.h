@@ -2,10 +2,8 @@
 
 #include <QDialog>
 
-#include "companion/services/SandboxSites.h"
-
-class QComboBox;
 class QLabel;
+class QLineEdit;
 class QPushButton;
 class SiteService;
 
@@ -14,8 +12,8 @@ class SiteDialog final : public QDialog {
   Q_OBJECT
 
  public:
-  // The service is not owned and must outlive the dialog. `sites` are offered.
-  SiteDialog(SiteService* service, const QList<SandboxSite>& sites, QWidget* parent);
+  // The service is not owned and must outlive the dialog.
+  SiteDialog(SiteService* service, QWidget* parent);
   ~SiteDialog() override;
 
   // As if the user had typed it.
@@ -30,7 +28,7 @@ class SiteDialog final : public QDialog {
   void useAnyway();
 
   SiteService* m_service;
-  QComboBox* m_site;
+  QLineEdit* m_site;
   QLabel* m_text;
   QPushButton* m_change = nullptr;
   QPushButton* m_useAnyway = nullptr;

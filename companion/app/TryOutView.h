@@ -3,8 +3,8 @@
 #include <QList>
 #include <QWidget>
 
+#include "companion/app/SandboxSites.h"
 #include "companion/exchange/SandboxExchange.h"
-#include "companion/services/SandboxSites.h"
 
 class CopiedNote;
 class CopyTable;

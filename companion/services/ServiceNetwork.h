@@ -6,7 +6,6 @@
 #include <memory>
 
 #include "companion/network/WebFetch.h"
-#include "companion/services/SandboxSites.h"
 
 // How the services reach meeting sites, and which of them they may ask. Main thread only.
 class ServiceNetwork final : public QObject {
@@ -24,7 +23,6 @@ class ServiceNetwork final : public QObject {
   QString refusalOf(const QUrl& address) const;
   bool mayAsk(const QUrl& address) const { return refusalOf(address).isEmpty(); }
   bool isReady() const { return m_reach == NetworkReach::Network || !m_sandbox.isEmpty(); }
-  QList<SandboxSite> sandboxSites() const { return ::sandboxSites(m_sandbox); }
 
   // Reaches what may be asked now; it learns of no later change. Must not outlive this.
   std::unique_ptr<WebFetch> fetch() const;

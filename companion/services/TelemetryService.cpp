@@ -30,15 +30,20 @@ QByteArray lineOf(const Dictionary& content) {
   return QJsonDocument(record).toJson(QJsonDocument::Compact);
 }
 
+// The names say first what kind of name they are.
+QString shownValue(const QJsonValue& value) {
+  return value.toString().section(QLatin1Char('_'), -1);
+}
+
 TelemetryRecord recordOf(const QByteArray& line) {
   const QJsonObject record = QJsonDocument::fromJson(line).object();
   const QJsonObject values = record.value(TelemetryKey_Values).toObject();
   QStringList details;
   for (auto value = values.begin(); value != values.end(); ++value) {
-    if (value.key() != TelemetryKey_FeatureName) details.append(value.value().toVariant().toString());
+    if (value.key() != TelemetryKey_FeatureName) details.append(shownValue(value.value()));
   }
   return {.time = QDateTime::fromString(record.value(QLatin1String("time")).toString(), Qt::ISODateWithMs),
-          .feature = values.value(TelemetryKey_FeatureName).toString(),
+          .feature = shownValue(values.value(TelemetryKey_FeatureName)),
           .details = details.join(QStringLiteral(", "))};
 }
 

@@ -1,4 +1,4 @@
-#include "companion/services/SandboxSites.h"
+#include "companion/app/SandboxSites.h"
 
 #include <QJsonArray>
 
