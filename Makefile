@@ -31,6 +31,8 @@ bench: build
 	$(BUILD)/bin/benchmarks
 	$(BUILD)/bin/prefs-bench --window
 	$(BUILD)/bin/prefs-bench --window --fade
+	QT_QPA_PLATFORM=offscreen $(BUILD)/tests/companion_test --gtest_brief=1 --gtest_filter='IdleCompanion.*:LongDay.*'
+	QT_QPA_PLATFORM=offscreen $(BUILD)/tests/exchange_tests --gtest_brief=1 --gtest_filter='DiscoveryTimeTest.*'
 
 # The pictures of the documents, from runs of the programs.
 pictures: build

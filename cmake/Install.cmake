@@ -40,7 +40,7 @@ set(CPACK_STRIP_FILES ON)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
   OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 set(CPACK_PACKAGE_NAME ${debianName})
-set(CPACK_PACKAGE_CONTACT "Brenn MivRa preferences team <preferences@brenn-mivra.example>")
+set(CPACK_PACKAGE_CONTACT "Brenn Mivra preferences team <preferences@brenn-mivra.example>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "preferences window for meeting applications, as a plug-in")
 set(CPACK_PACKAGE_DESCRIPTION
 "The plug-in shows the settings of a meeting application: account, calendars,

@@ -8,6 +8,7 @@
 #include <memory>
 #include <optional>
 
+#include "sandbox/Answers.h"
 #include "sandbox/HttpDelivery.h"
 
 namespace sandbox {
@@ -95,8 +96,7 @@ void HttpServer::read(QTcpSocket* socket) {
 
 HttpResponse HttpServer::respond(const HttpRequest& request) const {
   const Handler handler = m_handlers.value(request.path, m_othersHandler);
-  return handler ? handler(request)
-                 : HttpResponse{.status = 404, .contentType = "text/plain", .body = "not here\n"};
+  return handler ? handler(request) : notHere();
 }
 
 }  // namespace sandbox

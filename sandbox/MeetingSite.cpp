@@ -59,8 +59,7 @@ QJsonObject MeetingSite::describe() const {
           {"sites", describeSites()}};
 }
 
-HttpResponse MeetingSite::answer(const HttpRequest& request) {
-  m_visits.append({request.host(), request.path});
+HttpResponse MeetingSite::answer(const HttpRequest& request) const {
   const SiteToTry* const site = siteOfHost(request.host());
   if (site == nullptr) return notHere();
   switch (site->what) {

@@ -1,9 +1,6 @@
 #pragma once
 
-#include <QByteArray>
 #include <QJsonObject>
-#include <QList>
-#include <QString>
 
 #include "sandbox/HostServers.h"
 #include "sandbox/SiteCases.h"
@@ -15,11 +12,6 @@ namespace sandbox {
 // out.
 class MeetingSite final {
  public:
-  struct Visit {
-    QString host;
-    QString path;
-  };
-
   MeetingSite();
   Q_DISABLE_COPY_MOVE(MeetingSite)
 
@@ -29,11 +21,8 @@ class MeetingSite final {
   // What a host needs to know in order to find its way here.
   QJsonObject describe() const;
 
-  // Every request for a site, oldest first.
-  const QList<Visit>& visits() const { return m_visits; }
-
  private:
-  HttpResponse answer(const HttpRequest& request);
+  HttpResponse answer(const HttpRequest& request) const;
   HttpResponse answerWell(SiteCase what, const HttpRequest& request) const;
   HttpResponse siteOf(SiteCase what) const;
   HttpResponse updatesOf(SiteCase what) const;
@@ -43,7 +32,6 @@ class MeetingSite final {
   HostServers m_servers;
   UpdatePackage m_newer;
   UpdatePackage m_same;
-  QList<Visit> m_visits;
 };
 
 }  // namespace sandbox

@@ -2,13 +2,15 @@
 browser that signs in there."""
 import http.server
 import json
+import socketserver
 import subprocess
 import threading
+import urllib.error
 import urllib.parse
 import urllib.request
 
 BROWSER = "sequence-picture"
-TIME_LIMIT = 20
+TIME_LIMIT = 60
 
 
 class NoRedirect(urllib.request.HTTPRedirectHandler):
@@ -33,15 +35,16 @@ class Authority:
 
     def __init__(self, sandbox, tell, tell_answer):
         self.tell, self.tell_answer = tell, tell_answer
-        self.process = subprocess.Popen([sandbox, "--give", "--until-input-ends"], stdin=subprocess.PIPE,
+        self.process = subprocess.Popen([sandbox, "--give", "--lifetime", "1", "--until-input-ends"], stdin=subprocess.PIPE,
                                         stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
 
     def __enter__(self):
         behind = urllib.parse.urlsplit(json.loads(self.process.stdout.readline())["authority"])
         self.behind = f"{behind.scheme}://{behind.netloc}"
-        self.server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), self.handler())
+        # Not http.server's own class, which asks the network for this machine's name.
+        self.server = socketserver.ThreadingTCPServer(("127.0.0.1", 0), self.handler())
         self.server.daemon_threads = True
-        self.here = f"http://127.0.0.1:{self.server.server_port}"
+        self.here = f"http://127.0.0.1:{self.server.server_address[1]}"
         self.address = self.here + behind.path
         threading.Thread(target=self.server.serve_forever, daemon=True).start()
         return self

@@ -35,7 +35,7 @@ text { fill: #e8eaef; stroke: #1b1f27 }
 .band { fill: #272d38 }
 .detail, .note { fill: #aab3c2 }
 .lane { stroke: #4a5261 }
-.head { fill: #2c3442; stroke: #66708280 }
+.head { fill: #2c3442; stroke: #667082 }
 .head.own { fill: #2b3a29; stroke: #6f9560 }
 .arrow { stroke: #b7c0cf } .tip { fill: #b7c0cf }
 .user .arrow { stroke: #e0a05a } .user .tip { fill: #e0a05a }

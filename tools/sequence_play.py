@@ -10,7 +10,8 @@ A script is one for prefs-session whose comments say what else the picture holds
     #> until sent N       waits for that command
     #> leave out KEYS     keys that the picture does not show
 
-AUTHORITY in a step is the address of a sign-in authority that runs as long as the script does."""
+AUTHORITY in a step is the address of a sign-in authority that runs as long as the script does; its tokens are good for
+a second."""
 import contextlib
 import dataclasses
 import json
@@ -22,7 +23,7 @@ import time
 
 from project_files import read
 from sequence_authority import TIME_LIMIT, Authority, browse
-from sequence_text import changed, content_lines, control_text, find_control, user_action
+from sequence_text import changed, content_lines, control_of, control_text, find_control, user_action
 
 END = {"echo": "the step has ended"}
 STAGE = {"QT_QPA_PLATFORM": "offscreen", "LC_ALL": "C.UTF-8", "LANGUAGE": "", "QT_SCALE_FACTOR": "1"}
@@ -117,9 +118,11 @@ class Play:
             where = ", on another thread" if step.get("thread") == "worker" else ""
             self.add("Host", "Plug-in", f"posts {step['post']}{where}", self.lines(step["userInfo"]), "notification")
         else:
-            name = step.get("click") or step.get("type")
+            name = control_of(step)
             control = find_control(self.step({"get": "window"})["content"], name) if name else None
-            self.add("User", "Plug-in", user_action(step, control), kind="user")
+            action = user_action(step, control)
+            if action:
+                self.add("User", "Plug-in", action, kind="user")
 
     def tell_line(self, said):
         if "sent" in said:
@@ -131,18 +134,28 @@ class Play:
             self.opened = said["opened"]
             self.add("Plug-in", "Browser", "opens the sign-in page", kind="web")
         elif "stored" in said:
-            self.add("Plug-in", "Settings", f"writes {said['stored']}",
-                     self.lines(changed(said["before"], said["value"])), "write")
+            value = changed(said["before"], said["value"])
+            content = value if isinstance(value, dict) else {said["stored"]: value}
+            self.add("Plug-in", "Settings", f"writes {said['stored']}", self.lines(content), "write")
         elif "kept" in said:
             self.add("Plug-in", "Keychain", f"keeps {said['kept']}", kind="write")
-        elif "refused" in said:
-            raise SystemExit(said["refused"])
+        elif "removed" in said:
+            self.add("Plug-in", "Keychain", f"removes {said['removed']}", kind="write")
+        elif "warning" in said:
+            self.add("Plug-in", "User", f"warns: “{said['warning']['message']}”", kind="user")
+        elif "refused" in said or "error" in said:
+            raise SystemExit(said.get("refused") or said["error"])
+
+    # What the authority and the browser tell
 
     def asked(self, is_browser, what, parameters):
         self.add("Browser" if is_browser else "Plug-in", "Authority", what, self.lines(parameters), "web")
 
     def answered(self, is_browser, what, parameters):
         self.add("Authority", "Browser" if is_browser else "Plug-in", what, self.lines(parameters), "answer")
+
+    def came_back(self, what, parameters):
+        self.add("Browser", "Plug-in", what, self.lines(parameters), "web")
 
     # Directions
 
@@ -154,8 +167,7 @@ class Play:
                 self.add("Host", "Host", rest)
             case "browser":
                 self.wait_for(lambda: self.opened, "no page was opened")
-                tell = lambda what, parameters: self.add("Browser", "Plug-in", what, self.lines(parameters), "web")
-                threading.Thread(target=browse, args=(self.opened, tell), daemon=True).start()
+                threading.Thread(target=browse, args=(self.opened, self.came_back), daemon=True).start()
             case "until":
                 number = int(rest.split()[1])
                 self.wait_for(lambda: number in self.sent, f"command {number} was not sent")

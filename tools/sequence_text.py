@@ -65,13 +65,24 @@ def control_text(control):
     return f"“{control.get('text') or control.get('placeholder') or control.get('toolTip') or control['name']}”"
 
 
+def control_of(step):
+    """The name of the control that a user's step is about, None when it names none."""
+    return step.get("click") or step.get("type") or step.get("choose") or step.get("in")
+
+
 def user_action(step, control):
-    """What a user's step says in the picture; `control` is what the step acts on, None when it names none."""
-    if "pane" in step:
-        return f"chooses “{step['pane']}” in the toolbar"
-    if "close" in step:
-        return "closes the window"
-    if "type" in step:
-        typed = "…" if control["secure"] else f"“{step['text']}”"
-        return f"types {typed} into “{control['placeholder']}”"
-    return f"clicks {control_text(control)}"
+    """What a user does in a step, "" when it is no user's; `control` is what the step is about."""
+    match step:
+        case {"pane": name}:
+            return f"chooses “{name}” in the toolbar"
+        case {"close": _}:
+            return "closes the window"
+        case {"click": _}:
+            return f"clicks {control_text(control)}"
+        case {"choose": _, "item": item}:
+            return f"chooses “{item}” in place of {control_text(control)}"
+        case {"type": _, "text": text}:
+            return f"types {'…' if control['secure'] else f'“{text}”'} into “{control['placeholder']}”"
+        case {"key": key}:
+            return f"presses {key}"
+    return ""

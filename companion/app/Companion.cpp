@@ -1,14 +1,23 @@
 #include "companion/app/Companion.h"
 
+#include <QCoreApplication>
 #include <QDesktopServices>
+#include <QEventLoop>
 #include <QFileDialog>
 #include <QTimer>
+#include <QWindow>
+#include <chrono>
 
-#include "companion/app/BorderLogView.h"
 #include "companion/exchange/StandardExchange.h"
+#include "companion/inspector/InspectorView.h"
+#include "host/KZUtility/KZPlistFileHandle.h"
 
 namespace {
 
+using namespace std::chrono_literals;
+
+// A window may start out of sight.
+constexpr auto kLongestFirstFrame = 500ms;
 const QString kSignedInUri = QStringLiteral("http://127.0.0.1/signed-in");
 
 QString introduction(CompanionExchange::Reach reach) {
@@ -26,16 +35,18 @@ QString introduction(CompanionExchange::Reach reach) {
 
 Companion::Companion(const CompanionOptions& options)
     : m_border([](const QUrl& url) { return QDesktopServices::openUrl(url); }),
-      m_logging(m_border.addObserver([this](const Crossing& crossing) { m_log.record(crossing); })),
+      m_logging(m_border.addObserver(
+          [this](const Crossing& crossing) { m_log.record(InspectorEvent::of(crossing)); })),
       m_recording(&m_border),
       m_services(&m_border),
       m_window(&m_border, &m_services),
-      m_tryOut(new TryOutView),
-      m_exchange(&m_border, options.reach, standardExchangeConfiguration(options.clientId, kSignedInUri)) {
-  createPages();
+      m_options(options) {
+  connect(&KZPlistFileHandle::sharedInstance(), &KZPlistFileHandle::valueChanged, &m_log,
+          [this](const QString& key, const QVariant& before, const QVariant& after) {
+            m_log.record(InspectorEvent::ofStoreWrite(key, before, after));
+          });
   m_window.showNotice(introduction(options.reach));
   connect(&m_services, &DemoServices::noticed, &m_window, &CompanionWindow::showNotice);
-  connect(&m_exchange, &CompanionExchange::noticed, &m_window, &CompanionWindow::showNotice);
   connectSandbox();
   connectRecording();
 }
@@ -47,19 +58,22 @@ Companion::~Companion() {
 }
 
 void Companion::createPages() {
-  m_window.addPage(QStringLiteral("Inspector"), new BorderLogView(&m_log));
+  auto* inspector = new InspectorView(&m_log);
+  connect(inspector, &InspectorView::noticed, &m_window, &CompanionWindow::showNotice);
+  m_window.addPage(QStringLiteral("Inspector"), inspector);
+  m_tryOut = new TryOutView;
   m_window.addPage(QStringLiteral("Try out"), m_tryOut);
   connect(m_tryOut, &TryOutView::siteChosen, &m_window, &CompanionWindow::useSite);
 }
 
 void Companion::connectSandbox() {
   connect(&m_sandbox, &Sandbox::ready, this, [this](const QJsonObject& exchange, const QJsonObject& site) {
-    m_exchange.useSandbox(exchange);
+    m_exchange->useSandbox(exchange);
     m_tryOut->setAccounts(sandboxAccounts(exchange));
     m_tryOut->setSites(sandboxSites(site));
   });
   connect(&m_sandbox, &Sandbox::failed, this, [this](const QString& reason) {
-    m_exchange.loseSandbox(reason);
+    m_exchange->loseSandbox(reason);
     m_tryOut->setAccounts({});
     m_tryOut->setSites({});
   });
@@ -91,8 +105,30 @@ void Companion::comeToFront() {
   m_window.showPreferences();
 }
 
-void Companion::start(demouser::Variant variant) {
+void Companion::showWindow() {
   m_window.show();
+  QTimer patience;
+  patience.setSingleShot(true);
+  patience.start(kLongestFirstFrame);
+  while (!m_window.windowHandle()->isExposed() && patience.isActive()) {
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
+  }
+}
+
+bool Companion::loadPlugin(const QString& path) {
+  createPages();
+  createExchange();
+  return m_border.loadPlugin(path);
+}
+
+// Late, because it makes TLS ready, which takes longer than the whole window.
+void Companion::createExchange() {
+  m_exchange = std::make_unique<CompanionExchange>(
+      &m_border, m_options.reach, standardExchangeConfiguration(m_options.clientId, kSignedInUri));
+  connect(m_exchange.get(), &CompanionExchange::noticed, &m_window, &CompanionWindow::showNotice);
+}
+
+void Companion::start(demouser::Variant variant) {
   m_window.become(variant);
   m_window.showPreferences();
   // The windows come first.

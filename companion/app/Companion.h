@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QString>
+#include <memory>
 
-#include "companion/app/BorderLog.h"
 #include "companion/app/CompanionExchange.h"
 #include "companion/app/CompanionOptions.h"
 #include "companion/app/CompanionWindow.h"
@@ -10,6 +10,7 @@
 #include "companion/app/Recording.h"
 #include "companion/app/Sandbox.h"
 #include "companion/app/TryOutView.h"
+#include "companion/inspector/InspectorLog.h"
 #include "companion/runtime/Border.h"
 
 // Everything that the companion is made of, put together. Open the settings store and choose the keychain
@@ -21,15 +22,19 @@ class Companion final : public QObject {
   explicit Companion(const CompanionOptions& options);
   ~Companion() override;
 
+  // Returns when the window is on the screen, or would not come. What the user does with it waits until the
+  // events run: load the plug-in before.
+  void showWindow();
+
   // False when the plug-in cannot be loaded; the reason is in `errorText`.
-  [[nodiscard]] bool loadPlugin(const QString& path) { return m_border.loadPlugin(path); }
+  [[nodiscard]] bool loadPlugin(const QString& path);
   const QString& errorText() const { return m_border.errorText(); }
 
   // Records from now on; call it before loading, so that the record is whole. False when the file cannot be
   // made.
   [[nodiscard]] bool record(const QString& path) { return m_recording.start(path); }
 
-  // The windows first, then the sandbox. After a successful load.
+  // Preferences first, then the sandbox. After a successful load.
   void start(demouser::Variant variant);
 
   // Both windows, over those of other programs.
@@ -39,18 +44,20 @@ class Companion final : public QObject {
 
  private:
   void createPages();
+  void createExchange();
   void connectSandbox();
   void connectRecording();
   void toggleRecording();
   void recordAnew(const QString& path);
 
   Border m_border;
-  BorderLog m_log;
+  InspectorLog m_log;
   Border::Token m_logging;
   Recording m_recording;
   DemoServices m_services;
   CompanionWindow m_window;
-  TryOutView* m_tryOut;  // the window's
-  CompanionExchange m_exchange;
+  const CompanionOptions m_options;
+  TryOutView* m_tryOut = nullptr;  // the window's
+  std::unique_ptr<CompanionExchange> m_exchange;
   Sandbox m_sandbox;
 };

@@ -18,6 +18,7 @@ CompanionOptions CompanionOptions::read(const QStringList& arguments) {
        {"language", "The language of the texts, for example de.", "LANGUAGE"},
        {"state", "Where the settings live.", "DIR"},
        {"guest", "Start as a guest."},
+       {"first-frame", "Say when the window is on the screen and when it is ready, and end."},
        {"network", "Look for Exchange in the network too, not in the sandbox alone."},
        {"client-id", "The registration that signs in at Office 365; with --network.", "ID"},
        {"record", "Write what happens as a record.", "FILE"},
@@ -25,8 +26,10 @@ CompanionOptions CompanionOptions::read(const QStringList& arguments) {
   parser.process(arguments);
   CompanionOptions options;
   options.isDemoAsked = parser.isSet("demo");
-  options.isDemo = options.isDemoAsked || QGuiApplication::platformName() == "offscreen";
   options.isGuest = parser.isSet("guest");
+  options.saysWhenShown = parser.isSet("first-frame");
+  const bool isOffscreen = QGuiApplication::platformName() == "offscreen";
+  options.isDemo = options.isDemoAsked || (isOffscreen && !options.saysWhenShown);
   if (parser.isSet("network")) options.reach = CompanionExchange::Reach::Network;
   options.appearance = parser.value("appearance");
   options.language = parser.value("language");

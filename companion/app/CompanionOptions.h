@@ -10,6 +10,7 @@ struct CompanionOptions {
   bool isDemo = false;
   bool isDemoAsked = false;
   bool isGuest = false;
+  bool saysWhenShown = false;
   CompanionExchange::Reach reach = CompanionExchange::Reach::Sandbox;
   QString appearance;
   QString language;  // empty: the desktop's

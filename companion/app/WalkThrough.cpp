@@ -19,8 +19,10 @@ constexpr WalkThroughStep kSteps[] = {
      "In Preferences open Meetings and choose Microsoft Outlook. Type [onprem@corp.sandbox.example] and "
      "press "
      "Return. Enter the user name [CORP\\onprem] and the password [correct horse], and press Apply."},
+    {"Your next meetings", "The page Meetings of this window now lists what the account holds."},
     {"A wrong password",
-     "Do the same with another password: Preferences asks for it again. The third wrong one locks the "
+     "Type the address again, but another password: Preferences asks for it again. The third wrong one locks "
+     "the "
      "account until you start this application again."},
     {"An Office 365 account",
      "Type [online@cloud.sandbox.example] and press Return. Your browser opens: press Sign in there, or "

@@ -64,6 +64,14 @@ int leaveToTheFirst(SingleInstance::Claim claim) {
   return kAlreadyRunning;
 }
 
+// Once what is painted has reached the display; at once, because whoever measures waits for the line.
+void sayWhenShown(const char* line) {
+  QCoreApplication::processEvents();
+  qGuiApp->sync();
+  std::puts(line);
+  std::fflush(stdout);
+}
+
 int runFirst(const CompanionOptions& options, const QString& stateFolder, const SingleInstance& instance) {
   KZPlistFileHandle::sharedInstance().open(stateFolder);
   KZKeyChainHandle::sharedInstance().useStorage(options.isDemo ? KZKeyChainHandle::Storage::Memory
@@ -73,6 +81,8 @@ int runFirst(const CompanionOptions& options, const QString& stateFolder, const 
     complain(QStringLiteral("cannot record to %1").arg(options.recordPath));
     return kUnusable;
   }
+  if (!options.isDemo) companion.showWindow();
+  if (options.saysWhenShown) sayWhenShown("first frame");
   if (!companion.loadPlugin(options.pluginPath)) {
     complain(companion.errorText());
     return kPluginFailed;
@@ -80,7 +90,9 @@ int runFirst(const CompanionOptions& options, const QString& stateFolder, const 
   if (options.isDemo) return playDemo(companion.window(), options);
   QObject::connect(&instance, &SingleInstance::asked, &companion, &Companion::comeToFront);
   companion.start(options.isGuest ? demouser::Variant::Guest : demouser::Variant::SignedIn);
-  return QApplication::exec();
+  if (!options.saysWhenShown) return QApplication::exec();
+  sayWhenShown("ready");
+  return 0;
 }
 
 int runCompanion(const CompanionOptions& options) {

@@ -70,7 +70,7 @@ void age(const QString& folder) {
 }  // namespace
 
 TEST(Killed, LosesNoSettingThatWasConfirmed) {
-  constexpr int rounds = 20;
+  constexpr int rounds = 12;
   const QTemporaryDir state;
   KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
   const TraceWatch watch;
@@ -99,7 +99,7 @@ TEST(Killed, LosesNoSettingThatWasConfirmed) {
 }
 
 TEST(Killed, LosesNoSecretThatWasConfirmed) {
-  constexpr int rounds = 10;
+  constexpr int rounds = 6;
   const ServiceProcess keyring;
   const QTemporaryDir state;
   SecretServiceKeychain keychain(std::chrono::seconds(20));

@@ -20,7 +20,7 @@ TEST_P(DiscoveryFaultTest, EndsInTimeWithATellingMessage) {
   clock.start();
   detect(GetParam().email);
   const QString message = waitForMessage();
-  EXPECT_LT(clock.elapsed(), 1500);
+  EXPECT_LT(clock.elapsed(), 5000);
   EXPECT_TRUE(message.contains(GetParam().says)) << message.toStdString();
   EXPECT_LE(server.visits().size(), GetParam().mostVisits);
   EXPECT_TRUE(challenges.isEmpty());

@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -8,45 +7,14 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QSignalSpy>
-#include <csignal>
 
+#include "tests/host/BrokenDisk.h"
 #include "tests/host/StoreFolder.h"
 #include "tests/host/TraceWatch.h"
 
 namespace {
 
 constexpr qint64 kBoundedMilliseconds = 2000;
-
-// Permissions bind nobody who runs as root, as build machines do.
-class OrdinaryUser final {
- public:
-  OrdinaryUser() : m_before(::geteuid()) {
-    if (m_before == 0) {
-      EXPECT_EQ(::seteuid(65534), 0);
-    }
-  }
-  ~OrdinaryUser() { EXPECT_EQ(::seteuid(m_before), 0); }
-  Q_DISABLE_COPY_MOVE(OrdinaryUser)
-
- private:
-  const uid_t m_before;
-};
-
-// A disk on which a file can grow no longer than this.
-class FullDisk final {
- public:
-  explicit FullDisk(rlim_t bytes) {
-    std::signal(SIGXFSZ, SIG_IGN);
-    ::getrlimit(RLIMIT_FSIZE, &m_before);
-    const rlimit limit = {bytes, m_before.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FullDisk() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
-  Q_DISABLE_COPY_MOVE(FullDisk)
-
- private:
-  rlimit m_before = {};
-};
 
 }  // namespace
 

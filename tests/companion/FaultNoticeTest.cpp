@@ -1,0 +1,80 @@
+#include "companion/app/FaultNotice.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <QTest>
+#include <QThread>
+#include <memory>
+
+#include "host/KZUtility/KZKeyChainHandle.h"
+#include "host/KZUtility/SecretServiceKeychain.h"
+#include "tests/host/BrokenDisk.h"
+#include "tests/host/StoreFolder.h"
+#include "tests/host/TraceWatch.h"
+
+namespace {
+
+struct FaultNoticeTest : testing::Test {
+  bool says(const QString& what) const {
+    return notice->isVisibleTo(&window) && notice->text().contains(what);
+  }
+
+  const TraceWatch traces;
+  QWidget window;
+  FaultNotice* notice = new FaultNotice(&window);
+};
+
+TEST_F(FaultNoticeTest, TellsOfAFullDiskUntilAWriteSucceeds) {
+  const StoreFolder folder;
+  EXPECT_FALSE(notice->isVisibleTo(&window));
+  {
+    const FullDisk full(100);
+    StoreFolder::store().setSiteName("lost.example");
+    EXPECT_TRUE(says("the disk is full")) << qPrintable(notice->text());
+    EXPECT_TRUE(says("the next change saves them all"));
+  }
+  EXPECT_TRUE(says("the disk is full"));
+  StoreFolder::store().setCdnUrl("any");
+  EXPECT_FALSE(notice->isVisibleTo(&window));
+  folder.reopen();
+  EXPECT_EQ(StoreFolder::store().siteName(), "lost.example");
+}
+
+TEST_F(FaultNoticeTest, NamesThePlaceToMend) {
+  struct Row {
+    QByteArray bytes;
+    QString what;
+  };
+  const Row rows[] = {{StoreFolder::plist(""), "config/store is read-only"},
+                      {"damaged", "config/store/preferences.plist is damaged"}};
+  for (const Row& row : rows) {
+    const OrdinaryUser user;
+    const StoreFolder folder;
+    folder.replace(row.bytes);
+    ASSERT_EQ(::chmod(folder.folder().toUtf8().constData(), 0500), 0);
+    folder.reopen();
+    StoreFolder::store().setSiteName("any");
+    EXPECT_TRUE(says(row.what)) << qPrintable(notice->text());
+    // Also a window that is made later tells.
+    EXPECT_EQ(FaultNotice(&window).text(), notice->text());
+    ASSERT_EQ(::chmod(folder.folder().toUtf8().constData(), 0700), 0);
+  }
+}
+
+TEST_F(FaultNoticeTest, TellsOfALostKeychainWhicheverThreadFindsOut) {
+  const QByteArray before = qgetenv("DBUS_SESSION_BUS_ADDRESS");
+  qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent/bus");
+  KZKeyChainHandle& keychain = KZKeyChainHandle::sharedInstance();
+  keychain.useBackend(std::make_shared<SecretServiceKeychain>());
+  const std::unique_ptr<QThread> worker(
+      QThread::create([&keychain] { keychain.commitOutlookUsername("ada", "s3cret"); }));
+  worker->start();
+  EXPECT_TRUE(QTest::qWaitFor([this] { return says("Unlock the keyring"); }));
+  worker->wait();
+  EXPECT_FALSE(notice->text().contains("s3cret"));
+  keychain.useStorage(KZKeyChainHandle::Storage::Memory);
+  before.isNull() ? qunsetenv("DBUS_SESSION_BUS_ADDRESS") : qputenv("DBUS_SESSION_BUS_ADDRESS", before);
+}
+
+}  // namespace
