@@ -2,12 +2,16 @@
 
 #include <QCoreApplication>
 #include <QDesktopServices>
+#include <QDir>
 #include <QEventLoop>
 #include <QFileDialog>
+#include <QStandardPaths>
 #include <QTimer>
 #include <QWindow>
 #include <chrono>
 
+#include "companion/app/MeetingsView.h"
+#include "companion/app/TelemetryView.h"
 #include "companion/exchange/StandardExchange.h"
 #include "companion/inspector/InspectorView.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
@@ -20,15 +24,32 @@ using namespace std::chrono_literals;
 constexpr auto kLongestFirstFrame = 500ms;
 const QString kSignedInUri = QStringLiteral("http://127.0.0.1/signed-in");
 
-QString introduction(CompanionExchange::Reach reach) {
-  if (reach == CompanionExchange::Reach::Network) {
+QString introduction(NetworkReach reach) {
+  if (reach == NetworkReach::Network) {
     return QStringLiteral(
-        "Exchange is looked for in the network and in a sandbox on this machine; what a meeting service "
-        "would answer is invented here.");
+        "Meeting sites and Exchange are looked for in the network and in a sandbox on this computer.");
   }
-  return QStringLiteral(
-      "Demonstration: everything that a meeting service would answer is invented here. Exchange is looked "
-      "for in a sandbox on this machine.");
+  return QStringLiteral("Meeting sites and Exchange are played by a sandbox on this computer.");
+}
+
+QString ownFolder(QStandardPaths::StandardLocation location, const QString& name) {
+  return QDir(QStandardPaths::writableLocation(location))
+      .filePath(QStringLiteral("brenn-mivra-meetings/") + name);
+}
+
+CompanionServices::Settings serviceSettings(const CompanionOptions& options,
+                                            const ExchangeConfiguration& exchange) {
+  QStringList arguments;
+  if (!options.stateFolder.isEmpty()) {
+    arguments = {QStringLiteral("--state"), QFileInfo(options.stateFolder).absoluteFilePath()};
+  }
+  return {.reach = options.reach,
+          .exchange = exchange,
+          .record = demouser::record(),
+          .dataFolder = ownFolder(QStandardPaths::GenericDataLocation, QStringLiteral("telemetry")),
+          .packageFolder = ownFolder(QStandardPaths::GenericCacheLocation, QStringLiteral("updates")),
+          .autostart = AutostartEntry(AutostartEntry::userFolder(), QCoreApplication::applicationFilePath(),
+                                      arguments)};
 }
 
 }  // namespace
@@ -38,15 +59,13 @@ Companion::Companion(const CompanionOptions& options)
       m_logging(m_border.addObserver(
           [this](const Crossing& crossing) { m_log.record(InspectorEvent::of(crossing)); })),
       m_recording(&m_border),
-      m_services(&m_border),
-      m_window(&m_border, &m_services),
+      m_window(&m_border),
       m_options(options) {
   connect(&KZPlistFileHandle::sharedInstance(), &KZPlistFileHandle::valueChanged, &m_log,
           [this](const QString& key, const QVariant& before, const QVariant& after) {
             m_log.record(InspectorEvent::ofStoreWrite(key, before, after));
           });
   m_window.showNotice(introduction(options.reach));
-  connect(&m_services, &DemoServices::noticed, &m_window, &CompanionWindow::showNotice);
   connectSandbox();
   connectRecording();
 }
@@ -58,6 +77,8 @@ Companion::~Companion() {
 }
 
 void Companion::createPages() {
+  m_window.addPage(QStringLiteral("Meetings"), new MeetingsView(&m_services->meetings()));
+  m_window.addPage(QStringLiteral("Telemetry"), new TelemetryView(&m_services->telemetry()));
   auto* inspector = new InspectorView(&m_log);
   connect(inspector, &InspectorView::noticed, &m_window, &CompanionWindow::showNotice);
   m_window.addPage(QStringLiteral("Inspector"), inspector);
@@ -69,11 +90,13 @@ void Companion::createPages() {
 void Companion::connectSandbox() {
   connect(&m_sandbox, &Sandbox::ready, this, [this](const QJsonObject& exchange, const QJsonObject& site) {
     m_exchange->useSandbox(exchange);
+    m_services->useSandbox(site, exchange);
     m_tryOut->setAccounts(sandboxAccounts(exchange));
     m_tryOut->setSites(sandboxSites(site));
   });
   connect(&m_sandbox, &Sandbox::failed, this, [this](const QString& reason) {
     m_exchange->loseSandbox(reason);
+    m_services->loseSandbox();
     m_tryOut->setAccounts({});
     m_tryOut->setSites({});
   });
@@ -116,21 +139,25 @@ void Companion::showWindow() {
 }
 
 bool Companion::loadPlugin(const QString& path) {
+  createServices();
   createPages();
-  createExchange();
   return m_border.loadPlugin(path);
 }
 
 // Late, because it makes TLS ready, which takes longer than the whole window.
-void Companion::createExchange() {
-  m_exchange = std::make_unique<CompanionExchange>(
-      &m_border, m_options.reach, standardExchangeConfiguration(m_options.clientId, kSignedInUri));
+void Companion::createServices() {
+  const ExchangeConfiguration configuration = standardExchangeConfiguration(m_options.clientId, kSignedInUri);
+  m_exchange = std::make_unique<CompanionExchange>(&m_border, m_options.reach, configuration);
+  m_services = std::make_unique<CompanionServices>(&m_border, serviceSettings(m_options, configuration));
   connect(m_exchange.get(), &CompanionExchange::noticed, &m_window, &CompanionWindow::showNotice);
+  connect(m_services.get(), &CompanionServices::noticed, &m_window, &CompanionWindow::showNotice);
+  m_window.useServices(m_services.get());
 }
 
 void Companion::start(demouser::Variant variant) {
   m_window.become(variant);
   m_window.showPreferences();
+  m_services->start();
   // The windows come first.
   QTimer::singleShot(0, &m_sandbox, [this] { m_sandbox.start(Sandbox::programPath()); });
 }

@@ -6,12 +6,12 @@
 #include "companion/app/CompanionExchange.h"
 #include "companion/app/CompanionOptions.h"
 #include "companion/app/CompanionWindow.h"
-#include "companion/app/DemoServices.h"
 #include "companion/app/Recording.h"
 #include "companion/app/Sandbox.h"
 #include "companion/app/TryOutView.h"
 #include "companion/inspector/InspectorLog.h"
 #include "companion/runtime/Border.h"
+#include "companion/services/CompanionServices.h"
 
 // Everything that the companion is made of, put together. Open the settings store and choose the keychain
 // before; the application object must outlive it. Main thread only.
@@ -44,7 +44,7 @@ class Companion final : public QObject {
 
  private:
   void createPages();
-  void createExchange();
+  void createServices();
   void connectSandbox();
   void connectRecording();
   void toggleRecording();
@@ -54,7 +54,7 @@ class Companion final : public QObject {
   InspectorLog m_log;
   Border::Token m_logging;
   Recording m_recording;
-  DemoServices m_services;
+  std::unique_ptr<CompanionServices> m_services;  // the pages use them to their end
   CompanionWindow m_window;
   const CompanionOptions m_options;
   TryOutView* m_tryOut = nullptr;  // the window's

@@ -15,7 +15,7 @@ class CompanionExchange final : public QObject {
   Q_OBJECT
 
  public:
-  enum class Reach { Sandbox, Network };
+  using Reach = NetworkReach;
 
   // `network` is how to look in the network; with Reach::Sandbox nobody outside the sandbox is asked.
   // The border is not owned and must outlive this.

@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QHBoxLayout>
-#include <QInputDialog>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
@@ -11,6 +10,8 @@
 #include <QTabBar>
 
 #include "companion/app/FaultNotice.h"
+#include "companion/app/SiteDialog.h"
+#include "companion/app/UpdateBar.h"
 #include "companion/runtime/Border.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZFoundation/KZCommands.h"
@@ -30,8 +31,7 @@ Dictionary fromApplication() {
 
 }  // namespace
 
-CompanionWindow::CompanionWindow(Border* border, DemoServices* services)
-    : m_border(border), m_services(services) {
+CompanionWindow::CompanionWindow(Border* border) : m_border(border) {
   setWindowTitle(QStringLiteral("Brenn Mivra Meetings – Companion"));
   resize(900, 560);
   auto* column = new QVBoxLayout(this);
@@ -45,10 +45,16 @@ CompanionWindow::CompanionWindow(Border* border, DemoServices* services)
   m_notice->setWordWrap(true);
   m_notice->setTextFormat(Qt::PlainText);
   column->addWidget(m_notice);
-  connect(services, &DemoServices::siteWanted, this, &CompanionWindow::askForSite);
   // The guest's pane changes the identity.
   connect(&KZPlistFileHandle::sharedInstance(), &KZPlistFileHandle::valueChanged, this,
           &CompanionWindow::showIdentity);
+}
+
+void CompanionWindow::useServices(CompanionServices* services) {
+  m_services = services;
+  auto* column = static_cast<QVBoxLayout*>(layout());
+  column->insertWidget(column->indexOf(m_notice), new UpdateBar(&services->updates()));
+  connect(&services->site(), &SiteService::siteWanted, this, &CompanionWindow::openSiteDialog);
 }
 
 QWidget* CompanionWindow::createHeader() {
@@ -134,13 +140,12 @@ void CompanionWindow::become(demouser::Variant variant) {
   (isGuest ? m_guest : m_signedIn)->setChecked(true);
   demouser::become(variant);
   showIdentity();
-  if (isGuest) return m_border->triggerCommand(number(KZCommand::KZCmdInitGuestPreference));
-  const Dictionary preference = demouser::preferenceData();
-  const Dictionary record = dictionaryValue(preference, QStringLiteral("kz"));
+  if (isGuest) {
+    m_services->site().signOut();
+    return m_border->triggerCommand(number(KZCommand::KZCmdInitGuestPreference));
+  }
   m_border->triggerCommand(number(KZCommand::KZCmdDestroyPreference));
-  m_border->setPersonalRoom(textValue(record, QRT_Preference_PMRUrl),
-                            textValue(record, QRT_Preference_PMRSipUrl));
-  m_border->notify(static_cast<quint32>(KZNotify::KZNotifyGetPreferenceDone), preference);
+  m_services->site().signIn();
 }
 
 void CompanionWindow::showPreferences() {
@@ -169,7 +174,7 @@ void CompanionWindow::showAccount() {
 }
 
 void CompanionWindow::checkForUpdates() {
-  m_border->triggerCommand(number(KZCommand::KZCmdCheckForUpdates), fromApplication());
+  m_services->updates().check();
 }
 
 void CompanionWindow::joinByNumber() {
@@ -182,22 +187,16 @@ void CompanionWindow::closePreferences() {
   if (m_guest->isChecked()) m_border->triggerCommand(number(KZCommand::KZCmdInitGuestPreference));
 }
 
-void CompanionWindow::askForSite() {
-  auto* dialog = new QInputDialog(this);
-  dialog->setAttribute(Qt::WA_DeleteOnClose);
-  dialog->setWindowTitle(QStringLiteral("Change site"));
-  dialog->setLabelText(QStringLiteral("Site of your meeting service:"));
-  dialog->setTextValue(KZPlistFileHandle::sharedInstance().siteName());
-  connect(dialog, &QInputDialog::textValueSelected, this, [this](const QString& entered) {
-    const QString site = entered.trimmed();
-    if (!site.isEmpty()) useSite(site);
-  });
-  dialog->open();
+SiteDialog* CompanionWindow::openSiteDialog() {
+  if (!m_siteDialog) m_siteDialog = new SiteDialog(&m_services->site(), this);
+  m_siteDialog->show();
+  m_siteDialog->raise();
+  m_siteDialog->activateWindow();
+  return m_siteDialog;
 }
 
 void CompanionWindow::useSite(const QString& site) {
-  KZPlistFileHandle::sharedInstance().setSiteName(site);
-  m_services->changeSite(site);
+  openSiteDialog()->ask(site);
 }
 
 void CompanionWindow::showNotice(const QString& text) {

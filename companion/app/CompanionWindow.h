@@ -1,9 +1,10 @@
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 
-#include "companion/app/DemoServices.h"
 #include "companion/app/DemoUser.h"
+#include "companion/services/CompanionServices.h"
 
 class Border;
 class QLabel;
@@ -11,13 +12,17 @@ class QStackedWidget;
 class QTabBar;
 class QPushButton;
 class QRadioButton;
+class SiteDialog;
 
 // The companion's own window: who is there, what a host can ask of its plug-in, and what crosses the border.
 class CompanionWindow final : public QWidget {
   Q_OBJECT
 
  public:
-  CompanionWindow(Border* border, DemoServices* services);  // not owned; must outlive the window
+  explicit CompanionWindow(Border* border);  // not owned; must outlive the window
+
+  // Before anything is done in the window; once. Not owned; must outlive the window.
+  void useServices(CompanionServices* services);
 
   // Also tells the plug-in, as a host does after a sign-in or when it starts for a guest.
   void become(demouser::Variant variant);
@@ -29,7 +34,7 @@ class CompanionWindow final : public QWidget {
   void showNotice(const QString& text);
   // The window takes the page; the first one is in front.
   void addPage(const QString& title, QWidget* page);
-  // The user belongs to another site from now on.
+  // Asks the site, and belongs to it from then on.
   void useSite(const QString& site);
 
  Q_SIGNALS:
@@ -49,11 +54,11 @@ class CompanionWindow final : public QWidget {
   void checkForUpdates();
   void joinByNumber();
   void closePreferences();
-  void askForSite();
+  SiteDialog* openSiteDialog();
   void showIdentity();
 
   Border* m_border;
-  DemoServices* m_services;
+  CompanionServices* m_services = nullptr;
   QRadioButton* m_signedIn = nullptr;
   QRadioButton* m_guest = nullptr;
   QTabBar* m_tabs = nullptr;
@@ -61,4 +66,5 @@ class CompanionWindow final : public QWidget {
   QLabel* m_identity = nullptr;
   QLabel* m_notice = nullptr;
   QPushButton* m_recordButton = nullptr;
+  QPointer<SiteDialog> m_siteDialog;
 };

@@ -35,18 +35,17 @@ void become(Variant variant) {
   if (wasGuest && !isGuest) {
     store.setValue(kGuestKey, Dictionary{{kName, store.displayName()}, {kEmail, store.userName()}});
   }
-  if (store.siteName().isNull()) store.setSiteName(QStringLiteral("meetings.example.com"));
+  if (store.siteName().isNull()) store.setSiteName(QStringLiteral("meetings.sandbox.example"));
   if (isGuest && !wasGuest) becomeGuest(store);
   if (!isGuest) becomeSignedIn(store);
   store.setValue(kIsGuestKey, isGuest);
 }
 
-Dictionary preferenceData() {
-  const Dictionary record = {{QRT_Preference_PMRUrl, QStringLiteral("https://meetings.example.com/meet/ada")},
-                             {QRT_Preference_PMRSipUrl, QStringLiteral("ada@meetings.example.com")},
-                             {QStringLiteral("disableCalendarIntegration"), true},
-                             {QStringLiteral("enableListGoogleCalendarMeeting"), true}};
-  return {{kKZResult, kKZSuccess}, {QStringLiteral("kz"), record}};
+Dictionary record() {
+  return {{QRT_Preference_PMRUrl, QStringLiteral("https://meetings.example.com/meet/ada")},
+          {QRT_Preference_PMRSipUrl, QStringLiteral("ada@meetings.example.com")},
+          {QStringLiteral("disableCalendarIntegration"), true},
+          {QStringLiteral("enableListGoogleCalendarMeeting"), true}};
 }
 
 }  // namespace demouser

@@ -10,7 +10,7 @@ enum class Variant { SignedIn, Guest };
 
 void become(Variant variant);
 
-// The record that a meeting service sends after sign-in.
-Dictionary preferenceData();
+// The record of a meeting service that has not answered.
+Dictionary record();
 
 }  // namespace demouser

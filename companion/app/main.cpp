@@ -116,6 +116,7 @@ int main(int argc, char** argv) {
   int onlyName = 1;
   Application application(onlyName, argv);
   QApplication::setApplicationName("companion");
+  QApplication::setApplicationVersion(KZ_VERSION);
   QGuiApplication::setDesktopFileName("brenn-mivra-companion");
   QApplication::setQuitOnLastWindowClosed(false);
   const CompanionOptions options = CompanionOptions::read(arguments);

@@ -36,7 +36,7 @@ void AutodiscoverAttempt::askAuthorized(const QUrl& address) {
 void AutodiscoverAttempt::probe(const QUrl& address) {
   m_address = address;
   m_visited.insert(address);
-  m_call = std::make_unique<HttpCall>(m_context.network, m_context.configuration);
+  m_call = std::make_unique<HttpCall>(m_context.network, m_context.configuration.network);
   m_call->start({.address = address}, [this](const HttpAnswer& answer) { readProbe(answer); });
 }
 
@@ -95,7 +95,7 @@ void AutodiscoverAttempt::post(const QUrl& address, const QByteArray& authorizat
                          !authorization.isEmpty());
   m_address = address;
   m_visited.insert(address);
-  m_call = std::make_unique<HttpCall>(m_context.network, m_context.configuration);
+  m_call = std::make_unique<HttpCall>(m_context.network, m_context.configuration.network);
   m_call->start({.address = address, .body = autodiscoverRequest(m_email), .authorization = authorization},
                 [this, isAuthorized = !authorization.isEmpty()](const HttpAnswer& answer) {
                   read(answer, isAuthorized);

@@ -10,8 +10,8 @@
 
 #include "companion/exchange/AutodiscoverMessage.h"
 #include "companion/exchange/DiscoveryFailure.h"
-#include "companion/exchange/HttpCall.h"
 #include "companion/exchange/RedirectConsent.h"
+#include "companion/network/HttpCall.h"
 
 struct AutodiscoverOutcome {
   enum class Kind { Failure, Services, Challenge, OtherEmail, Online, Refused };

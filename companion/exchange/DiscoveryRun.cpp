@@ -84,7 +84,7 @@ void DiscoveryRun::startCandidate(const Candidate& candidate) {
 void DiscoveryRun::lookUpServices(const QString& name) {
   if (!m_configuration.services) return startNext();
   m_lookup = new QObject(this);
-  QTimer::singleShot(m_configuration.limits.request, m_lookup, [this] { onServices({}); });
+  QTimer::singleShot(m_configuration.network.limits.request, m_lookup, [this] { onServices({}); });
   m_configuration.services(name, m_lookup,
                            [this](const QList<ServiceRecord>& records) { onServices(records); });
 }

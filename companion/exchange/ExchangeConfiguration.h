@@ -2,14 +2,14 @@
 
 #include <QList>
 #include <QObject>
-#include <QSslCertificate>
-#include <QSslConfiguration>
 #include <QString>
 #include <QStringList>
 #include <QUrl>
 #include <chrono>
 #include <functional>
 #include <optional>
+
+#include "companion/network/NetworkConfiguration.h"
 
 // Where one online service answers and where its users sign in.
 struct OnlineService {
@@ -34,15 +34,6 @@ using ServicesFound = std::function<void(const QList<ServiceRecord>&)>;
 // gone.
 using ServiceLookup = std::function<void(const QString& name, QObject* asker, ServicesFound found)>;
 
-struct NetworkEndpoint {
-  QString address;
-  quint16 port = 0;
-  QList<QSslCertificate> certificates = {};  // who vouches for it; empty for those of the configuration
-};
-
-// Where a host is to be reached in place of where its name points; nothing for the ordinary way.
-using EndpointFinder = std::function<std::optional<NetworkEndpoint>(const QUrl&)>;
-
 // How the user is asked whether an address outside the mail domain may be used. One question at a time; the
 // answer may come at any later moment, or never.
 struct RedirectPrompt {
@@ -53,23 +44,17 @@ struct RedirectPrompt {
 };
 
 struct ExchangeLimits {
-  std::chrono::milliseconds request{10'000};  // one request, from its start to its last byte
-  std::chrono::milliseconds stagger{250};     // between the starts of two candidates
-  qint64 answerBytes = 1024 * 1024;
+  std::chrono::milliseconds stagger{250};  // between the starts of two candidates
   int hops = 10;
 };
 
 struct ExchangeConfiguration {
+  NetworkConfiguration network;
   ExchangeLimits limits;
   QList<OnlineService> onlineServices;
-  QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
-  EndpointFinder endpoint;
   ServiceLookup services;
   RedirectPrompt prompt;
 };
 
 // The service that owns the host; nothing for any other host.
 std::optional<OnlineService> onlineServiceOf(const QList<OnlineService>& services, const QString& host);
-
-// Whether the host is the domain or lies below it.
-bool isWithinDomain(const QString& host, const QString& domain);

@@ -6,8 +6,6 @@
 
 namespace {
 
-constexpr int kDaysAhead = 7;
-
 // Where the meetings are; empty where the account has no address that a credential may be sent to.
 QUrl meetingUrl(const Dictionary& exchange) {
   for (const QString& key :
@@ -22,9 +20,10 @@ QUrl meetingUrl(const Dictionary& exchange) {
 
 }  // namespace
 
-void ExchangeMeetings::list(const Dictionary& exchange, const QString& token) {
+void ExchangeMeetings::list(const Dictionary& exchange, const QString& token, int days) {
   cancel();
   m_address = meetingUrl(exchange);
+  m_days = days;
   m_isOnline = isSet(exchange, kKZCalendarIntegrationIsOnline);
   if (m_address.isEmpty()) return fail(QStringLiteral("No Exchange account is applied. Detect one first."));
   if (!m_isOnline) return ask({});
@@ -34,9 +33,9 @@ void ExchangeMeetings::list(const Dictionary& exchange, const QString& token) {
 
 void ExchangeMeetings::ask(const QByteArray& authorization) {
   const QDateTime now = QDateTime::currentDateTimeUtc();
-  m_call = std::make_unique<HttpCall>(m_network, m_configuration);
+  m_call = std::make_unique<HttpCall>(m_network, m_configuration.network);
   m_call->start({.address = m_address,
-                 .body = meetingRequest(now, now.addDays(kDaysAhead)),
+                 .body = meetingRequest(now, now.addDays(m_days)),
                  .authorization = authorization},
                 [this, isAuthorized = !authorization.isEmpty()](const HttpAnswer& answer) {
                   read(answer, isAuthorized);

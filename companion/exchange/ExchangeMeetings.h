@@ -6,8 +6,8 @@
 #include <memory>
 
 #include "companion/exchange/ExchangeConfiguration.h"
-#include "companion/exchange/HttpCall.h"
 #include "companion/exchange/MeetingMessage.h"
+#include "companion/network/HttpCall.h"
 #include "host/KZFoundation/Dictionary.h"
 
 // The next meetings of an applied Exchange account. One question at a time; a new one ends the one before it
@@ -20,8 +20,8 @@ class ExchangeMeetings final : public QObject {
       : m_configuration(std::move(configuration)) {}
 
   // `exchange` is the account as discovery reported it. `token` is for an online account; the credential of
-  // any other is asked for by a challenge.
-  void list(const Dictionary& exchange, const QString& token);
+  // any other is asked for by a challenge. `days` is how far ahead to look.
+  void list(const Dictionary& exchange, const QString& token, int days);
   void cancel() { m_call.reset(); }
 
  Q_SIGNALS:
@@ -39,5 +39,6 @@ class ExchangeMeetings final : public QObject {
   QNetworkAccessManager m_network;
   std::unique_ptr<HttpCall> m_call;
   QUrl m_address;
+  int m_days = 0;
   bool m_isOnline = false;
 };

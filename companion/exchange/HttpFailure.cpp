@@ -10,6 +10,7 @@ DiscoveryFailureKind failureOf(const HttpAnswer& answer) {
     case HttpAnswer::Trouble::TooSlow:
       return Kind::TooSlow;
     case HttpAnswer::Trouble::TooLong:
+    case HttpAnswer::Trouble::NotTaken:
       return Kind::BadAnswer;
     case HttpAnswer::Trouble::Certificate:
       return Kind::Certificate;

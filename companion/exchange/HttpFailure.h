@@ -1,7 +1,7 @@
 #pragma once
 
 #include "companion/exchange/DiscoveryFailure.h"
-#include "companion/exchange/HttpCall.h"
+#include "companion/network/HttpCall.h"
 
 // What an answer that cannot be used comes to.
 DiscoveryFailureKind failureOf(const HttpAnswer& answer);

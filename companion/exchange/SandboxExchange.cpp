@@ -1,8 +1,9 @@
 #include "companion/exchange/SandboxExchange.h"
 
-#include <QHash>
 #include <QJsonArray>
 #include <utility>
+
+#include "companion/network/SandboxEndpoints.h"
 
 namespace {
 
@@ -37,22 +38,6 @@ QList<ServiceRecord> recordsFrom(const QJsonArray& array) {
   return records;
 }
 
-EndpointFinder endpointFinder(const QJsonObject& description, EndpointFinder others) {
-  const QJsonObject otherName = description.value(QLatin1String("otherName")).toObject();
-  const auto certificates = QSslCertificate::fromData(textAt(description, "certificates").toLatin1());
-  return [description, otherName, certificates, others = std::move(others)](const QUrl& url) {
-    if (!isWithinDomain(url.host(), textAt(description, "domain"))) {
-      return others ? others(url) : std::nullopt;
-    }
-    const bool isEncrypted = url.scheme() == QLatin1String("https");
-    const bool isOtherName = isEncrypted && isWithinDomain(url.host(), textAt(otherName, "domain"));
-    return std::optional<NetworkEndpoint>(
-        {.address = textAt(description, "address"),
-         .port = portAt(isOtherName ? otherName : description, isEncrypted ? "https" : "http"),
-         .certificates = certificates});
-  };
-}
-
 ServiceLookup serviceLookup(const QJsonObject& description, ServiceLookup others) {
   const QString domain = QLatin1Char('.') + textAt(description, "domain");
   const QJsonObject services = description.value(QLatin1String("services")).toObject();
@@ -70,7 +55,7 @@ ExchangeConfiguration withSandbox(ExchangeConfiguration configuration, const QJs
   for (const QJsonValue& online : description.value(QLatin1String("online")).toArray()) {
     configuration.onlineServices.append(onlineServiceFrom(online.toObject()));
   }
-  configuration.endpoint = endpointFinder(description, std::move(configuration.endpoint));
+  configuration.network.endpoint = sandboxEndpoints(description, std::move(configuration.network.endpoint));
   configuration.services = serviceLookup(description, std::move(configuration.services));
   return configuration;
 }

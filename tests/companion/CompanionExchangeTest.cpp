@@ -183,7 +183,8 @@ TEST_F(CompanionExchangeTest, TheMeetingsPaneFindsAnAccount) {
   ASSERT_TRUE(border.loadPlugin(PREFERENCES));
   ASSERT_NO_FATAL_FAILURE(startSandbox());
   if (IsSkipped()) return;
-  border.notify(static_cast<quint32>(KZNotify::KZNotifyGetPreferenceDone), demouser::preferenceData());
+  border.notify(static_cast<quint32>(KZNotify::KZNotifyGetPreferenceDone),
+                Dictionary{{kKZResult, kKZSuccess}, {"kz", demouser::record()}});
   border.triggerCommand(2);
   Window* window = findPreferencesWindow();
   ASSERT_NE(window, nullptr);

@@ -4,7 +4,7 @@
 
 #include <QXmlStreamReader>
 
-#include "companion/exchange/HttpCall.h"
+#include "companion/network/HttpCall.h"
 #include "companion/exchange/MeetingMessage.h"
 
 namespace {

@@ -60,7 +60,7 @@ class DiscoveryAnswerTest : public DiscoveryFixture {
       authorizations.append(request.headers.value("authorization"));
       return answer;
     });
-    configuration.endpoint = [this, sandboxed = configuration.endpoint](const QUrl& url) {
+    configuration.network.endpoint = [this, sandboxed = configuration.network.endpoint](const QUrl& url) {
       if (!isWithinDomain(url.host(), "evil.example")) return sandboxed(url);
       const bool isEncrypted = url.scheme() == "https";
       return std::optional<NetworkEndpoint>(

@@ -34,7 +34,7 @@ void DiscoveryFixture::SetUp() {
 ExchangeConfiguration DiscoveryFixture::quickConfiguration() {
   using namespace std::chrono_literals;
   ExchangeConfiguration quick;
-  quick.limits.request = 400ms;
+  quick.network.limits.request = 400ms;
   quick.limits.stagger = 50ms;
   return quick;
 }

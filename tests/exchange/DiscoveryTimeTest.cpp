@@ -2,7 +2,7 @@
 #include <algorithm>
 
 #include "companion/exchange/AutodiscoverMessage.h"
-#include "companion/exchange/HttpCall.h"
+#include "companion/network/HttpCall.h"
 #include "tests/exchange/DiscoveryFixture.h"
 
 namespace {
@@ -44,7 +44,7 @@ class DiscoveryTimeTest : public DiscoveryFixture {
  private:
   void askOne(QNetworkAccessManager& network, const QString& host, const QByteArray& authorization) {
     bool isDone = false;
-    HttpCall call(network, configuration);
+    HttpCall call(network, configuration.network);
     call.start({.address = QUrl("https://" + host + "/autodiscover/autodiscover.xml"),
                 .body = autodiscoverRequest("onprem@corp.sandbox.example"),
                 .authorization = authorization},

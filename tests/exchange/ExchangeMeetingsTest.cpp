@@ -15,7 +15,7 @@ class ExchangeMeetingsTest : public DiscoveryFixture {
                      });
     QObject::connect(meetings.get(), &ExchangeMeetings::failed, meetings.get(),
                      [this](const QString& message) { failures.append(message); });
-    meetings->list(exchange, token);
+    meetings->list(exchange, token, 7);
     EXPECT_TRUE(QTest::qWaitFor([this] { return !subjects.isEmpty() || !failures.isEmpty(); }, 2000));
   }
 

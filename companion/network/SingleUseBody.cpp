@@ -1,4 +1,4 @@
-#include "companion/exchange/SingleUseBody.h"
+#include "companion/network/SingleUseBody.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "companion/exchange/HttpCall.h"
+#include "companion/network/HttpCall.h"
 
 #include <QNetworkReply>
 #include <QNetworkRequest>
@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "companion/exchange/SingleUseBody.h"
+#include "companion/network/SingleUseBody.h"
 
 namespace {
 
@@ -15,10 +15,12 @@ using Trouble = HttpAnswer::Trouble;
 
 // Below this, errors are about the connection; above, about what the server said.
 constexpr int kFirstAnswerError = 100;
+constexpr int kGood = 200;
+constexpr qint64 kPieceBytes = 256 * 1024;
 
 }  // namespace
 
-HttpCall::HttpCall(QNetworkAccessManager& network, const ExchangeConfiguration& configuration)
+HttpCall::HttpCall(QNetworkAccessManager& network, const NetworkConfiguration& configuration)
     : m_network(network), m_configuration(configuration) {
   m_deadline.setSingleShot(true);
   connect(&m_deadline, &QTimer::timeout, this, [this] { settle({.trouble = Trouble::TooSlow}); });
@@ -32,18 +34,18 @@ HttpCall::~HttpCall() {
 void HttpCall::start(const HttpQuestion& question, Done done) {
   m_address = question.address;
   m_done = std::move(done);
+  m_take = question.take;
+  m_bytesLeft = question.takenBytes;
   const QNetworkRequest request = requestFor(question);
   m_reply = send(request, question);
   // The reply stops reading from the socket one byte past the limit.
-  m_reply->setReadBufferSize(m_configuration.limits.answerBytes + 1);
+  m_reply->setReadBufferSize(m_take ? kPieceBytes : m_configuration.limits.answerBytes + 1);
   connect(m_reply, &QNetworkReply::sslErrors, this, [this](const QList<QSslError>& errors) {
     m_isOtherName = std::any_of(errors.begin(), errors.end(), [](const QSslError& error) {
       return error.error() == QSslError::HostNameMismatch;
     });
   });
-  connect(m_reply, &QNetworkReply::readyRead, this, [this] {
-    if (isTooLong()) settle({.trouble = Trouble::TooLong});
-  });
+  connect(m_reply, &QNetworkReply::readyRead, this, &HttpCall::readPiece);
   connect(m_reply, &QNetworkReply::finished, this, &HttpCall::readAnswer);
   // A transfer timeout would start anew with every byte.
   m_deadline.start(m_configuration.limits.request);
@@ -90,14 +92,32 @@ QNetworkRequest HttpCall::requestFor(const HttpQuestion& question) const {
   return request;
 }
 
+bool HttpCall::isTaken() const {
+  return m_take && m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt() == kGood;
+}
+
+void HttpCall::readPiece() {
+  const Trouble trouble = takePiece();
+  if (trouble != Trouble::None) return settle({.trouble = trouble});
+  if (isTaken()) m_deadline.start();
+}
+
+Trouble HttpCall::takePiece() {
+  if (!isTaken()) return isTooLong() ? Trouble::TooLong : Trouble::None;
+  const QByteArray piece = m_reply->readAll();
+  m_bytesLeft -= piece.size();
+  if (m_bytesLeft < 0) return Trouble::TooLong;
+  return piece.isEmpty() || m_take(piece) ? Trouble::None : Trouble::NotTaken;
+}
+
 bool HttpCall::isTooLong() const {
   return m_reply->bytesAvailable() > m_configuration.limits.answerBytes;
 }
 
 void HttpCall::readAnswer() {
-  if (isTooLong()) return settle({.trouble = Trouble::TooLong});
   HttpAnswer answer;
-  answer.trouble = trouble();
+  answer.trouble = takePiece();
+  if (answer.trouble == Trouble::None) answer.trouble = trouble();
   if (answer.trouble == Trouble::None) {
     answer.status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     const QByteArray location = m_reply->rawHeader("Location");

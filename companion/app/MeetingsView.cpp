@@ -1,0 +1,121 @@
+#include "companion/app/MeetingsView.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLocale>
+#include <QPushButton>
+#include <QTableWidget>
+#include <chrono>
+
+#include "companion/services/MeetingAccount.h"
+#include "companion/services/NextMeetings.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+
+enum MeetingColumn { StartColumn, SubjectColumn, NoteColumn, MeetingColumnCount };
+
+QString startText(const QDateTime& start) {
+  const QDateTime local = start.toLocalTime();
+  const QString time = QLocale().toString(local.time(), QLocale::ShortFormat);
+  const qint64 days = QDate::currentDate().daysTo(local.date());
+  if (days == 0) return QStringLiteral("Today, %1").arg(time);
+  if (days == 1) return QStringLiteral("Tomorrow, %1").arg(time);
+  return QLocale().toString(local, QLocale::ShortFormat);
+}
+
+// Null where there is nothing to say.
+QString noteText(const QDateTime& start, int announced) {
+  const qint64 seconds = QDateTime::currentDateTimeUtc().secsTo(start);
+  if (seconds <= 0) return QStringLiteral("has started");
+  const qint64 minutes = (seconds + 59) / 60;
+  if (minutes > announced) return {};
+  return minutes == 1 ? QStringLiteral("starts in 1 minute")
+                      : QStringLiteral("starts in %1 minutes").arg(minutes);
+}
+
+}  // namespace
+
+MeetingsView::MeetingsView(NextMeetings* meetings)
+    : m_meetings(meetings),
+      m_text(new QLabel),
+      m_refresh(new QPushButton(QStringLiteral("Refresh"))),
+      m_table(new QTableWidget(0, MeetingColumnCount)) {
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(8);
+  auto* row = new QHBoxLayout;
+  row->addWidget(m_text, 1);
+  row->addWidget(m_refresh, 0, Qt::AlignTop);
+  column->addLayout(row);
+  column->addWidget(m_table, 1);
+  // Takes the table's place while there is nothing to list.
+  column->addStretch();
+  m_text->setObjectName(QStringLiteral("meetingsText"));
+  m_text->setTextFormat(Qt::PlainText);
+  m_text->setWordWrap(true);
+  setUpTable();
+  // Only the words for a time go out of date; nobody is asked.
+  m_minute.setInterval(1min);
+  connect(&m_minute, &QTimer::timeout, this, &MeetingsView::showMeetings);
+  connect(m_refresh, &QPushButton::clicked, meetings, &NextMeetings::refresh);
+  connect(meetings, &NextMeetings::changed, this, &MeetingsView::showMeetings);
+  showMeetings();
+}
+
+void MeetingsView::setUpTable() {
+  m_table->setHorizontalHeaderLabels(
+      {QStringLiteral("Start"), QStringLiteral("Meeting"), QStringLiteral("Note")});
+  m_table->setAccessibleName(QStringLiteral("Next meetings"));
+  m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+  m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+  m_table->setTabKeyNavigation(false);
+  m_table->setShowGrid(false);
+  m_table->verticalHeader()->hide();
+  m_table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+  m_table->horizontalHeader()->setHighlightSections(false);
+  m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  m_table->setColumnWidth(StartColumn, 160);
+  m_table->setColumnWidth(NoteColumn, 160);
+  m_table->horizontalHeader()->setSectionResizeMode(SubjectColumn, QHeaderView::Stretch);
+}
+
+void MeetingsView::showMeetings() {
+  const QList<ExchangeMeeting>& meetings = m_meetings->meetings();
+  m_refresh->setEnabled(!m_meetings->isAsking());
+  if (m_meetings->isAsking()) {
+    m_text->setText(QStringLiteral("Asking for your next meetings."));
+  } else {
+    m_text->setText(m_meetings->text().isEmpty() ? QStringLiteral("Your next meetings:")
+                                                 : m_meetings->text());
+  }
+  const int announced = announcedMinutes();
+  m_table->setRowCount(static_cast<int>(meetings.size()));
+  for (int row = 0; row < m_table->rowCount(); ++row) {
+    const ExchangeMeeting& meeting = meetings.at(row);
+    const QString texts[] = {startText(meeting.start), meeting.subject, noteText(meeting.start, announced)};
+    QFont itemFont = m_table->font();
+    itemFont.setBold(!texts[NoteColumn].isNull());
+    for (int column = 0; column < MeetingColumnCount; ++column) {
+      auto* item = new QTableWidgetItem(texts[column]);
+      item->setFont(itemFont);
+      m_table->setItem(row, column, item);
+    }
+  }
+  m_table->setVisible(!meetings.isEmpty());
+}
+
+void MeetingsView::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  m_minute.start();
+  m_meetings->setWatched(true);
+}
+
+void MeetingsView::hideEvent(QHideEvent* event) {
+  QWidget::hideEvent(event);
+  m_minute.stop();
+  m_meetings->setWatched(false);
+}

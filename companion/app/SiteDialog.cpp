@@ -1,0 +1,104 @@
+#include "companion/app/SiteDialog.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "companion/services/SiteService.h"
+#include "host/KZUtility/KZPlistFileHandle.h"
+
+SiteDialog::SiteDialog(SiteService* service, QWidget* parent)
+    : QDialog(parent),
+      m_service(service),
+      m_site(new QLineEdit(KZPlistFileHandle::sharedInstance().siteName())),
+      m_text(new QLabel) {
+  setAttribute(Qt::WA_DeleteOnClose);
+  setWindowTitle(QStringLiteral("Change site"));
+  setMinimumWidth(480);
+  m_site->selectAll();
+  auto* label = new QLabel(QStringLiteral("Site of your meeting service:"));
+  label->setBuddy(m_site);
+  m_text->setObjectName(QStringLiteral("siteText"));
+  m_text->setTextFormat(Qt::PlainText);
+  m_text->setWordWrap(true);
+  m_text->setMinimumHeight(2 * fontMetrics().lineSpacing());
+  m_text->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  auto* column = new QVBoxLayout(this);
+  column->setSpacing(10);
+  column->addWidget(label);
+  column->addWidget(m_site);
+  column->addWidget(m_text);
+  column->addWidget(createButtons());
+  connect(m_site, &QLineEdit::textChanged, this, &SiteDialog::forgetFailure);
+  m_site->setFocus();
+}
+
+SiteDialog::~SiteDialog() {
+  m_service->cancelLookUp();
+}
+
+QWidget* SiteDialog::createButtons() {
+  auto* bar = new QWidget;
+  auto* row = new QHBoxLayout(bar);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(8);
+  auto* keep = new QPushButton(QStringLiteral("Keep the old site"));
+  m_useAnyway = new QPushButton(QStringLiteral("Use it anyway"));
+  m_change = new QPushButton(QStringLiteral("Change"));
+  m_change->setDefault(true);
+  keep->setAutoDefault(false);
+  m_useAnyway->setAutoDefault(false);
+  m_useAnyway->hide();
+  row->addStretch(1);
+  row->addWidget(keep);
+  row->addWidget(m_useAnyway);
+  row->addWidget(m_change);
+  connect(keep, &QPushButton::clicked, this, &QDialog::reject);
+  connect(m_useAnyway, &QPushButton::clicked, this, &SiteDialog::useAnyway);
+  connect(m_change, &QPushButton::clicked, this, &SiteDialog::askChosen);
+  return bar;
+}
+
+QString SiteDialog::site() const {
+  return m_site->text().trimmed().toLower();
+}
+
+void SiteDialog::ask(const QString& site) {
+  m_site->setText(site);
+  askChosen();
+}
+
+void SiteDialog::askChosen() {
+  forgetFailure();
+  m_change->setEnabled(false);
+  m_text->setText(QStringLiteral("Asking the site."));
+  m_service->lookUp(site(), [this](const SiteService::Answer& answer) {
+    if (!answer.site) return showFailure(answer.failure);
+    // The dialog may be gone with the last line of this.
+    SiteService* const service = m_service;
+    accept();
+    service->adopt(*answer.site);
+  });
+}
+
+void SiteDialog::showFailure(const QString& reason) {
+  m_change->setEnabled(true);
+  m_text->setText(reason);
+  m_useAnyway->setVisible(!siteAddress(site()).isEmpty());
+}
+
+void SiteDialog::forgetFailure() {
+  // What was asked is not what stands there now.
+  m_service->cancelLookUp();
+  m_change->setEnabled(true);
+  m_text->clear();
+  m_useAnyway->hide();
+}
+
+void SiteDialog::useAnyway() {
+  const QString chosen = site();
+  SiteService* const service = m_service;
+  accept();
+  service->adoptSilent(chosen);
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QTimer>
+#include <QWidget>
+
+class QCheckBox;
+class QLabel;
+class QPushButton;
+class QTableWidget;
+class TelemetryService;
+
+// What is known of the user's choices: to read, to switch off and to delete.
+class TelemetryView final : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit TelemetryView(TelemetryService* telemetry);  // not owned; must outlive the view
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  QWidget* createBar();
+  void setUpTable();
+  void showSoon();
+  void showRecords();
+
+  TelemetryService* m_telemetry;
+  QCheckBox* m_isOn;
+  QPushButton* m_delete;
+  QLabel* m_text;
+  QTableWidget* m_table;
+  QTimer m_soon;
+};

@@ -1,0 +1,75 @@
+#include "companion/services/AutostartEntry.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSaveFile>
+#include <QStandardPaths>
+
+namespace {
+
+const QString kEntryName = QStringLiteral("brenn-mivra-companion.desktop");
+
+// A value of the type string: the backslash escapes.
+QString escaped(QString text) {
+  return text.replace(QLatin1Char('\\'), QLatin1String("\\\\"))
+      .replace(QLatin1Char('\n'), QLatin1String("\\n"))
+      .replace(QLatin1Char('\t'), QLatin1String("\\t"))
+      .replace(QLatin1Char('\r'), QLatin1String("\\r"));
+}
+
+// One argument of a command: quoted as a whole, with what a shell would act on behind a backslash, and the
+// per cent signs doubled, which would otherwise be field codes.
+QString quotedArgument(const QString& argument) {
+  QString quoted;
+  for (const QChar character : argument) {
+    if (QStringLiteral("\"`$\\").contains(character)) quoted += QLatin1Char('\\');
+    if (character == QLatin1Char('%')) quoted += character;
+    quoted += character;
+  }
+  return QLatin1Char('"') + quoted + QLatin1Char('"');
+}
+
+}  // namespace
+
+AutostartEntry::AutostartEntry(const QString& folder, const QString& program, const QStringList& arguments)
+    : m_folder(folder), m_command(QStringList(program) + arguments) {}
+
+QString AutostartEntry::userFolder() {
+  const QDir configuration(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+  return configuration.filePath(QStringLiteral("autostart"));
+}
+
+QString AutostartEntry::path() const {
+  return QDir(m_folder).filePath(kEntryName);
+}
+
+QByteArray AutostartEntry::content() const {
+  QStringList command;
+  for (const QString& argument : m_command) command.append(quotedArgument(argument));
+  const QStringList lines = {QStringLiteral("[Desktop Entry]"),
+                             QStringLiteral("Type=Application"),
+                             QStringLiteral("Name=Brenn Mivra Meetings"),
+                             QStringLiteral("Comment=Starts after login; switched in Preferences, General"),
+                             QStringLiteral("TryExec=") + escaped(m_command.first()),
+                             QStringLiteral("Exec=") + escaped(command.join(QLatin1Char(' '))),
+                             QStringLiteral("Icon=brenn-mivra-companion"),
+                             QStringLiteral("Terminal=false"),
+                             QString()};
+  return lines.join(QLatin1Char('\n')).toUtf8();
+}
+
+QString AutostartEntry::write() const {
+  QFile present(path());
+  if (present.open(QIODevice::ReadOnly) && present.readAll() == content()) return {};
+  if (!QDir().mkpath(m_folder)) return QStringLiteral("the folder cannot be made");
+  QSaveFile file(path());
+  const bool isWritten = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
+                         file.write(content()) == content().size() && file.commit();
+  return isWritten ? QString() : file.errorString();
+}
+
+QString AutostartEntry::remove() const {
+  QFile present(path());
+  if (!present.exists() || present.remove()) return {};
+  return present.errorString();
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QObject>
+
+#include "host/KZFoundation/Dictionary.h"
+
+class Border;
+
+// Says to the user what a change in Preferences means here. Main thread only.
+class ChangeNotices final : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit ChangeNotices(Border* border);  // not owned
+
+ Q_SIGNALS:
+  void noticed(const QString& text);
+
+ private:
+  void answer(quint64 command, const Content& content);
+};

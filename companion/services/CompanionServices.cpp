@@ -1,0 +1,33 @@
+#include "companion/services/CompanionServices.h"
+
+CompanionServices::CompanionServices(Border* border, const Settings& settings)
+    : m_network(settings.reach, settings.exchange.network),
+      m_site(border, &m_network, settings.record),
+      m_updates(border, &m_network, settings.packageFolder),
+      m_telemetry(border, TelemetryFile(settings.dataFolder)),
+      m_general(border, settings.autostart),
+      m_meetings(border, &m_network, settings.exchange),
+      m_changes(border) {
+  connect(&m_site, &SiteService::noticed, this, &CompanionServices::noticed);
+  connect(&m_updates, &UpdateService::noticed, this, &CompanionServices::noticed);
+  connect(&m_telemetry, &TelemetryService::noticed, this, &CompanionServices::noticed);
+  connect(&m_general, &GeneralSettings::noticed, this, &CompanionServices::noticed);
+  connect(&m_changes, &ChangeNotices::noticed, this, &CompanionServices::noticed);
+  connect(&m_site, &SiteService::changed, &m_updates, &UpdateService::abandon);
+  connect(&m_site, &SiteService::refreshed, &m_updates, &UpdateService::checkQuietly);
+}
+
+void CompanionServices::start() {
+  m_general.apply();
+  m_site.refresh();
+}
+
+void CompanionServices::useSandbox(const QJsonObject& site, const QJsonObject& exchange) {
+  m_meetings.useSandbox(exchange);
+  m_network.useSandbox(site);
+}
+
+void CompanionServices::loseSandbox() {
+  m_meetings.useSandbox({});
+  m_network.loseSandbox();
+}

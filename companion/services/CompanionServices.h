@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QJsonObject>
+#include <QObject>
+#include <QString>
+
+#include "companion/services/ChangeNotices.h"
+#include "companion/services/GeneralSettings.h"
+#include "companion/services/NextMeetings.h"
+#include "companion/services/ServiceNetwork.h"
+#include "companion/services/SiteService.h"
+#include "companion/services/TelemetryService.h"
+#include "companion/services/UpdateService.h"
+
+// Everything that the companion does for the plug-in beside looking for Exchange. Main thread only.
+class CompanionServices final : public QObject {
+  Q_OBJECT
+
+ public:
+  struct Settings {
+    NetworkReach reach = NetworkReach::Sandbox;
+    ExchangeConfiguration exchange;
+    Dictionary record;      // the user's, while no site has given one
+    QString dataFolder;     // for telemetry
+    QString packageFolder;  // for updates
+    AutostartEntry autostart;
+  };
+
+  CompanionServices(Border* border, const Settings& settings);  // the border must outlive this
+
+  // After the plug-in is loaded.
+  void start();
+  void useSandbox(const QJsonObject& site, const QJsonObject& exchange);
+  void loseSandbox();
+
+  ServiceNetwork& network() { return m_network; }
+  SiteService& site() { return m_site; }
+  UpdateService& updates() { return m_updates; }
+  TelemetryService& telemetry() { return m_telemetry; }
+  NextMeetings& meetings() { return m_meetings; }
+
+ Q_SIGNALS:
+  void noticed(const QString& text);  // for the user
+
+ private:
+  ServiceNetwork m_network;
+  SiteService m_site;
+  UpdateService m_updates;
+  TelemetryService m_telemetry;
+  GeneralSettings m_general;
+  NextMeetings m_meetings;
+  ChangeNotices m_changes;
+};

@@ -1,0 +1,43 @@
+#include "companion/services/GeneralSettings.h"
+
+#include "companion/runtime/Border.h"
+#include "host/KZFoundation/KZCommands.h"
+#include "host/KZFoundation/KZConstants.h"
+#include "host/KZUtility/KZPlistFileHandle.h"
+
+GeneralSettings::GeneralSettings(Border* border, const AutostartEntry& autostart) : m_autostart(autostart) {
+  connect(border, &Border::commandSent, this, &GeneralSettings::answer);
+}
+
+void GeneralSettings::apply() {
+  const KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
+  if (!store.isPlistKeyExist(KZLaunchAtLogin)) return;
+  const QString failure = carryOut(store.launchAtLogin());
+  if (!failure.isEmpty()) Q_EMIT noticed(failure);
+}
+
+void GeneralSettings::answer(quint64 command, const Content& content) {
+  if (command != static_cast<quint64>(KZCommand::KZCmdUpdateGeneralSetting)) return;
+  const Dictionary values = content.value_or(Dictionary());
+  if (const auto isWanted = flagValue(values, kLaunchAtLogin)) startAtLogin(*isWanted);
+  if (const auto isWanted = flagValue(values, kEnableOutlookKZPluginValue)) {
+    Q_EMIT noticed(*isWanted ? QStringLiteral("Meetings can be scheduled from Microsoft Outlook once it is "
+                                              "started again.")
+                             : QStringLiteral("Microsoft Outlook schedules no meetings any more once it is "
+                                              "started again."));
+  }
+}
+
+void GeneralSettings::startAtLogin(bool isWanted) {
+  const QString failure = carryOut(isWanted);
+  if (!failure.isEmpty()) return Q_EMIT noticed(failure);
+  Q_EMIT noticed(isWanted ? QStringLiteral("Brenn Mivra Meetings starts after your next login.")
+                          : QStringLiteral("Brenn Mivra Meetings does not start after login any more."));
+}
+
+QString GeneralSettings::carryOut(bool isWanted) const {
+  const QString reason = isWanted ? m_autostart.write() : m_autostart.remove();
+  if (reason.isEmpty()) return {};
+  return QStringLiteral("%1 cannot be changed: %2. Make its folder writable and choose again.")
+      .arg(m_autostart.path(), reason);
+}

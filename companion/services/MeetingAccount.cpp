@@ -1,0 +1,57 @@
+#include "companion/services/MeetingAccount.h"
+
+#include <algorithm>
+
+#include "host/KZFoundation/KZConstants.h"
+#include "host/KZUtility/KZPlistFileHandle.h"
+
+namespace {
+
+constexpr int kMostDays = 31;
+
+// Why nothing is listed from there; null for Outlook.
+QString otherSourceText(const QString& source) {
+  if (source == kKZCalendarIntegrationSourceOutlook) return {};
+  if (source == kKZCalendarIntegrationSourceGoogle) {
+    return QStringLiteral(
+        "A meeting application would list the meetings of your Google calendar here. This companion reads "
+        "Microsoft Outlook only: choose it in Preferences, Meetings.");
+  }
+  if (source == kKZCalendarIntegrationSourceMivRa) {
+    return QStringLiteral(
+        "A meeting application would list the meetings of your meeting service here. This companion reads "
+        "Microsoft Outlook only: choose it in Preferences, Meetings.");
+  }
+  return QStringLiteral(
+      "No calendar is chosen. Choose Microsoft Outlook in Preferences, Meetings, to see your next meetings.");
+}
+
+}  // namespace
+
+MeetingAccount readMeetingAccount() {
+  const Dictionary calendar = KZPlistFileHandle::sharedInstance().calendarIntegration();
+  MeetingAccount account;
+  account.missing = otherSourceText(textValue(calendar, kKZCalendarIntegrationSource));
+  if (!account.missing.isNull()) return account;
+  account.exchange = dictionaryValue(calendar, kKZCalendarIntegrationExchange);
+  account.isOnline = isSet(account.exchange, kKZCalendarIntegrationIsOnline);
+  account.days = std::clamp(textValue(calendar, kKZCalendarIntegrationDays).toInt(), 1, kMostDays);
+  const bool isApplied = account.exchange.contains(kKZCalendarIntegrationExchangeExternalUrl) ||
+                         account.exchange.contains(kKZCalendarIntegrationExchangeInternalUrl);
+  if (!isApplied) {
+    account.missing =
+        QStringLiteral("No account is applied yet. Enter your email address in Preferences, Meetings.");
+  } else if (!flagValue(account.exchange, kKZCalendarIntegrationOnpremiseCredValid).value_or(true)) {
+    // Asking again with what was refused could lock the account.
+    account.missing = QStringLiteral(
+        "Exchange did not accept the saved user name and password. Detect the account again in Preferences, "
+        "Meetings.");
+  }
+  return account;
+}
+
+int announcedMinutes() {
+  const Dictionary settings = KZPlistFileHandle::sharedInstance().meetingNotification();
+  if (!isSet(settings, kKZMeetintNotificationToast)) return 0;
+  return textValue(settings, kKZMeetintNotificationToastMinutes).toInt();
+}

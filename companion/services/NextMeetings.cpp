@@ -1,0 +1,119 @@
+#include "companion/services/NextMeetings.h"
+
+#include <chrono>
+#include <utility>
+
+#include "companion/exchange/SandboxExchange.h"
+#include "companion/runtime/Border.h"
+#include "companion/services/MeetingAccount.h"
+#include "host/KZFoundation/KZCommands.h"
+#include "host/KZFoundation/KZConstants.h"
+#include "host/KZUtility/KZPlistFileHandle.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto kRefreshTime = 5min;
+
+bool isWithin(const ServiceNetwork& network, const Dictionary& exchange) {
+  for (const QString& key :
+       {kKZCalendarIntegrationExchangeExternalUrl, kKZCalendarIntegrationExchangeInternalUrl}) {
+    const QString address = textValue(exchange, key);
+    if (!address.isEmpty() && !network.mayAsk(QUrl(address))) return false;
+  }
+  return true;
+}
+
+bool isResolved(const Crossing& crossing) {
+  return crossing.kind == Crossing::Kind::Notification &&
+         crossing.number == static_cast<quint64>(KZNotify::KZNotifyResolveExchangeDone);
+}
+
+}  // namespace
+
+NextMeetings::NextMeetings(Border* border, ServiceNetwork* network, ExchangeConfiguration exchange)
+    : m_network(network), m_ordinary(std::move(exchange)), m_token(border) {
+  m_soon.setSingleShot(true);
+  m_soon.setInterval(0ms);
+  m_again.setInterval(kRefreshTime);
+  connect(&m_soon, &QTimer::timeout, this, &NextMeetings::ask);
+  connect(&m_again, &QTimer::timeout, this, &NextMeetings::refreshSoon);
+  connect(&m_token, &TokenRequest::failed, this, [this](const QString& reason) { show({}, reason); });
+  connect(&m_token, &TokenRequest::got, this, [this](const QString& token) {
+    const MeetingAccount account = readMeetingAccount();
+    m_exchange->list(account.exchange, token, account.days);
+  });
+  connect(network, &ServiceNetwork::changed, this, &NextMeetings::refreshSoon);
+  useSandbox({});
+  watchStore();
+  watchBorder(border);
+}
+
+void NextMeetings::useSandbox(const QJsonObject& description) {
+  m_token.cancel();
+  m_exchange = std::make_unique<ExchangeMeetings>(withSandbox(m_ordinary, description));
+  connect(m_exchange.get(), &ExchangeMeetings::listed, this, [this](const QList<ExchangeMeeting>& meetings) {
+    show(meetings,
+         meetings.isEmpty() ? QStringLiteral("No meetings in the days that you chose.") : QString());
+  });
+  connect(m_exchange.get(), &ExchangeMeetings::failed, this,
+          [this](const QString& reason) { show({}, reason); });
+  refreshSoon();
+}
+
+void NextMeetings::watchStore() {
+  connect(&KZPlistFileHandle::sharedInstance(), &KZPlistFileHandle::valueChanged, this,
+          [this](const QString& key) {
+            if (key == QLatin1String("calendarIntegration")) refreshSoon();
+          });
+}
+
+void NextMeetings::watchBorder(Border* border) {
+  connect(border, &Border::commandSent, this, [this](quint64 command) {
+    if (command == static_cast<quint64>(KZCommand::KZCmdCalendarIntegrationSourceChanged)) refreshSoon();
+  });
+  // The same account may have been applied with another password.
+  m_observing = border->addObserver([this](const Crossing& crossing) {
+    if (isResolved(crossing)) refreshSoon();
+  });
+}
+
+void NextMeetings::setWatched(bool isWatched) {
+  m_isWatched = isWatched;
+  if (isWatched) {
+    m_again.start();
+    return refreshSoon();
+  }
+  m_again.stop();
+  m_soon.stop();
+}
+
+void NextMeetings::refreshSoon() {
+  if (m_isWatched) m_soon.start();
+}
+
+void NextMeetings::ask() {
+  m_token.cancel();
+  m_exchange->cancel();
+  const MeetingAccount account = readMeetingAccount();
+  if (!account.missing.isEmpty()) return show({}, account.missing);
+  if (!m_network->isReady())
+    return show({}, QStringLiteral("The sandbox is not running yet. Wait a moment."));
+  if (!isWithin(*m_network, account.exchange)) {
+    return show({},
+                QStringLiteral("This account is outside the sandbox. Detect one of the Accounts to try, or "
+                               "start the companion with --network."));
+  }
+  m_isAsking = true;
+  Q_EMIT changed();
+  if (account.isOnline) return m_token.ask(account.exchange);
+  m_exchange->list(account.exchange, {}, account.days);
+}
+
+void NextMeetings::show(const QList<ExchangeMeeting>& meetings, const QString& text) {
+  m_isAsking = false;
+  m_meetings = meetings;
+  m_text = text;
+  Q_EMIT changed();
+}

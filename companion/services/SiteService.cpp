@@ -1,0 +1,157 @@
+#include "companion/services/SiteService.h"
+
+#include <utility>
+
+#include "companion/runtime/Border.h"
+#include "companion/runtime/PreferencesWindow.h"
+#include "host/KZFoundation/KZCommands.h"
+#include "host/KZFoundation/KZConstants.h"
+#include "host/KZUtility/KZApplicationHelper.h"
+#include "host/KZUtility/KZPlistFileHandle.h"
+#include "host/KZUtility/KZUtility.h"
+#include "host/KZUtility/KZWorkspace.h"
+#include "platform/WindowController.h"
+
+namespace {
+
+constexpr int kMeetingSettings = 1;
+constexpr int kJoinByNumber = 2;
+
+KZPlistFileHandle& siteStore() {
+  return KZPlistFileHandle::sharedInstance();
+}
+
+SiteService::Answer readSite(const QString& site, const WebAnswer& answer) {
+  if (siteAddress(site).isEmpty()) {
+    return {
+        .failure =
+            QStringLiteral("\"%1\" is no name of a site. Enter one such as meetings.example.com.").arg(site)};
+  }
+  if (!answer.failure.isEmpty()) return {.failure = answer.failure};
+  const auto said = readMeetingSite(site, answer.body);
+  if (said) return {.site = said};
+  return {.failure = messageOf(WebTrouble::BadAnswer, answer.address.host())};
+}
+
+void askSite(WebFetch& fetch, const QString& site, const SiteService::Done& done) {
+  fetch.start({.address = siteAddress(site).resolved(QUrl(QStringLiteral("companion/site.json")))},
+              [site, done](const WebAnswer& answer) { done(readSite(site, answer)); });
+}
+
+}  // namespace
+
+SiteService::SiteService(Border* border, ServiceNetwork* network, const Dictionary& standIn)
+    : m_border(border), m_network(network), m_standIn(standIn) {
+  connect(border, &Border::commandSent, this, &SiteService::answer);
+  connect(network, &ServiceNetwork::changed, this, &SiteService::refresh);
+}
+
+void SiteService::answer(quint64 command, const Content& content) {
+  if (command == static_cast<quint64>(KZCommand::KZCmdChangeSite)) return Q_EMIT siteWanted();
+  if (command != static_cast<quint64>(KZCommand::KZCmdRequireLink)) return;
+  const int page = content.value_or(Dictionary()).value(QRT_Require_Link_Action_Type).toInt();
+  if (page == kMeetingSettings) openMeetingSettings();
+  if (page == kJoinByNumber) joinByNumber();
+}
+
+Dictionary SiteService::record() const {
+  return m_site && !m_site->preference.isEmpty() ? m_site->preference : m_standIn;
+}
+
+void SiteService::signIn() {
+  m_isSignedIn = true;
+  tellPlugin(record());
+}
+
+void SiteService::tellPlugin(const Dictionary& record) {
+  if (m_isSignedIn) {
+    m_border->setPersonalRoom(textValue(record, QRT_Preference_PMRUrl),
+                              textValue(record, QRT_Preference_PMRSipUrl));
+  }
+  m_border->notify(static_cast<quint32>(KZNotify::KZNotifyGetPreferenceDone),
+                   Dictionary{{kKZResult, kKZSuccess}, {QStringLiteral("kz"), record}});
+}
+
+void SiteService::refresh() {
+  if (!m_network->isReady() || siteStore().siteName().isEmpty()) return m_refresh.reset();
+  m_refresh = m_network->fetch();
+  askSite(*m_refresh, siteStore().siteName(), [this](const Answer& answer) {
+    if (answer.site) take(*answer.site);
+    if (!answer.site) Q_EMIT noticed(answer.failure);
+    Q_EMIT refreshed();
+  });
+}
+
+void SiteService::lookUp(const QString& site, Done done) {
+  m_question = m_network->fetch();
+  askSite(*m_question, site, std::move(done));
+}
+
+void SiteService::take(const MeetingSite& site) {
+  const Dictionary before = record();
+  const bool isMoved = siteStore().siteName() != site.site || siteStore().cdnUrl() != site.downloads;
+  m_site = site;
+  siteStore().setSiteName(site.site);
+  siteStore().setCdnUrl(site.downloads);
+  KZApplicationHelper::sharedInstance().setSiteEnableOutlook(site.isOutlookEnabled.value_or(true));
+  const QString join = site.joinByNumber.toString(QUrl::FullyEncoded);
+  KZUtility::sharedInstance().setKZMemCacheData(kPreferences_JoinByNumberLink,
+                                                join.isEmpty() ? QVariant() : join);
+  if (m_isSignedIn && record() != before) {
+    tellPlugin(record());
+    const Window* window = findPreferencesWindow();
+    // An open window reads the new addresses when it is shown again.
+    if (window && window->isVisible()) {
+      m_border->triggerCommand(static_cast<quint64>(KZCommand::KZCmdShowPreference));
+    }
+  }
+  if (isMoved) Q_EMIT changed();
+}
+
+void SiteService::adopt(const MeetingSite& site) {
+  m_refresh.reset();
+  take(site);
+  showAgain();
+  Q_EMIT noticed(QStringLiteral("The site is %1 now.").arg(site.name.isNull() ? site.site : site.name));
+}
+
+void SiteService::adoptSilent(const QString& site) {
+  m_refresh.reset();
+  take({.site = site});
+  showAgain();
+  Q_EMIT noticed(QStringLiteral("The site is %1 now. It has not answered yet.").arg(site));
+}
+
+void SiteService::showAgain() {
+  // A guest's window shows no site.
+  if (!m_isSignedIn) return;
+  // A window reads the site when it is built.
+  m_border->triggerCommand(static_cast<quint64>(KZCommand::KZCmdDestroyPreference));
+  tellPlugin(record());
+  m_border->triggerCommand(static_cast<quint64>(KZCommand::KZCmdShowPreference),
+                           Dictionary{{kOpenPrefsViewType, kPrefsAccountView}});
+}
+
+void SiteService::openMeetingSettings() {
+  if (!m_site || m_site->meetingSettings.isEmpty()) {
+    return Q_EMIT noticed(
+        QStringLiteral("%1 names no page of meeting settings. Ask your administrator for its address.")
+            .arg(siteStore().siteName()));
+  }
+  if (KZWorkspace::sharedWorkspace().openURL(m_site->meetingSettings)) return;
+  Q_EMIT noticed(QStringLiteral("No browser opened %1. Open the address yourself.")
+                     .arg(m_site->meetingSettings.toDisplayString()));
+}
+
+void SiteService::joinByNumber() {
+  if (!KZUtility::sharedInstance().getKZMemCacheData(kPreferences_JoinByNumberLink).isValid()) {
+    return Q_EMIT noticed(
+        QStringLiteral("%1 names no page for joining by number. Ask your administrator for its address.")
+            .arg(siteStore().siteName()));
+  }
+  // The record replaces what is stored, so that a guest's is told as it is.
+  Dictionary wanted = m_isSignedIn ? record() : siteStore().preferenceInfo();
+  wanted.insert(QStringLiteral("customInfo"),
+                QStringLiteral("{\"AppActionType\":\"%1\"}").arg(AppActionType_JoinByNumber));
+  tellPlugin(wanted);
+}

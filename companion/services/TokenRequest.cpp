@@ -1,0 +1,64 @@
+#include "companion/services/TokenRequest.h"
+
+#include <chrono>
+
+#include "companion/runtime/Border.h"
+#include "host/KZFoundation/KZCommands.h"
+#include "host/KZFoundation/KZConstants.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto kTokenPatience = 60s;
+
+}  // namespace
+
+TokenRequest::TokenRequest(Border* border) : m_border(border) {
+  m_patience.setSingleShot(true);
+  m_patience.setInterval(kTokenPatience);
+  connect(&m_patience, &QTimer::timeout, this, [this] {
+    fail(QStringLiteral("The sign-in of %1 was not renewed in time. Refresh, or detect the account again.")
+             .arg(m_email));
+  });
+  connect(border, &Border::commandSent, this, &TokenRequest::answer);
+}
+
+void TokenRequest::ask(const Dictionary& exchange) {
+  m_email = textValue(exchange, kKZCalendarIntegrationExchangeEmail);
+  m_patience.start();
+  m_border->triggerCommand(
+      static_cast<quint64>(KZCommand::KZCmdGetExchOnlineToken),
+      Dictionary{{kKZCalendarIntegration, Dictionary{{kKZCalendarIntegrationExchange, exchange}}}});
+}
+
+void TokenRequest::cancel() {
+  m_email.clear();
+  m_patience.stop();
+}
+
+void TokenRequest::answer(quint64 command, const Content& content) {
+  if (command != static_cast<quint64>(KZCommand::KZCmdExchOnlineTokenGot) || !m_patience.isActive()) return;
+  const Dictionary values = content.value_or(Dictionary());
+  const Dictionary calendar = dictionaryValue(values, kKZCalendarIntegration);
+  const Dictionary exchange = dictionaryValue(calendar, kKZCalendarIntegrationExchange);
+  // The answer to an earlier question may come late.
+  if (!isEqualText(textValue(exchange, kKZCalendarIntegrationExchangeEmail), m_email)) return;
+  if (isSet(values, QStringLiteral("GetTokenFailed"))) {
+    return fail(QStringLiteral("The sign-in of %1 could not be renewed. Detect the account again to sign in.")
+                    .arg(m_email));
+  }
+  if (isSet(values, QStringLiteral("isTokenExpired"))) return;
+  const QString token = textValue(values, QRT_ListingMeeting_exchOnlineToken);
+  if (token.isEmpty()) {
+    return fail(
+        QStringLiteral("Nobody is signed in as %1. Detect the account again to sign in.").arg(m_email));
+  }
+  cancel();
+  Q_EMIT got(token);
+}
+
+void TokenRequest::fail(const QString& reason) {
+  cancel();
+  Q_EMIT failed(reason);
+}

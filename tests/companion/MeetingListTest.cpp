@@ -1,0 +1,166 @@
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QFile>
+#include <QLabel>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QSignalSpy>
+#include <QStandardPaths>
+#include <QTableWidget>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "companion/app/CompanionExchange.h"
+#include "companion/app/DemoUser.h"
+#include "companion/app/MeetingsView.h"
+#include "companion/app/Sandbox.h"
+#include "companion/runtime/Border.h"
+#include "companion/runtime/PreferencesWindow.h"
+#include "companion/services/CompanionServices.h"
+#include "host/KZFoundation/KZCommands.h"
+#include "host/KZFoundation/KZConstants.h"
+#include "host/KZUtility/KZKeyChainHandle.h"
+#include "host/KZUtility/KZPlistFileHandle.h"
+#include "platform/WindowController.h"
+
+namespace {
+
+// The whole way with the real plug-in: an account is applied in its window, and its meetings are listed. A
+// browser that follows where it is led stands in for the user's.
+class MeetingListTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    if (QStandardPaths::findExecutable("openssl").isEmpty()) GTEST_SKIP() << "openssl is missing";
+    KZPlistFileHandle::sharedInstance().open(folder.path());
+    KZKeyChainHandle::sharedInstance().useStorage(KZKeyChainHandle::Storage::Memory);
+    ASSERT_TRUE(border.loadPlugin(PREFERENCES));
+    QObject::connect(&services, &CompanionServices::noticed, &services,
+                     [this](const QString& text) { notices.append(text); });
+    QObject::connect(&sandbox, &Sandbox::ready, &services,
+                     [this](const QJsonObject& exchanges, const QJsonObject& sites) {
+                       exchange.useSandbox(exchanges);
+                       services.useSandbox(sites, exchanges);
+                     });
+    startSandbox();
+    services.site().signIn();
+    border.triggerCommand(2);
+    window = findPreferencesWindow();
+    ASSERT_NE(window, nullptr);
+    paneItemNamed(*window, "Meetings")->trigger();
+    view.show();
+  }
+
+  void TearDown() override {
+    view.close();
+    border.shutDown();
+    KZPlistFileHandle::sharedInstance().close();
+  }
+
+  // One that signs everybody in without asking.
+  void startSandbox() {
+    QFile script(folder.filePath("sandbox"));
+    ASSERT_TRUE(script.open(QIODevice::WriteOnly));
+    script.write("#!/bin/sh\nexec " KZ_SANDBOX " --give \"$@\"\n");
+    script.close();
+    ASSERT_TRUE(script.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
+    QSignalSpy ready(&sandbox, &Sandbox::ready);
+    sandbox.start(script.fileName());
+    ASSERT_TRUE(ready.wait(20'000));
+  }
+
+  QWidget* shown(const char* name) {
+    QWidget* control = nullptr;
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+          for (QWidget* one : window->findChildren<QWidget*>(name)) {
+            if (one->isVisible() && one->isEnabled()) control = one;
+          }
+          return control != nullptr;
+        },
+        8000))
+        << name;
+    return control;
+  }
+
+  void click(const char* name) {
+    if (auto* button = qobject_cast<QAbstractButton*>(shown(name))) button->click();
+  }
+
+  void type(const char* name, const QString& text) {
+    if (QWidget* field = shown(name)) QTest::keyClicks(field, text);
+  }
+
+  QString listText() const { return view.findChild<QLabel*>("meetingsText")->text(); }
+
+  bool lists(const QString& subject) {
+    return QTest::qWaitFor(
+        [&] { return !view.findChild<QTableWidget*>()->findItems(subject, Qt::MatchExactly).isEmpty(); },
+        8000);
+  }
+
+  const QTemporaryDir folder;
+  QNetworkAccessManager browser;
+  Border border{[this](const QUrl& url) {
+    QNetworkReply* page = browser.get(QNetworkRequest(url));
+    QObject::connect(page, &QNetworkReply::finished, page, &QObject::deleteLater);
+    return true;
+  }};
+  CompanionExchange exchange{&border, NetworkReach::Sandbox, {}};
+  CompanionServices services{&border,
+                             {.reach = NetworkReach::Sandbox,
+                              .exchange = {},
+                              .record = demouser::record(),
+                              .dataFolder = folder.filePath("data"),
+                              .packageFolder = folder.filePath("packages"),
+                              .autostart = AutostartEntry(folder.filePath("autostart"), "/bin/true")}};
+  Sandbox sandbox;
+  MeetingsView view{&services.meetings()};
+  Window* window = nullptr;
+  QStringList notices;
+};
+
+TEST_F(MeetingListTest, ListsAnAccountWithAPasswordUntilItIsRefused) {
+  if (IsSkipped()) return;
+  EXPECT_TRUE(QTest::qWaitFor([this] { return listText().contains("No calendar is chosen"); }, 2000))
+      << listText().toStdString();
+  click("m_outlookRadioBtn");
+  EXPECT_TRUE(QTest::qWaitFor([this] { return listText().contains("Enter your email address"); }, 2000))
+      << listText().toStdString();
+  type("m_emailInputTxt", "onprem@corp.sandbox.example");
+  click("m_detectBtn");
+  type("m_usernameInputTxt", "CORP\\onprem");
+  type("m_passwordInputTxt", "correct horse");
+  click("m_applyBtn");
+  EXPECT_TRUE(lists("Stand-up")) << listText().toStdString();
+
+  KZKeyChainHandle::sharedInstance().commitOutlookUsername("CORP\\onprem", "changed");
+  services.meetings().refresh();
+  EXPECT_TRUE(QTest::qWaitFor([this] { return listText().contains("did not accept the saved"); }, 8000))
+      << listText().toStdString();
+  EXPECT_TRUE(notices.join(u'\n').contains("did not accept the saved"));
+  EXPECT_FALSE(view.findChild<QTableWidget*>()->isVisible());
+}
+
+TEST_F(MeetingListTest, ListsAnOnlineAccountAfterASignInInTheBrowser) {
+  if (IsSkipped()) return;
+  click("m_outlookRadioBtn");
+  type("m_emailInputTxt", "online@cloud.sandbox.example");
+  click("m_detectBtn");
+  EXPECT_TRUE(lists("Stand-up")) << listText().toStdString();
+}
+
+TEST_F(MeetingListTest, NobodyIsAskedWhileNobodyWatches) {
+  if (IsSkipped()) return;
+  QSignalSpy changed(&services.meetings(), &NextMeetings::changed);
+  view.hide();
+  click("m_outlookRadioBtn");
+  border.triggerCommand(18);
+  QTest::qWait(100);
+  EXPECT_TRUE(changed.isEmpty());
+  view.show();
+  EXPECT_TRUE(changed.wait(2000));
+}
+
+}  // namespace

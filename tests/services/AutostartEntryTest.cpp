@@ -1,0 +1,101 @@
+#include "companion/services/AutostartEntry.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "companion/runtime/Border.h"
+#include "companion/services/GeneralSettings.h"
+#include "host/KZFoundation/KZConstants.h"
+#include "host/KZUtility/KZPlistFileHandle.h"
+
+namespace {
+
+class AutostartEntryTest : public testing::Test {
+ protected:
+  // A program that notes its arguments.
+  QString writeProgram(const QString& name) {
+    const QString path = folder.filePath(name);
+    QFile program(path);
+    EXPECT_TRUE(program.open(QIODevice::WriteOnly));
+    program.write("#!/bin/sh\nprintf '%s|' \"$@\" > '" + folder.filePath("started").toUtf8() + "'\n");
+    program.close();
+    program.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    return path;
+  }
+
+  QByteArray startedWith() {
+    QFile started(folder.filePath("started"));
+    return started.open(QIODevice::ReadOnly) ? started.readAll() : QByteArray();
+  }
+
+  const QTemporaryDir folder;
+};
+
+TEST_F(AutostartEntryTest, WhatItWritesStartsTheProgram) {
+  if (QStandardPaths::findExecutable("gio").isEmpty()) GTEST_SKIP() << "gio is missing";
+  const QString program = writeProgram("a $HOME `ls` \"q\" \\ 'program'");
+  const AutostartEntry entry(folder.filePath("made/autostart"), program, {"--state", "/a b/$c\\%u"});
+  ASSERT_EQ(entry.write(), QString());
+  EXPECT_EQ(QProcess::execute("gio", {"launch", entry.path()}), 0);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !startedWith().isEmpty(); }, 5000));
+  EXPECT_EQ(startedWith().toStdString(), "--state|/a b/$c\\%u|");
+}
+
+TEST_F(AutostartEntryTest, IsWrittenOnlyWhenItDiffersAndRemoved) {
+  const AutostartEntry entry(folder.filePath("autostart"), "/usr/bin/companion");
+  ASSERT_EQ(entry.write(), QString());
+  QFile file(entry.path());
+  ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+  const QDateTime old = QDateTime::currentDateTime().addDays(-1);
+  ASSERT_TRUE(file.setFileTime(old, QFileDevice::FileModificationTime));
+  EXPECT_EQ(entry.write(), QString());
+  EXPECT_EQ(QFileInfo(entry.path()).lastModified().toSecsSinceEpoch(), old.toSecsSinceEpoch());
+  file.write("#");
+  file.close();
+  EXPECT_EQ(entry.write(), QString());
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+  EXPECT_EQ(file.readAll(), entry.content());
+  EXPECT_EQ(entry.remove(), QString());
+  EXPECT_EQ(entry.remove(), QString());
+  EXPECT_FALSE(QFile::exists(entry.path()));
+}
+
+TEST_F(AutostartEntryTest, FollowsTheUsersChoiceAlone) {
+  Border border([](const QUrl&) { return true; });
+  const AutostartEntry entry(folder.filePath("autostart"), "/usr/bin/companion");
+  GeneralSettings settings(&border, entry);
+  QStringList notices;
+  QObject::connect(&settings, &GeneralSettings::noticed, &settings,
+                   [&notices](const QString& text) { notices.append(text); });
+  const auto choose = [&border](bool isOn) {
+    Q_EMIT border.commandSent(4, Dictionary{{kLaunchAtLogin, isOn}});
+  };
+  settings.apply();
+  EXPECT_FALSE(QFile::exists(entry.path())) << "nobody has chosen";
+  choose(true);
+  EXPECT_TRUE(QFile::exists(entry.path()));
+  choose(false);
+  EXPECT_FALSE(QFile::exists(entry.path()));
+  KZPlistFileHandle::sharedInstance().setLaunchAtLogin(true);
+  settings.apply();
+  EXPECT_TRUE(QFile::exists(entry.path()));
+  EXPECT_EQ(notices.size(), 2);
+  KZPlistFileHandle::sharedInstance().close();
+
+  QFile inTheWay(folder.filePath("file"));
+  ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+  GeneralSettings stuck(&border, AutostartEntry(folder.filePath("file"), "/usr/bin/companion"));
+  QObject::connect(&stuck, &GeneralSettings::noticed, &stuck,
+                   [&notices](const QString& text) { notices.append(text); });
+  choose(true);
+  EXPECT_TRUE(notices.last().contains("Make its folder writable")) << notices.last().toStdString();
+}
+
+}  // namespace

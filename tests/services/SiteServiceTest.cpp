@@ -1,0 +1,87 @@
+#include "companion/services/SiteService.h"
+
+#include "host/KZFoundation/KZConstants.h"
+#include "host/KZUtility/KZPlistFileHandle.h"
+#include "tests/services/ServicesFixture.h"
+
+namespace {
+
+class SiteServiceTest : public ServicesFixture {
+ protected:
+  void SetUp() override {
+    ServicesFixture::SetUp();
+    QObject::connect(&service, &SiteService::noticed, &service,
+                     [this](const QString& text) { notices.append(text); });
+  }
+
+  SiteService::Answer lookUp(const QString& site) {
+    std::optional<SiteService::Answer> answer;
+    service.lookUp(site, [&answer](const SiteService::Answer& got) { answer = got; });
+    EXPECT_FALSE(answer) << "answered while it was asked";
+    EXPECT_TRUE(waitUntil([&answer] { return answer.has_value(); }));
+    service.cancelLookUp();
+    return answer.value_or(SiteService::Answer());
+  }
+
+  static KZPlistFileHandle& store() { return KZPlistFileHandle::sharedInstance(); }
+
+  SiteService service{&border, &network, {{QRT_Preference_PMRUrl, "https://stand-in.example/ada"}}};
+};
+
+TEST_F(SiteServiceTest, AnAdoptedSiteReachesTheStoreAndThePlugin) {
+  service.signIn();
+  EXPECT_EQ(textValue(store().preferenceInfo(), QRT_Preference_PMRUrl), "https://stand-in.example/ada");
+  const SiteService::Answer answer = lookUp("meetings.sandbox.example");
+  ASSERT_TRUE(answer.site) << answer.failure.toStdString();
+  EXPECT_TRUE(store().siteName().isNull());
+  service.adopt(*answer.site);
+  EXPECT_EQ(store().siteName(), "meetings.sandbox.example");
+  EXPECT_EQ(store().cdnUrl(), "https://downloads.sandbox.example");
+  EXPECT_EQ(textValue(store().preferenceInfo(), QRT_Preference_PMRUrl),
+            "https://meetings.sandbox.example/meet/ada");
+
+  border.triggerCommand(static_cast<quint64>(KZCommand::KZCmdJoinByNumber));
+  ASSERT_EQ(opened.size(), 1);
+  EXPECT_EQ(opened.last().path(), "/join");
+  EXPECT_EQ(textValue(store().preferenceInfo(), QRT_Preference_PMRUrl),
+            "https://meetings.sandbox.example/meet/ada");
+  service.openMeetingSettings();
+  EXPECT_EQ(opened.last().path(), "/settings");
+
+  service.adoptSilent("silent.meetings.sandbox.example");
+  EXPECT_TRUE(store().cdnUrl().isNull());
+  border.triggerCommand(static_cast<quint64>(KZCommand::KZCmdJoinByNumber));
+  EXPECT_EQ(opened.size(), 2);
+  EXPECT_TRUE(notices.last().contains("joining by number")) << notices.last().toStdString();
+}
+
+TEST_F(SiteServiceTest, ASiteThatDoesNotAnswerSaysWhy) {
+  const std::pair<const char*, const char*> faults[] = {
+      {"silent.meetings.sandbox.example", "did not answer in time"},
+      {"error.meetings.sandbox.example", "problem of its own"},
+      {"certificate.meetings.sandbox.example", "belongs to another name"},
+      {"loop.meetings.sandbox.example", "keeps leading"},
+      {"garbage.meetings.sandbox.example", "no usable answer"},
+      {"meetings.example.com", "outside the sandbox"},
+      {"no site", "no name of a site"},
+      {"127.0.0.1:1", "outside the sandbox"},
+  };
+  for (const auto& [site, words] : faults) {
+    const SiteService::Answer answer = lookUp(site);
+    EXPECT_FALSE(answer.site) << site;
+    EXPECT_TRUE(answer.failure.contains(words)) << site << ": " << answer.failure.toStdString();
+  }
+  EXPECT_TRUE(store().siteName().isNull());
+}
+
+TEST_F(SiteServiceTest, AGuestHearsOfNoRecord) {
+  store().setSiteName("meetings.sandbox.example");
+  service.refresh();
+  ASSERT_TRUE(waitUntil([] { return !store().cdnUrl().isNull(); }));
+  EXPECT_TRUE(notifications(KZNotify::KZNotifyGetPreferenceDone).isEmpty());
+  service.joinByNumber();
+  EXPECT_EQ(opened.size(), 1);
+  EXPECT_TRUE(store().preferenceInfo().isEmpty());
+}
+
+}  // namespace
