@@ -8,6 +8,7 @@
 #include <chrono>
 
 #include "companion/app/BorderLogView.h"
+#include "companion/app/LazyPage.h"
 #include "companion/exchange/StandardExchange.h"
 
 namespace {
@@ -49,21 +50,31 @@ Companion::~Companion() {
 
 void Companion::createPages() {
   m_window.addPage(QStringLiteral("Inspector"), new BorderLogView(&m_log));
+  m_window.addPage(QStringLiteral("Try out"), new LazyPage([this] { return createTryOut(); }));
+}
+
+QWidget* Companion::createTryOut() {
   m_tryOut = new TryOutView;
-  m_window.addPage(QStringLiteral("Try out"), m_tryOut);
   connect(m_tryOut, &TryOutView::siteChosen, &m_window, &CompanionWindow::useSite);
+  offer(m_offered);
+  return m_tryOut;
+}
+
+void Companion::offer(const Offered& offered) {
+  m_offered = offered;
+  if (!m_tryOut) return;
+  m_tryOut->setAccounts(offered.accounts);
+  m_tryOut->setSites(offered.sites);
 }
 
 void Companion::connectSandbox() {
   connect(&m_sandbox, &Sandbox::ready, this, [this](const QJsonObject& exchange, const QJsonObject& site) {
     m_exchange->useSandbox(exchange);
-    m_tryOut->setAccounts(sandboxAccounts(exchange));
-    m_tryOut->setSites(sandboxSites(site));
+    offer({sandboxAccounts(exchange), sandboxSites(site)});
   });
   connect(&m_sandbox, &Sandbox::failed, this, [this](const QString& reason) {
     m_exchange->loseSandbox(reason);
-    m_tryOut->setAccounts({});
-    m_tryOut->setSites({});
+    offer({});
   });
 }
 

@@ -38,7 +38,15 @@ class Companion final : public QObject {
   CompanionWindow* window() { return &m_window; }
 
  private:
+  // What the sandbox has to try.
+  struct Offered {
+    QList<SandboxAccount> accounts;
+    QList<SandboxSite> sites;
+  };
+
   void createPages();
+  QWidget* createTryOut();
+  void offer(const Offered& offered);
   void createExchange();
   void connectSandbox();
 
@@ -48,7 +56,8 @@ class Companion final : public QObject {
   DemoServices m_services;
   CompanionWindow m_window;
   const CompanionOptions m_options;
-  TryOutView* m_tryOut = nullptr;  // the window's
+  Offered m_offered;
+  TryOutView* m_tryOut = nullptr;  // the window's, once somebody looks
   std::unique_ptr<CompanionExchange> m_exchange;
   Sandbox m_sandbox;
 };
