@@ -70,6 +70,18 @@ void LookStyle::drawControl(ControlElement element, const QStyleOption* option, 
     case CE_MenuEmptyArea:
       painter->fillRect(option->rect, lookColorsOf(*option).menu);
       return;
+    case CE_TabBarTabShape:
+      if (const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option);
+          tab && lookTabs::isSwitch(*tab)) {
+        return lookTabs::drawTab(*tab, painter);
+      }
+      break;
+    case CE_TabBarTabLabel:
+      if (const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option);
+          tab && lookTabs::isSwitch(*tab)) {
+        return lookTabs::drawLabel(*tab, painter);
+      }
+      break;
     case CE_ToolBar:
       return lookToolbar::drawBar(*option, painter);
     default:

@@ -24,6 +24,9 @@ int LookStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
     case PM_ToolBarItemMargin:
       return lookToolbar::kMargin;
     case PM_ToolBarItemSpacing:
+    case PM_TabBarBaseOverlap:
+    case PM_TabBarTabOverlap:
+    case PM_TabBarTabShiftVertical:
     case PM_ToolBarFrameWidth:
     case PM_ToolBarHandleExtent:
     case PM_ScrollView_ScrollBarSpacing:
@@ -87,6 +90,12 @@ QSize LookStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
     case CT_MenuItem:
       if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option)) {
         return lookPopUp::menuItemSize(*item);
+      }
+      break;
+    case CT_TabBarTab:
+      if (const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option);
+          tab && lookTabs::isSwitch(*tab)) {
+        return lookTabs::tabSize(*tab);
       }
       break;
     case CT_ToolButton:

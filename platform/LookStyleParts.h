@@ -60,6 +60,13 @@ void drawExtension(const QStyleOption& option, QPainter* painter);
 QSize itemSize(const QStyleOptionToolButton& option);
 }  // namespace lookToolbar
 
+namespace lookTabs {
+bool isSwitch(const QStyleOptionTab& option);  // a row of tabs; only those are drawn here
+void drawTab(const QStyleOptionTab& option, QPainter* painter);
+void drawLabel(const QStyleOptionTab& option, QPainter* painter);
+QSize tabSize(const QStyleOptionTab& option);
+}  // namespace lookTabs
+
 namespace lookScrollBar {
 inline constexpr int kExtent = 10;
 void draw(const QStyleOptionSlider& option, QPainter* painter);

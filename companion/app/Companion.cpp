@@ -7,9 +7,10 @@
 #include <QWindow>
 #include <chrono>
 
-#include "companion/app/BorderLogView.h"
 #include "companion/app/LazyPage.h"
 #include "companion/exchange/StandardExchange.h"
+#include "companion/inspector/InspectorView.h"
+#include "host/KZUtility/KZPlistFileHandle.h"
 
 namespace {
 
@@ -34,10 +35,15 @@ QString introduction(CompanionExchange::Reach reach) {
 
 Companion::Companion(const CompanionOptions& options)
     : m_border([](const QUrl& url) { return QDesktopServices::openUrl(url); }),
-      m_logging(m_border.addObserver([this](const Crossing& crossing) { m_log.record(crossing); })),
+      m_logging(m_border.addObserver(
+          [this](const Crossing& crossing) { m_log.record(InspectorEvent::of(crossing)); })),
       m_services(&m_border),
       m_window(&m_border, &m_services),
       m_options(options) {
+  connect(&KZPlistFileHandle::sharedInstance(), &KZPlistFileHandle::valueChanged, &m_log,
+          [this](const QString& key, const QVariant& before, const QVariant& after) {
+            m_log.record(InspectorEvent::ofStoreWrite(key, before, after));
+          });
   m_window.showNotice(introduction(options.reach));
   connect(&m_services, &DemoServices::noticed, &m_window, &CompanionWindow::showNotice);
   connectSandbox();
@@ -49,7 +55,9 @@ Companion::~Companion() {
 }
 
 void Companion::createPages() {
-  m_window.addPage(QStringLiteral("Inspector"), new BorderLogView(&m_log));
+  auto* inspector = new InspectorView(&m_log);
+  connect(inspector, &InspectorView::noticed, &m_window, &CompanionWindow::showNotice);
+  m_window.addPage(QStringLiteral("Inspector"), inspector);
   m_window.addPage(QStringLiteral("Try out"), new LazyPage([this] { return createTryOut(); }));
 }
 

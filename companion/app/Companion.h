@@ -3,13 +3,13 @@
 #include <QString>
 #include <memory>
 
-#include "companion/app/BorderLog.h"
 #include "companion/app/CompanionExchange.h"
 #include "companion/app/CompanionOptions.h"
 #include "companion/app/CompanionWindow.h"
 #include "companion/app/DemoServices.h"
 #include "companion/app/Sandbox.h"
 #include "companion/app/TryOutView.h"
+#include "companion/inspector/InspectorLog.h"
 #include "companion/runtime/Border.h"
 
 // Everything that the companion is made of, put together. Open the settings store and choose the keychain
@@ -51,7 +51,7 @@ class Companion final : public QObject {
   void connectSandbox();
 
   Border m_border;
-  BorderLog m_log;
+  InspectorLog m_log;
   Border::Token m_logging;
   DemoServices m_services;
   CompanionWindow m_window;

@@ -10,10 +10,10 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "companion/app/BorderLog.h"
 #include "companion/app/CompanionExchange.h"
 #include "companion/app/DemoUser.h"
 #include "companion/app/Sandbox.h"
+#include "companion/inspector/InspectorLog.h"
 #include "companion/runtime/Border.h"
 #include "companion/runtime/PreferencesWindow.h"
 #include "host/KZFoundation/KZCommands.h"
@@ -75,13 +75,9 @@ class CompanionExchangeTest : public testing::Test {
 
   QStringList notifications() {
     QStringList shown;
-    for (int row = 0; row < log.rowCount(); ++row) {
-      const QModelIndex name = log.index(row, BorderLog::NameColumn);
-      if (name.data(BorderLog::kindRole).toInt() != static_cast<int>(BorderEvent::Kind::Notification)) {
-        continue;
-      }
-      shown.append(name.data().toString() + u' ' +
-                   name.siblingAtColumn(BorderLog::ContentColumn).data().toString());
+    for (const auto& event : log.events()) {
+      if (event->kind != InspectorEvent::Kind::Notification) continue;
+      shown.append(event->title() + u' ' + event->content);
     }
     return shown;
   }
@@ -93,8 +89,9 @@ class CompanionExchangeTest : public testing::Test {
   }
 
   Border border{[](const QUrl&) { return true; }};
-  BorderLog log;
-  Border::Token logging = border.addObserver([this](const Crossing& crossing) { log.record(crossing); });
+  InspectorLog log;
+  Border::Token logging =
+      border.addObserver([this](const Crossing& crossing) { log.record(InspectorEvent::of(crossing)); });
   CompanionExchange exchange{&border, CompanionExchange::Reach::Sandbox, {}};
   Sandbox sandbox;
   KZNotificationCenter::Token authenticator;

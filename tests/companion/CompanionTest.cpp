@@ -7,60 +7,27 @@
 #include <QTemporaryDir>
 #include <QThread>
 
-#include "companion/app/BorderLogView.h"
 #include "companion/app/DemoUser.h"
+#include "companion/inspector/InspectorLog.h"
 #include "companion/runtime/Border.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 
 namespace {
 
-QStringList namesIn(const BorderLog& log, BorderEvent::Kind kind) {
+QStringList namesIn(const InspectorLog& log, InspectorEvent::Kind kind) {
   QStringList names;
-  for (int row = 0; row < log.rowCount(); ++row) {
-    const QModelIndex at = log.index(row, BorderLog::NameColumn);
-    if (at.data(BorderLog::kindRole).toInt() == static_cast<int>(kind)) names.append(at.data().toString());
+  for (const auto& event : log.events()) {
+    if (event->kind == kind) names.append(event->title());
   }
   return names;
 }
 
-TEST(BorderLog, KeepsTheLatestAndCutsLongTexts) {
-  BorderLog log;
-  for (int number = 0; number < BorderLog::longestLog + 5; ++number) {
-    log.append({BorderEvent::Kind::Trace, QString::number(number), {}});
-  }
-  EXPECT_EQ(log.rowCount(), BorderLog::longestLog);
-  EXPECT_EQ(log.index(0, BorderLog::NameColumn).data().toString().toStdString(), "5");
-  EXPECT_LT(shownContent(Dictionary{{"a", QString(1'000'000, u'x')}}).size(), 5000);
-}
-
-TEST(BorderLog, SecretsAreNeverShownOrCopied) {
-  BorderLog log;
-  BorderLogView view(&log);
-  const Dictionary content = {{QRT_CredentialType, QRT_CredentialTypeUsernamePassword},
-                              {QRT_CredentialContent, "ada:s3cret"}};
-  log.record({.kind = Crossing::Kind::CommandToHost, .number = 27, .content = content});
-  EXPECT_FALSE(view.textToCopy().contains("s3cret")) << qPrintable(view.textToCopy());
-  EXPECT_TRUE(view.textToCopy().contains("KZCmdSinkOutlookAccountCredential"));
-}
-
-TEST(BorderLog, CopiesWhatTheFilterLetsThrough) {
-  BorderLog log;
-  BorderLogView view(&log);
-  log.record({.kind = Crossing::Kind::CommandToPlugin, .number = 2});
-  log.record({.kind = Crossing::Kind::Notification, .number = 8, .content = Dictionary{{"word", "Updates"}}});
-  view.findChild<QLineEdit*>()->setText("updates");
-  EXPECT_EQ(view.textToCopy().count(u'\n'), 1) << qPrintable(view.textToCopy());
-  view.findChild<QLineEdit*>()->setText("\"word\"");
-  EXPECT_TRUE(view.textToCopy().contains("8 KZNotifyCheckForUpdatesDone\t{\"word\":\"Updates\"}"));
-  EXPECT_EQ(view.textToCopy().count(u'\n'), 1);
-}
-
 TEST(Border, TellsWhatCrossesAlsoFromOtherThreads) {
   Border border([](const QUrl&) { return true; });
-  BorderLog log;
+  InspectorLog log;
   const Border::Token logging =
-      border.addObserver([&log](const Crossing& crossing) { log.record(crossing); });
+      border.addObserver([&log](const Crossing& crossing) { log.record(InspectorEvent::of(crossing)); });
   ASSERT_TRUE(border.loadPlugin(FAKE_PLUGIN));
   border.triggerCommand(9, Dictionary{{"a", 1}});
   border.triggerCommand(28);
@@ -72,9 +39,9 @@ TEST(Border, TellsWhatCrossesAlsoFromOtherThreads) {
   EXPECT_TRUE(sent.wait(2000));
   worker->wait();
   QCoreApplication::processEvents();
-  EXPECT_EQ(namesIn(log, BorderEvent::Kind::Trace), QStringList{"FakeCore::handle"});
-  EXPECT_EQ(namesIn(log, BorderEvent::Kind::CommandToHost), QStringList{"29 KZCmdExchOnlineTokenGot"});
-  EXPECT_EQ(namesIn(log, BorderEvent::Kind::Answer), QStringList{"HTTPAuthenticationDatasource"});
+  EXPECT_EQ(namesIn(log, InspectorEvent::Kind::Trace), QStringList{"FakeCore::handle"});
+  EXPECT_EQ(namesIn(log, InspectorEvent::Kind::CommandToHost), QStringList{"29 KZCmdExchOnlineTokenGot"});
+  EXPECT_EQ(namesIn(log, InspectorEvent::Kind::Answer), QStringList{"HTTPAuthenticationDatasource"});
 }
 
 TEST(DemoUser, WhatAGuestEditedSurvivesASignIn) {

@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTabBar>
 #include <QTest>
 #include <QToolButton>
 #include <memory>
@@ -120,6 +121,35 @@ TEST_F(LookStyleTest, KeyboardFocusIsVisibleOnEveryControl) {
     EXPECT_TRUE(hasColorNear(marked, m_window.palette().color(QPalette::Highlight)))
         << control->metaObject()->className();
     EXPECT_NE(plain, marked) << control->metaObject()->className();
+  }
+}
+
+TEST_F(LookStyleTest, APageSwitchShowsWhichPageAndFocusInEveryScheme) {
+  auto* tabs = add(new QTabBar, {20, 100, 300, 26});
+  for (const char* title : {"Inspector", "Meetings", "Telemetry"}) tabs->addTab(title);
+  tabs->setExpanding(false);
+  tabs->setDrawBase(false);
+  tabs->setStyle(lookStyle());
+  show();
+  for (const LookScheme scheme : allSchemes) {
+    QApplication::setPalette(hostPalette(scheme));
+    QApplication::processEvents();
+    tabs->clearFocus();
+    tabs->setCurrentIndex(0);
+    const auto face = [tabs](int at) {
+      return tabs->grab().toImage().pixelColor(tabs->tabRect(at).topLeft() + QPoint(8, 5));
+    };
+    EXPECT_NE(face(0), face(1)) << schemeName(scheme);
+    EXPECT_EQ(face(1), face(2)) << schemeName(scheme);
+    const QImage plain = tabs->grab().toImage();
+    QTest::keyClick(&m_window, Qt::Key_Tab);
+    tabs->setFocus(Qt::TabFocusReason);
+    EXPECT_NE(plain, tabs->grab().toImage()) << schemeName(scheme);
+    QTest::keyClick(tabs, Qt::Key_Right);
+    EXPECT_EQ(tabs->currentIndex(), 1);
+    EXPECT_TRUE(
+        hasColorNear(tabs->grab(tabs->tabRect(1)).toImage(), lookPalette(scheme).color(QPalette::Highlight)))
+        << schemeName(scheme);
   }
 }
 

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QWidget>
+
+#include "companion/inspector/InspectorLog.h"
+
+class DifferenceColors;
+class QLabel;
+class QPlainTextEdit;
+
+// The whole content of one event, to read, select and copy.
+class InspectorDetails final : public QWidget {
+  Q_OBJECT
+
+ public:
+  InspectorDetails();
+
+  void show(const InspectorLog::Event& event);  // nullptr: none
+  const InspectorLog::Event& event() const { return m_event; }
+
+ protected:
+  void changeEvent(QEvent* event) override;
+
+ private:
+  InspectorLog::Event m_event;
+  QLabel* m_title;
+  QPlainTextEdit* m_text;
+  DifferenceColors* m_colors;
+};

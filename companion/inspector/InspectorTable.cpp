@@ -1,0 +1,67 @@
+#include "companion/inspector/InspectorTable.h"
+
+#include <QHeaderView>
+#include <QScrollBar>
+#include <QShortcut>
+#include <algorithm>
+
+#include "companion/inspector/InspectorModel.h"
+
+InspectorTable::InspectorTable(InspectorModel* model) : m_rows(model) {
+  setModel(model);
+  setSelectionBehavior(SelectRows);
+  setShowGrid(false);
+  setWordWrap(false);
+  setTabKeyNavigation(false);
+  setHorizontalScrollMode(ScrollPerPixel);
+  setAccessibleName(QStringLiteral("Events"));
+  setUpColumns();
+  auto* shortcut = new QShortcut(QKeySequence::Copy, this, nullptr, nullptr, Qt::WidgetShortcut);
+  connect(shortcut, &QShortcut::activated, this, &InspectorTable::copyWanted);
+  connect(model, &QAbstractItemModel::rowsAboutToBeRemoved, this, &InspectorTable::noteEnd);
+  connect(model, &QAbstractItemModel::rowsAboutToBeInserted, this, &InspectorTable::noteEnd);
+  connect(model, &QAbstractItemModel::modelAboutToBeReset, this, &InspectorTable::noteEnd);
+  connect(model, &QAbstractItemModel::rowsInserted, this, &InspectorTable::followEnd, Qt::QueuedConnection);
+  connect(model, &QAbstractItemModel::modelReset, this, &InspectorTable::restoreCurrent);
+  connect(model, &QAbstractItemModel::modelReset, this, &InspectorTable::followEnd, Qt::QueuedConnection);
+}
+
+void InspectorTable::setUpColumns() {
+  verticalHeader()->hide();
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+  horizontalHeader()->setHighlightSections(false);
+  horizontalHeader()->setStretchLastSection(true);
+  setColumnWidth(InspectorModel::TimeColumn, 88);
+  setColumnWidth(InspectorModel::KindColumn, 136);
+  setColumnWidth(InspectorModel::NameColumn, 186);
+}
+
+QList<int> InspectorTable::selectedRows() const {
+  QList<int> rows;
+  for (const QModelIndex& index : selectionModel()->selectedRows()) rows.append(index.row());
+  std::ranges::sort(rows);
+  return rows;
+}
+
+void InspectorTable::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  QTableView::currentChanged(current, previous);
+  // While rows go or come anew the current one may be none for a moment.
+  if (current.isValid()) m_currentSerial = m_rows->eventAt(current.row())->serial;
+  Q_EMIT currentEventChanged();
+}
+
+void InspectorTable::noteEnd() {
+  const QScrollBar* bar = verticalScrollBar();
+  m_isAtEnd = bar->value() == bar->maximum();
+}
+
+void InspectorTable::followEnd() {
+  if (m_isAtEnd) scrollToBottom();
+}
+
+void InspectorTable::restoreCurrent() {
+  const int row = m_rows->rowOf(m_currentSerial);
+  if (row < 0) return Q_EMIT currentEventChanged();
+  setCurrentIndex(m_rows->index(row, 0));
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QWidget>
+
+#include "companion/inspector/InspectorModel.h"
+
+class InspectorDetails;
+class InspectorFilterBar;
+class InspectorTable;
+class QLineEdit;
+class QPushButton;
+
+// The live list: filtered by kinds and text, one event in whole beside it; can be paused, copied, cleared and
+// exported.
+class InspectorView final : public QWidget {
+  Q_OBJECT
+
+ public:
+  enum class Scope { Shown, All };
+
+  explicit InspectorView(InspectorLog* log);  // not owned; must outlive the view
+
+  // The selected rows as lines, or every row that is shown when none is selected.
+  QString textToCopy() const;
+  void exportTo(const QString& path, Scope scope);
+
+ Q_SIGNALS:
+  void noticed(const QString& text);  // for the user
+
+ private:
+  QWidget* createBar();
+  QWidget* createLists();
+  QPushButton* createButton(const QString& title, const QString& toolTip, void (InspectorView::*action)());
+  void applyFilter();
+  void togglePause();
+  void showMissed(qsizetype count);
+  void showDetails();
+  void copy();
+  void clear();
+  void askForFile();
+
+  InspectorLog* m_log;
+  InspectorModel* m_model;
+  InspectorFilterBar* m_kinds;
+  QLineEdit* m_text;
+  QPushButton* m_pause = nullptr;
+  InspectorTable* m_table;
+  InspectorDetails* m_details;
+};
