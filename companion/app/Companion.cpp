@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QEventLoop>
+#include <QFileDialog>
 #include <QTimer>
 #include <QWindow>
 #include <chrono>
@@ -37,6 +38,7 @@ Companion::Companion(const CompanionOptions& options)
     : m_border([](const QUrl& url) { return QDesktopServices::openUrl(url); }),
       m_logging(m_border.addObserver(
           [this](const Crossing& crossing) { m_log.record(InspectorEvent::of(crossing)); })),
+      m_recording(&m_border),
       m_services(&m_border),
       m_window(&m_border, &m_services),
       m_options(options) {
@@ -47,9 +49,11 @@ Companion::Companion(const CompanionOptions& options)
   m_window.showNotice(introduction(options.reach));
   connect(&m_services, &DemoServices::noticed, &m_window, &CompanionWindow::showNotice);
   connectSandbox();
+  connectRecording();
 }
 
 Companion::~Companion() {
+  m_recording.stop();
   // What the plug-in's end still tells must find its observers.
   m_border.shutDown();
 }
@@ -84,6 +88,27 @@ void Companion::connectSandbox() {
     m_exchange->loseSandbox(reason);
     offer({});
   });
+}
+
+void Companion::connectRecording() {
+  connect(&m_recording, &Recording::noticed, &m_window, &CompanionWindow::showNotice);
+  connect(&m_recording, &Recording::changed, &m_window, &CompanionWindow::showRecording);
+  connect(&m_window, &CompanionWindow::recordingToggled, this, &Companion::toggleRecording);
+}
+
+void Companion::toggleRecording() {
+  if (m_recording.isRunning()) return m_recording.stop();
+  auto* dialog = new QFileDialog(&m_window, QStringLiteral("Record to"), Recording::suggestedPath());
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  dialog->setAcceptMode(QFileDialog::AcceptSave);
+  dialog->setDefaultSuffix(QStringLiteral("jsonl"));
+  connect(dialog, &QFileDialog::fileSelected, this, &Companion::recordAnew);
+  dialog->open();
+}
+
+// A record must hold how the plug-in came to where it is, so it goes there once more.
+void Companion::recordAnew(const QString& path) {
+  if (m_recording.start(path)) m_window.startOver();
 }
 
 void Companion::comeToFront() {

@@ -7,6 +7,7 @@
 #include "companion/app/CompanionOptions.h"
 #include "companion/app/CompanionWindow.h"
 #include "companion/app/DemoServices.h"
+#include "companion/app/Recording.h"
 #include "companion/app/Sandbox.h"
 #include "companion/app/TryOutView.h"
 #include "companion/inspector/InspectorLog.h"
@@ -29,6 +30,10 @@ class Companion final : public QObject {
   [[nodiscard]] bool loadPlugin(const QString& path);
   const QString& errorText() const { return m_border.errorText(); }
 
+  // Records from now on; call it before loading, so that the record is whole. False when the file cannot be
+  // made.
+  [[nodiscard]] bool record(const QString& path) { return m_recording.start(path); }
+
   // Preferences first, then the sandbox. After a successful load.
   void start(demouser::Variant variant);
 
@@ -49,10 +54,14 @@ class Companion final : public QObject {
   void offer(const Offered& offered);
   void createExchange();
   void connectSandbox();
+  void connectRecording();
+  void toggleRecording();
+  void recordAnew(const QString& path);
 
   Border m_border;
   InspectorLog m_log;
   Border::Token m_logging;
+  Recording m_recording;
   DemoServices m_services;
   CompanionWindow m_window;
   const CompanionOptions m_options;

@@ -23,11 +23,17 @@ class CompanionWindow final : public QWidget {
   void become(demouser::Variant variant);
   void showPreferences();
   void comeToFront();
+  // Tells the plug-in anew who is there and shows the Preferences.
+  void startOver();
+  void showRecording(bool isRunning);
   void showNotice(const QString& text);
   // The window takes the page; the first one is in front.
   void addPage(const QString& title, QWidget* page);
   // The user belongs to another site from now on.
   void useSite(const QString& site);
+
+ Q_SIGNALS:
+  void recordingToggled();
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -54,4 +60,5 @@ class CompanionWindow final : public QWidget {
   QStackedWidget* m_pages = nullptr;
   QLabel* m_identity = nullptr;
   QLabel* m_notice = nullptr;
+  QPushButton* m_recordButton = nullptr;
 };
