@@ -4,8 +4,8 @@
 
 #include <QXmlStreamReader>
 
-#include "companion/network/HttpCall.h"
 #include "companion/exchange/MeetingMessage.h"
+#include "companion/network/HttpCall.h"
 
 namespace {
 
