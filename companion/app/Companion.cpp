@@ -4,6 +4,7 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QEventLoop>
+#include <QFileDialog>
 #include <QStandardPaths>
 #include <QTimer>
 #include <QWindow>
@@ -57,6 +58,7 @@ Companion::Companion(const CompanionOptions& options)
     : m_border([](const QUrl& url) { return QDesktopServices::openUrl(url); }),
       m_logging(m_border.addObserver(
           [this](const Crossing& crossing) { m_log.record(InspectorEvent::of(crossing)); })),
+      m_recording(&m_border),
       m_window(&m_border),
       m_options(options) {
   connect(&KZPlistFileHandle::sharedInstance(), &KZPlistFileHandle::valueChanged, &m_log,
@@ -65,9 +67,11 @@ Companion::Companion(const CompanionOptions& options)
           });
   m_window.showNotice(introduction(options.reach));
   connectSandbox();
+  connectRecording();
 }
 
 Companion::~Companion() {
+  m_recording.stop();
   // What the plug-in's end still tells must find its observers.
   m_border.shutDown();
 }
@@ -96,6 +100,27 @@ void Companion::connectSandbox() {
     m_tryOut->setAccounts({});
     m_tryOut->setSites({});
   });
+}
+
+void Companion::connectRecording() {
+  connect(&m_recording, &Recording::noticed, &m_window, &CompanionWindow::showNotice);
+  connect(&m_recording, &Recording::changed, &m_window, &CompanionWindow::showRecording);
+  connect(&m_window, &CompanionWindow::recordingToggled, this, &Companion::toggleRecording);
+}
+
+void Companion::toggleRecording() {
+  if (m_recording.isRunning()) return m_recording.stop();
+  auto* dialog = new QFileDialog(&m_window, QStringLiteral("Record to"), Recording::suggestedPath());
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  dialog->setAcceptMode(QFileDialog::AcceptSave);
+  dialog->setDefaultSuffix(QStringLiteral("jsonl"));
+  connect(dialog, &QFileDialog::fileSelected, this, &Companion::recordAnew);
+  dialog->open();
+}
+
+// A record must hold how the plug-in came to where it is, so it goes there once more.
+void Companion::recordAnew(const QString& path) {
+  if (m_recording.start(path)) m_window.startOver();
 }
 
 void Companion::comeToFront() {

@@ -6,6 +6,7 @@
 #include "companion/app/CompanionExchange.h"
 #include "companion/app/CompanionOptions.h"
 #include "companion/app/CompanionWindow.h"
+#include "companion/app/Recording.h"
 #include "companion/app/Sandbox.h"
 #include "companion/app/TryOutView.h"
 #include "companion/inspector/InspectorLog.h"
@@ -29,6 +30,10 @@ class Companion final : public QObject {
   [[nodiscard]] bool loadPlugin(const QString& path);
   const QString& errorText() const { return m_border.errorText(); }
 
+  // Records from now on; call it before loading, so that the record is whole. False when the file cannot be
+  // made.
+  [[nodiscard]] bool record(const QString& path) { return m_recording.start(path); }
+
   // Preferences first, then the sandbox. After a successful load.
   void start(demouser::Variant variant);
 
@@ -41,10 +46,14 @@ class Companion final : public QObject {
   void createPages();
   void createServices();
   void connectSandbox();
+  void connectRecording();
+  void toggleRecording();
+  void recordAnew(const QString& path);
 
   Border m_border;
   InspectorLog m_log;
   Border::Token m_logging;
+  Recording m_recording;
   std::unique_ptr<CompanionServices> m_services;  // the pages use them to their end
   CompanionWindow m_window;
   const CompanionOptions m_options;

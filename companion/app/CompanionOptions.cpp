@@ -21,6 +21,7 @@ CompanionOptions CompanionOptions::read(const QStringList& arguments) {
        {"first-frame", "Say when the window is on the screen and when it is ready, and end."},
        {"network", "Look for Exchange in the network too, not in the sandbox alone."},
        {"client-id", "The registration that signs in at Office 365; with --network.", "ID"},
+       {"record", "Write what happens as a record.", "FILE"},
        {"plugin", "The plug-in to load.", "FILE", defaultPluginPath()}});
   parser.process(arguments);
   CompanionOptions options;
@@ -34,6 +35,7 @@ CompanionOptions CompanionOptions::read(const QStringList& arguments) {
   options.language = parser.value("language");
   options.clientId = parser.value("client-id");
   options.outFolder = parser.value("out");
+  options.recordPath = parser.value("record");
   options.stateFolder = parser.value("state");
   options.pluginPath = parser.value("plugin");
   return options;

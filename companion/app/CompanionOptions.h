@@ -16,6 +16,7 @@ struct CompanionOptions {
   QString language;  // empty: the desktop's
   QString clientId;
   QString outFolder;
+  QString recordPath;   // empty: nothing is recorded
   QString stateFolder;  // empty: the user's own
   QString pluginPath;
 

@@ -121,6 +121,9 @@ QWidget* CompanionWindow::createButtons() {
   row->addWidget(createButton("Join by number", "Command 10", &CompanionWindow::joinByNumber));
   row->addWidget(createButton("Close", "Command 3", &CompanionWindow::closePreferences));
   row->addStretch(1);
+  m_recordButton = createButton("Record", "Writes what happens to a file, for a report",
+                                &CompanionWindow::recordingToggled);
+  row->addWidget(m_recordButton);
   return bar;
 }
 
@@ -147,6 +150,15 @@ void CompanionWindow::become(demouser::Variant variant) {
 
 void CompanionWindow::showPreferences() {
   m_border->triggerCommand(number(KZCommand::KZCmdShowPreference), fromApplication());
+}
+
+void CompanionWindow::startOver() {
+  become(m_guest->isChecked() ? demouser::Variant::Guest : demouser::Variant::SignedIn);
+  showPreferences();
+}
+
+void CompanionWindow::showRecording(bool isRunning) {
+  m_recordButton->setText(isRunning ? QStringLiteral("Stop recording") : QStringLiteral("Record"));
 }
 
 void CompanionWindow::comeToFront() {

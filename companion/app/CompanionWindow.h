@@ -28,11 +28,17 @@ class CompanionWindow final : public QWidget {
   void become(demouser::Variant variant);
   void showPreferences();
   void comeToFront();
+  // Tells the plug-in anew who is there and shows the Preferences.
+  void startOver();
+  void showRecording(bool isRunning);
   void showNotice(const QString& text);
   // The window takes the page; the first one is in front.
   void addPage(const QString& title, QWidget* page);
   // Asks the site, and belongs to it from then on.
   void useSite(const QString& site);
+
+ Q_SIGNALS:
+  void recordingToggled();
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -60,4 +66,5 @@ class CompanionWindow final : public QWidget {
   QLabel* m_identity = nullptr;
   QLabel* m_notice = nullptr;
   QPointer<SiteDialog> m_siteDialog;
+  QPushButton* m_recordButton = nullptr;
 };

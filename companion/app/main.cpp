@@ -1,4 +1,3 @@
-#include <QApplication>
 #include <QDir>
 #include <QLocale>
 #include <QStandardPaths>
@@ -8,6 +7,7 @@
 #include "companion/app/Appearance.h"
 #include "companion/app/Companion.h"
 #include "companion/app/DemoTour.h"
+#include "companion/runtime/Application.h"
 #include "companion/runtime/CommandLine.h"
 #include "companion/runtime/QtMessages.h"
 #include "companion/runtime/SingleInstance.h"
@@ -77,6 +77,10 @@ int runFirst(const CompanionOptions& options, const QString& stateFolder, const 
   KZKeyChainHandle::sharedInstance().useStorage(options.isDemo ? KZKeyChainHandle::Storage::Memory
                                                                : KZKeyChainHandle::Storage::System);
   Companion companion(options);
+  if (!options.recordPath.isEmpty() && !companion.record(options.recordPath)) {
+    complain(QStringLiteral("cannot record to %1").arg(options.recordPath));
+    return kUnusable;
+  }
   if (!options.isDemo) companion.showWindow();
   if (options.saysWhenShown) sayWhenShown("first frame");
   if (!companion.loadPlugin(options.pluginPath)) {
@@ -110,7 +114,7 @@ int main(int argc, char** argv) {
   choosePlatform();
   installQtMessageFilter();
   int onlyName = 1;
-  QApplication application(onlyName, argv);
+  Application application(onlyName, argv);
   QApplication::setApplicationName("companion");
   QApplication::setApplicationVersion(KZ_VERSION);
   QGuiApplication::setDesktopFileName("brenn-mivra-companion");

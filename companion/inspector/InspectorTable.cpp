@@ -32,9 +32,9 @@ void InspectorTable::setUpColumns() {
   verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
   horizontalHeader()->setHighlightSections(false);
   horizontalHeader()->setStretchLastSection(true);
-  setColumnWidth(InspectorModel::TimeColumn, 88);
+  setColumnWidth(InspectorModel::TimeColumn, 96);
   setColumnWidth(InspectorModel::KindColumn, 136);
-  setColumnWidth(InspectorModel::NameColumn, 186);
+  setColumnWidth(InspectorModel::NameColumn, 178);
 }
 
 QList<int> InspectorTable::selectedRows() const {

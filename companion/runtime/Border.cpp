@@ -1,17 +1,31 @@
 #include "companion/runtime/Border.h"
 
 #include <QMutexLocker>
+#include <QThread>
 #include <utility>
 
 Border::Border(Opener opener) : m_watch(handlers(std::move(opener))) {
   m_host.setCommandHandler([this](quint64 number, const Content& content) {
     tell({.kind = Crossing::Kind::CommandToHost, .number = number, .content = content});
     Q_EMIT commandSent(number, content);
+    Q_EMIT returned();
   });
 }
 
 Border::~Border() {
   m_host.shutDown();
+}
+
+bool Border::loadPlugin(const QString& path) {
+  Q_EMIT loading();
+  const bool isLoaded = m_host.load(path);
+  Q_EMIT returned();
+  // Observers run in the order in which they came: the plug-in's is before this one.
+  m_challengesEnd = KZNotificationCenter::defaultCenter().addObserver(
+      QStringLiteral("HTTPAuthenticationRequired"), [this](const KZNotification&) {
+        if (QThread::currentThread() == thread()) Q_EMIT returned();
+      });
+  return isLoaded;
 }
 
 Border::Token Border::addObserver(Observer observer) {
@@ -25,11 +39,13 @@ Border::Token Border::addObserver(Observer observer) {
 void Border::triggerCommand(quint64 number, const Content& content) {
   tell({.kind = Crossing::Kind::CommandToPlugin, .number = number, .content = content});
   m_host.triggerCommand(number, content);
+  Q_EMIT returned();
 }
 
 void Border::notify(quint32 index, const Content& content) {
   tell({.kind = Crossing::Kind::Notification, .number = index, .content = content});
   m_host.notify(index, content);
+  Q_EMIT returned();
 }
 
 void Border::setPersonalRoom(const QString& joinUrl, const QString& sipUrl) {
@@ -38,6 +54,7 @@ void Border::setPersonalRoom(const QString& joinUrl, const QString& sipUrl) {
   if (!sipUrl.isNull()) room.insert(QStringLiteral("sip"), sipUrl);
   tell({.kind = Crossing::Kind::PersonalRoom, .content = room});
   m_host.core().setPMRJoinUrl(joinUrl, sipUrl);
+  Q_EMIT returned();
 }
 
 BorderWatch::Handlers Border::handlers(Opener opener) {

@@ -31,7 +31,7 @@ class Border final : public QObject {
   [[nodiscard]] Token addObserver(Observer observer);
 
   // False when the plug-in cannot be loaded; the reason is in `errorText`. Load at most once.
-  [[nodiscard]] bool loadPlugin(const QString& path) { return m_host.load(path); }
+  [[nodiscard]] bool loadPlugin(const QString& path);
   const QString& errorText() const { return m_host.errorText(); }
   void shutDown() { m_host.shutDown(); }
 
@@ -45,6 +45,10 @@ class Border final : public QObject {
  Q_SIGNALS:
   // The plug-in sent a command; the observers have heard of it.
   void commandSent(quint64 number, const Content& content);
+  void loading();
+  // The latest of these that had not returned has had its effect: the loading, a command in either direction,
+  // a notification, a personal room, a challenge on the main thread. They nest.
+  void returned();
 
  private:
   BorderWatch::Handlers handlers(Opener opener);
@@ -54,4 +58,5 @@ class Border final : public QObject {
   std::vector<std::weak_ptr<const Observer>> m_observers;
   PluginHost m_host;
   BorderWatch m_watch;
+  KZNotificationCenter::Token m_challengesEnd;
 };

@@ -3,7 +3,6 @@
 #include <QHash>
 #include <QLocale>
 
-#include "companion/session/ValueCodec.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZApplicationHelper.h"
 #include "host/KZUtility/KZKeyChainHandle.h"
@@ -54,12 +53,12 @@ void setJoinByNumberLink(StepArguments& step) {
 
 }  // namespace
 
-QJsonValue store() {
+QJsonValue store(valuecodec::Form form) {
   const KZPlistFileHandle& plist = KZPlistFileHandle::sharedInstance();
   QJsonObject values;
   for (auto key = storeKeys().begin(); key != storeKeys().end(); ++key) {
     if (plist.isPlistKeyExist(key.value()))
-      values.insert(key.key(), valuecodec::encode(plist.value(key.value())));
+      values.insert(key.key(), valuecodec::encode(plist.value(key.value()), form));
   }
   return values;
 }

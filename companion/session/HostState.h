@@ -3,11 +3,13 @@
 #include <QJsonValue>
 
 #include "companion/session/StepArguments.h"
+#include "companion/session/ValueCodec.h"
 
 // The host's own state as scripts read and write it.
 namespace hoststate {
 
-QJsonValue store();
+// Every value that is set; by default as it is printed.
+QJsonValue store(valuecodec::Form form = valuecodec::Form::Printed);
 QJsonValue keychain();
 QJsonValue host();
 

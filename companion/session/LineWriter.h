@@ -1,10 +1,11 @@
 #pragma once
 
+#include <QByteArray>
 #include <QJsonValue>
+#include <QList>
 #include <QMutex>
 #include <QString>
 #include <cstdio>
-#include <initializer_list>
 #include <utility>
 
 // Prints one JSON object a line, its members in the given order, each line flushed at once. Any thread.
@@ -12,9 +13,12 @@ class LineWriter final {
  public:
   using Member = std::pair<QString, QJsonValue>;
 
+  // The object as it is printed, without the line's end.
+  static QByteArray textOf(const QList<Member>& members);
+
   explicit LineWriter(std::FILE* stream) : m_stream(stream) {}
 
-  void print(std::initializer_list<Member> members);
+  void print(const QList<Member>& members);
 
  private:
   QMutex m_mutex;

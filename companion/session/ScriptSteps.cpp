@@ -1,7 +1,6 @@
 #include "companion/session/ScriptSteps.h"
 
 #include <QPixmap>
-#include <chrono>
 
 #include "companion/runtime/PreferencesWindow.h"
 #include "companion/session/EventPump.h"
@@ -29,8 +28,10 @@ void ScriptSteps::addTo(StepTable* table) {
 
 StepOutcome ScriptSteps::wait(StepArguments& step) {
   const std::chrono::milliseconds time(step.integer("wait", 0, kLongestWaitMs));
-  if (step.isGood()) eventpump::run(time);
-  return step.outcome();
+  if (!step.isGood()) return step.outcome();
+  m_waitedMs += time.count();
+  eventpump::run(time);
+  return StepOutcome::played();
 }
 
 StepOutcome ScriptSteps::echo(StepArguments& step) {

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <atomic>
+#include <chrono>
+
 #include "companion/session/LineWriter.h"
 #include "companion/session/StepTable.h"
 
@@ -10,6 +13,8 @@ class ScriptSteps final {
 
   void addTo(StepTable* table);
 
+  std::chrono::milliseconds waited() const { return std::chrono::milliseconds(m_waitedMs); }
+
  private:
   StepOutcome wait(StepArguments& step);
   StepOutcome echo(StepArguments& step);
@@ -17,4 +22,5 @@ class ScriptSteps final {
   StepOutcome screenshot(StepArguments& step);
 
   LineWriter* m_writer;
+  std::atomic<qint64> m_waitedMs = 0;
 };

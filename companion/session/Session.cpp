@@ -3,26 +3,9 @@
 #include <QStringList>
 #include <algorithm>
 
+#include "companion/session/CrossingLine.h"
 #include "companion/session/EventPump.h"
 #include "companion/session/StepReader.h"
-#include "companion/session/ValueCodec.h"
-#include "host/KZFoundation/KZCommands.h"
-
-namespace {
-
-QString levelName(KZTraceLevel level) {
-  switch (level) {
-    case KZTraceLevel::Info:
-      return QStringLiteral("info");
-    case KZTraceLevel::Warning:
-      return QStringLiteral("warning");
-    case KZTraceLevel::Error:
-      break;
-  }
-  return QStringLiteral("error");
-}
-
-}  // namespace
 
 Session::Session(Border* border, LineWriter* writer, Trace trace)
     : m_writer(writer),
@@ -38,31 +21,11 @@ Session::Session(Border* border, LineWriter* writer, Trace trace)
 }
 
 void Session::print(const Crossing& crossing, Trace trace) {
-  switch (crossing.kind) {
-    case Crossing::Kind::CommandToHost:
-      return m_writer->print({{"sent", static_cast<qint64>(crossing.number)},
-                              {"name", kzCommandName(crossing.number)},
-                              {"content", valuecodec::encodeContent(crossing.content)}});
-    case Crossing::Kind::Answer:
-      if (crossing.poster == m_pluginSteps.poster()) return;
-      return m_writer->print(
-          {{"posted", crossing.name}, {"userInfo", valuecodec::encodeContent(crossing.content)}});
-    case Crossing::Kind::Address:
-      return m_writer->print({{"opened", crossing.text}});
-    case Crossing::Kind::Warning:
-      return m_writer->print(
-          {{"warning", QJsonObject{{"title", crossing.name}, {"message", crossing.text}}}});
-    case Crossing::Kind::Trace:
-      if (trace == Trace::Off) return;
-      return m_writer->print(
-          {{"trace", levelName(crossing.level)}, {"method", crossing.name}, {"text", crossing.text}});
-    // What the script did itself.
-    case Crossing::Kind::CommandToPlugin:
-    case Crossing::Kind::Notification:
-    case Crossing::Kind::PersonalRoom:
-    case Crossing::Kind::Challenge:
-      return;
-  }
+  const bool isOwn = crossing.kind == Crossing::Kind::Answer && crossing.poster == poster();
+  const bool isUnwanted = crossing.kind == Crossing::Kind::Trace && trace == Trace::Off;
+  if (isOwn || isUnwanted) return;
+  const QList<LineWriter::Member> line = crossingLine(crossing);
+  if (!line.isEmpty()) m_writer->print(line);
 }
 
 Session::End Session::play(QIODevice* script) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QIODevice>
+#include <chrono>
 
 #include "companion/runtime/Border.h"
 #include "companion/session/HostSteps.h"
@@ -21,6 +22,11 @@ class Session final {
           Trace trace);  // not owned; load the plug-in before playing
 
   End play(QIODevice* script);
+
+  // The sum of the waits that the script has asked for, the running one included. Any thread.
+  std::chrono::milliseconds waited() const { return m_scriptSteps.waited(); }
+  // The address that marks the notifications which the script posts.
+  const void* poster() const { return m_pluginSteps.poster(); }
 
  private:
   void print(const Crossing& crossing, Trace trace);

@@ -1,7 +1,5 @@
 #include "companion/session/TokenState.h"
 
-#include <QJsonArray>
-
 #include "adal/ADTokenCache.h"
 #include "companion/session/ValueCodec.h"
 
@@ -44,6 +42,20 @@ QJsonValue tokens() {
   QJsonArray items;
   for (const ADTokenCacheItem& item : ADTokenCache::defaultCache().allItems().items)
     items.append(describeItem(item));
+  return items;
+}
+
+QJsonArray settableTokens() {
+  const QDateTime now = QDateTime::currentDateTimeUtc();
+  QJsonArray items;
+  for (const ADTokenCacheItem& item : ADTokenCache::defaultCache().allItems().items) {
+    QJsonObject description = describeItem(item);
+    description.remove(QStringLiteral("expiresOn"));
+    if (item.expiresOn.isValid()) {
+      description.insert("expiresIn", qRound64(static_cast<double>(now.msecsTo(item.expiresOn)) / 1000));
+    }
+    items.append(description);
+  }
   return items;
 }
 

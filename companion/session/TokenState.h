@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QJsonArray>
 #include <QJsonValue>
 
 #include "companion/session/StepArguments.h"
@@ -8,6 +9,8 @@
 namespace tokenstate {
 
 QJsonValue tokens();
+// As `setTokens` takes them; a lifetime is what is left of it, in whole seconds.
+QJsonArray settableTokens();
 StepOutcome setTokens(StepArguments& step);
 
 }  // namespace tokenstate

@@ -1,31 +1,23 @@
 #include "companion/session/UserSteps.h"
 
 #include <QAction>
-#include <QHash>
-#include <QKeySequence>
 #include <QLineEdit>
+#include <optional>
 
 #include "companion/runtime/PreferencesWindow.h"
 #include "companion/session/ControlFinder.h"
+#include "companion/session/KeyNames.h"
 #include "platform/PopUpButton.h"
 #include "platform/WindowController.h"
 
 namespace {
 
-const QHash<QString, Qt::KeyboardModifier>& modifierTable() {
-  // Command is the platform's main modifier, which is Control here.
-  static const QHash<QString, Qt::KeyboardModifier> table = {{"command", Qt::ControlModifier},
-                                                             {"shift", Qt::ShiftModifier},
-                                                             {"option", Qt::AltModifier},
-                                                             {"control", Qt::MetaModifier}};
-  return table;
-}
-
 Qt::KeyboardModifiers readModifiers(StepArguments& step) {
   Qt::KeyboardModifiers modifiers;
   for (const QString& name : step.textsOr("modifiers", {})) {
-    if (!modifierTable().contains(name)) step.fail(QStringLiteral("there is no modifier %1").arg(name));
-    modifiers |= modifierTable().value(name);
+    const auto modifier = keynames::modifierNamed(name);
+    if (!modifier) step.fail(QStringLiteral("there is no modifier %1").arg(name));
+    modifiers |= modifier.value_or(Qt::NoModifier);
   }
   return modifiers;
 }
@@ -36,11 +28,9 @@ Qt::KeyboardModifiers readShift(StepArguments& step) {
 
 int readKey(StepArguments& step) {
   const QString name = step.text("key");
-  const QKeySequence sequence = QKeySequence::fromString(name, QKeySequence::PortableText);
-  const bool isKey = sequence.count() == 1 && sequence[0].key() != Qt::Key_unknown &&
-                     sequence[0].keyboardModifiers() == Qt::NoModifier;
-  if (!isKey) step.fail(QStringLiteral("there is no key %1").arg(name));
-  return isKey ? sequence[0].key() : Qt::Key_unknown;
+  const std::optional<int> key = keynames::keyNamed(name);
+  if (!key) step.fail(QStringLiteral("there is no key %1").arg(name));
+  return key.value_or(Qt::Key_unknown);
 }
 
 bool isCapital(const QString& key) {

@@ -48,17 +48,24 @@ Decoded decodeArray(const QJsonArray& array) {
   return {list, {}};
 }
 
-QJsonValue encodeDictionary(const Dictionary& dictionary) {
+QJsonValue encodeText(const QString& text, Form form) {
+  if (form == Form::Printed) return text;
+  const QString constant = constantNameOf(text);
+  if (!constant.isNull()) return QString(u'@' + constant);
+  return text.startsWith(u'@') ? QString(u'@' + text) : text;
+}
+
+QJsonValue encodeDictionary(const Dictionary& dictionary, Form form) {
   QJsonObject object;
   for (auto entry = dictionary.begin(); entry != dictionary.end(); ++entry) {
-    object.insert(entry.key(), encode(entry.value()));
+    object.insert(entry.key(), encode(entry.value(), form));
   }
   return object;
 }
 
-QJsonValue encodeList(const QVariantList& list) {
+QJsonValue encodeList(const QVariantList& list, Form form) {
   QJsonArray array;
-  for (const QVariant& element : list) array.append(encode(element));
+  for (const QVariant& element : list) array.append(encode(element, form));
   return array;
 }
 
@@ -82,14 +89,16 @@ Decoded decode(const QJsonValue& value) {
   return {value.toVariant(), {}};
 }
 
-QJsonValue encode(const QVariant& value) {
+QJsonValue encode(const QVariant& value, Form form) {
   if (isMissing(value)) return QJsonValue::Null;
   switch (value.typeId()) {
+    case QMetaType::QString:
+      return encodeText(value.toString(), form);
     case QMetaType::QVariantMap:
-      return encodeDictionary(value.toMap());
+      return encodeDictionary(value.toMap(), form);
     case QMetaType::QVariantList:
     case QMetaType::QStringList:
-      return encodeList(value.toList());
+      return encodeList(value.toList(), form);
     case QMetaType::QByteArray:
       return QJsonObject{{kDataKey, QString::fromLatin1(value.toByteArray().toBase64())}};
     case QMetaType::QDateTime:
@@ -99,8 +108,8 @@ QJsonValue encode(const QVariant& value) {
   }
 }
 
-QJsonValue encodeContent(const Content& content) {
-  return content ? encodeDictionary(*content) : QJsonValue::Null;
+QJsonValue encodeContent(const Content& content, Form form) {
+  return content ? encodeDictionary(*content, form) : QJsonValue::Null;
 }
 
 }  // namespace valuecodec

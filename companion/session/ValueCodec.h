@@ -17,7 +17,10 @@ struct [[nodiscard]] Decoded {
 
 Decoded decode(const QJsonValue& value);
 
-QJsonValue encode(const QVariant& value);
-QJsonValue encodeContent(const Content& content);  // null where there is none
+// As results are printed, or so that `decode` makes the same of it again, constants' very objects included.
+enum class Form { Printed, Exact };
+
+QJsonValue encode(const QVariant& value, Form form = Form::Printed);
+QJsonValue encodeContent(const Content& content, Form form = Form::Printed);  // null where there is none
 
 }  // namespace valuecodec

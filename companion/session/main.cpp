@@ -1,68 +1,31 @@
-#include <QApplication>
-#include <QCommandLineParser>
+#include <QBuffer>
 #include <QFile>
+#include <QJsonObject>
 #include <QTemporaryDir>
 #include <cstdio>
 #include <optional>
 
+#include "companion/record/RecordCheck.h"
+#include "companion/record/RecordFile.h"
+#include "companion/record/Recorder.h"
+#include "companion/runtime/Application.h"
 #include "companion/runtime/CommandLine.h"
-#include "companion/runtime/PluginLocation.h"
 #include "companion/runtime/QtMessages.h"
 #include "companion/session/Session.h"
+#include "companion/session/SessionOptions.h"
 #include "companion/session/WriteWatch.h"
 #include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 
 namespace {
 
+constexpr int kPlayed = 0;
+constexpr int kDifferent = 1;
 constexpr int kUnusable = 2;
 constexpr int kPluginFailed = 3;
 
-struct SessionOptions {
-  QString stateFolder;
-  KZKeyChainHandle::Storage keychain = KZKeyChainHandle::Storage::Memory;
-  Session::Trace trace = Session::Trace::Off;
-  bool isPrintingWrites = false;
-  QString pluginPath;
-  QString scriptPath;
-};
-
 void complain(const QString& text) {
   std::fprintf(stderr, "prefs-session: %s\n", qPrintable(text));
-}
-
-// False when the command line cannot be followed; the reason is on standard error.
-bool readOptions(const QStringList& arguments, SessionOptions* options) {
-  QCommandLineParser parser;
-  parser.setApplicationDescription(
-      "Loads the preferences plug-in, plays one step a line, and prints what came back, one JSON object a "
-      "line.\n"
-      "Windows are drawn offscreen unless QT_QPA_PLATFORM says otherwise.");
-  parser.addHelpOption();
-  parser.addOptions(
-      {{"state", "Where the settings store lives; left out, a fresh folder.", "DIR"},
-       {"keychain", "Where secrets are kept: memory (the default) or system.", "KIND", "memory"},
-       {"trace", "Print trace lines too."},
-       {"writes", "Print what is written into the settings store and the keychain."},
-       {"plugin", "The plug-in to load.", "FILE", defaultPluginPath()}});
-  parser.addPositionalArgument("FILE", "The script, \"-\" or left out: standard input.", "[FILE | -]");
-  parser.process(arguments);
-  const QString keychain = parser.value("keychain");
-  if (keychain != "memory" && keychain != "system") {
-    complain(QStringLiteral("--keychain is memory or system, not %1").arg(keychain));
-    return false;
-  }
-  if (parser.positionalArguments().size() > 1) {
-    complain(QStringLiteral("one script at a time"));
-    return false;
-  }
-  options->stateFolder = parser.value("state");
-  if (keychain == "system") options->keychain = KZKeyChainHandle::Storage::System;
-  if (parser.isSet("trace")) options->trace = Session::Trace::On;
-  options->isPrintingWrites = parser.isSet("writes");
-  options->pluginPath = parser.value("plugin");
-  options->scriptPath = parser.positionalArguments().value(0, "-");
-  return true;
 }
 
 bool openScript(const QString& path, QFile* script) {
@@ -71,21 +34,89 @@ bool openScript(const QString& path, QFile* script) {
   return script->open(QIODevice::ReadOnly);
 }
 
-int playSession(const SessionOptions& options, QFile* script) {
+// Where the lines of the record go that is made while a script is played.
+class RecordLines final {
+ public:
+  // False when the record cannot be made.
+  [[nodiscard]] bool open(const QString& path) {
+    if (path.isEmpty()) return true;
+    m_isWritten = m_file.open(path);
+    if (!m_isWritten) complain(QStringLiteral("cannot record to %1: %2").arg(path, m_file.errorText()));
+    return m_isWritten;
+  }
+  void checkAgainst(const QByteArray& record) { m_check.emplace(record); }
+
+  bool isWanted() const { return m_isWritten || m_check; }
+  bool isWhole() const { return m_isWhole; }
+
+  bool take(const QByteArray& line) {
+    if (m_check) m_check->hear(line);
+    if (!m_isWritten || m_file.write(line)) return true;
+    complain(QStringLiteral("the record ends early: %1").arg(m_file.errorText()));
+    m_isWritten = false;
+    m_isWhole = false;
+    return m_check.has_value();
+  }
+
+  // What to exit with after a script that was played to its end.
+  int status(LineWriter* writer) {
+    const auto difference = m_check ? m_check->difference() : std::nullopt;
+    if (!difference) return m_isWhole ? kPlayed : kUnusable;
+    const QJsonValue line =
+        difference->line > 0 ? QJsonValue(difference->line) : QJsonValue(QJsonValue::Null);
+    writer->print(
+        {{"different",
+          QJsonObject{{"line", line}, {"expected", difference->expected}, {"got", difference->got}}}});
+    return kDifferent;
+  }
+
+ private:
+  RecordFile m_file;
+  std::optional<RecordCheck> m_check;
+  bool m_isWritten = false;
+  bool m_isWhole = true;
+};
+
+int playSession(const SessionOptions& options, QIODevice* script, RecordLines* lines) {
   Border border([](const QUrl&) { return true; });
   LineWriter writer(stdout);
   std::optional<WriteWatch> writes;
   if (options.isPrintingWrites) writes.emplace(&writer);
   // What is traced while the plug-in is loaded is heard, what the end traces is not part of the script.
   std::optional<Session> session(std::in_place, &border, &writer, options.trace);
+  std::optional<Recorder> recorder;
+  if (lines->isWanted()) {
+    recorder.emplace(
+        &border, [lines](const QByteArray& line) { return lines->take(line); },
+        Recorder::Options{.clock = [&session] { return session->waited(); },
+                          .hostPoster = session->poster()});
+  }
   if (!border.loadPlugin(options.pluginPath)) {
     complain(border.errorText());
     return kPluginFailed;
   }
   const Session::End end = session->play(script);
+  recorder.reset();
   session.reset();
   writes.reset();
-  return static_cast<int>(end);
+  return end == Session::End::Played ? lines->status(&writer) : static_cast<int>(end);
+}
+
+int runSession(const SessionOptions& options) {
+  QFile file;
+  if (!openScript(options.scriptPath, &file)) {
+    complain(QStringLiteral("cannot read %1: %2").arg(options.scriptPath, file.errorString()));
+    return kUnusable;
+  }
+  RecordLines lines;
+  if (!options.isCheck)
+    return lines.open(options.recordPath) ? playSession(options, &file, &lines) : kUnusable;
+  // What is expected is read before anything is played.
+  QByteArray record = file.readAll();
+  lines.checkAgainst(record);
+  if (!lines.open(options.recordPath)) return kUnusable;
+  QBuffer script(&record);
+  return script.open(QIODevice::ReadOnly) ? playSession(options, &script, &lines) : kUnusable;
 }
 
 }  // namespace
@@ -94,20 +125,19 @@ int main(int argc, char** argv) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   installQtMessageFilter();
   int onlyName = 1;
-  QApplication application(onlyName, argv);
-  QApplication::setQuitOnLastWindowClosed(false);
-  QApplication::setApplicationName("prefs-session");
+  Application application(onlyName, argv);
+  Application::setQuitOnLastWindowClosed(false);
+  Application::setApplicationName("prefs-session");
 
   SessionOptions options;
-  if (!readOptions(argumentsOf(argc, argv), &options)) return kUnusable;
-  QFile script;
-  if (!openScript(options.scriptPath, &script)) {
-    complain(QStringLiteral("cannot read %1: %2").arg(options.scriptPath, script.errorString()));
+  QString reason;
+  if (!options.read(argumentsOf(argc, argv), &reason)) {
+    complain(reason);
     return kUnusable;
   }
   const QTemporaryDir freshFolder;
   KZPlistFileHandle::sharedInstance().open(options.stateFolder.isEmpty() ? freshFolder.path()
                                                                          : options.stateFolder);
   KZKeyChainHandle::sharedInstance().useStorage(options.keychain);
-  return playSession(options, &script);
+  return runSession(options);
 }

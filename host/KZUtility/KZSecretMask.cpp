@@ -39,45 +39,46 @@ bool namesSecret(QStringView text) {
   return false;
 }
 
-QVariant masked(const QVariant& value, int depth);
+QVariant replaced(const QVariant& value, int depth, const KZSecretReplacement& replacement);
 
-QVariant maskedText(const QVariant& value, int depth) {
+QVariant replacedInText(const QVariant& value, int depth, const KZSecretReplacement& replacement) {
   const QString text = value.toString();
   if (!namesSecret(text)) return value;
   const std::optional<QVariant> json = boundedJsonValue(text);
   const QJsonDocument document =
-      json ? QJsonDocument::fromVariant(masked(*json, depth + 1)) : QJsonDocument();
-  if (document.isNull()) return kMask.toString();
+      json ? QJsonDocument::fromVariant(replaced(*json, depth + 1, replacement)) : QJsonDocument();
+  if (document.isNull()) return replacement(value);
   return QString::fromUtf8(document.toJson(QJsonDocument::Compact));
 }
 
-Dictionary maskedDictionary(const Dictionary& dictionary, int depth) {
+Dictionary replacedInDictionary(const Dictionary& dictionary, int depth,
+                                const KZSecretReplacement& replacement) {
   Dictionary result = dictionary;
   for (auto entry = dictionary.begin(); entry != dictionary.end(); ++entry) {
     const bool isFlag = entry->metaType() == QMetaType::fromType<bool>();
     if (isSecretKey(entry.key()) && !isFlag) {
-      result.insert(entry.key(), kMask.toString());
+      result.insert(entry.key(), replacement(*entry));
       continue;
     }
-    const QVariant inner = masked(*entry, depth + 1);
+    const QVariant inner = replaced(*entry, depth + 1, replacement);
     if (inner != *entry) result.insert(entry.key(), inner);
   }
   return result;
 }
 
-QVariant masked(const QVariant& value, int depth) {
+QVariant replaced(const QVariant& value, int depth, const KZSecretReplacement& replacement) {
   if (depth > kDeepestMasked) return kMask.toString();
   switch (value.metaType().id()) {
     case QMetaType::QString:
-      return maskedText(value, depth);
+      return replacedInText(value, depth, replacement);
     case QMetaType::QVariantMap:
-      return maskedDictionary(value.toMap(), depth);
+      return replacedInDictionary(value.toMap(), depth, replacement);
     case QMetaType::QVariantHash:
-      return maskedDictionary(Dictionary(value.toMap()), depth);
+      return replacedInDictionary(Dictionary(value.toMap()), depth, replacement);
     case QMetaType::QVariantList:
     case QMetaType::QStringList: {
       QVariantList list = value.toList();
-      for (QVariant& item : list) item = masked(item, depth + 1);
+      for (QVariant& item : list) item = replaced(item, depth + 1, replacement);
       return list;
     }
     default:
@@ -88,5 +89,9 @@ QVariant masked(const QVariant& value, int depth) {
 }  // namespace
 
 QVariant kzMaskedValue(const QVariant& value) {
-  return masked(value, 0);
+  return kzReplacedValue(value, [](const QVariant&) { return QVariant(kMask.toString()); });
+}
+
+QVariant kzReplacedValue(const QVariant& value, const KZSecretReplacement& replacement) {
+  return replaced(value, 0, replacement);
 }

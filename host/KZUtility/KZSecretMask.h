@@ -2,5 +2,10 @@
 
 #include <QVariant>
 
+#include "host/KZUtility/KZTrace.h"
+
 // The value without its secrets: what stands under a key that holds one is "***". Any thread.
 QVariant kzMaskedValue(const QVariant& value);
+
+// The value with what `replacement` answers for each secret. Any thread.
+QVariant kzReplacedValue(const QVariant& value, const KZSecretReplacement& replacement);

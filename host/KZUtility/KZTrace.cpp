@@ -77,6 +77,10 @@ Dictionary kzMaskSecrets(const Dictionary& dictionary) {
   return kzMaskedValue(dictionary).toMap();
 }
 
+Dictionary kzReplaceSecrets(const Dictionary& dictionary, const KZSecretReplacement& replacement) {
+  return kzReplacedValue(dictionary, replacement).toMap();
+}
+
 namespace kztrace {
 
 QVariant Argument::objectText(const void* object) {

@@ -36,6 +36,14 @@ KZ_HOST_EXPORT void muteKZTrace();
 // and in texts that hold JSON. For hosts that show contents.
 KZ_HOST_EXPORT Dictionary kzMaskSecrets(const Dictionary& dictionary);
 
+// What stands in a secret's place: asked with the value, or with a whole text that names a secret and is no
+// JSON.
+using KZSecretReplacement = std::function<QVariant(const QVariant& secret)>;
+
+// The same with other replacements. For hosts that keep contents.
+KZ_HOST_EXPORT Dictionary kzReplaceSecrets(const Dictionary& dictionary,
+                                           const KZSecretReplacement& replacement);
+
 namespace kztrace {
 
 class KZ_HOST_EXPORT Argument {

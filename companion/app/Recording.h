@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <memory>
+
+#include "companion/record/RecordFile.h"
+#include "companion/record/Recorder.h"
+
+// The record that the companion makes of what happens at its border. Main thread only.
+class Recording final : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit Recording(Border* border) : m_border(border) {}  // not owned, must outlive this
+
+  // A file in the user's documents, named after the present time.
+  static QString suggestedPath();
+
+  bool isRunning() const { return m_recorder != nullptr; }
+  // False when the file cannot be made; the user is told why. What was being recorded before ends.
+  [[nodiscard]] bool start(const QString& path);
+  void stop();
+
+ Q_SIGNALS:
+  void changed(bool isRunning);
+  void noticed(const QString& text);  // for the user
+
+ private:
+  [[nodiscard]] bool take(const QByteArray& line);  // on the thread that wrote it
+  void onFailed();
+
+  Border* m_border;
+  std::unique_ptr<RecordFile> m_file;
+  std::unique_ptr<Recorder> m_recorder;
+};

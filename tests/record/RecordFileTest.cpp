@@ -1,0 +1,50 @@
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFileInfo>
+
+#include "companion/record/RecordFile.h"
+#include "tests/record/PlayedRecord.h"
+
+namespace {
+
+TEST(RecordFile, IsItsUsersAloneAndWhole) {
+  const QTemporaryDir folder;
+  const QString path = folder.filePath("record");
+  QFile old(path);
+  ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+  old.write("old\n");
+  old.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther);
+  old.close();
+  RecordFile file;
+  ASSERT_TRUE(file.open(path));
+  EXPECT_TRUE(file.write("one"));
+  EXPECT_TRUE(file.write("two"));
+  // Still open: nothing waits for the end.
+  EXPECT_EQ(linesOf(path), (QStringList{"one", "two"}));
+  constexpr auto others = QFile::ReadOther | QFile::WriteOther | QFile::ReadGroup | QFile::WriteGroup;
+  EXPECT_FALSE(QFileInfo(path).permissions() & others);
+}
+
+TEST(RecordFile, SaysWhyItTakesNothing) {
+  RecordFile missing;
+  EXPECT_FALSE(missing.open("/nowhere/at/all"));
+  EXPECT_FALSE(missing.errorText().isEmpty());
+  RecordFile full;
+  ASSERT_TRUE(full.open("/dev/full"));
+  EXPECT_FALSE(full.write("one"));
+  EXPECT_FALSE(full.errorText().isEmpty());
+}
+
+TEST(RecordFile, AFailureEndsTheRecordAndNotTheSession) {
+  const QStringList script = {R"({"command": 2})", R"({"echo": "played"})"};
+  const SessionRun full = runSession(script, {"--record", "/dev/full"});
+  EXPECT_EQ(full.status, 2);
+  EXPECT_EQ(full.last().value("echo").toString(), "played");
+  EXPECT_TRUE(full.complaints.contains("ends early")) << qPrintable(full.complaints);
+  const SessionRun unmade = runSession(script, {"--record", "/nowhere/at/all"});
+  EXPECT_EQ(unmade.status, 2);
+  EXPECT_TRUE(unmade.lines.isEmpty());
+}
+
+}  // namespace

@@ -1,0 +1,157 @@
+#include <gtest/gtest.h>
+
+#include <QAbstractItemView>
+#include <QAction>
+#include <QLineEdit>
+#include <QTest>
+#include <QToolBar>
+#include <QWindow>
+
+#include "companion/record/Recorder.h"
+#include "companion/runtime/PreferencesWindow.h"
+#include "companion/session/ControlFinder.h"
+#include "companion/session/EventPump.h"
+#include "host/KZUtility/KZPlistFileHandle.h"
+#include "platform/PopUpButton.h"
+#include "platform/WindowController.h"
+#include "tests/record/PlayedRecord.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+
+// The real window under a real mouse and keyboard, as the display server delivers them.
+class RecordedInput : public testing::Test {
+ protected:
+  void SetUp() override {
+    ASSERT_TRUE(m_border.loadPlugin(FAKE_PLUGIN));
+    m_border.triggerCommand(2);
+    eventpump::settle();
+    window()->controller()->setProperty("crossFade", false);
+    m_lines.clear();
+  }
+  void TearDown() override { KZPlistFileHandle::sharedInstance().close(); }
+
+  static Window* window() { return findPreferencesWindow(); }
+  static QWidget* control(const QString& name) {
+    return ControlFinder(contentViewOf(*window())).find(name).control;
+  }
+
+  static void clickOn(const QWidget* widget, Qt::KeyboardModifiers modifiers = {}) {
+    const QPoint middle = widget->mapTo(widget->window(), widget->rect().center());
+    QTest::mouseClick(widget->window()->windowHandle(), Qt::LeftButton, modifiers, middle);
+    eventpump::settle();
+  }
+  static void press(int key, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::keyClick(window()->windowHandle(), static_cast<Qt::Key>(key), modifiers);
+    eventpump::settle();
+  }
+  static void type(const char* text) {
+    for (const char* key = text; *key; ++key) QTest::keyClick(window()->windowHandle(), *key);
+    eventpump::settle();
+  }
+  static void showPane(const char* label) {
+    clickOn(toolBarOf(*window())->widgetForAction(paneItemNamed(*window(), label)));
+  }
+
+  QString steps() const { return stepsIn(m_lines).join(u'\n'); }
+
+  Border m_border{[](const QUrl&) { return true; }};
+  QStringList m_lines;
+  Recorder m_recorder{&m_border,
+                      [this](const QByteArray& line) {
+                        m_lines.append(QString::fromUtf8(line));
+                        return true;
+                      },
+                      {.clock = [] { return 0ms; }}};
+};
+
+TEST_F(RecordedInput, ClicksAndPanes) {
+  clickOn(control("m_startCheckingBtn"));
+  showPane("Notifications");
+  clickOn(control("m_checkbox"), Qt::ShiftModifier);
+  // Pressed here and released there is no click.
+  const QWidget* box = control("m_checkbox");
+  const QPoint middle = box->mapTo(window(), box->rect().center());
+  QTest::mousePress(window()->windowHandle(), Qt::LeftButton, {}, middle);
+  QTest::mouseRelease(window()->windowHandle(), Qt::LeftButton, {}, {2, 2});
+  EXPECT_EQ(steps().toStdString(),
+            "{\"click\":\"m_startCheckingBtn\"}\n"
+            "{\"pane\":\"Notifications\"}\n"
+            "{\"click\":\"m_checkbox\",\"shift\":true}");
+}
+
+TEST_F(RecordedInput, ATextIsOneStepBeforeWhatFollows) {
+  showPane("Meetings");
+  clickOn(control("m_outlookRadioBtn"));
+  m_lines.clear();
+  clickOn(control("m_emailInputTxt"));
+  type("ann@brenn.examplf");
+  press(Qt::Key_Backspace);
+  type("e");
+  EXPECT_FALSE(steps().contains("ann@"));
+  press(Qt::Key_Return);
+  m_border.notify(99, {});
+  EXPECT_EQ(steps().toStdString(),
+            "{\"click\":\"m_emailInputTxt\"}\n"
+            "{\"type\":\"m_emailInputTxt\",\"text\":\"ann@brenn.example\"}\n"
+            "{\"key\":\"Return\",\"in\":\"m_emailInputTxt\"}\n"
+            "{\"notify\":99}");
+  const qsizetype returned = m_lines.indexOf(R"({"key":"Return","in":"m_emailInputTxt"})");
+  EXPECT_TRUE(m_lines.value(returned + 1).startsWith("# <- {\"sent\":15")) << qPrintable(m_lines.join(u'\n'));
+}
+
+TEST_F(RecordedInput, AChoiceIsOneStepByMouseAndByKeyboard) {
+  showPane("Notifications");
+  m_lines.clear();
+  auto* button = qobject_cast<PopUpButton*>(control("m_minutesBtn"));
+  ASSERT_TRUE(button);
+  clickOn(button);
+  const QAbstractItemView* list = button->view();
+  ASSERT_TRUE(list->isVisible());
+  // A list that has just opened takes no release for a while, lest the opening click chooses.
+  QTest::qWait(QApplication::doubleClickInterval() + 50);
+  const QPoint first =
+      list->viewport()->mapTo(list->window(), list->visualRect(list->model()->index(0, 0)).center());
+  QTest::mouseClick(list->window()->windowHandle(), Qt::LeftButton, {}, first);
+  eventpump::settle();
+  const std::string chosen =
+      "{\"choose\":\"m_minutesBtn\",\"item\":\"" + button->title().toStdString() + "\"}";
+  EXPECT_EQ(steps().toStdString(), chosen);
+  m_lines.clear();
+  press(Qt::Key_Down);
+  EXPECT_EQ(steps().toStdString(),
+            "{\"choose\":\"m_minutesBtn\",\"item\":\"" + button->title().toStdString() + "\"}");
+}
+
+TEST_F(RecordedInput, KeysThatAreNoText) {
+  press(Qt::Key_Tab);
+  press(Qt::Key_W, Qt::ControlModifier);
+  EXPECT_TRUE(stepsIn(m_lines).value(0).startsWith("{\"key\":\"Tab\"")) << qPrintable(steps());
+  EXPECT_TRUE(stepsIn(m_lines).value(1).startsWith("{\"key\":\"w\"")) << qPrintable(steps());
+  EXPECT_TRUE(steps().endsWith("\"modifiers\":[\"command\"]}")) << qPrintable(steps());
+  EXPECT_FALSE(window()->isVisible());
+}
+
+TEST_F(RecordedInput, TheUserClosesButACommandDoesNot) {
+  window()->windowHandle()->close();
+  eventpump::settle();
+  EXPECT_EQ(steps().toStdString(), "{\"close\":true}");
+  m_border.triggerCommand(2);
+  eventpump::settle();
+  m_lines.clear();
+  m_border.triggerCommand(3);
+  eventpump::settle();
+  EXPECT_EQ(steps().toStdString(), "{\"command\":3}");
+}
+
+TEST_F(RecordedInput, AnotherWindowIsNoneOfItsBusiness) {
+  QLineEdit field;
+  field.show();
+  QTest::keyClick(field.windowHandle(), Qt::Key_A);
+  clickOn(&field);
+  EXPECT_FALSE(steps().contains("\"key\"")) << qPrintable(steps());
+  EXPECT_FALSE(steps().contains("\"click\"")) << qPrintable(steps());
+}
+
+}  // namespace
