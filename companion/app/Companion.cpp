@@ -10,6 +10,7 @@
 #include <QWindow>
 #include <chrono>
 
+#include "companion/app/LazyPage.h"
 #include "companion/app/MeetingsView.h"
 #include "companion/app/TelemetryView.h"
 #include "companion/exchange/StandardExchange.h"
@@ -78,27 +79,42 @@ Companion::~Companion() {
 
 void Companion::createPages() {
   m_window.addPage(QStringLiteral("Meetings"), new MeetingsView(&m_services->meetings()));
-  m_window.addPage(QStringLiteral("Telemetry"), new TelemetryView(&m_services->telemetry()));
+  m_window.addPage(QStringLiteral("Try out"), new LazyPage([this] { return createTryOut(); }));
+  m_window.addPage(QStringLiteral("Inspector"), new LazyPage([this] { return createInspector(); }));
+  m_window.addPage(QStringLiteral("Telemetry"),
+                   new LazyPage([this] { return new TelemetryView(&m_services->telemetry()); }));
+}
+
+QWidget* Companion::createInspector() {
   auto* inspector = new InspectorView(&m_log);
   connect(inspector, &InspectorView::noticed, &m_window, &CompanionWindow::showNotice);
-  m_window.addPage(QStringLiteral("Inspector"), inspector);
+  return inspector;
+}
+
+QWidget* Companion::createTryOut() {
   m_tryOut = new TryOutView;
-  m_window.addPage(QStringLiteral("Try out"), m_tryOut);
   connect(m_tryOut, &TryOutView::siteChosen, &m_window, &CompanionWindow::useSite);
+  offer(m_offered);
+  return m_tryOut;
+}
+
+void Companion::offer(const Offered& offered) {
+  m_offered = offered;
+  if (!m_tryOut) return;
+  m_tryOut->setAccounts(offered.accounts);
+  m_tryOut->setSites(offered.sites);
 }
 
 void Companion::connectSandbox() {
   connect(&m_sandbox, &Sandbox::ready, this, [this](const QJsonObject& exchange, const QJsonObject& site) {
     m_exchange->useSandbox(exchange);
     m_services->useSandbox(site, exchange);
-    m_tryOut->setAccounts(sandboxAccounts(exchange));
-    m_tryOut->setSites(sandboxSites(site));
+    offer({sandboxAccounts(exchange), sandboxSites(site)});
   });
   connect(&m_sandbox, &Sandbox::failed, this, [this](const QString& reason) {
     m_exchange->loseSandbox(reason);
     m_services->loseSandbox();
-    m_tryOut->setAccounts({});
-    m_tryOut->setSites({});
+    offer({});
   });
 }
 

@@ -43,8 +43,17 @@ class Companion final : public QObject {
   CompanionWindow* window() { return &m_window; }
 
  private:
+  // What the sandbox has to try.
+  struct Offered {
+    QList<SandboxAccount> accounts;
+    QList<SandboxSite> sites;
+  };
+
   void createPages();
   void createServices();
+  QWidget* createTryOut();
+  QWidget* createInspector();
+  void offer(const Offered& offered);
   void connectSandbox();
   void connectRecording();
   void toggleRecording();
@@ -57,7 +66,8 @@ class Companion final : public QObject {
   std::unique_ptr<CompanionServices> m_services;  // the pages use them to their end
   CompanionWindow m_window;
   const CompanionOptions m_options;
-  TryOutView* m_tryOut = nullptr;  // the window's
+  Offered m_offered;
+  TryOutView* m_tryOut = nullptr;  // the window's, once somebody looks
   std::unique_ptr<CompanionExchange> m_exchange;
   Sandbox m_sandbox;
 };

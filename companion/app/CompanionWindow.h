@@ -65,6 +65,6 @@ class CompanionWindow final : public QWidget {
   QStackedWidget* m_pages = nullptr;
   QLabel* m_identity = nullptr;
   QLabel* m_notice = nullptr;
-  QPointer<SiteDialog> m_siteDialog;
   QPushButton* m_recordButton = nullptr;
+  QPointer<SiteDialog> m_siteDialog;
 };

@@ -4,6 +4,7 @@
 
 class PopUpButton;
 class QAction;
+class QObject;
 class QWidget;
 class QWindow;
 class Window;

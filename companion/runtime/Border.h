@@ -45,7 +45,7 @@ class Border final : public QObject {
  Q_SIGNALS:
   // The plug-in sent a command; the observers have heard of it.
   void commandSent(quint64 number, const Content& content);
-  void loading();
+  void loading();  // the plug-in is about to be loaded
   // The latest of these that had not returned has had its effect: the loading, a command in either direction,
   // a notification, a personal room, a challenge on the main thread. They nest.
   void returned();

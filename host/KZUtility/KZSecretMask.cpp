@@ -8,6 +8,8 @@
 
 namespace {
 
+using Replacement = std::function<QVariant(const QVariant&)>;
+
 constexpr int kDeepestMasked = 64;
 constexpr QStringView kMask = u"***";
 constexpr QStringView kSecretKeys[] = {u"QRT_CredentialContent", u"code", u"code_verifier", u"client_secret"};
@@ -39,9 +41,9 @@ bool namesSecret(QStringView text) {
   return false;
 }
 
-QVariant replaced(const QVariant& value, int depth, const KZSecretReplacement& replacement);
+QVariant replaced(const QVariant& value, int depth, const Replacement& replacement);
 
-QVariant replacedInText(const QVariant& value, int depth, const KZSecretReplacement& replacement) {
+QVariant replacedInText(const QVariant& value, int depth, const Replacement& replacement) {
   const QString text = value.toString();
   if (!namesSecret(text)) return value;
   const std::optional<QVariant> json = boundedJsonValue(text);
@@ -51,8 +53,7 @@ QVariant replacedInText(const QVariant& value, int depth, const KZSecretReplacem
   return QString::fromUtf8(document.toJson(QJsonDocument::Compact));
 }
 
-Dictionary replacedInDictionary(const Dictionary& dictionary, int depth,
-                                const KZSecretReplacement& replacement) {
+Dictionary replacedInDictionary(const Dictionary& dictionary, int depth, const Replacement& replacement) {
   Dictionary result = dictionary;
   for (auto entry = dictionary.begin(); entry != dictionary.end(); ++entry) {
     const bool isFlag = entry->metaType() == QMetaType::fromType<bool>();
@@ -66,7 +67,7 @@ Dictionary replacedInDictionary(const Dictionary& dictionary, int depth,
   return result;
 }
 
-QVariant replaced(const QVariant& value, int depth, const KZSecretReplacement& replacement) {
+QVariant replaced(const QVariant& value, int depth, const Replacement& replacement) {
   if (depth > kDeepestMasked) return kMask.toString();
   switch (value.metaType().id()) {
     case QMetaType::QString:
@@ -92,6 +93,6 @@ QVariant kzMaskedValue(const QVariant& value) {
   return kzReplacedValue(value, [](const QVariant&) { return QVariant(kMask.toString()); });
 }
 
-QVariant kzReplacedValue(const QVariant& value, const KZSecretReplacement& replacement) {
+QVariant kzReplacedValue(const QVariant& value, const std::function<QVariant(const QVariant&)>& replacement) {
   return replaced(value, 0, replacement);
 }
