@@ -33,7 +33,6 @@ class CompanionServices final : public QObject {
   void useSandbox(const QJsonObject& site, const QJsonObject& exchange);
   void loseSandbox();
 
-  ServiceNetwork& network() { return m_network; }
   SiteService& site() { return m_site; }
   UpdateService& updates() { return m_updates; }
   TelemetryService& telemetry() { return m_telemetry; }
