@@ -33,7 +33,10 @@ QString introduction(NetworkReach reach) {
   return QStringLiteral("Meeting sites and Exchange are played by a sandbox on this computer.");
 }
 
-QString ownFolder(QStandardPaths::StandardLocation location, const QString& name) {
+// Beside the settings where those have a folder of their own.
+QString ownFolder(const CompanionOptions& options, QStandardPaths::StandardLocation location,
+                  const QString& name) {
+  if (!options.stateFolder.isEmpty()) return QDir(options.stateFolder).absoluteFilePath(name);
   return QDir(QStandardPaths::writableLocation(location))
       .filePath(QStringLiteral("brenn-mivra-meetings/") + name);
 }
@@ -47,8 +50,8 @@ CompanionServices::Settings serviceSettings(const CompanionOptions& options,
   return {.reach = options.reach,
           .exchange = exchange,
           .record = demouser::record(),
-          .dataFolder = ownFolder(QStandardPaths::GenericDataLocation, QStringLiteral("telemetry")),
-          .packageFolder = ownFolder(QStandardPaths::GenericCacheLocation, QStringLiteral("updates")),
+          .dataFolder = ownFolder(options, QStandardPaths::GenericDataLocation, QStringLiteral("telemetry")),
+          .packageFolder = ownFolder(options, QStandardPaths::GenericCacheLocation, QStringLiteral("updates")),
           .autostart = AutostartEntry(AutostartEntry::userFolder(), QCoreApplication::applicationFilePath(),
                                       arguments)};
 }

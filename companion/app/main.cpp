@@ -33,7 +33,8 @@ void choosePlatform() {
   qputenv("QT_QPA_PLATFORM", platforms);
 }
 
-QString defaultStateFolder() {
+QString stateFolderOf(const CompanionOptions& options) {
+  if (!options.stateFolder.isEmpty()) return options.stateFolder;
   return QDir(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation))
       .filePath("brenn-mivra-meetings");
 }
@@ -72,8 +73,8 @@ void sayWhenShown(const char* line) {
   std::fflush(stdout);
 }
 
-int runFirst(const CompanionOptions& options, const QString& stateFolder, const SingleInstance& instance) {
-  KZPlistFileHandle::sharedInstance().open(stateFolder);
+int runFirst(const CompanionOptions& options, const SingleInstance& instance) {
+  KZPlistFileHandle::sharedInstance().open(stateFolderOf(options));
   KZKeyChainHandle::sharedInstance().useStorage(options.isDemo ? KZKeyChainHandle::Storage::Memory
                                                                : KZKeyChainHandle::Storage::System);
   Companion companion(options);
@@ -95,14 +96,13 @@ int runFirst(const CompanionOptions& options, const QString& stateFolder, const 
   return 0;
 }
 
-int runCompanion(const CompanionOptions& options) {
+int runCompanion(CompanionOptions options) {
   const QTemporaryDir demoState;
-  QString stateFolder = options.stateFolder;
-  if (stateFolder.isEmpty()) stateFolder = options.isDemo ? demoState.path() : defaultStateFolder();
-  SingleInstance instance(stateFolder);
+  if (options.isDemo && options.stateFolder.isEmpty()) options.stateFolder = demoState.path();
+  SingleInstance instance(stateFolderOf(options));
   const SingleInstance::Claim claim = instance.claim();
   if (claim != SingleInstance::Claim::First) return leaveToTheFirst(claim);
-  return runFirst(options, stateFolder, instance);
+  return runFirst(options, instance);
 }
 
 }  // namespace

@@ -58,7 +58,7 @@ TEST_F(CompanionRecord, OfAnExchangeAccountPlaysAgain) {
     type("m_emailInputTxt", "ann@brenn.example");
     click("m_detectBtn");
     eventpump::run(200ms);
-    companion.window()->useSite("other.example.com");
+    KZPlistFileHandle::sharedInstance().setSiteName("other.example.com");
     EXPECT_EQ(askForCredential(CredentialPurpose::Discovery).password, QString());
   }
   const QStringList lines = linesOf(recordPath());
