@@ -42,8 +42,8 @@ void become(Variant variant) {
 }
 
 Dictionary record() {
-  return {{QRT_Preference_PMRUrl, QStringLiteral("https://meetings.example.com/meet/ada")},
-          {QRT_Preference_PMRSipUrl, QStringLiteral("ada@meetings.example.com")},
+  return {{QRT_Preference_PMRUrl, QStringLiteral("https://meetings.sandbox.example/meet/ada")},
+          {QRT_Preference_PMRSipUrl, QStringLiteral("ada@meetings.sandbox.example")},
           {QStringLiteral("disableCalendarIntegration"), true},
           {QStringLiteral("enableListGoogleCalendarMeeting"), true}};
 }
