@@ -76,8 +76,13 @@ void SiteService::refresh() {
   if (!m_network->isReady() || siteStore().siteName().isEmpty()) return m_refresh.reset();
   m_refresh = m_network->fetch();
   askSite(*m_refresh, siteStore().siteName(), [this](const Answer& answer) {
-    if (answer.site) take(*answer.site);
-    if (!answer.site) Q_EMIT noticed(answer.failure);
+    if (answer.site) {
+      const Dictionary before = record();
+      take(*answer.site);
+      if (m_isSignedIn && record() != before) showRecordAnew();
+    } else {
+      Q_EMIT noticed(answer.failure);
+    }
     Q_EMIT refreshed();
   });
 }
@@ -88,7 +93,6 @@ void SiteService::lookUp(const QString& site, Done done) {
 }
 
 void SiteService::take(const MeetingSite& site) {
-  const Dictionary before = record();
   const bool isMoved = siteStore().siteName() != site.site || siteStore().cdnUrl() != site.downloads;
   m_site = site;
   siteStore().setSiteName(site.site);
@@ -97,14 +101,6 @@ void SiteService::take(const MeetingSite& site) {
   const QString join = site.joinByNumber.toString(QUrl::FullyEncoded);
   KZUtility::sharedInstance().setKZMemCacheData(kPreferences_JoinByNumberLink,
                                                 join.isEmpty() ? QVariant() : join);
-  if (m_isSignedIn && record() != before) {
-    tellPlugin(record());
-    const Window* window = findPreferencesWindow();
-    // An open window reads the new addresses when it is shown again.
-    if (window && window->isVisible()) {
-      m_border->triggerCommand(static_cast<quint64>(KZCommand::KZCmdShowPreference));
-    }
-  }
   if (isMoved) Q_EMIT changed();
 }
 
@@ -120,6 +116,16 @@ void SiteService::adoptSilent(const QString& site) {
   take({.site = site});
   showAgain();
   Q_EMIT noticed(QStringLiteral("The site is %1 now. It has not answered yet.").arg(site));
+}
+
+// A window reads the record when it is built. One that the user works in is not taken away.
+void SiteService::showRecordAnew() {
+  const Window* window = findPreferencesWindow();
+  const bool isInUse = window && window->isVisible();
+  if (!isInUse) m_border->triggerCommand(static_cast<quint64>(KZCommand::KZCmdDestroyPreference));
+  tellPlugin(record());
+  if (!isInUse) return;
+  Q_EMIT noticed(QStringLiteral("Your site has news for Preferences. Press Close, then Preferences."));
 }
 
 void SiteService::showAgain() {

@@ -56,6 +56,7 @@ class SiteService final : public QObject {
   void answer(quint64 command, const Content& content);
   void take(const MeetingSite& site);
   void tellPlugin(const Dictionary& record);
+  void showRecordAnew();
   void showAgain();
   Dictionary record() const;
 
