@@ -44,8 +44,8 @@ void become(Variant variant) {
 Dictionary record() {
   Dictionary record = KZPlistFileHandle::sharedInstance().preferenceInfo();
   if (record.isEmpty()) {
-    record = {{QRT_Preference_PMRUrl, QStringLiteral("https://meetings.sandbox.example/meet/ada")},
-              {QRT_Preference_PMRSipUrl, QStringLiteral("ada@meetings.sandbox.example")}};
+    record = {{QRT_Preference_PMRUrl, QStringLiteral("https://sandbox.example/meet/ada")},
+              {QRT_Preference_PMRSipUrl, QStringLiteral("ada@sandbox.example")}};
   }
   record.insert(QStringLiteral("disableCalendarIntegration"), true);
   record.insert(QStringLiteral("enableListGoogleCalendarMeeting"), true);
