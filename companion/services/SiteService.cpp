@@ -33,6 +33,13 @@ SiteService::Answer readSite(const QString& site, const WebAnswer& answer) {
   return {.failure = messageOf(WebTrouble::BadAnswer, answer.address.host())};
 }
 
+// `pattern` is a sentence about the site.
+QString siteNotice(const QString& pattern) {
+  const QString site = siteStore().siteName();
+  if (site.isEmpty()) return QStringLiteral("No site is known. Choose one in Preferences, Account.");
+  return pattern.arg(site);
+}
+
 void askSite(WebFetch& fetch, const QString& site, const SiteService::Done& done) {
   fetch.start({.address = siteAddress(site).resolved(QUrl(QStringLiteral("companion/site.json")))},
               [site, done](const WebAnswer& answer) { done(readSite(site, answer)); });
@@ -76,13 +83,8 @@ void SiteService::refresh() {
   if (!m_network->isReady() || siteStore().siteName().isEmpty()) return m_refresh.reset();
   m_refresh = m_network->fetch();
   askSite(*m_refresh, siteStore().siteName(), [this](const Answer& answer) {
-    if (answer.site) {
-      const Dictionary before = record();
-      take(*answer.site);
-      if (m_isSignedIn && record() != before) showRecordAnew();
-    } else {
-      Q_EMIT noticed(answer.failure);
-    }
+    if (answer.site) renew(*answer.site);
+    if (!answer.site) Q_EMIT noticed(answer.failure);
     Q_EMIT refreshed();
   });
 }
@@ -90,6 +92,12 @@ void SiteService::refresh() {
 void SiteService::lookUp(const QString& site, Done done) {
   m_question = m_network->fetch();
   askSite(*m_question, site, std::move(done));
+}
+
+void SiteService::renew(const MeetingSite& site) {
+  const Dictionary before = record();
+  take(site);
+  if (m_isSignedIn && record() != before) showRecordAnew();
 }
 
 void SiteService::take(const MeetingSite& site) {
@@ -140,9 +148,8 @@ void SiteService::showAgain() {
 
 void SiteService::openMeetingSettings() {
   if (!m_site || m_site->meetingSettings.isEmpty()) {
-    return Q_EMIT noticed(
-        QStringLiteral("%1 names no page of meeting settings. Ask your administrator for its address.")
-            .arg(siteStore().siteName()));
+    return Q_EMIT noticed(siteNotice(
+        QStringLiteral("%1 names no page of meeting settings. Ask your administrator for its address.")));
   }
   if (KZWorkspace::sharedWorkspace().openURL(m_site->meetingSettings)) return;
   Q_EMIT noticed(QStringLiteral("No browser opened %1. Open the address yourself.")
@@ -151,9 +158,8 @@ void SiteService::openMeetingSettings() {
 
 void SiteService::joinByNumber() {
   if (!KZUtility::sharedInstance().getKZMemCacheData(kPreferences_JoinByNumberLink).isValid()) {
-    return Q_EMIT noticed(
-        QStringLiteral("%1 names no page for joining by number. Ask your administrator for its address.")
-            .arg(siteStore().siteName()));
+    return Q_EMIT noticed(siteNotice(
+        QStringLiteral("%1 names no page for joining by number. Ask your administrator for its address.")));
   }
   // The record replaces what is stored, so that a guest's is told as it is.
   Dictionary wanted = m_isSignedIn ? record() : siteStore().preferenceInfo();

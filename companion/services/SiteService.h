@@ -54,6 +54,7 @@ class SiteService final : public QObject {
 
  private:
   void answer(quint64 command, const Content& content);
+  void renew(const MeetingSite& site);
   void take(const MeetingSite& site);
   void tellPlugin(const Dictionary& record);
   void showRecordAnew();
