@@ -1,6 +1,5 @@
 #include "companion/services/SiteService.h"
 
-#include <utility>
 
 #include "companion/runtime/Border.h"
 #include "companion/runtime/PreferencesWindow.h"
@@ -89,9 +88,9 @@ void SiteService::refresh() {
   });
 }
 
-void SiteService::lookUp(const QString& site, Done done) {
+void SiteService::lookUp(const QString& site, const Done& done) {
   m_question = m_network->fetch();
-  askSite(*m_question, site, std::move(done));
+  askSite(*m_question, site, done);
 }
 
 void SiteService::renew(const MeetingSite& site) {
