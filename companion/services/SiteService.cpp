@@ -1,6 +1,5 @@
 #include "companion/services/SiteService.h"
 
-
 #include "companion/runtime/Border.h"
 #include "companion/runtime/PreferencesWindow.h"
 #include "host/KZFoundation/KZCommands.h"
