@@ -47,13 +47,14 @@ CompanionServices::Settings serviceSettings(const CompanionOptions& options,
   if (!options.stateFolder.isEmpty()) {
     arguments = {QStringLiteral("--state"), QFileInfo(options.stateFolder).absoluteFilePath()};
   }
-  return {.reach = options.reach,
-          .exchange = exchange,
-          .record = demouser::record(),
-          .dataFolder = ownFolder(options, QStandardPaths::GenericDataLocation, QStringLiteral("telemetry")),
-          .packageFolder = ownFolder(options, QStandardPaths::GenericCacheLocation, QStringLiteral("updates")),
-          .autostart = AutostartEntry(AutostartEntry::userFolder(), QCoreApplication::applicationFilePath(),
-                                      arguments)};
+  return {
+      .reach = options.reach,
+      .exchange = exchange,
+      .record = demouser::record(),
+      .dataFolder = ownFolder(options, QStandardPaths::GenericDataLocation, QStringLiteral("telemetry")),
+      .packageFolder = ownFolder(options, QStandardPaths::GenericCacheLocation, QStringLiteral("updates")),
+      .autostart =
+          AutostartEntry(AutostartEntry::userFolder(), QCoreApplication::applicationFilePath(), arguments)};
 }
 
 }  // namespace

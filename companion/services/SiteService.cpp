@@ -1,7 +1,5 @@
 #include "companion/services/SiteService.h"
 
-#include <utility>
-
 #include "companion/runtime/Border.h"
 #include "companion/runtime/PreferencesWindow.h"
 #include "host/KZFoundation/KZCommands.h"
@@ -89,21 +87,15 @@ void SiteService::refresh() {
   });
 }
 
-void SiteService::lookUp(const QString& site, Done done) {
+void SiteService::lookUp(const QString& site, const Done& done) {
   m_question = m_network->fetch();
-  askSite(*m_question, site, std::move(done));
+  askSite(*m_question, site, done);
 }
 
 void SiteService::renew(const MeetingSite& site) {
   const Dictionary before = record();
   take(site);
-  if (!m_isSignedIn || record() == before) return;
-  tellPlugin(record());
-  const Window* window = findPreferencesWindow();
-  // An open window reads the new addresses when it is shown again.
-  if (window && window->isVisible()) {
-    m_border->triggerCommand(static_cast<quint64>(KZCommand::KZCmdShowPreference));
-  }
+  if (m_isSignedIn && record() != before) showRecordAnew();
 }
 
 void SiteService::take(const MeetingSite& site) {
@@ -130,6 +122,16 @@ void SiteService::adoptSilent(const QString& site) {
   take({.site = site});
   showAgain();
   Q_EMIT noticed(QStringLiteral("The site is %1 now. It has not answered yet.").arg(site));
+}
+
+// A window reads the record when it is built. One that the user works in is not taken away.
+void SiteService::showRecordAnew() {
+  const Window* window = findPreferencesWindow();
+  const bool isInUse = window && window->isVisible();
+  if (!isInUse) m_border->triggerCommand(static_cast<quint64>(KZCommand::KZCmdDestroyPreference));
+  tellPlugin(record());
+  if (!isInUse) return;
+  Q_EMIT noticed(QStringLiteral("Your site has news for Preferences. Press Close, then Preferences."));
 }
 
 void SiteService::showAgain() {
