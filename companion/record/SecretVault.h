@@ -2,8 +2,8 @@
 
 #include <QHash>
 #include <QString>
-#include <QUrl>
 
+#include "companion/record/SecretFinder.h"
 #include "companion/runtime/Crossing.h"
 
 // Gives every secret a name of its own, "secret-1" and so on, and puts the names in the secrets' places. A
@@ -28,8 +28,9 @@ class SecretVault final {
   QString nameInCredential(const QString& text);
   QVariant withoutKnown(const QVariant& value);
   QString withoutKnown(const QString& text);
-  bool holdsKnown(const QByteArray& bytes) const;
+  QString itemsWithoutSecrets(const QString& items);
 
   QHash<QString, QString> m_names;  // by secret
+  SecretFinder m_finder;
   int m_lastNumber = 0;
 };
