@@ -30,6 +30,9 @@ bool isEditing(const QKeyEvent& key) {
     return false;
   if (key.key() >= Qt::Key_F1 && key.key() <= Qt::Key_F35) return false;
   if (!(key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))) return true;
+  // A field takes signs that are typed with other modifiers too, and one of them may be part of a password.
+  const bool isControl = (key.modifiers() & ~Qt::ShiftModifier) == Qt::ControlModifier;
+  if (!isControl && !key.text().isEmpty() && key.text().front().isPrint()) return true;
   static const auto edits = {QKeySequence::Copy,
                              QKeySequence::Cut,
                              QKeySequence::Paste,

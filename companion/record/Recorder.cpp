@@ -27,7 +27,13 @@ Recorder::Recorder(Border* border, Sink sink, Options options)
       m_input(inputHandlers()),
       m_lastWritten(m_options.clock()) {
   writeHeader();
-  m_observer = border->addObserver([this](const Crossing& crossing) { hear(crossing); });
+  m_observer = border->addObserver([this, gate = m_gate](const Crossing& crossing) {
+    if (crossing.kind == Crossing::Kind::Trace) return;
+    if (QThread::currentThread() == gate->home) return hear(crossing);
+    // A worker's crossing that is under way when the recording ends must not outlive it.
+    const QMutexLocker lock(&gate->mutex);
+    if (gate->isOpen) hear(crossing);
+  });
   connect(border, &Border::loading, this, [this] {
     m_state.loadingBegins();
     m_actors.push_back(Actor::Loader);
@@ -37,6 +43,10 @@ Recorder::Recorder(Border* border, Sink sink, Options options)
 
 Recorder::~Recorder() {
   m_observer.reset();
+  {
+    const QMutexLocker lock(&m_gate->mutex);
+    m_gate->isOpen = false;
+  }
   m_input.tellPending();
 }
 
@@ -50,7 +60,6 @@ InputWatch::Handlers Recorder::inputHandlers() {
 }
 
 void Recorder::hear(const Crossing& crossing) {
-  if (crossing.kind == Crossing::Kind::Trace) return;
   if (QThread::currentThread() == thread()) m_input.tellPending();
   const Crossing open = withoutSecrets(crossing);
   switch (crossing.kind) {
@@ -137,6 +146,8 @@ Crossing Recorder::withoutSecrets(const Crossing& crossing) {
   open.content = m_vault.withoutSecrets(crossing.content);
   open.text = crossing.kind == Crossing::Kind::Address ? m_vault.addressWithoutSecrets(crossing.text)
                                                        : m_vault.withoutSecrets(crossing.text);
+  // What else has a name has it from the code.
+  if (crossing.kind == Crossing::Kind::Warning) open.name = m_vault.withoutSecrets(crossing.name);
   return open;
 }
 

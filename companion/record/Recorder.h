@@ -3,8 +3,10 @@
 #include <QByteArray>
 #include <QMutex>
 #include <QObject>
+#include <QThread>
 #include <chrono>
 #include <functional>
+#include <memory>
 #include <vector>
 
 #include "companion/record/HostStateWatch.h"
@@ -40,6 +42,12 @@ class Recorder final : public QObject {
  private:
   using Step = InputWatch::Step;
   enum class Actor { Loader, Plugin, User, Host };
+  // Shared with the observer, which may outlive this on another thread.
+  struct Gate {
+    const QThread* home;
+    QMutex mutex{};
+    bool isOpen = true;
+  };
 
   InputWatch::Handlers inputHandlers();
   void hear(const Crossing& crossing);
@@ -69,5 +77,6 @@ class Recorder final : public QObject {
   SecretVault m_vault;
   std::chrono::milliseconds m_lastWritten;
   bool m_isOver = false;
+  const std::shared_ptr<Gate> m_gate{new Gate{QThread::currentThread()}};
   Border::Token m_observer;
 };
