@@ -47,13 +47,14 @@ CompanionServices::Settings serviceSettings(const CompanionOptions& options,
   if (!options.stateFolder.isEmpty()) {
     arguments = {QStringLiteral("--state"), QFileInfo(options.stateFolder).absoluteFilePath()};
   }
-  return {.reach = options.reach,
-          .exchange = exchange,
-          .record = demouser::record(),
-          .dataFolder = ownFolder(options, QStandardPaths::GenericDataLocation, QStringLiteral("telemetry")),
-          .packageFolder = ownFolder(options, QStandardPaths::GenericCacheLocation, QStringLiteral("updates")),
-          .autostart = AutostartEntry(AutostartEntry::userFolder(), QCoreApplication::applicationFilePath(),
-                                      arguments)};
+  return {
+      .reach = options.reach,
+      .exchange = exchange,
+      .record = demouser::record(),
+      .dataFolder = ownFolder(options, QStandardPaths::GenericDataLocation, QStringLiteral("telemetry")),
+      .packageFolder = ownFolder(options, QStandardPaths::GenericCacheLocation, QStringLiteral("updates")),
+      .autostart =
+          AutostartEntry(AutostartEntry::userFolder(), QCoreApplication::applicationFilePath(), arguments)};
 }
 
 }  // namespace
@@ -133,6 +134,7 @@ void Companion::toggleRecording() {
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   dialog->setAcceptMode(QFileDialog::AcceptSave);
   dialog->setDefaultSuffix(QStringLiteral("jsonl"));
+  dialog->setNameFilter(QStringLiteral("Records (*.jsonl)"));
   connect(dialog, &QFileDialog::fileSelected, this, &Companion::recordAnew);
   dialog->open();
 }

@@ -41,7 +41,7 @@ bool Recording::start(const QString& path) {
       Recorder::Options{
           .clock = timeSinceStart, .slack = kPauseSlack, .keychain = HostStateWatch::Keychain::ReadOnce});
   Q_EMIT changed(true);
-  Q_EMIT noticed(QStringLiteral("Recording to %1; passwords and tokens are replaced.").arg(path));
+  Q_EMIT noticed(QStringLiteral("Recording to %1. Do what goes wrong, then press Stop recording.").arg(path));
   return true;
 }
 
@@ -57,7 +57,8 @@ void Recording::stop() {
   m_recorder.reset();
   Q_EMIT changed(false);
   Q_EMIT noticed(
-      QStringLiteral("Recorded to %1. Read it before you pass it on: names and addresses are in it.")
+      QStringLiteral("Recorded to %1. Attach it to your report; passwords and tokens are replaced, names and "
+                     "addresses are not.")
           .arg(m_file->path()));
 }
 
