@@ -76,7 +76,10 @@ bool InputWatch::inputBegins(QObject* receiver, QEvent* event) {
   QWidget* widget =
       receiver->isWidgetType() ? static_cast<QWidget*>(receiver) : pluginwindow::widgetOf(receiver);
   Window* window = widget ? pluginwindow::ownerOf(widget) : nullptr;
-  if (!window) return false;
+  if (!window) {
+    if (widget) noteElsewhere(widget, *event);
+    return false;
+  }
   const QEvent::Type type = event->type();
   if (type == QEvent::Show) {
     m_isFreshlyShown = m_isFreshlyShown || widget == window;
@@ -97,6 +100,13 @@ bool InputWatch::inputBegins(QObject* receiver, QEvent* event) {
     onWindowEvent(widget, event);
   }
   return true;
+}
+
+void InputWatch::noteElsewhere(QWidget* target, const QEvent& event) {
+  const QString what = m_elsewhere.describe(target, event);
+  if (what.isNull()) return;
+  m_typed.tell();
+  m_handlers.unnamed(what);
 }
 
 // The list of a pop-up takes keys before they are pressed.
