@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "companion/record/LateSecrets.h"
 #include "companion/session/CrossingLine.h"
 #include "companion/session/ValueCodec.h"
 
@@ -42,12 +43,23 @@ Recorder::Recorder(Border* border, Sink sink, Options options)
 }
 
 Recorder::~Recorder() {
+  stop();
+}
+
+void Recorder::stop() {
   m_observer.reset();
   {
     const QMutexLocker lock(&m_gate->mutex);
     m_gate->isOpen = false;
   }
   m_input.tellPending();
+  const QMutexLocker lock(&m_mutex);
+  m_isOver = true;
+}
+
+QByteArray Recorder::revised(const QByteArray& line) {
+  const QMutexLocker lock(&m_mutex);
+  return withoutLateSecrets(line, &m_vault);
 }
 
 InputWatch::Handlers Recorder::inputHandlers() {

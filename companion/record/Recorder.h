@@ -39,6 +39,11 @@ class Recorder final : public QObject {
   Recorder(Border* border, Sink sink, Options options);
   ~Recorder() override;
 
+  // Writes what is pending; from then on nothing is recorded.
+  void stop();
+  // A line that it has made, without the secrets too that became known only after it.
+  QByteArray revised(const QByteArray& line);
+
  private:
   using Step = InputWatch::Step;
   enum class Actor { Loader, Plugin, User, Host };

@@ -19,6 +19,8 @@ class SecretVault final {
   Content withoutSecrets(const Content& content);
   QVariant withoutSecrets(const QVariant& value);
   QString withoutSecrets(const QString& text);
+  // Only without what is known as a secret, whatever its key.
+  QVariant withoutKnown(const QVariant& value);
   // Also without what makes an address of a sign-in another one each time.
   QString addressWithoutSecrets(const QString& address);
 
@@ -26,7 +28,6 @@ class SecretVault final {
   QByteArray nameOfBytes(const QByteArray& secret);
   QVariant nameUnderKey(const QVariant& secret);
   QString nameInCredential(const QString& text);
-  QVariant withoutKnown(const QVariant& value);
   QString withoutKnown(const QString& text);
   QString itemsWithoutSecrets(const QString& items);
 

@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTest>
 #include <QToolBar>
 #include <QWindow>
@@ -162,6 +163,21 @@ TEST_F(RecordedInput, AKeyOfAPasswordIsNoStep) {
   m_border.notify(99, {});
   EXPECT_EQ(field->text(), "passqword");
   EXPECT_EQ(steps().toStdString(), "{\"type\":\"m_emailInputTxt\",\"text\":\"secret-1\"}\n{\"notify\":99}");
+}
+
+TEST_F(RecordedInput, AWarningThatIsReadIsAComment) {
+  m_border.notify(8, Dictionary{{"kKZResult", "kKZFail"},
+                                {"kKZErrorHandleData", Dictionary{{"kKZErrorMessage", "It is gone."}}}});
+  eventpump::settle();
+  QWidget* warning = nullptr;
+  for (QWidget* one : QApplication::topLevelWidgets()) {
+    if (one->isVisible() && one->inherits("KZWarningWindow")) warning = one;
+  }
+  ASSERT_TRUE(warning);
+  clickOn(warning->findChild<QPushButton*>());
+  EXPECT_FALSE(warning->isVisible());
+  EXPECT_TRUE(m_lines.contains("# No step can say it: a click on QPushButton in KZWarningWindow"))
+      << qPrintable(m_lines.join(u'\n'));
 }
 
 TEST(RecorderLife, ARecorderMayComeAndGoInTheMiddleOfAnInput) {

@@ -3,7 +3,6 @@
 #include <QLineEdit>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
-#include <QPushButton>
 #include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTest>
@@ -163,18 +162,6 @@ TEST_F(RecordedSandbox, ASignInLeavesNoCodeStateOrToken) {
   }
   const SessionRun run = runSession(linesOf(path()));
   EXPECT_EQ(run.status, 0) << run.complaints.toStdString();
-}
-
-TEST_F(RecordedSandbox, AWarningThatIsReadIsAComment) {
-  m_border.notify(
-      static_cast<quint32>(KZNotify::KZNotifyResolveExchangeDone),
-      Dictionary{{kKZResult, kKZFail}, {kKZErrorHandleData, Dictionary{{kKZErrorMessage, "It is gone."}}}});
-  eventpump::settle();
-  QWidget* warning = dialogOfClass("KZWarningWindow");
-  ASSERT_TRUE(warning);
-  const QWidget* ok = warning->findChild<QPushButton*>();
-  QTest::mouseClick(warning->windowHandle(), Qt::LeftButton, {}, ok->mapTo(warning, ok->rect().center()));
-  EXPECT_TRUE(recordWith("# No step can say it: a click on QPushButton in KZWarningWindow").size() > 0);
 }
 
 }  // namespace

@@ -66,6 +66,31 @@ TEST(RecordedSecrets, AreNowhereInTheFile) {
   EXPECT_EQ(checked.status, 0) << qPrintable(checked.lines.value(checked.lines.size() - 1));
 }
 
+TEST(RecordedSecrets, AreTakenOutOfWhatWasBeforeTheyWereKnown) {
+  const PlayedRecord record(
+      {R"({"command": 2})", R"({"pane": "Meetings"})", R"({"wait": 400})",
+       R"({"click": "m_outlookRadioBtn"})", R"({"type": "m_emailInputTxt", "text": "ann@brenn.example"})",
+       R"({"click": "m_detectBtn"})",
+       R"({"notify": 99, "content": {"result": "@kKZSuccess", "bytes": {"$data": "TWVldGluZ3M="}}})",
+       json({{"notify", 26},
+             {"content", QJsonObject{{"kKZResult", "kKZSuccess"},
+                                     {"QRT_ExchangeDiscover_ExchangeType",
+                                      "QRT_ExchangeDiscover_ExchangeTypeOnpremise"}}}}),
+       R"({"type": "m_usernameInputTxt", "text": "Meetings"})", R"({"notify": 98})",
+       R"({"type": "m_usernameInputTxt", "text": "ann"})",
+       R"({"type": "m_passwordInputTxt", "text": "Meetings"})", R"({"click": "m_applyBtn"})"});
+  const QByteArray bytes = record.bytes();
+  ASSERT_EQ(record.run().status, 0) << qPrintable(record.run().complaints);
+  EXPECT_TRUE(bytes.contains(R"({"text":"secret-1","type":"m_usernameInputTxt"})")) << bytes.toStdString();
+  EXPECT_TRUE(bytes.contains(R"("result":"@kKZSuccess")")) << bytes.toStdString();
+  EXPECT_FALSE(bytes.contains("TWVldGluZ3M=")) << bytes.toStdString();
+  // The pane is no secret.
+  EXPECT_EQ(bytes.count("Meetings"), 1) << bytes.toStdString();
+  EXPECT_TRUE(bytes.contains(R"({"pane":"Meetings"})")) << bytes.toStdString();
+  const SessionRun checked = record.check();
+  EXPECT_EQ(checked.status, 0) << qPrintable(checked.lines.value(checked.lines.size() - 1));
+}
+
 TEST(SecretVault, NamesStayTheSame) {
   SecretVault vault;
   EXPECT_EQ(vault.nameOf("one").toStdString(), "secret-1");
