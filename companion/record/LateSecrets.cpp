@@ -5,8 +5,7 @@
 #include <QJsonObject>
 #include <QStringList>
 
-#include "companion/record/Recorder.h"
-#include "companion/session/ValueCodec.h"
+#include "companion/record/SecretVault.h"
 
 namespace {
 
@@ -40,16 +39,13 @@ QVariant lateValueOf(const QJsonValue& value, valuecodec::Form form) {
 
 }  // namespace
 
-QByteArray withoutLateSecrets(const QByteArray& line, SecretVault* vault) {
-  const QByteArray mark =
-      line.startsWith(Recorder::outputMark) ? QByteArray(Recorder::outputMark) : QByteArray();
-  const auto form = mark.isEmpty() ? valuecodec::Form::Exact : valuecodec::Form::Printed;
-  const QJsonObject before = QJsonDocument::fromJson(line.mid(mark.size())).object();
+QByteArray withoutLateSecrets(const QByteArray& json, valuecodec::Form form, SecretVault* vault) {
+  const QJsonObject before = QJsonDocument::fromJson(json).object();
   QJsonObject after = before;
   for (auto member = before.begin(); member != before.end(); ++member) {
     if (!isLateValue(member.key())) continue;
-    after.insert(member.key(),
-                 valuecodec::encode(vault->withoutKnown(lateValueOf(member.value(), form)), form));
+    const QVariant value = lateValueOf(member.value(), form);
+    after.insert(member.key(), valuecodec::encode(vault->withoutKnown(value), form));
   }
-  return after == before ? line : mark + QJsonDocument(after).toJson(QJsonDocument::Compact);
+  return after == before ? json : QJsonDocument(after).toJson(QJsonDocument::Compact);
 }

@@ -5,6 +5,7 @@
 #include <QMutexLocker>
 #include <QThread>
 #include <algorithm>
+#include <mutex>
 #include <utility>
 
 #include "companion/record/LateSecrets.h"
@@ -30,9 +31,9 @@ Recorder::Recorder(Border* border, Sink sink, Options options)
   writeHeader();
   m_observer = border->addObserver([this, gate = m_gate](const Crossing& crossing) {
     if (crossing.kind == Crossing::Kind::Trace) return;
-    if (QThread::currentThread() == gate->home) return hear(crossing);
     // A worker's crossing that is under way when the recording ends must not outlive it.
-    const QMutexLocker lock(&gate->mutex);
+    std::unique_lock lock(gate->mutex, std::defer_lock);
+    if (QThread::currentThread() != gate->home) lock.lock();
     if (gate->isOpen) hear(crossing);
   });
   connect(border, &Border::loading, this, [this] {
@@ -58,8 +59,10 @@ void Recorder::stop() {
 }
 
 QByteArray Recorder::revised(const QByteArray& line) {
+  const QByteArray mark = line.startsWith(outputMark) ? QByteArray(outputMark) : QByteArray();
+  const auto form = mark.isEmpty() ? valuecodec::Form::Exact : valuecodec::Form::Printed;
   const QMutexLocker lock(&m_mutex);
-  return withoutLateSecrets(line, &m_vault);
+  return mark + withoutLateSecrets(line.mid(mark.size()), form, &m_vault);
 }
 
 InputWatch::Handlers Recorder::inputHandlers() {
