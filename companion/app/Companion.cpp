@@ -134,6 +134,7 @@ void Companion::toggleRecording() {
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   dialog->setAcceptMode(QFileDialog::AcceptSave);
   dialog->setDefaultSuffix(QStringLiteral("jsonl"));
+  dialog->setNameFilter(QStringLiteral("Records (*.jsonl)"));
   connect(dialog, &QFileDialog::fileSelected, this, &Companion::recordAnew);
   dialog->open();
 }
