@@ -35,6 +35,9 @@ int LookStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
       return 0;
     case PM_ToolBarExtensionExtent:
       return lookToolbar::kIcon;
+    case PM_DefaultFrameWidth:
+      if (lookLists::isList(widget)) return lookLists::kFrame;
+      return QProxyStyle::pixelMetric(metric, option, widget);
     case PM_ScrollBarExtent:
       return lookScrollBar::kExtent;
     case PM_MenuPanelWidth:
