@@ -15,6 +15,7 @@
 #include "companion/app/TelemetryView.h"
 #include "companion/exchange/StandardExchange.h"
 #include "companion/inspector/InspectorView.h"
+#include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 
 namespace {
@@ -47,13 +48,14 @@ CompanionServices::Settings serviceSettings(const CompanionOptions& options,
   if (!options.stateFolder.isEmpty()) {
     arguments = {QStringLiteral("--state"), QFileInfo(options.stateFolder).absoluteFilePath()};
   }
-  return {.reach = options.reach,
-          .exchange = exchange,
-          .record = demouser::record(),
-          .dataFolder = ownFolder(options, QStandardPaths::GenericDataLocation, QStringLiteral("telemetry")),
-          .packageFolder = ownFolder(options, QStandardPaths::GenericCacheLocation, QStringLiteral("updates")),
-          .autostart = AutostartEntry(AutostartEntry::userFolder(), QCoreApplication::applicationFilePath(),
-                                      arguments)};
+  return {
+      .reach = options.reach,
+      .exchange = exchange,
+      .record = demouser::record(),
+      .dataFolder = ownFolder(options, QStandardPaths::GenericDataLocation, QStringLiteral("telemetry")),
+      .packageFolder = ownFolder(options, QStandardPaths::GenericCacheLocation, QStringLiteral("updates")),
+      .autostart =
+          AutostartEntry(AutostartEntry::userFolder(), QCoreApplication::applicationFilePath(), arguments)};
 }
 
 }  // namespace
@@ -65,10 +67,7 @@ Companion::Companion(const CompanionOptions& options)
       m_recording(&m_border),
       m_window(&m_border),
       m_options(options) {
-  connect(&KZPlistFileHandle::sharedInstance(), &KZPlistFileHandle::valueChanged, &m_log,
-          [this](const QString& key, const QVariant& before, const QVariant& after) {
-            m_log.record(InspectorEvent::ofStoreWrite(key, before, after));
-          });
+  connectStores();
   m_window.showNotice(introduction(options.reach));
   connectSandbox();
   connectRecording();
@@ -106,6 +105,21 @@ void Companion::offer(const Offered& offered) {
   if (!m_tryOut) return;
   m_tryOut->setAccounts(offered.accounts);
   m_tryOut->setSites(offered.sites);
+}
+
+void Companion::connectStores() {
+  connect(&KZPlistFileHandle::sharedInstance(), &KZPlistFileHandle::valueChanged, &m_log,
+          [this](const QString& key, const QVariant& before, const QVariant& after) {
+            m_log.record(InspectorEvent::ofStoreWrite(key, before, after));
+          });
+  const KZKeyChainHandle& keychain = KZKeyChainHandle::sharedInstance();
+  using Change = InspectorEvent::KeychainChange;
+  connect(&keychain, &KZKeyChainHandle::itemWritten, &m_log, [this](const QString& account) {
+    m_log.record(InspectorEvent::ofKeychain(account, Change::Written));
+  });
+  connect(&keychain, &KZKeyChainHandle::itemRemoved, &m_log, [this](const QString& account) {
+    m_log.record(InspectorEvent::ofKeychain(account, Change::Removed));
+  });
 }
 
 void Companion::connectSandbox() {

@@ -20,6 +20,7 @@ InspectorTable::InspectorTable(InspectorModel* model) : m_rows(model) {
   connect(shortcut, &QShortcut::activated, this, &InspectorTable::copyWanted);
   connect(model, &QAbstractItemModel::rowsAboutToBeRemoved, this, &InspectorTable::noteEnd);
   connect(model, &QAbstractItemModel::rowsAboutToBeInserted, this, &InspectorTable::noteEnd);
+  connect(model, &QAbstractItemModel::rowsRemoved, this, &InspectorTable::keepPlace);
   connect(model, &QAbstractItemModel::modelAboutToBeReset, this, &InspectorTable::noteEnd);
   connect(model, &QAbstractItemModel::rowsInserted, this, &InspectorTable::followEnd, Qt::QueuedConnection);
   connect(model, &QAbstractItemModel::modelReset, this, &InspectorTable::restoreCurrent);
@@ -46,9 +47,18 @@ QList<int> InspectorTable::selectedRows() const {
 
 void InspectorTable::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   QTableView::currentChanged(current, previous);
-  // While rows go or come anew the current one may be none for a moment.
-  if (current.isValid()) m_currentSerial = m_rows->eventAt(current.row())->serial;
-  Q_EMIT currentEventChanged();
+  if (!current.isValid()) return;
+  const InspectorLog::Event& event = m_rows->eventAt(current.row());
+  if (event->serial == m_currentSerial) return;
+  m_currentSerial = event->serial;
+  Q_EMIT eventChosen(event);
+}
+
+void InspectorTable::rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) {
+  // Else the view makes a neighbour the current one, and nobody has chosen that.
+  const int row = currentIndex().row();
+  if (row >= start && row <= end) selectionModel()->clearCurrentIndex();
+  QTableView::rowsAboutToBeRemoved(parent, start, end);
 }
 
 void InspectorTable::noteEnd() {
@@ -60,8 +70,13 @@ void InspectorTable::followEnd() {
   if (m_isAtEnd) scrollToBottom();
 }
 
+// What goes stands above what is read.
+void InspectorTable::keepPlace(const QModelIndex& /*parent*/, int start, int end) {
+  QScrollBar* bar = verticalScrollBar();
+  if (!m_isAtEnd) bar->setValue(bar->value() - (end - start + 1));
+}
+
 void InspectorTable::restoreCurrent() {
   const int row = m_rows->rowOf(m_currentSerial);
-  if (row < 0) return Q_EMIT currentEventChanged();
-  setCurrentIndex(m_rows->index(row, 0));
+  if (row >= 0) setCurrentIndex(m_rows->index(row, 0));
 }

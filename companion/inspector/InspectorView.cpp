@@ -47,8 +47,9 @@ InspectorView::InspectorView(InspectorLog* log)
   connect(m_kinds, &InspectorFilterBar::changed, this, &InspectorView::applyFilter);
   connect(m_text, &QLineEdit::textChanged, this, &InspectorView::applyFilter);
   connect(m_model, &InspectorModel::missed, this, &InspectorView::showMissed);
-  connect(m_table, &InspectorTable::currentEventChanged, this, &InspectorView::showDetails);
+  connect(m_table, &InspectorTable::eventChosen, m_details, &InspectorDetails::show);
   connect(m_table, &InspectorTable::copyWanted, this, &InspectorView::copy);
+  connect(log, &InspectorLog::cleared, m_details, [this] { m_details->show(nullptr); });
   applyFilter();
 }
 
@@ -106,11 +107,6 @@ void InspectorView::showMissed(qsizetype count) {
   m_pause->setText(count == 0 ? QStringLiteral("Continue") : QStringLiteral("Continue (%1 new)").arg(count));
 }
 
-void InspectorView::showDetails() {
-  const QModelIndex current = m_table->currentIndex();
-  m_details->show(current.isValid() ? m_model->eventAt(current.row()) : nullptr);
-}
-
 QString InspectorView::textToCopy() const {
   QList<int> rows = m_table->selectedRows();
   if (rows.isEmpty()) {
@@ -124,6 +120,7 @@ QString InspectorView::textToCopy() const {
 
 void InspectorView::copy() {
   QGuiApplication::clipboard()->setText(textToCopy());
+  Q_EMIT noticed(QStringLiteral("The events are copied, without passwords and tokens."));
 }
 
 void InspectorView::clear() {
