@@ -36,11 +36,9 @@ void drawHeading(const QStyleOption& option, QPainter* painter) {
 }
 
 void drawCellFocus(const QStyleOptionFocusRect& option, QPainter* painter) {
-  if (!(option.state & QStyle::State_KeyboardFocusChange)) return;
-  const bool isSelected = option.state & QStyle::State_Selected;
-  const QColor line =
-      option.palette.color(QPalette::Active, isSelected ? QPalette::HighlightedText : QPalette::Highlight);
-  drawLookBox(painter, option.rect, 0, Qt::NoBrush, line);
+  if (option.state & QStyle::State_Selected) return;  // shows by itself
+  drawLookBox(painter, option.rect, 0, Qt::NoBrush,
+              option.palette.color(QPalette::Active, QPalette::Highlight));
 }
 
 }  // namespace lookLists

@@ -69,7 +69,8 @@ QSize tabSize(const QStyleOptionTab& option);
 
 // Tables, lists and read texts.
 namespace lookLists {
-inline constexpr int kFrame = 2;  // room for a ring
+inline constexpr int kFrame = 2;       // room for a ring
+inline constexpr int kTextMargin = 4;  // of cells and headings alike
 bool isList(const QWidget* widget);
 void drawFrame(const QStyleOption& option, QPainter* painter);
 void drawHeading(const QStyleOption& option, QPainter* painter);  // or the empty rest of the header
