@@ -7,6 +7,13 @@
 
 #include "companion/inspector/InspectorModel.h"
 
+namespace {
+
+constexpr int kNarrowestNames = 178;
+constexpr int kWidestNames = 280;
+
+}  // namespace
+
 InspectorTable::InspectorTable(InspectorModel* model) : m_rows(model) {
   setModel(model);
   setSelectionBehavior(SelectRows);
@@ -34,8 +41,20 @@ void InspectorTable::setUpColumns() {
   horizontalHeader()->setHighlightSections(false);
   horizontalHeader()->setStretchLastSection(true);
   setColumnWidth(InspectorModel::TimeColumn, 96);
-  setColumnWidth(InspectorModel::KindColumn, 136);
-  setColumnWidth(InspectorModel::NameColumn, 178);
+  setColumnWidth(InspectorModel::KindColumn, 142);
+  m_nameWidth = columnWidth(InspectorModel::NameColumn);
+  fitNames();
+}
+
+void InspectorTable::fitNames() {
+  if (columnWidth(InspectorModel::NameColumn) != m_nameWidth) return;
+  m_nameWidth = std::clamp(viewport()->width() * 3 / 10, kNarrowestNames, kWidestNames);
+  setColumnWidth(InspectorModel::NameColumn, m_nameWidth);
+}
+
+void InspectorTable::resizeEvent(QResizeEvent* event) {
+  QTableView::resizeEvent(event);
+  fitNames();
 }
 
 QList<int> InspectorTable::selectedRows() const {

@@ -23,10 +23,12 @@ class InspectorTable final : public QTableView {
 
  protected:
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  void resizeEvent(QResizeEvent* event) override;
   void rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) override;
 
  private:
   void setUpColumns();
+  void fitNames();
   void noteEnd();
   void followEnd();
   void keepPlace(const QModelIndex& parent, int start, int end);
@@ -34,5 +36,6 @@ class InspectorTable final : public QTableView {
 
   InspectorModel* m_rows;
   bool m_isAtEnd = true;
+  int m_nameWidth = 0;  // unless the reader has chosen another
   quint64 m_currentSerial = 0;
 };
