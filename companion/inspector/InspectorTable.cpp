@@ -80,7 +80,20 @@ void InspectorTable::rowsAboutToBeRemoved(const QModelIndex& parent, int start, 
   QTableView::rowsAboutToBeRemoved(parent, start, end);
 }
 
+void InspectorTable::showEvent(QShowEvent* event) {
+  QTableView::showEvent(event);
+  // Once it has its place in the window.
+  QMetaObject::invokeMethod(this, &InspectorTable::followEnd, Qt::QueuedConnection);
+}
+
+void InspectorTable::hideEvent(QHideEvent* event) {
+  noteEnd();
+  QTableView::hideEvent(event);
+}
+
 void InspectorTable::noteEnd() {
+  if (!isVisible()) return;  // as it was when it was seen last
+
   const QScrollBar* bar = verticalScrollBar();
   m_isAtEnd = bar->value() == bar->maximum();
 }

@@ -24,11 +24,14 @@ class InspectorTable final : public QTableView {
  protected:
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
   void rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) override;
 
  private:
   void setUpColumns();
   void fitNames();
+  bool isAtEnd() const;
   void noteEnd();
   void followEnd();
   void keepPlace(const QModelIndex& parent, int start, int end);

@@ -140,9 +140,30 @@ TEST_F(InspectorViewTest, TheListFollowsItsEndUnlessScrolledAway) {
   const auto lastVisible = [this] { return table()->rowAt(table()->viewport()->height() - 2); };
   add(200);
   EXPECT_GE(lastVisible(), 198);
+  m_view.hide();
+  add(200);
+  m_view.show();
+  add(0);
+  EXPECT_GE(lastVisible(), 398);
   table()->scrollToTop();
   add(200);
   EXPECT_EQ(table()->rowAt(2), 0);
+  m_view.hide();
+  add(200);
+  m_view.show();
+  add(0);
+  EXPECT_EQ(table()->rowAt(2), 0);
+}
+
+TEST_F(InspectorViewTest, AListThatIsFilledAlreadyOpensAtItsEnd) {
+  for (int at = 0; at < 200; ++at) tell({.kind = Crossing::Kind::CommandToPlugin, .number = 2});
+  QCoreApplication::processEvents();
+  InspectorView late(&m_log);
+  late.resize(900, 400);
+  late.show();
+  for (int times = 0; times < 3; ++times) QCoreApplication::processEvents();
+  const auto* list = late.findChild<QTableView*>();
+  EXPECT_GE(list->rowAt(list->viewport()->height() - 2), 198);
 }
 
 TEST_F(InspectorViewTest, AnExportReadsBack) {
