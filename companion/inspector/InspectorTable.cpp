@@ -87,15 +87,17 @@ void InspectorTable::showEvent(QShowEvent* event) {
 }
 
 void InspectorTable::hideEvent(QHideEvent* event) {
-  noteEnd();
   QTableView::hideEvent(event);
+  m_isAtEnd = isAtEnd();
+}
+
+bool InspectorTable::isAtEnd() const {
+  const QScrollBar* bar = verticalScrollBar();
+  return bar->value() == bar->maximum();
 }
 
 void InspectorTable::noteEnd() {
-  if (!isVisible()) return;  // as it was when it was seen last
-
-  const QScrollBar* bar = verticalScrollBar();
-  m_isAtEnd = bar->value() == bar->maximum();
+  if (isVisible()) m_isAtEnd = isAtEnd();  // else as it was when it was seen last
 }
 
 void InspectorTable::followEnd() {
