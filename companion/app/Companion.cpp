@@ -15,6 +15,7 @@
 #include "companion/app/TelemetryView.h"
 #include "companion/exchange/StandardExchange.h"
 #include "companion/inspector/InspectorView.h"
+#include "companion/runtime/SaveDialog.h"
 #include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 
@@ -143,10 +144,9 @@ void Companion::connectRecording() {
 
 void Companion::toggleRecording() {
   if (m_recording.isRunning()) return m_recording.stop();
-  auto* dialog = new QFileDialog(&m_window, QStringLiteral("Record to"), Recording::suggestedPath());
-  dialog->setAttribute(Qt::WA_DeleteOnClose);
-  dialog->setAcceptMode(QFileDialog::AcceptSave);
-  dialog->setDefaultSuffix(QStringLiteral("jsonl"));
+  QFileDialog* dialog =
+      createSaveDialog(&m_window, QStringLiteral("Record to"), QStringLiteral("meetings-record"));
+  dialog->setNameFilter(QStringLiteral("Records (*.jsonl)"));
   connect(dialog, &QFileDialog::fileSelected, this, &Companion::recordAnew);
   dialog->open();
 }

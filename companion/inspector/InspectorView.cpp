@@ -1,32 +1,24 @@
 #include "companion/inspector/InspectorView.h"
 
 #include <QClipboard>
-#include <QDateTime>
-#include <QDir>
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSplitter>
-#include <QStandardPaths>
 #include <numeric>
 
 #include "companion/inspector/InspectorDetails.h"
 #include "companion/inspector/InspectorExport.h"
 #include "companion/inspector/InspectorFilterBar.h"
 #include "companion/inspector/InspectorTable.h"
+#include "companion/runtime/SaveDialog.h"
 
 namespace {
 
 const QString kAllEvents = QStringLiteral("All events (*.jsonl)");
 const QString kShownEvents = QStringLiteral("Events that are shown (*.jsonl)");
-
-QString proposedExportPath() {
-  const QString stamp = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"));
-  return QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
-      .filePath(QStringLiteral("inspector-%1.jsonl").arg(stamp));
-}
 
 }  // namespace
 
@@ -139,11 +131,8 @@ void InspectorView::exportTo(const QString& path, Scope scope) {
 }
 
 void InspectorView::askForFile() {
-  auto* dialog = new QFileDialog(this, QStringLiteral("Export events"), proposedExportPath());
-  dialog->setAttribute(Qt::WA_DeleteOnClose);
-  dialog->setAcceptMode(QFileDialog::AcceptSave);
+  QFileDialog* dialog = createSaveDialog(this, QStringLiteral("Export events"), QStringLiteral("inspector"));
   dialog->setNameFilters({kShownEvents, kAllEvents});
-  dialog->setDefaultSuffix(QStringLiteral("jsonl"));
   connect(dialog, &QFileDialog::fileSelected, this, [this, dialog](const QString& path) {
     exportTo(path, dialog->selectedNameFilter() == kAllEvents ? Scope::All : Scope::Shown);
   });
