@@ -146,7 +146,13 @@ TEST_F(LookStyleTest, APageSwitchShowsWhichPageAndFocusInEveryScheme) {
     const QImage plain = tabs->grab().toImage();
     QTest::keyClick(&m_window, Qt::Key_Tab);
     tabs->setFocus(Qt::TabFocusReason);
-    EXPECT_NE(plain, tabs->grab().toImage()) << schemeName(scheme);
+    const QImage focused = tabs->grab().toImage();
+    EXPECT_NE(plain, focused) << schemeName(scheme);
+    const bool isContrast = scheme == LookScheme::HighContrastLight || scheme == LookScheme::HighContrastDark;
+    if (isContrast) {
+      EXPECT_EQ(focused.pixelColor(3, tabs->tabRect(0).center().y()),
+                lookPalette(scheme).color(QPalette::HighlightedText));
+    }
     QTest::keyClick(tabs, Qt::Key_Right);
     EXPECT_EQ(tabs->currentIndex(), 1);
     EXPECT_TRUE(
