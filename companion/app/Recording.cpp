@@ -1,8 +1,5 @@
 #include "companion/app/Recording.h"
 
-#include <QDateTime>
-#include <QDir>
-#include <QStandardPaths>
 #include <chrono>
 #include <utility>
 
@@ -20,13 +17,6 @@ std::chrono::milliseconds timeSinceStart() {
 }
 
 }  // namespace
-
-QString Recording::suggestedPath() {
-  const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-  const QString folder = QDir(documents).exists() ? documents : QDir::homePath();
-  const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd-HHmmss"));
-  return QDir(folder).filePath(QStringLiteral("meetings-record-%1.jsonl").arg(time));
-}
 
 bool Recording::start(const QString& path) {
   stop();
