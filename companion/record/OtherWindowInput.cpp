@@ -8,6 +8,7 @@
 
 namespace {
 
+// By name, since the second one's class stays inside of the plug-in.
 bool isOtherWindow(const QWidget& window) {
   return window.inherits("KZWarningWindow") || window.inherits("ADSignInDialog");
 }
