@@ -26,6 +26,8 @@ class Recording final : public QObject {
  private:
   [[nodiscard]] bool take(const QByteArray& line);  // on the thread that wrote it
   void onFailed();
+  [[nodiscard]] bool finish();  // recorder and file
+  QString unfinishedText() const;
 
   Border* m_border;
   std::unique_ptr<RecordFile> m_file;
