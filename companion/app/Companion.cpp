@@ -177,7 +177,6 @@ bool Companion::loadPlugin(const QString& path) {
   return m_border.loadPlugin(path);
 }
 
-// Late, because it makes TLS ready, which takes longer than the whole window.
 void Companion::createServices() {
   const ExchangeConfiguration configuration = standardExchangeConfiguration(m_options.clientId, kSignedInUri);
   m_exchange = std::make_unique<CompanionExchange>(&m_border, m_options.reach, configuration);

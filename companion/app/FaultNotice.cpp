@@ -40,6 +40,10 @@ QString noticeOfSaving(KZSaveProblem problem, const QString& file) {
   return {};
 }
 
+QString noticeOfSetAside(const QString& file) {
+  return QStringLiteral("Settings could not be read and were set aside as %1. They start anew.").arg(file);
+}
+
 QString noticeOfSecrets() {
   return QStringLiteral(
       "Passwords cannot be kept: the keyring is locked or does not answer. They are known until Brenn Mivra "
@@ -76,6 +80,7 @@ void FaultNotice::renew() {
   if (store.saveProblem() != KZSaveProblem::None) {
     notices.append(noticeOfSaving(store.saveProblem(), store.filePath()));
   }
+  if (!store.setAsidePath().isNull()) notices.append(noticeOfSetAside(store.setAsidePath()));
   if (KZKeyChainHandle::sharedInstance().isLost()) notices.append(noticeOfSecrets());
   setText(notices.join(u'\n'));
   setVisible(!notices.isEmpty());

@@ -4,8 +4,9 @@
 
 #include "host/KZUtility/KZSaveProblem.h"
 
-// Tells the user while settings or passwords cannot be kept, and what to do about it; hidden otherwise.
-// Follows the store and the keychain by itself. Main thread only.
+// Tells the user while settings or passwords cannot be kept, and what to do about it, and in the run that
+// found the settings damaged; hidden otherwise. Follows the store and the keychain by itself. Main thread
+// only.
 class FaultNotice final : public QLabel {
   Q_OBJECT
 

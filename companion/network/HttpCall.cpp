@@ -3,6 +3,7 @@
 #include <QNetworkReply>
 #include <QNetworkRequest>
 #include <QRegularExpression>
+#include <QSslConfiguration>
 #include <QSslError>
 #include <algorithm>
 #include <utility>
@@ -75,9 +76,11 @@ QNetworkRequest HttpCall::requestFor(const HttpQuestion& question) const {
     address.setPort(endpoint->port);
   }
   request.setUrl(address);
-  QSslConfiguration tls = m_configuration.tls;
-  if (endpoint && !endpoint->certificates.isEmpty()) tls.setCaCertificates(endpoint->certificates);
-  request.setSslConfiguration(tls);
+  if (endpoint && !endpoint->certificates.isEmpty()) {
+    QSslConfiguration tls = request.sslConfiguration();
+    tls.setCaCertificates(endpoint->certificates);
+    request.setSslConfiguration(tls);
+  }
   request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
   request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
   for (const auto attribute :

@@ -2,7 +2,6 @@
 
 #include <QList>
 #include <QSslCertificate>
-#include <QSslConfiguration>
 #include <QString>
 #include <QUrl>
 #include <chrono>
@@ -12,7 +11,7 @@
 struct NetworkEndpoint {
   QString address;
   quint16 port = 0;
-  QList<QSslCertificate> certificates = {};  // who vouches for it; empty for those of the configuration
+  QList<QSslCertificate> certificates = {};  // who vouches for it; empty for those of the system
 };
 
 // Where a host is to be reached in place of where its name points; nothing for the ordinary way.
@@ -25,7 +24,6 @@ struct NetworkLimits {
 
 struct NetworkConfiguration {
   NetworkLimits limits;
-  QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
   EndpointFinder endpoint;
 };
 

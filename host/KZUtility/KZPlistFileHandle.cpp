@@ -46,12 +46,14 @@ KZPlistFileHandle::~KZPlistFileHandle() = default;
 void KZPlistFileHandle::open(const QString& folder) {
   m_file = std::make_unique<PropertyListFile>(folder);
   m_values = m_file->read();
+  m_setAsidePath = m_file->setAsidePath();
   noteProblem();
 }
 
 void KZPlistFileHandle::close() {
   m_file.reset();
   m_values.clear();
+  m_setAsidePath.clear();
   noteProblem();
 }
 

@@ -28,6 +28,8 @@ class KZ_HOST_EXPORT KZPlistFileHandle : public QObject {
   // None while the file has all that was set, or there is none. What it lacks is written with the next change
   // that succeeds.
   KZSaveProblem saveProblem() const;
+  // Where the file lies that `open` could not read: the settings have started anew. Null when it could.
+  QString setAsidePath() const { return m_setAsidePath; }
 
   // Keys as in the file. A missing value removes the key.
   bool isPlistKeyExist(const QString& key) const;
@@ -75,4 +77,5 @@ class KZ_HOST_EXPORT KZPlistFileHandle : public QObject {
   Dictionary m_values;
   std::unique_ptr<PropertyListFile> m_file;
   KZSaveProblem m_problem = KZSaveProblem::None;  // as last told
+  QString m_setAsidePath;
 };

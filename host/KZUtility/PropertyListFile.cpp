@@ -125,7 +125,7 @@ void PropertyListFile::reject(const QString& reason, uid_t owner) {
   fail(KZSaveProblem::FileUnusable, reason + QStringLiteral("; settings last for this run only"));
 }
 
-bool PropertyListFile::setAside() const {
+bool PropertyListFile::setAside() {
   const QString stamped = path() + QStringLiteral(".damaged-") +
                           QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd'T'HHmmss'Z'"));
   for (int attempt = 0; attempt < kMostSetAside; ++attempt) {
@@ -133,7 +133,10 @@ bool PropertyListFile::setAside() const {
     // Nothing that was set aside before is lost to a second one of the same second.
     const int status = ::renameat2(AT_FDCWD, QFile::encodeName(path()).constData(), AT_FDCWD,
                                    QFile::encodeName(aside).constData(), RENAME_NOREPLACE);
-    if (status == 0) return true;
+    if (status == 0) {
+      m_setAsidePath = aside;
+      return true;
+    }
     if (errno != EEXIST) return false;
   }
   return false;

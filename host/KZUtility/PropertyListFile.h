@@ -20,6 +20,8 @@ class PropertyListFile final {
   QString path() const;
   // As the last reading or writing left it.
   KZSaveProblem problem() const { return m_problem; }
+  // Where the last file that could not be used lies now; null when there was none.
+  QString setAsidePath() const { return m_setAsidePath; }
 
   // Once, before anything is set.
   Dictionary read();
@@ -45,11 +47,12 @@ class PropertyListFile final {
   void load();
   QString loadFrom(int descriptor);
   void reject(const QString& reason, uid_t owner);
-  [[nodiscard]] bool setAside() const;
+  [[nodiscard]] bool setAside();
   void applyPending();
   void fail(KZSaveProblem problem, const QString& reason);
 
   QString m_folder;
+  QString m_setAsidePath;
   KZSaveProblem m_problem = KZSaveProblem::None;
   // The whole document, so that what nobody here knows is written back as it was.
   PropertyList m_document;

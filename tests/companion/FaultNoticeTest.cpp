@@ -62,6 +62,17 @@ TEST_F(FaultNoticeTest, NamesThePlaceToMend) {
   }
 }
 
+TEST_F(FaultNoticeTest, TellsWhereDamagedSettingsAreInTheRunThatFoundThem) {
+  const StoreFolder folder;
+  folder.openWith("damaged");
+  const FaultNotice found(&window);
+  EXPECT_TRUE(found.isVisibleTo(&window));
+  EXPECT_TRUE(found.text().contains("preferences.plist.damaged-")) << qPrintable(found.text());
+  EXPECT_TRUE(QFile::exists(StoreFolder::store().setAsidePath()));
+  folder.reopen();
+  EXPECT_FALSE(FaultNotice(&window).isVisibleTo(&window));
+}
+
 TEST_F(FaultNoticeTest, TellsOfALostKeychainWhicheverThreadFindsOut) {
   const QByteArray before = qgetenv("DBUS_SESSION_BUS_ADDRESS");
   qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent/bus");

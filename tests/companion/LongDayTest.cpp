@@ -2,10 +2,15 @@
 #include <malloc.h>
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <algorithm>
+#include <functional>
 
 #include "companion/app/Companion.h"
+#include "host/KZCommonUI/KZTelemetryConstants.h"
+#include "host/KZFoundation/KZCommands.h"
 
 namespace {
 
@@ -24,24 +29,47 @@ QPushButton* buttonOf(const QWidget& window, const QString& title) {
   return found == buttons.end() ? nullptr : *found;
 }
 
-TEST(LongDay, AnEventASecondLeavesMemoryFlat) {
-  Companion companion({});
-  companion.showWindow();
-  ASSERT_TRUE(companion.loadPlugin(FAKE_PLUGIN));
-  QPushButton* const button = buttonOf(*companion.window(), "Close");
-  ASSERT_TRUE(button);
+// How much more is in use at the end than when every list that is bounded should be full.
+qint64 growthOfADay(const std::function<void()>& event) {
   qint64 early = 0;
   for (int second = 1; second <= kSecondsOfADay; ++second) {
-    button->click();
+    event();
     if (second % 500 == 0) QCoreApplication::processEvents();
-    // By then every list that is bounded should be full.
     if (second == kSecondsOfADay / 5) early = bytesInUse();
   }
   QCoreApplication::processEvents();
   const qint64 late = bytesInUse();
   std::printf("a day of events: %lld KiB after a fifth, %lld KiB at its end\n",
               static_cast<long long>(early / 1024), static_cast<long long>(late / 1024));
-  EXPECT_LT(late - early, kMostGrowth);
+  return late - early;
+}
+
+TEST(LongDay, AnEventASecondLeavesMemoryFlat) {
+  Companion companion({});
+  companion.showWindow();
+  ASSERT_TRUE(companion.loadPlugin(FAKE_PLUGIN));
+  QPushButton* const button = buttonOf(*companion.window(), "Close");
+  ASSERT_TRUE(button);
+  EXPECT_LT(growthOfADay([button] { button->click(); }), kMostGrowth);
+}
+
+TEST(LongDay, TelemetryASecondLeavesMemoryFlatAndTheFilesBounded) {
+  const QTemporaryDir folder;
+  Border border([](const QUrl&) { return true; });
+  ASSERT_TRUE(border.loadPlugin(FAKE_PLUGIN));
+  TelemetryService telemetry(&border, TelemetryFile(folder.path()));
+  const Dictionary content{
+      {TelemetryKey_Values, Dictionary{{TelemetryKey_FeatureName, "TelemetryValue_FeatureName_Any"}}}};
+  const auto write = [&] {
+    border.triggerCommand(static_cast<quint64>(KZCommand::KZCmdWriteTelemetry), content);
+  };
+  EXPECT_LT(growthOfADay(write), kMostGrowth);
+  qint64 bytes = 0;
+  for (const QFileInfo& file : QDir(folder.path()).entryInfoList(QDir::Files)) bytes += file.size();
+  const TelemetryFile::Limits limits;
+  EXPECT_LE(bytes, limits.files * limits.fileBytes);
+  EXPECT_GT(bytes, (limits.files - 1) * limits.fileBytes / 2);
+  EXPECT_EQ(telemetry.newest(10).size(), 10);
 }
 
 }  // namespace

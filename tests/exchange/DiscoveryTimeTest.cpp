@@ -55,19 +55,22 @@ class DiscoveryTimeTest : public DiscoveryFixture {
 
 TEST_F(DiscoveryTimeTest, CostsLittleBesideItsRequests) {
   configuration.limits.stagger = std::chrono::seconds(5);
-  QList<qint64> bare, ours;
+  // Each round against itself: whatever else the machine does meets both of its halves.
+  QList<qint64> bare, beyond;
   QElapsedTimer clock;
   for (int round = 0; round <= kRounds; ++round) {
     clock.start();
     askBare();
-    bare.append(clock.nsecsElapsed() / 1000);
+    const qint64 alone = clock.nsecsElapsed() / 1000;
     clock.restart();
     discover();
-    ours.append(clock.nsecsElapsed() / 1000);
+    if (round == 0) continue;  // TLS becomes ready in it
+    bare.append(alone);
+    beyond.append(clock.nsecsElapsed() / 1000 - alone);
   }
-  std::printf("discovery: %lld us, its requests alone: %lld us (medians of %d)\n",
-              static_cast<long long>(median(ours)), static_cast<long long>(median(bare)), kRounds);
-  EXPECT_LT(median(ours) - median(bare), kMostMicroseconds);
+  std::printf("discovery: %lld us beyond its requests, which take %lld us (medians of %d)\n",
+              static_cast<long long>(median(beyond)), static_cast<long long>(median(bare)), kRounds);
+  EXPECT_LT(median(beyond), kMostMicroseconds);
 }
 
 }  // namespace
