@@ -40,7 +40,9 @@ UpdateBar::UpdateBar(UpdateService* updates)
 }
 
 void UpdateBar::comeLastInTabOrder() {
-  setTabOrder(window()->previousInFocusChain(), m_download);
+  QWidget* last = window()->previousInFocusChain();
+  while (last != window() && last->focusPolicy() == Qt::NoFocus) last = last->previousInFocusChain();
+  setTabOrder(last, m_download);
   setTabOrder(m_download, m_cancel);
 }
 
