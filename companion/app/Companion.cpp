@@ -23,6 +23,7 @@ using namespace std::chrono_literals;
 
 // A window may start out of sight.
 constexpr auto kLongestFirstFrame = 500ms;
+constexpr auto kPaintTime = 100ms;
 const QString kSignedInUri = QStringLiteral("http://127.0.0.1/signed-in");
 
 QString introduction(NetworkReach reach) {
@@ -47,13 +48,14 @@ CompanionServices::Settings serviceSettings(const CompanionOptions& options,
   if (!options.stateFolder.isEmpty()) {
     arguments = {QStringLiteral("--state"), QFileInfo(options.stateFolder).absoluteFilePath()};
   }
-  return {.reach = options.reach,
-          .exchange = exchange,
-          .record = demouser::record(),
-          .dataFolder = ownFolder(options, QStandardPaths::GenericDataLocation, QStringLiteral("telemetry")),
-          .packageFolder = ownFolder(options, QStandardPaths::GenericCacheLocation, QStringLiteral("updates")),
-          .autostart = AutostartEntry(AutostartEntry::userFolder(), QCoreApplication::applicationFilePath(),
-                                      arguments)};
+  return {
+      .reach = options.reach,
+      .exchange = exchange,
+      .record = demouser::record(),
+      .dataFolder = ownFolder(options, QStandardPaths::GenericDataLocation, QStringLiteral("telemetry")),
+      .packageFolder = ownFolder(options, QStandardPaths::GenericCacheLocation, QStringLiteral("updates")),
+      .autostart =
+          AutostartEntry(AutostartEntry::userFolder(), QCoreApplication::applicationFilePath(), arguments)};
 }
 
 }  // namespace
@@ -176,6 +178,6 @@ void Companion::start(demouser::Variant variant) {
   m_window.become(variant);
   m_window.showPreferences();
   m_services->start();
-  // The windows come first.
-  QTimer::singleShot(0, &m_sandbox, [this] { m_sandbox.start(Sandbox::programPath()); });
+  // The windows come first: while they are painted, it would only take their time.
+  QTimer::singleShot(kPaintTime, &m_sandbox, [this] { m_sandbox.start(Sandbox::programPath()); });
 }
