@@ -20,7 +20,15 @@ bool isToolbarExtension(const QWidget* widget) {
 void LookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                               const QWidget* widget) const {
   switch (element) {
-    case PE_FrameFocusRect:  // every control draws its own
+    case PE_FrameFocusRect:  // every control but these draws its own
+      if (const auto* cell = qstyleoption_cast<const QStyleOptionFocusRect*>(option);
+          cell && lookLists::isList(widget)) {
+        lookLists::drawCellFocus(*cell, painter);
+      }
+      return;
+    case PE_Frame:
+      if (lookLists::isList(widget)) return lookLists::drawFrame(*option, painter);
+      return QProxyStyle::drawPrimitive(element, option, painter, widget);
     case PE_FrameStatusBarItem:
     case PE_IndicatorToolBarSeparator:  // a gap, no line
     case PE_PanelScrollAreaCorner:      // the window itself, between two thin bars
@@ -82,6 +90,9 @@ void LookStyle::drawControl(ControlElement element, const QStyleOption* option, 
         return lookTabs::drawLabel(*tab, painter);
       }
       break;
+    case CE_HeaderSection:
+    case CE_HeaderEmptyArea:
+      return lookLists::drawHeading(*option, painter);
     case CE_ToolBar:
       return lookToolbar::drawBar(*option, painter);
     default:

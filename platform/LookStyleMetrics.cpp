@@ -35,6 +35,14 @@ int LookStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
       return 0;
     case PM_ToolBarExtensionExtent:
       return lookToolbar::kIcon;
+    case PM_FocusFrameHMargin:
+      if (lookLists::isList(widget)) return lookLists::kTextMargin - 1;  // the delegate adds one
+      return QProxyStyle::pixelMetric(metric, option, widget);
+    case PM_HeaderMargin:
+      return lookLists::kTextMargin;
+    case PM_DefaultFrameWidth:
+      if (lookLists::isList(widget)) return lookLists::kFrame;
+      return QProxyStyle::pixelMetric(metric, option, widget);
     case PM_ScrollBarExtent:
       return lookScrollBar::kExtent;
     case PM_MenuPanelWidth:

@@ -67,6 +67,16 @@ void drawLabel(const QStyleOptionTab& option, QPainter* painter);
 QSize tabSize(const QStyleOptionTab& option);
 }  // namespace lookTabs
 
+// Tables, lists and read texts.
+namespace lookLists {
+inline constexpr int kFrame = 2;       // room for a ring
+inline constexpr int kTextMargin = 4;  // of cells and headings alike
+bool isList(const QWidget* widget);
+void drawFrame(const QStyleOption& option, QPainter* painter);
+void drawHeading(const QStyleOption& option, QPainter* painter);  // or the empty rest of the header
+void drawCellFocus(const QStyleOptionFocusRect& option, QPainter* painter);
+}  // namespace lookLists
+
 namespace lookScrollBar {
 inline constexpr int kExtent = 10;
 void draw(const QStyleOptionSlider& option, QPainter* painter);

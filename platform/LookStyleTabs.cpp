@@ -61,6 +61,10 @@ void drawTab(const QStyleOptionTab& option, QPainter* painter) {
   }
   if (!states.isFocused || !isSelectedTab(option)) return;
   drawLookFocus(painter, option, option.rect, kTrackRadius);
+  if (!isContrastTab(option)) return;
+  // The tab has the ring's colour.
+  drawLookBox(painter, tab.adjusted(1, 1, -1, -1), kTrackRadius - kTabInset - 1, Qt::NoBrush,
+              option.palette.color(QPalette::Active, QPalette::HighlightedText));
 }
 
 void drawLabel(const QStyleOptionTab& option, QPainter* painter) {

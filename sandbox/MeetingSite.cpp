@@ -99,8 +99,8 @@ HttpResponse MeetingSite::siteOf(SiteCase what) const {
       {"name", "Sandbox Meetings"},
       {"outlook", true},
       {"links", QJsonObject{{"meetingSettings", pages + settingsPath}, {"joinByNumber", pages + joinPath}}},
-      {"preference", QJsonObject{{"pmrUrl", "https://meetings.sandbox.example/meet/ada"},
-                                 {"pmrSipUrl", "ada@meetings.sandbox.example"},
+      {"preference", QJsonObject{{"pmrUrl", "https://sandbox.example/meet/ada"},
+                                 {"pmrSipUrl", "ada@sandbox.example"},
                                  {"disableCalendarIntegration", true},
                                  {"enableListGoogleCalendarMeeting", true}}}};
   if (what == SiteCase::Works) site.insert("downloads", "https://" + downloadsHost());

@@ -15,6 +15,8 @@
 #include "companion/app/TelemetryView.h"
 #include "companion/exchange/StandardExchange.h"
 #include "companion/inspector/InspectorView.h"
+#include "companion/runtime/SaveDialog.h"
+#include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 
 namespace {
@@ -67,10 +69,7 @@ Companion::Companion(const CompanionOptions& options)
       m_recording(&m_border),
       m_window(&m_border),
       m_options(options) {
-  connect(&KZPlistFileHandle::sharedInstance(), &KZPlistFileHandle::valueChanged, &m_log,
-          [this](const QString& key, const QVariant& before, const QVariant& after) {
-            m_log.record(InspectorEvent::ofStoreWrite(key, before, after));
-          });
+  connectStores();
   m_window.showNotice(introduction(options.reach));
   connectSandbox();
   connectRecording();
@@ -110,6 +109,21 @@ void Companion::offer(const Offered& offered) {
   m_tryOut->setSites(offered.sites);
 }
 
+void Companion::connectStores() {
+  connect(&KZPlistFileHandle::sharedInstance(), &KZPlistFileHandle::valueChanged, &m_log,
+          [this](const QString& key, const QVariant& before, const QVariant& after) {
+            m_log.record(InspectorEvent::ofStoreWrite(key, before, after));
+          });
+  const KZKeyChainHandle& keychain = KZKeyChainHandle::sharedInstance();
+  using Change = InspectorEvent::KeychainChange;
+  connect(&keychain, &KZKeyChainHandle::itemWritten, &m_log, [this](const QString& account) {
+    m_log.record(InspectorEvent::ofKeychain(account, Change::Written));
+  });
+  connect(&keychain, &KZKeyChainHandle::itemRemoved, &m_log, [this](const QString& account) {
+    m_log.record(InspectorEvent::ofKeychain(account, Change::Removed));
+  });
+}
+
 void Companion::connectSandbox() {
   connect(&m_sandbox, &Sandbox::ready, this, [this](const QJsonObject& exchange, const QJsonObject& site) {
     m_exchange->useSandbox(exchange);
@@ -131,10 +145,9 @@ void Companion::connectRecording() {
 
 void Companion::toggleRecording() {
   if (m_recording.isRunning()) return m_recording.stop();
-  auto* dialog = new QFileDialog(&m_window, QStringLiteral("Record to"), Recording::suggestedPath());
-  dialog->setAttribute(Qt::WA_DeleteOnClose);
-  dialog->setAcceptMode(QFileDialog::AcceptSave);
-  dialog->setDefaultSuffix(QStringLiteral("jsonl"));
+  QFileDialog* dialog =
+      createSaveDialog(&m_window, QStringLiteral("Record to"), QStringLiteral("meetings-record"));
+  dialog->setNameFilter(QStringLiteral("Records (*.jsonl)"));
   connect(dialog, &QFileDialog::fileSelected, this, &Companion::recordAnew);
   dialog->open();
 }

@@ -54,6 +54,7 @@ class Companion final : public QObject {
   QWidget* createTryOut();
   QWidget* createInspector();
   void offer(const Offered& offered);
+  void connectStores();
   void connectSandbox();
   void connectRecording();
   void toggleRecording();

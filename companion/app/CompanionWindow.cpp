@@ -53,7 +53,8 @@ CompanionWindow::CompanionWindow(Border* border) : m_border(border) {
 void CompanionWindow::useServices(CompanionServices* services) {
   m_services = services;
   auto* column = static_cast<QVBoxLayout*>(layout());
-  column->insertWidget(column->indexOf(m_notice), new UpdateBar(&services->updates()));
+  m_updates = new UpdateBar(&services->updates());
+  column->insertWidget(column->indexOf(m_notice), m_updates);
   connect(&services->site(), &SiteService::siteWanted, this, &CompanionWindow::openSiteDialog);
 }
 
@@ -85,13 +86,20 @@ QWidget* CompanionWindow::createPages() {
   m_pages = new QStackedWidget;
   column->addWidget(m_tabs);
   column->addWidget(m_pages, 1);
-  connect(m_tabs, &QTabBar::currentChanged, m_pages, &QStackedWidget::setCurrentIndex);
+  connect(m_tabs, &QTabBar::currentChanged, this, &CompanionWindow::showPage);
   return box;
 }
 
 void CompanionWindow::addPage(const QString& title, QWidget* page) {
   m_pages->addWidget(page);
   m_tabs->addTab(title);
+  m_updates->comeLastInTabOrder();
+}
+
+void CompanionWindow::showPage(int index) {
+  m_pages->setCurrentIndex(index);
+  // A page that is made when it is shown first comes after what was there.
+  m_updates->comeLastInTabOrder();
 }
 
 QWidget* CompanionWindow::createSwitch() {

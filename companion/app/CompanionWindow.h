@@ -13,6 +13,7 @@ class QTabBar;
 class QPushButton;
 class QRadioButton;
 class SiteDialog;
+class UpdateBar;
 
 // The companion's own window: who is there, what a host can ask of its plug-in, and what crosses the border.
 class CompanionWindow final : public QWidget {
@@ -32,7 +33,7 @@ class CompanionWindow final : public QWidget {
   void startOver();
   void showRecording(bool isRunning);
   void showNotice(const QString& text);
-  // The window takes the page; the first one is in front.
+  // The window takes the page; the first one is in front. After useServices.
   void addPage(const QString& title, QWidget* page);
   // Asks the site, and belongs to it from then on.
   void useSite(const QString& site);
@@ -50,6 +51,7 @@ class CompanionWindow final : public QWidget {
   QWidget* createButtons();
   QPushButton* createButton(const QString& title, const QString& toolTip, void (CompanionWindow::*action)());
 
+  void showPage(int index);
   void showAccount();
   void checkForUpdates();
   void joinByNumber();
@@ -65,6 +67,7 @@ class CompanionWindow final : public QWidget {
   QStackedWidget* m_pages = nullptr;
   QLabel* m_identity = nullptr;
   QLabel* m_notice = nullptr;
+  UpdateBar* m_updates = nullptr;
   QPushButton* m_recordButton = nullptr;
   QPointer<SiteDialog> m_siteDialog;
 };

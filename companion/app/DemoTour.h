@@ -4,11 +4,13 @@
 #include <QStringList>
 
 #include "companion/app/DemoUser.h"
+#include "companion/session/UserInput.h"
 
 class CompanionWindow;
 class QWidget;
 
-// A demonstration without anybody watching: opens every pane of both variants and takes its picture.
+// A demonstration without anybody watching: clicks through the panes of both variants
+// and takes their pictures.
 class DemoTour final {
  public:
   DemoTour(CompanionWindow* window, const QString& folder)
@@ -23,4 +25,5 @@ class DemoTour final {
 
   CompanionWindow* m_window;
   QString m_folder;
+  UserInput m_user;
 };

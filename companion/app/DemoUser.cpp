@@ -42,10 +42,14 @@ void become(Variant variant) {
 }
 
 Dictionary record() {
-  return {{QRT_Preference_PMRUrl, QStringLiteral("https://meetings.example.com/meet/ada")},
-          {QRT_Preference_PMRSipUrl, QStringLiteral("ada@meetings.example.com")},
-          {QStringLiteral("disableCalendarIntegration"), true},
-          {QStringLiteral("enableListGoogleCalendarMeeting"), true}};
+  Dictionary record = KZPlistFileHandle::sharedInstance().preferenceInfo();
+  if (record.isEmpty()) {
+    record = {{QRT_Preference_PMRUrl, QStringLiteral("https://sandbox.example/meet/ada")},
+              {QRT_Preference_PMRSipUrl, QStringLiteral("ada@sandbox.example")}};
+  }
+  record.insert(QStringLiteral("disableCalendarIntegration"), true);
+  record.insert(QStringLiteral("enableListGoogleCalendarMeeting"), true);
+  return record;
 }
 
 }  // namespace demouser

@@ -1,12 +1,16 @@
 #include "companion/app/FaultNotice.h"
 
 #include <QFileInfo>
+#include <QPainter>
 #include <QStringList>
 
 #include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 
 namespace {
+
+constexpr int kNoticeGap = 10;
+constexpr qreal kNoticeCorner = 6;
 
 QString noticeOfSaving(KZSaveProblem problem, const QString& file) {
   const QString folder = QFileInfo(file).absolutePath();
@@ -52,10 +56,22 @@ FaultNotice::FaultNotice(QWidget* parent) : QLabel(parent) {
   setObjectName(QStringLiteral("m_faultNotice"));
   setWordWrap(true);
   setTextFormat(Qt::PlainText);
+  setContentsMargins(kNoticeGap, kNoticeGap - 2, kNoticeGap, kNoticeGap - 2);
+  setForegroundRole(QPalette::ToolTipText);
   connect(&KZPlistFileHandle::sharedInstance(), &KZPlistFileHandle::saveProblemChanged, this,
           &FaultNotice::renew);
   connect(&KZKeyChainHandle::sharedInstance(), &KZKeyChainHandle::lost, this, &FaultNotice::renew);
   renew();
+}
+
+void FaultNotice::paintEvent(QPaintEvent* event) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(palette().color(QPalette::Mid));
+  painter.setBrush(palette().toolTipBase());
+  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kNoticeCorner, kNoticeCorner);
+  painter.end();
+  QLabel::paintEvent(event);
 }
 
 void FaultNotice::renew() {

@@ -13,6 +13,9 @@ class FaultNotice final : public QLabel {
  public:
   explicit FaultNotice(QWidget* parent);
 
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
  private:
   void renew();
 };

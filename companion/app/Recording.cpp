@@ -1,9 +1,7 @@
 #include "companion/app/Recording.h"
 
-#include <QDateTime>
-#include <QDir>
-#include <QStandardPaths>
 #include <chrono>
+#include <utility>
 
 namespace {
 
@@ -20,13 +18,6 @@ std::chrono::milliseconds timeSinceStart() {
 
 }  // namespace
 
-QString Recording::suggestedPath() {
-  const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-  const QString folder = QDir(documents).exists() ? documents : QDir::homePath();
-  const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd-HHmmss"));
-  return QDir(folder).filePath(QStringLiteral("meetings-record-%1.jsonl").arg(time));
-}
-
 bool Recording::start(const QString& path) {
   stop();
   auto file = std::make_unique<RecordFile>();
@@ -41,7 +32,7 @@ bool Recording::start(const QString& path) {
       Recorder::Options{
           .clock = timeSinceStart, .slack = kPauseSlack, .keychain = HostStateWatch::Keychain::ReadOnce});
   Q_EMIT changed(true);
-  Q_EMIT noticed(QStringLiteral("Recording to %1; passwords and tokens are replaced.").arg(path));
+  Q_EMIT noticed(QStringLiteral("Recording to %1. Do what goes wrong, then press Stop recording.").arg(path));
   return true;
 }
 
@@ -52,20 +43,37 @@ bool Recording::take(const QByteArray& line) {
   return false;
 }
 
+bool Recording::finish() {
+  const auto recorder = std::exchange(m_recorder, nullptr);
+  recorder->stop();
+  return m_file->finish([&recorder](const QByteArray& line) { return recorder->revised(line); });
+}
+
 void Recording::stop() {
   if (!m_recorder) return;
-  m_recorder.reset();
+  const bool isFinished = finish();
   Q_EMIT changed(false);
+  if (!isFinished) return Q_EMIT noticed(unfinishedText());
   Q_EMIT noticed(
-      QStringLiteral("Recorded to %1. Read it before you pass it on: names and addresses are in it.")
+      QStringLiteral("Recorded to %1. Attach it to your report; passwords and tokens are replaced, names and "
+                     "addresses are not.")
           .arg(m_file->path()));
 }
 
 void Recording::onFailed() {
   if (!m_recorder) return;
-  m_recorder.reset();
+  const QString reason = m_file->errorText();
+  const bool isFinished = finish();
   Q_EMIT changed(false);
+  if (!isFinished) return Q_EMIT noticed(unfinishedText());
   Q_EMIT noticed(
       QStringLiteral("Recording has ended: %1. What came before is in %2. Make room, then record again.")
-          .arg(m_file->errorText(), m_file->path()));
+          .arg(reason, m_file->path()));
+}
+
+QString Recording::unfinishedText() const {
+  return QStringLiteral(
+             "Recorded to %1, but it could not be read once more (%2): a password that was first "
+             "typed into a field for something else may be in it. Look before you pass it on.")
+      .arg(m_file->path(), m_file->errorText());
 }

@@ -14,9 +14,6 @@ class Recording final : public QObject {
  public:
   explicit Recording(Border* border) : m_border(border) {}  // not owned, must outlive this
 
-  // A file in the user's documents, named after the present time.
-  static QString suggestedPath();
-
   bool isRunning() const { return m_recorder != nullptr; }
   // False when the file cannot be made; the user is told why. What was being recorded before ends.
   [[nodiscard]] bool start(const QString& path);
@@ -29,6 +26,8 @@ class Recording final : public QObject {
  private:
   [[nodiscard]] bool take(const QByteArray& line);  // on the thread that wrote it
   void onFailed();
+  [[nodiscard]] bool finish();  // recorder and file
+  QString unfinishedText() const;
 
   Border* m_border;
   std::unique_ptr<RecordFile> m_file;

@@ -38,6 +38,11 @@ SiteDialog::~SiteDialog() {
   m_service->cancelLookUp();
 }
 
+void SiteDialog::done(int result) {
+  m_service->cancelLookUp();
+  QDialog::done(result);
+}
+
 QWidget* SiteDialog::createButtons() {
   auto* bar = new QWidget;
   auto* row = new QHBoxLayout(bar);

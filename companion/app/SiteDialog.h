@@ -19,6 +19,9 @@ class SiteDialog final : public QDialog {
   // As if the user had typed it.
   void ask(const QString& site);
 
+  // Closed in any way: an answer that is still on its way changes nothing.
+  void done(int result) override;
+
  private:
   QString site() const;
   QWidget* createButtons();

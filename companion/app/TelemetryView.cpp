@@ -79,12 +79,16 @@ void TelemetryView::showRecords() {
   const bool isOn = m_telemetry->isOn();
   m_isOn->setChecked(isOn);
   m_delete->setEnabled(!records.isEmpty());
-  m_text->setText(
-      (isOn ? QStringLiteral(
-                  "Your choices in Preferences, without anything personal, are kept in %1. They stay "
-                  "on this computer.")
-            : QStringLiteral("Nothing is written. What was kept before lies in %1."))
-          .arg(m_telemetry->path()));
+  if (isOn) {
+    m_text->setText(QStringLiteral("Your choices in Preferences, without anything personal, are kept in %1. "
+                                   "They stay on this computer.")
+                        .arg(m_telemetry->path()));
+  } else if (records.isEmpty()) {
+    m_text->setText(QStringLiteral("Nothing is written, and nothing is kept."));
+  } else {
+    m_text->setText(
+        QStringLiteral("Nothing is written. What was kept before lies in %1.").arg(m_telemetry->path()));
+  }
   m_table->setRowCount(static_cast<int>(records.size()));
   for (int row = 0; row < m_table->rowCount(); ++row) {
     const TelemetryRecord& record = records.at(row);

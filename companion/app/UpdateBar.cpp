@@ -39,6 +39,11 @@ UpdateBar::UpdateBar(UpdateService* updates)
   connect(m_cancel, &QPushButton::clicked, updates, &UpdateService::cancel);
 }
 
+void UpdateBar::comeLastInTabOrder() {
+  setTabOrder(window()->previousInFocusChain(), m_download);
+  setTabOrder(m_download, m_cancel);
+}
+
 void UpdateBar::showStart() {
   m_text->setText(QStringLiteral("Checking for updates."));
   m_progress->setRange(0, 0);

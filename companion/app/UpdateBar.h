@@ -12,7 +12,10 @@ class UpdateBar final : public QWidget {
   Q_OBJECT
 
  public:
-  explicit UpdateBar(UpdateService* updates);  // not owned; must outlive the bar
+  explicit UpdateBar(UpdateService* updates);
+
+  // After what the window has by now.
+  void comeLastInTabOrder();  // not owned; must outlive the bar
 
  private:
   void showStart();

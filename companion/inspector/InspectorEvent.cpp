@@ -99,6 +99,17 @@ InspectorEvent textOf(const Crossing& crossing) {
   return {.kind = Kind::Trace, .level = crossing.level, .name = crossing.name, .content = crossing.text};
 }
 
+// Indented, content that is nested deeply grows a thousand times.
+bool isDeeplyNested(const QString& json) {
+  constexpr int deepest = 24;
+  int depth = 0;
+  return std::ranges::any_of(json, [&depth](QChar sign) {
+    if (sign == u'{' || sign == u'[') ++depth;
+    if (sign == u'}' || sign == u']') --depth;
+    return depth > deepest;
+  });
+}
+
 InspectorEvent bounded(InspectorEvent event) {
   event.time = QDateTime::currentMSecsSinceEpoch();
   event.name = cutTo(kLongestName, event.name);
@@ -118,6 +129,13 @@ InspectorEvent InspectorEvent::ofStoreWrite(const QString& key, const QVariant& 
       {.kind = Kind::StoreWrite, .name = key, .content = valueDifference(key, before, after).join(u'\n')});
 }
 
+InspectorEvent InspectorEvent::ofKeychain(const QString& account, KeychainChange change) {
+  return bounded(
+      {.kind = Kind::Keychain,
+       .name = account,
+       .content = change == KeychainChange::Written ? QStringLiteral("written") : QStringLiteral("removed")});
+}
+
 qsizetype InspectorEvent::bytes() const {
   return qsizetype{sizeof(InspectorEvent)} + (name.size() + content.size()) * qsizetype{sizeof(QChar)};
 }
@@ -132,6 +150,7 @@ QString InspectorEvent::kindTitle() const {
 }
 
 QString InspectorEvent::wholeContent() const {
+  if (isDeeplyNested(content)) return content;
   const QJsonDocument json = QJsonDocument::fromJson(content.toUtf8());
   return json.isNull() ? content : QString::fromUtf8(json.toJson()).trimmed();
 }
@@ -162,6 +181,8 @@ QString kindText(InspectorEvent::Kind kind) {
       return QStringLiteral("Telemetry");
     case Kind::StoreWrite:
       return QStringLiteral("Store write");
+    case Kind::Keychain:
+      return QStringLiteral("Keychain");
     case Kind::Trace:
       break;
   }

@@ -20,6 +20,7 @@ struct InspectorEvent {
     Warning,
     Telemetry,
     StoreWrite,
+    Keychain,
     Trace,
   };
   static constexpr qsizetype mostBytes = 64 * 1024;  // of the content
@@ -37,10 +38,13 @@ struct InspectorEvent {
   // A missing value: the key was, or is, not there.
   static InspectorEvent ofStoreWrite(const QString& key, const QVariant& before, const QVariant& after);
 
+  enum class KeychainChange { Written, Removed };
+  static InspectorEvent ofKeychain(const QString& account, KeychainChange change);
+
   qsizetype bytes() const;
   QString title() const;           // number and name
   QString kindTitle() const;       // with a trace's level
-  QString wholeContent() const;    // JSON in lines
+  QString wholeContent() const;    // JSON in lines, unless it is nested deeply
   QStringList difference() const;  // a store write's lines; they begin with "-" or "+"
 };
 

@@ -28,7 +28,8 @@ void insertContent(QJsonObject* line, const InspectorEvent& event) {
     return;
   }
   if (event.kind == Kind::Trace) line->insert(QStringLiteral("level"), levelText(event.level));
-  const bool isText = event.kind == Kind::Trace || event.kind == Kind::Warning || event.kind == Kind::Address;
+  const bool isText = event.kind == Kind::Trace || event.kind == Kind::Warning ||
+                      event.kind == Kind::Address || event.kind == Kind::Keychain;
   const QJsonDocument json = isText ? QJsonDocument() : QJsonDocument::fromJson(event.content.toUtf8());
   if (json.isObject()) {
     line->insert(QStringLiteral("content"), json.object());

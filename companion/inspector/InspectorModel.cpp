@@ -37,9 +37,20 @@ QColor colorOf(const InspectorEvent& event) {
     case Kind::PersonalRoom:
     case Kind::Challenge:
     case Kind::StoreWrite:
+    case Kind::Keychain:
       break;
   }
   return palette.color(QPalette::Text);
+}
+
+// Whatever would break a line or begin a column.
+QString onOneLine(QString text) {
+  for (QChar& sign : text) {
+    const bool isBreak = sign.category() == QChar::Other_Control || sign == QChar::LineSeparator ||
+                         sign == QChar::ParagraphSeparator;
+    if (isBreak) sign = u' ';
+  }
+  return text;
 }
 
 QString columnText(const InspectorEvent& event, int column, qsizetype longest) {
@@ -49,9 +60,9 @@ QString columnText(const InspectorEvent& event, int column, qsizetype longest) {
     case InspectorModel::KindColumn:
       return event.kindTitle();
     case InspectorModel::NameColumn:
-      return event.title();
+      return onOneLine(event.title());
     default:
-      return event.content.left(longest).replace(u'\n', u' ');
+      return onOneLine(event.content.left(longest));
   }
 }
 

@@ -7,6 +7,13 @@
 
 #include "companion/inspector/InspectorModel.h"
 
+namespace {
+
+constexpr int kNarrowestNames = 178;
+constexpr int kWidestNames = 280;
+
+}  // namespace
+
 InspectorTable::InspectorTable(InspectorModel* model) : m_rows(model) {
   setModel(model);
   setSelectionBehavior(SelectRows);
@@ -20,6 +27,7 @@ InspectorTable::InspectorTable(InspectorModel* model) : m_rows(model) {
   connect(shortcut, &QShortcut::activated, this, &InspectorTable::copyWanted);
   connect(model, &QAbstractItemModel::rowsAboutToBeRemoved, this, &InspectorTable::noteEnd);
   connect(model, &QAbstractItemModel::rowsAboutToBeInserted, this, &InspectorTable::noteEnd);
+  connect(model, &QAbstractItemModel::rowsRemoved, this, &InspectorTable::keepPlace);
   connect(model, &QAbstractItemModel::modelAboutToBeReset, this, &InspectorTable::noteEnd);
   connect(model, &QAbstractItemModel::rowsInserted, this, &InspectorTable::followEnd, Qt::QueuedConnection);
   connect(model, &QAbstractItemModel::modelReset, this, &InspectorTable::restoreCurrent);
@@ -33,8 +41,20 @@ void InspectorTable::setUpColumns() {
   horizontalHeader()->setHighlightSections(false);
   horizontalHeader()->setStretchLastSection(true);
   setColumnWidth(InspectorModel::TimeColumn, 96);
-  setColumnWidth(InspectorModel::KindColumn, 136);
-  setColumnWidth(InspectorModel::NameColumn, 178);
+  setColumnWidth(InspectorModel::KindColumn, 142);
+  m_nameWidth = columnWidth(InspectorModel::NameColumn);
+  fitNames();
+}
+
+void InspectorTable::fitNames() {
+  if (columnWidth(InspectorModel::NameColumn) != m_nameWidth) return;
+  m_nameWidth = std::clamp(viewport()->width() * 3 / 10, kNarrowestNames, kWidestNames);
+  setColumnWidth(InspectorModel::NameColumn, m_nameWidth);
+}
+
+void InspectorTable::resizeEvent(QResizeEvent* event) {
+  QTableView::resizeEvent(event);
+  fitNames();
 }
 
 QList<int> InspectorTable::selectedRows() const {
@@ -46,22 +66,51 @@ QList<int> InspectorTable::selectedRows() const {
 
 void InspectorTable::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   QTableView::currentChanged(current, previous);
-  // While rows go or come anew the current one may be none for a moment.
-  if (current.isValid()) m_currentSerial = m_rows->eventAt(current.row())->serial;
-  Q_EMIT currentEventChanged();
+  if (!current.isValid()) return;
+  const InspectorLog::Event& event = m_rows->eventAt(current.row());
+  if (event->serial == m_currentSerial) return;
+  m_currentSerial = event->serial;
+  Q_EMIT eventChosen(event);
+}
+
+void InspectorTable::rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) {
+  // Else the view makes a neighbour the current one, and nobody has chosen that.
+  const int row = currentIndex().row();
+  if (row >= start && row <= end) selectionModel()->clearCurrentIndex();
+  QTableView::rowsAboutToBeRemoved(parent, start, end);
+}
+
+void InspectorTable::showEvent(QShowEvent* event) {
+  QTableView::showEvent(event);
+  // Once it has its place in the window.
+  QMetaObject::invokeMethod(this, &InspectorTable::followEnd, Qt::QueuedConnection);
+}
+
+void InspectorTable::hideEvent(QHideEvent* event) {
+  QTableView::hideEvent(event);
+  m_isAtEnd = isAtEnd();
+}
+
+bool InspectorTable::isAtEnd() const {
+  const QScrollBar* bar = verticalScrollBar();
+  return bar->value() == bar->maximum();
 }
 
 void InspectorTable::noteEnd() {
-  const QScrollBar* bar = verticalScrollBar();
-  m_isAtEnd = bar->value() == bar->maximum();
+  if (isVisible()) m_isAtEnd = isAtEnd();  // else as it was when it was seen last
 }
 
 void InspectorTable::followEnd() {
   if (m_isAtEnd) scrollToBottom();
 }
 
+// What goes stands above what is read.
+void InspectorTable::keepPlace(const QModelIndex& /*parent*/, int start, int end) {
+  QScrollBar* bar = verticalScrollBar();
+  if (!m_isAtEnd) bar->setValue(bar->value() - (end - start + 1));
+}
+
 void InspectorTable::restoreCurrent() {
   const int row = m_rows->rowOf(m_currentSerial);
-  if (row < 0) return Q_EMIT currentEventChanged();
-  setCurrentIndex(m_rows->index(row, 0));
+  if (row >= 0) setCurrentIndex(m_rows->index(row, 0));
 }

@@ -1,32 +1,24 @@
 #include "companion/inspector/InspectorView.h"
 
 #include <QClipboard>
-#include <QDateTime>
-#include <QDir>
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSplitter>
-#include <QStandardPaths>
 #include <numeric>
 
 #include "companion/inspector/InspectorDetails.h"
 #include "companion/inspector/InspectorExport.h"
 #include "companion/inspector/InspectorFilterBar.h"
 #include "companion/inspector/InspectorTable.h"
+#include "companion/runtime/SaveDialog.h"
 
 namespace {
 
 const QString kAllEvents = QStringLiteral("All events (*.jsonl)");
 const QString kShownEvents = QStringLiteral("Events that are shown (*.jsonl)");
-
-QString proposedExportPath() {
-  const QString stamp = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"));
-  return QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
-      .filePath(QStringLiteral("inspector-%1.jsonl").arg(stamp));
-}
 
 }  // namespace
 
@@ -47,8 +39,9 @@ InspectorView::InspectorView(InspectorLog* log)
   connect(m_kinds, &InspectorFilterBar::changed, this, &InspectorView::applyFilter);
   connect(m_text, &QLineEdit::textChanged, this, &InspectorView::applyFilter);
   connect(m_model, &InspectorModel::missed, this, &InspectorView::showMissed);
-  connect(m_table, &InspectorTable::currentEventChanged, this, &InspectorView::showDetails);
+  connect(m_table, &InspectorTable::eventChosen, m_details, &InspectorDetails::show);
   connect(m_table, &InspectorTable::copyWanted, this, &InspectorView::copy);
+  connect(log, &InspectorLog::cleared, m_details, [this] { m_details->show(nullptr); });
   applyFilter();
 }
 
@@ -106,11 +99,6 @@ void InspectorView::showMissed(qsizetype count) {
   m_pause->setText(count == 0 ? QStringLiteral("Continue") : QStringLiteral("Continue (%1 new)").arg(count));
 }
 
-void InspectorView::showDetails() {
-  const QModelIndex current = m_table->currentIndex();
-  m_details->show(current.isValid() ? m_model->eventAt(current.row()) : nullptr);
-}
-
 QString InspectorView::textToCopy() const {
   QList<int> rows = m_table->selectedRows();
   if (rows.isEmpty()) {
@@ -124,6 +112,7 @@ QString InspectorView::textToCopy() const {
 
 void InspectorView::copy() {
   QGuiApplication::clipboard()->setText(textToCopy());
+  Q_EMIT noticed(QStringLiteral("The events are copied, without passwords and tokens."));
 }
 
 void InspectorView::clear() {
@@ -142,11 +131,8 @@ void InspectorView::exportTo(const QString& path, Scope scope) {
 }
 
 void InspectorView::askForFile() {
-  auto* dialog = new QFileDialog(this, QStringLiteral("Export events"), proposedExportPath());
-  dialog->setAttribute(Qt::WA_DeleteOnClose);
-  dialog->setAcceptMode(QFileDialog::AcceptSave);
+  QFileDialog* dialog = createSaveDialog(this, QStringLiteral("Export events"), QStringLiteral("inspector"));
   dialog->setNameFilters({kShownEvents, kAllEvents});
-  dialog->setDefaultSuffix(QStringLiteral("jsonl"));
   connect(dialog, &QFileDialog::fileSelected, this, [this, dialog](const QString& path) {
     exportTo(path, dialog->selectedNameFilter() == kAllEvents ? Scope::All : Scope::Shown);
   });

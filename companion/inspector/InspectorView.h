@@ -34,7 +34,6 @@ class InspectorView final : public QWidget {
   void applyFilter();
   void togglePause();
   void showMissed(qsizetype count);
-  void showDetails();
   void copy();
   void clear();
   void askForFile();

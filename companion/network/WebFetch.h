@@ -15,8 +15,9 @@ struct WebAnswer {
   QByteArray body = {};
 };
 
-// Reads one address and follows where it leads, as long as that is safe and not too far. One at a time; a
-// new one, cancel and the end of the object end it unanswered.
+// Reads one address and follows where it leads, as long as that is safe and not too far. Not for a question
+// with a body or a credential, which would follow, too. One at a time; a new one, cancel and the end of the
+// object end it unanswered.
 class WebFetch final {
  public:
   // A sentence that says why the address may not be asked; empty where it may.

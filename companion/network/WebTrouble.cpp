@@ -33,7 +33,8 @@ QString webPatternOf(WebTrouble trouble) {
     case WebTrouble::NotTaken:
       return QStringLiteral("What %1 sent could not be kept. Free some space and try again.");
     case WebTrouble::NotFound:
-      return QStringLiteral("%1 is no site of this meeting service. Check its name.");
+      return QStringLiteral(
+          "%1 does not have what was asked of it. Check the name of the site, or tell your administrator.");
     case WebTrouble::ServerError:
       return QStringLiteral("%1 has a problem of its own. Try again later, or tell your administrator.");
     case WebTrouble::TooManyRedirects:

@@ -30,6 +30,9 @@ bool isEditing(const QKeyEvent& key) {
     return false;
   if (key.key() >= Qt::Key_F1 && key.key() <= Qt::Key_F35) return false;
   if (!(key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))) return true;
+  // A field takes signs that are typed with other modifiers too, and one of them may be part of a password.
+  const bool isControl = (key.modifiers() & ~Qt::ShiftModifier) == Qt::ControlModifier;
+  if (!isControl && !key.text().isEmpty() && key.text().front().isPrint()) return true;
   static const auto edits = {QKeySequence::Copy,
                              QKeySequence::Cut,
                              QKeySequence::Paste,
@@ -73,7 +76,10 @@ bool InputWatch::inputBegins(QObject* receiver, QEvent* event) {
   QWidget* widget =
       receiver->isWidgetType() ? static_cast<QWidget*>(receiver) : pluginwindow::widgetOf(receiver);
   Window* window = widget ? pluginwindow::ownerOf(widget) : nullptr;
-  if (!window) return false;
+  if (!window) {
+    if (widget) noteElsewhere(widget, *event);
+    return false;
+  }
   const QEvent::Type type = event->type();
   if (type == QEvent::Show) {
     m_isFreshlyShown = m_isFreshlyShown || widget == window;
@@ -94,6 +100,13 @@ bool InputWatch::inputBegins(QObject* receiver, QEvent* event) {
     onWindowEvent(widget, event);
   }
   return true;
+}
+
+void InputWatch::noteElsewhere(QWidget* target, const QEvent& event) {
+  const QString what = m_elsewhere.describe(target, event);
+  if (what.isNull()) return;
+  m_typed.tell();
+  m_handlers.unnamed(what);
 }
 
 // The list of a pop-up takes keys before they are pressed.

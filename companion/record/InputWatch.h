@@ -8,6 +8,7 @@
 #include <QString>
 #include <functional>
 
+#include "companion/record/OtherWindowInput.h"
 #include "companion/record/TypedText.h"
 #include "companion/runtime/Application.h"
 #include "companion/session/LineWriter.h"
@@ -41,6 +42,7 @@ class InputWatch final : public QObject, private InputListener {
   bool inputBegins(QObject* receiver, QEvent* event) override;
   void inputEnded() override;
 
+  void noteElsewhere(QWidget* target, const QEvent& event);
   void onWindowEvent(QWidget* target, QEvent* event);
   bool isActivation(const Window& window, QEvent::Type type);
   void onPress(QWidget* hit, Qt::KeyboardModifiers modifiers);
@@ -55,6 +57,7 @@ class InputWatch final : public QObject, private InputListener {
 
   Handlers m_handlers;
   TypedText m_typed;
+  OtherWindowInput m_elsewhere;
   QPointer<Window> m_window;  // that the present input is for
   QPointer<QWidget> m_pressed;
   Step m_press;               // what it will have been when the button is released

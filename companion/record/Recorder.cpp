@@ -5,8 +5,10 @@
 #include <QMutexLocker>
 #include <QThread>
 #include <algorithm>
+#include <mutex>
 #include <utility>
 
+#include "companion/record/LateSecrets.h"
 #include "companion/session/CrossingLine.h"
 #include "companion/session/ValueCodec.h"
 
@@ -27,7 +29,13 @@ Recorder::Recorder(Border* border, Sink sink, Options options)
       m_input(inputHandlers()),
       m_lastWritten(m_options.clock()) {
   writeHeader();
-  m_observer = border->addObserver([this](const Crossing& crossing) { hear(crossing); });
+  m_observer = border->addObserver([this, gate = m_gate](const Crossing& crossing) {
+    if (crossing.kind == Crossing::Kind::Trace) return;
+    // A worker's crossing that is under way when the recording ends must not outlive it.
+    std::unique_lock lock(gate->mutex, std::defer_lock);
+    if (QThread::currentThread() != gate->home) lock.lock();
+    if (gate->isOpen) hear(crossing);
+  });
   connect(border, &Border::loading, this, [this] {
     m_state.loadingBegins();
     m_actors.push_back(Actor::Loader);
@@ -36,8 +44,25 @@ Recorder::Recorder(Border* border, Sink sink, Options options)
 }
 
 Recorder::~Recorder() {
+  stop();
+}
+
+void Recorder::stop() {
   m_observer.reset();
+  {
+    const QMutexLocker lock(&m_gate->mutex);
+    m_gate->isOpen = false;
+  }
   m_input.tellPending();
+  const QMutexLocker lock(&m_mutex);
+  m_isOver = true;
+}
+
+QByteArray Recorder::revised(const QByteArray& line) {
+  const QByteArray mark = line.startsWith(outputMark) ? QByteArray(outputMark) : QByteArray();
+  const auto form = mark.isEmpty() ? valuecodec::Form::Exact : valuecodec::Form::Printed;
+  const QMutexLocker lock(&m_mutex);
+  return mark + withoutLateSecrets(line.mid(mark.size()), form, &m_vault);
 }
 
 InputWatch::Handlers Recorder::inputHandlers() {
@@ -50,7 +75,6 @@ InputWatch::Handlers Recorder::inputHandlers() {
 }
 
 void Recorder::hear(const Crossing& crossing) {
-  if (crossing.kind == Crossing::Kind::Trace) return;
   if (QThread::currentThread() == thread()) m_input.tellPending();
   const Crossing open = withoutSecrets(crossing);
   switch (crossing.kind) {
@@ -137,6 +161,8 @@ Crossing Recorder::withoutSecrets(const Crossing& crossing) {
   open.content = m_vault.withoutSecrets(crossing.content);
   open.text = crossing.kind == Crossing::Kind::Address ? m_vault.addressWithoutSecrets(crossing.text)
                                                        : m_vault.withoutSecrets(crossing.text);
+  // What else has a name has it from the code.
+  if (crossing.kind == Crossing::Kind::Warning) open.name = m_vault.withoutSecrets(crossing.name);
   return open;
 }
 

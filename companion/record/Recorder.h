@@ -3,8 +3,10 @@
 #include <QByteArray>
 #include <QMutex>
 #include <QObject>
+#include <QThread>
 #include <chrono>
 #include <functional>
+#include <memory>
 #include <vector>
 
 #include "companion/record/HostStateWatch.h"
@@ -37,9 +39,20 @@ class Recorder final : public QObject {
   Recorder(Border* border, Sink sink, Options options);
   ~Recorder() override;
 
+  // Writes what is pending; from then on nothing is recorded.
+  void stop();
+  // A line that it has made, without the secrets too that became known only after it.
+  QByteArray revised(const QByteArray& line);
+
  private:
   using Step = InputWatch::Step;
   enum class Actor { Loader, Plugin, User, Host };
+  // Shared with the observer, which may outlive this on another thread.
+  struct Gate {
+    const QThread* home;
+    QMutex mutex{};
+    bool isOpen = true;
+  };
 
   InputWatch::Handlers inputHandlers();
   void hear(const Crossing& crossing);
@@ -69,5 +82,6 @@ class Recorder final : public QObject {
   SecretVault m_vault;
   std::chrono::milliseconds m_lastWritten;
   bool m_isOver = false;
+  const std::shared_ptr<Gate> m_gate{new Gate{QThread::currentThread()}};
   Border::Token m_observer;
 };

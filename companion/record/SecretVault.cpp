@@ -1,22 +1,12 @@
 #include "companion/record/SecretVault.h"
 
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QRegularExpression>
 #include <QUrlQuery>
-#include <algorithm>
+#include <utility>
 
 #include "host/KZFoundation/KZConstantRegistry.h"
 
 namespace {
-
-// A shorter secret would be found in texts that have nothing to do with it.
-constexpr qsizetype kShortestFoundAnywhere = 4;
-
-bool isSecretName(const QString& text) {
-  static const QRegularExpression pattern(QStringLiteral("^secret-[1-9][0-9]{0,5}$"));
-  return pattern.match(text).hasMatch();
-}
 
 bool isSecretItem(const QString& key) {
   static const QStringList ofSignIn = {QStringLiteral("state"), QStringLiteral("nonce"),
@@ -39,17 +29,6 @@ QString withoutLoopbackPort(const QString& address) {
   return url.toString(QUrl::FullyEncoded);
 }
 
-// As the secret may stand in another text.
-QStringList formsOf(const QString& secret) {
-  const QString json =
-      QString::fromUtf8(QJsonDocument(QJsonObject{{"", secret}}).toJson(QJsonDocument::Compact));
-  QStringList forms = {secret, QString::fromLatin1(QUrl::toPercentEncoding(secret)),
-                       json.mid(5, json.size() - 7), QString::fromLatin1(secret.toUtf8().toBase64()),
-                       QString::fromLatin1(secret.toUtf8().toBase64(QByteArray::Base64UrlEncoding))};
-  forms.removeDuplicates();
-  return forms;
-}
-
 }  // namespace
 
 QString SecretVault::nameOf(const QString& secret) {
@@ -57,20 +36,21 @@ QString SecretVault::nameOf(const QString& secret) {
   const auto known = m_names.constFind(secret);
   if (known != m_names.constEnd()) return *known;
   QString name = secret;
-  if (!isSecretName(secret)) {
+  if (!SecretFinder::isName(secret)) {
     const QStringList taken = m_names.values();
     do {
       name = QStringLiteral("secret-%1").arg(++m_lastNumber);
     } while (taken.contains(name));
   }
   m_names.insert(secret, name);
+  m_finder.add(secret, name);
   return name;
 }
 
+// Bytes that are a text are the same secret as the text.
 QByteArray SecretVault::nameOfBytes(const QByteArray& secret) {
-  const QString text = QString::fromLatin1(secret);
-  return isSecretName(text) ? nameOf(text).toLatin1()
-                            : nameOf(QString::fromLatin1(secret.toBase64())).toLatin1();
+  const QString text = QString::fromUtf8(secret);
+  return nameOf(text.toUtf8() == secret ? text : QString::fromLatin1(secret.toBase64())).toLatin1();
 }
 
 Content SecretVault::withoutSecrets(const Content& content) {
@@ -139,7 +119,7 @@ QVariant SecretVault::withoutKnown(const QVariant& value) {
     }
     case QMetaType::QByteArray: {
       const QByteArray bytes = value.toByteArray();
-      return holdsKnown(bytes) ? QVariant(nameOfBytes(bytes)) : value;
+      return m_finder.isIn(bytes) ? QVariant(nameOfBytes(bytes)) : value;
     }
     default:
       return value;
@@ -152,50 +132,35 @@ QString SecretVault::withoutKnown(const QString& text) {
   if (whole != m_names.constEnd()) return *whole;
   // Words of base64 first: a user name and a password may be hidden in one.
   static const QRegularExpression word(QStringLiteral("[A-Za-z0-9+/_-]{6,}={0,2}"));
-  QString open = text;
+  QString open;
+  qsizetype end = 0;
   for (auto match = word.globalMatch(text); match.hasNext();) {
-    const QString found = match.next().captured();
-    const auto standard = QByteArray::Base64Encoding;
-    const auto forAddresses = QByteArray::Base64UrlEncoding;
-    const QByteArray encoded = found.toLatin1();
-    if (holdsKnown(QByteArray::fromBase64(encoded, standard)) ||
-        holdsKnown(QByteArray::fromBase64(encoded, forAddresses))) {
-      open.replace(found, nameOf(found));
-    }
+    const auto found = match.next();
+    if (!m_finder.isInBase64(found.captured())) continue;
+    open += text.mid(end, found.capturedStart() - end) + nameOf(found.captured());
+    end = found.capturedEnd();
   }
-  // The longest first: one secret may begin another.
-  QStringList secrets = m_names.keys();
-  std::ranges::sort(secrets, std::ranges::greater(), &QString::size);
-  for (const QString& secret : secrets) {
-    if (secret.size() < kShortestFoundAnywhere || isSecretName(secret)) continue;
-    for (const QString& form : formsOf(secret)) open.replace(form, m_names.value(secret));
-  }
-  return open;
+  return m_finder.replaced(open + text.mid(end));
 }
 
-bool SecretVault::holdsKnown(const QByteArray& bytes) const {
-  return std::ranges::any_of(m_names.keys(), [&](const QString& secret) {
-    return secret.size() >= kShortestFoundAnywhere && !isSecretName(secret) &&
-           bytes.contains(secret.toUtf8());
-  });
+QString SecretVault::itemsWithoutSecrets(const QString& items) {
+  QList<std::pair<QString, QString>> open;
+  const auto given = QUrlQuery(items).queryItems(QUrl::FullyDecoded);
+  for (const auto& [key, value] : given) {
+    const bool isRedirect = key == "redirect_uri";
+    const QString text = isSecretItem(key) ? nameOf(value) : isRedirect ? withoutLoopbackPort(value) : value;
+    open.append({key, QString::fromLatin1(QUrl::toPercentEncoding(withoutKnown(text)))});
+  }
+  QUrlQuery query;
+  query.setQueryItems(open);
+  return query.toString(QUrl::FullyEncoded);
 }
 
 QString SecretVault::addressWithoutSecrets(const QString& address) {
   QUrl url(address);
   if (!url.password().isEmpty()) url.setPassword(nameOf(url.password(QUrl::FullyDecoded)));
-  if (url.hasQuery()) {
-    QList<std::pair<QString, QString>> items;
-    const auto given = QUrlQuery(url).queryItems(QUrl::FullyDecoded);
-    for (const auto& [key, value] : given) {
-      const bool isRedirect = key == "redirect_uri";
-      const QString open = isSecretItem(key) ? nameOf(value)
-                           : isRedirect      ? withoutLoopbackPort(value)
-                                             : value;
-      items.append({key, QString::fromLatin1(QUrl::toPercentEncoding(open))});
-    }
-    QUrlQuery query;
-    query.setQueryItems(items);
-    url.setQuery(query);
-  }
+  if (url.hasQuery()) url.setQuery(itemsWithoutSecrets(url.query(QUrl::FullyEncoded)));
+  // A sign-in may hand its answer over behind the address.
+  if (url.fragment().contains(u'=')) url.setFragment(itemsWithoutSecrets(url.fragment(QUrl::FullyEncoded)));
   return withoutKnown(url.toString(QUrl::FullyEncoded));
 }

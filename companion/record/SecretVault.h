@@ -2,8 +2,8 @@
 
 #include <QHash>
 #include <QString>
-#include <QUrl>
 
+#include "companion/record/SecretFinder.h"
 #include "companion/runtime/Crossing.h"
 
 // Gives every secret a name of its own, "secret-1" and so on, and puts the names in the secrets' places. A
@@ -19,6 +19,8 @@ class SecretVault final {
   Content withoutSecrets(const Content& content);
   QVariant withoutSecrets(const QVariant& value);
   QString withoutSecrets(const QString& text);
+  // Only without what is known as a secret, whatever its key.
+  QVariant withoutKnown(const QVariant& value);
   // Also without what makes an address of a sign-in another one each time.
   QString addressWithoutSecrets(const QString& address);
 
@@ -26,10 +28,10 @@ class SecretVault final {
   QByteArray nameOfBytes(const QByteArray& secret);
   QVariant nameUnderKey(const QVariant& secret);
   QString nameInCredential(const QString& text);
-  QVariant withoutKnown(const QVariant& value);
   QString withoutKnown(const QString& text);
-  bool holdsKnown(const QByteArray& bytes) const;
+  QString itemsWithoutSecrets(const QString& items);
 
   QHash<QString, QString> m_names;  // by secret
+  SecretFinder m_finder;
   int m_lastNumber = 0;
 };

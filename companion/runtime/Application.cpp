@@ -6,6 +6,7 @@
 namespace {
 
 InputListener* theInputListener = nullptr;
+int theListening = 0;  // counts the listeners that there have been
 
 bool isInput(const QObject& receiver, const QEvent& event) {
   switch (event.type()) {
@@ -33,13 +34,16 @@ bool isInput(const QObject& receiver, const QEvent& event) {
 
 void Application::setInputListener(InputListener* listener) {
   theInputListener = listener;
+  ++theListening;
 }
 
 bool Application::notify(QObject* receiver, QEvent* event) {
   // Other threads deliver their events here too.
   const bool isHeard = theInputListener && QThread::currentThread() == thread() &&
                        isInput(*receiver, *event) && theInputListener->inputBegins(receiver, event);
+  const int listening = theListening;
   const bool isAccepted = QApplication::notify(receiver, event);
-  if (isHeard && theInputListener) theInputListener->inputEnded();
+  // Who came in the meantime has not heard of the beginning.
+  if (isHeard && theInputListener && listening == theListening) theInputListener->inputEnded();
   return isAccepted;
 }

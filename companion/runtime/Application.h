@@ -18,8 +18,9 @@ class Application final : public QApplication {
  public:
   using QApplication::QApplication;
 
-  // One at a time, not owned; nullptr: nobody listens. Nobody hears anything in a program whose application
-  // object is another.
+  // One at a time, not owned; nullptr: nobody listens. A listener that comes or goes in the middle of an
+  // input hears nothing more of that one. Nobody hears anything in a program whose application object is
+  // another.
   static void setInputListener(InputListener* listener);
 
   bool notify(QObject* receiver, QEvent* event) override;

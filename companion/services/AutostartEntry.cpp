@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <QSaveFile>
 #include <QStandardPaths>
 
@@ -29,6 +30,15 @@ QString quotedArgument(const QString& argument) {
   return QLatin1Char('"') + quoted + QLatin1Char('"');
 }
 
+// Desktops look for the first word of a command as it is written, with its doubled per cent signs, and an
+// equals sign is not allowed in it. A shell in front takes the program as an argument like any other.
+QStringList startable(const QStringList& command) {
+  static const QRegularExpression inTheWay(QStringLiteral("[%=]"));
+  if (!command.first().contains(inTheWay)) return command;
+  return QStringList{QStringLiteral("/bin/sh"), QStringLiteral("-c"), QStringLiteral("exec \"$0\" \"$@\"")} +
+         command;
+}
+
 }  // namespace
 
 AutostartEntry::AutostartEntry(const QString& folder, const QString& program, const QStringList& arguments)
@@ -45,7 +55,7 @@ QString AutostartEntry::path() const {
 
 QByteArray AutostartEntry::content() const {
   QStringList command;
-  for (const QString& argument : m_command) command.append(quotedArgument(argument));
+  for (const QString& argument : startable(m_command)) command.append(quotedArgument(argument));
   const QStringList lines = {QStringLiteral("[Desktop Entry]"),
                              QStringLiteral("Type=Application"),
                              QStringLiteral("Name=Brenn Mivra Meetings"),

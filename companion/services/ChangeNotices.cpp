@@ -1,17 +1,23 @@
 #include "companion/services/ChangeNotices.h"
 
+#include <utility>
+
 #include "companion/runtime/Border.h"
+#include "companion/services/MeetingAccount.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 
 namespace {
 
-QString identityNotice(const Content& content) {
+QString identityNotice() {
   const KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
-  if (!content) return QStringLiteral("You are %1 now, %2.").arg(store.displayName(), store.userName());
-  // A record arrives at every start; what did not change is no news.
-  return {};
+  return QStringLiteral("You are %1 now, %2.").arg(store.displayName(), store.userName());
+}
+
+QString roomNotice(const QString& room) {
+  if (room.isEmpty()) return QStringLiteral("You have no personal room any more.");
+  return QStringLiteral("Your personal room is %1 now.").arg(room);
 }
 
 QString sourceNotice() {
@@ -34,17 +40,12 @@ QString devicesNotice(const Content& content) {
 
 QString noticeOf(KZCommand command, const Content& content) {
   switch (command) {
-    case KZCommand::KZCmdPreferenceChanged:
-      return identityNotice(content);
     case KZCommand::KZCmdCalendarIntegrationSourceChanged:
       return sourceNotice();
     case KZCommand::KZCmdSetVideoDevicePrefs:
       return devicesNotice(content);
     case KZCommand::KZCmdListExchMeetingAuthFailure:
-      return QStringLiteral(
-          "Exchange did not accept the saved user name and password. Detect the account again in "
-          "Preferences, "
-          "Meetings.");
+      return refusedPasswordText();
     case KZCommand::KZCmdExchDiscoverAuthFailure:
       return QStringLiteral(
           "Exchange did not accept this user name and password. Check them, then detect the account again.");
@@ -60,6 +61,16 @@ ChangeNotices::ChangeNotices(Border* border) {
 }
 
 void ChangeNotices::answer(quint64 command, const Content& content) {
-  const QString notice = noticeOf(static_cast<KZCommand>(command), content);
+  const auto known = static_cast<KZCommand>(command);
+  const bool isRecord = known == KZCommand::KZCmdPreferenceChanged;
+  const QString notice = isRecord ? recordNotice(content) : noticeOf(known, content);
   if (!notice.isEmpty()) Q_EMIT noticed(notice);
+}
+
+QString ChangeNotices::recordNotice(const Content& content) {
+  if (!content) return identityNotice();
+  const QString room = textValue(*content, QRT_Preference_PMRUrl);
+  const std::optional<QString> before = std::exchange(m_room, room);
+  // A record arrives at every start; what did not change is no news.
+  return before && *before != room ? roomNotice(room) : QString();
 }

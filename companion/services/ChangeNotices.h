@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <optional>
 
 #include "host/KZFoundation/Dictionary.h"
 
@@ -18,4 +19,7 @@ class ChangeNotices final : public QObject {
 
  private:
   void answer(quint64 command, const Content& content);
+  QString recordNotice(const Content& content);
+
+  std::optional<QString> m_room;  // the last one heard of
 };

@@ -7,12 +7,13 @@
 
 GeneralSettings::GeneralSettings(Border* border, const AutostartEntry& autostart) : m_autostart(autostart) {
   connect(border, &Border::commandSent, this, &GeneralSettings::answer);
+  // Without a choice nothing starts at login, and the pane, which takes that as on, is to show it.
+  KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
+  if (!store.isPlistKeyExist(KZLaunchAtLogin)) store.setLaunchAtLogin(false);
 }
 
 void GeneralSettings::apply() {
-  const KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
-  if (!store.isPlistKeyExist(KZLaunchAtLogin)) return;
-  const QString failure = carryOut(store.launchAtLogin());
+  const QString failure = carryOut(KZPlistFileHandle::sharedInstance().launchAtLogin());
   if (!failure.isEmpty()) Q_EMIT noticed(failure);
 }
 

@@ -12,9 +12,11 @@ class GeneralSettings final : public QObject {
   Q_OBJECT
 
  public:
-  GeneralSettings(Border* border, const AutostartEntry& autostart);  // the border is not owned
+  // Before the plug-in reads the store, in which starting at login is off until the user chooses it. The
+  // border is not owned.
+  GeneralSettings(Border* border, const AutostartEntry& autostart);
 
-  // Makes the desktop agree with the store, where the user has chosen: without a choice nothing is written.
+  // Makes the desktop agree with the store.
   void apply();
 
  Q_SIGNALS:

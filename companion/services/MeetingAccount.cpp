@@ -28,6 +28,12 @@ QString otherSourceText(const QString& source) {
 
 }  // namespace
 
+QString refusedPasswordText() {
+  return QStringLiteral(
+      "Exchange did not accept the saved user name and password. Detect the account again in Preferences, "
+      "Meetings.");
+}
+
 MeetingAccount readMeetingAccount() {
   const Dictionary calendar = KZPlistFileHandle::sharedInstance().calendarIntegration();
   MeetingAccount account;
@@ -43,9 +49,7 @@ MeetingAccount readMeetingAccount() {
         QStringLiteral("No account is applied yet. Enter your email address in Preferences, Meetings.");
   } else if (!flagValue(account.exchange, kKZCalendarIntegrationOnpremiseCredValid).value_or(true)) {
     // Asking again with what was refused could lock the account.
-    account.missing = QStringLiteral(
-        "Exchange did not accept the saved user name and password. Detect the account again in Preferences, "
-        "Meetings.");
+    account.missing = refusedPasswordText();
   }
   return account;
 }

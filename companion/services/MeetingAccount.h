@@ -14,5 +14,8 @@ struct MeetingAccount {
 
 MeetingAccount readMeetingAccount();
 
+// What to do about an account whose saved password is refused.
+QString refusedPasswordText();
+
 // The minutes before its start in which a meeting is announced; 0: none is.
 int announcedMinutes();

@@ -49,13 +49,15 @@ std::optional<MeetingSite> readMeetingSite(const QString& site, const QByteArray
   if (value.metaType() != QMetaType::fromType<Dictionary>()) return {};
   const Dictionary said = value.toMap();
   const Dictionary links = dictionaryValue(said, QStringLiteral("links"));
-  const QString host = siteAddress(site).host();
+  const QUrl address = siteAddress(site);
+  const QString host = address.host();
   const QString downloads = plainText(said, "downloads");
-  return MeetingSite{.site = site,
-                     .name = plainText(said, "name"),
-                     .downloads = isSafeAddress(QUrl(downloads, QUrl::StrictMode)) ? downloads : QString(),
-                     .isOutlookEnabled = flagValue(said, QStringLiteral("outlook")),
-                     .meetingSettings = ownLink(links, "meetingSettings", host),
-                     .joinByNumber = ownLink(links, "joinByNumber", host),
-                     .preference = preferenceRecord(dictionaryValue(said, QStringLiteral("preference")))};
+  return MeetingSite{
+      .site = site,
+      .name = plainText(said, "name"),
+      .downloads = isSafeStep(address, QUrl(downloads, QUrl::StrictMode)) ? downloads : QString(),
+      .isOutlookEnabled = flagValue(said, QStringLiteral("outlook")),
+      .meetingSettings = ownLink(links, "meetingSettings", host),
+      .joinByNumber = ownLink(links, "joinByNumber", host),
+      .preference = preferenceRecord(dictionaryValue(said, QStringLiteral("preference")))};
 }

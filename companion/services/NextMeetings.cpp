@@ -5,7 +5,6 @@
 
 #include "companion/exchange/SandboxExchange.h"
 #include "companion/runtime/Border.h"
-#include "companion/services/MeetingAccount.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
@@ -40,10 +39,9 @@ NextMeetings::NextMeetings(Border* border, ServiceNetwork* network, ExchangeConf
   connect(&m_soon, &QTimer::timeout, this, &NextMeetings::ask);
   connect(&m_again, &QTimer::timeout, this, &NextMeetings::refreshSoon);
   connect(&m_token, &TokenRequest::failed, this, [this](const QString& reason) { show({}, reason); });
-  connect(&m_token, &TokenRequest::got, this, [this](const QString& token) {
-    const MeetingAccount account = readMeetingAccount();
-    m_exchange->list(account.exchange, token, account.days);
-  });
+  // A token goes to the account that it was asked for, whatever the store says meanwhile.
+  connect(&m_token, &TokenRequest::got, this,
+          [this](const QString& token) { m_exchange->list(m_account.exchange, token, m_account.days); });
   connect(network, &ServiceNetwork::changed, this, &NextMeetings::refreshSoon);
   useSandbox({});
   watchStore();
@@ -96,19 +94,18 @@ void NextMeetings::refreshSoon() {
 void NextMeetings::ask() {
   m_token.cancel();
   m_exchange->cancel();
-  const MeetingAccount account = readMeetingAccount();
-  if (!account.missing.isEmpty()) return show({}, account.missing);
-  if (!m_network->isReady())
-    return show({}, QStringLiteral("The sandbox is not running yet. Wait a moment."));
-  if (!isWithin(*m_network, account.exchange)) {
+  m_account = readMeetingAccount();
+  if (!m_account.missing.isEmpty()) return show({}, m_account.missing);
+  if (!m_network->isReady()) return show({}, m_network->missing());
+  if (!isWithin(*m_network, m_account.exchange)) {
     return show({},
                 QStringLiteral("This account is outside the sandbox. Detect one of the Accounts to try, or "
                                "start the companion with --network."));
   }
   m_isAsking = true;
   Q_EMIT changed();
-  if (account.isOnline) return m_token.ask(account.exchange);
-  m_exchange->list(account.exchange, {}, account.days);
+  if (m_account.isOnline) return m_token.ask(m_account.exchange);
+  m_exchange->list(m_account.exchange, {}, m_account.days);
 }
 
 void NextMeetings::show(const QList<ExchangeMeeting>& meetings, const QString& text) {

@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "companion/exchange/ExchangeMeetings.h"
+#include "companion/services/MeetingAccount.h"
 #include "companion/services/ServiceNetwork.h"
 #include "companion/services/TokenRequest.h"
 
@@ -46,6 +47,7 @@ class NextMeetings final : public QObject {
   ServiceNetwork* m_network;
   const ExchangeConfiguration m_ordinary;
   TokenRequest m_token;
+  MeetingAccount m_account;  // the one that is asked
   std::unique_ptr<ExchangeMeetings> m_exchange;
   std::shared_ptr<const void> m_observing;
   QTimer m_soon;

@@ -23,6 +23,7 @@ class ServiceNetwork final : public QObject {
   QString refusalOf(const QUrl& address) const;
   bool mayAsk(const QUrl& address) const { return refusalOf(address).isEmpty(); }
   bool isReady() const { return m_reach == NetworkReach::Network || !m_sandbox.isEmpty(); }
+  const QString& missing() const { return m_missing; }  // why not, in a sentence, while it is not
 
   // Reaches what may be asked now; it learns of no later change. Must not outlive this.
   std::unique_ptr<WebFetch> fetch() const;

@@ -1,7 +1,5 @@
 #include "companion/services/SiteService.h"
 
-#include <utility>
-
 #include "companion/runtime/Border.h"
 #include "companion/runtime/PreferencesWindow.h"
 #include "host/KZFoundation/KZCommands.h"
@@ -31,6 +29,13 @@ SiteService::Answer readSite(const QString& site, const WebAnswer& answer) {
   const auto said = readMeetingSite(site, answer.body);
   if (said) return {.site = said};
   return {.failure = messageOf(WebTrouble::BadAnswer, answer.address.host())};
+}
+
+// `pattern` is a sentence about the site.
+QString siteNotice(const QString& pattern) {
+  const QString site = siteStore().siteName();
+  if (site.isEmpty()) return QStringLiteral("No site is known. Choose one in Preferences, Account.");
+  return pattern.arg(site);
 }
 
 void askSite(WebFetch& fetch, const QString& site, const SiteService::Done& done) {
@@ -76,19 +81,24 @@ void SiteService::refresh() {
   if (!m_network->isReady() || siteStore().siteName().isEmpty()) return m_refresh.reset();
   m_refresh = m_network->fetch();
   askSite(*m_refresh, siteStore().siteName(), [this](const Answer& answer) {
-    if (answer.site) take(*answer.site);
+    if (answer.site) renew(*answer.site);
     if (!answer.site) Q_EMIT noticed(answer.failure);
     Q_EMIT refreshed();
   });
 }
 
-void SiteService::lookUp(const QString& site, Done done) {
+void SiteService::lookUp(const QString& site, const Done& done) {
   m_question = m_network->fetch();
-  askSite(*m_question, site, std::move(done));
+  askSite(*m_question, site, done);
+}
+
+void SiteService::renew(const MeetingSite& site) {
+  const Dictionary before = record();
+  take(site);
+  if (m_isSignedIn && record() != before) showRecordAnew();
 }
 
 void SiteService::take(const MeetingSite& site) {
-  const Dictionary before = record();
   const bool isMoved = siteStore().siteName() != site.site || siteStore().cdnUrl() != site.downloads;
   m_site = site;
   siteStore().setSiteName(site.site);
@@ -97,14 +107,6 @@ void SiteService::take(const MeetingSite& site) {
   const QString join = site.joinByNumber.toString(QUrl::FullyEncoded);
   KZUtility::sharedInstance().setKZMemCacheData(kPreferences_JoinByNumberLink,
                                                 join.isEmpty() ? QVariant() : join);
-  if (m_isSignedIn && record() != before) {
-    tellPlugin(record());
-    const Window* window = findPreferencesWindow();
-    // An open window reads the new addresses when it is shown again.
-    if (window && window->isVisible()) {
-      m_border->triggerCommand(static_cast<quint64>(KZCommand::KZCmdShowPreference));
-    }
-  }
   if (isMoved) Q_EMIT changed();
 }
 
@@ -122,6 +124,16 @@ void SiteService::adoptSilent(const QString& site) {
   Q_EMIT noticed(QStringLiteral("The site is %1 now. It has not answered yet.").arg(site));
 }
 
+// A window reads the record when it is built. One that the user works in is not taken away.
+void SiteService::showRecordAnew() {
+  const Window* window = findPreferencesWindow();
+  const bool isInUse = window && window->isVisible();
+  if (!isInUse) m_border->triggerCommand(static_cast<quint64>(KZCommand::KZCmdDestroyPreference));
+  tellPlugin(record());
+  if (!isInUse) return;
+  Q_EMIT noticed(QStringLiteral("Your site has news for Preferences. Press Close, then Preferences."));
+}
+
 void SiteService::showAgain() {
   // A guest's window shows no site.
   if (!m_isSignedIn) return;
@@ -134,9 +146,8 @@ void SiteService::showAgain() {
 
 void SiteService::openMeetingSettings() {
   if (!m_site || m_site->meetingSettings.isEmpty()) {
-    return Q_EMIT noticed(
-        QStringLiteral("%1 names no page of meeting settings. Ask your administrator for its address.")
-            .arg(siteStore().siteName()));
+    return Q_EMIT noticed(siteNotice(
+        QStringLiteral("%1 names no page of meeting settings. Ask your administrator for its address.")));
   }
   if (KZWorkspace::sharedWorkspace().openURL(m_site->meetingSettings)) return;
   Q_EMIT noticed(QStringLiteral("No browser opened %1. Open the address yourself.")
@@ -145,9 +156,8 @@ void SiteService::openMeetingSettings() {
 
 void SiteService::joinByNumber() {
   if (!KZUtility::sharedInstance().getKZMemCacheData(kPreferences_JoinByNumberLink).isValid()) {
-    return Q_EMIT noticed(
-        QStringLiteral("%1 names no page for joining by number. Ask your administrator for its address.")
-            .arg(siteStore().siteName()));
+    return Q_EMIT noticed(siteNotice(
+        QStringLiteral("%1 names no page for joining by number. Ask your administrator for its address.")));
   }
   // The record replaces what is stored, so that a guest's is told as it is.
   Dictionary wanted = m_isSignedIn ? record() : siteStore().preferenceInfo();

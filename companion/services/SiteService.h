@@ -35,7 +35,7 @@ class SiteService final : public QObject {
   void refresh();
 
   // Asks without taking over; answers later. One question at a time, a new one ends the one before.
-  void lookUp(const QString& site, Done done);
+  void lookUp(const QString& site, const Done& done);
   void cancelLookUp() { m_question.reset(); }
 
   // The site from now on; the plug-in and the store learn of it.
@@ -54,8 +54,10 @@ class SiteService final : public QObject {
 
  private:
   void answer(quint64 command, const Content& content);
+  void renew(const MeetingSite& site);
   void take(const MeetingSite& site);
   void tellPlugin(const Dictionary& record);
+  void showRecordAnew();
   void showAgain();
   Dictionary record() const;
 

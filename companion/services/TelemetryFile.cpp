@@ -25,7 +25,7 @@ QStringList TelemetryFile::paths() const {
 QString TelemetryFile::append(const QByteArray& line) const {
   if (!QDir().mkpath(m_folder)) return QStringLiteral("the folder cannot be made");
   const QByteArray text = line + '\n';
-  makeRoom(text.size());
+  if (!makeRoom(text.size())) return QStringLiteral("its folder cannot be changed");
   QFile file(path());
   if (!file.open(QIODevice::Append | QIODevice::Unbuffered, kOwnerOnly)) return file.errorString();
   const qint64 before = file.size();
@@ -36,13 +36,15 @@ QString TelemetryFile::append(const QByteArray& line) const {
   return reason;
 }
 
-void TelemetryFile::makeRoom(qint64 bytes) const {
-  if (QFile(path()).size() + bytes <= m_limits.fileBytes) return;
+bool TelemetryFile::makeRoom(qint64 bytes) const {
+  const qint64 present = QFile(path()).size();
+  if (present == 0 || present + bytes <= m_limits.fileBytes) return true;
   const QStringList all = paths();
   QFile::remove(all.last());
   for (qsizetype place = all.size() - 1; place > 0; --place) {
     QFile::rename(all.at(place - 1), all.at(place));
   }
+  return !QFile::exists(path());
 }
 
 QList<QByteArray> TelemetryFile::newest(int count) const {

@@ -28,7 +28,7 @@ class TelemetryFile final {
 
  private:
   QStringList paths() const;  // the newest first
-  void makeRoom(qint64 bytes) const;
+  [[nodiscard]] bool makeRoom(qint64 bytes) const;
 
   QString m_folder;
   Limits m_limits;

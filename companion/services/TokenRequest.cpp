@@ -1,25 +1,16 @@
 #include "companion/services/TokenRequest.h"
 
-#include <chrono>
-
 #include "companion/runtime/Border.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZConstants.h"
 
-namespace {
-
-using namespace std::chrono_literals;
-
-constexpr auto kTokenPatience = 60s;
-
-}  // namespace
-
-TokenRequest::TokenRequest(Border* border) : m_border(border) {
+TokenRequest::TokenRequest(Border* border, std::chrono::milliseconds patience) : m_border(border) {
   m_patience.setSingleShot(true);
-  m_patience.setInterval(kTokenPatience);
+  m_patience.setInterval(patience);
   connect(&m_patience, &QTimer::timeout, this, [this] {
-    fail(QStringLiteral("The sign-in of %1 was not renewed in time. Refresh, or detect the account again.")
-             .arg(m_email));
+    Q_EMIT failed(
+        QStringLiteral("The sign-in of %1 was not renewed in time. Refresh, or detect the account again.")
+            .arg(m_email));
   });
   connect(border, &Border::commandSent, this, &TokenRequest::answer);
 }
@@ -38,7 +29,7 @@ void TokenRequest::cancel() {
 }
 
 void TokenRequest::answer(quint64 command, const Content& content) {
-  if (command != static_cast<quint64>(KZCommand::KZCmdExchOnlineTokenGot) || !m_patience.isActive()) return;
+  if (command != static_cast<quint64>(KZCommand::KZCmdExchOnlineTokenGot) || m_email.isNull()) return;
   const Dictionary values = content.value_or(Dictionary());
   const Dictionary calendar = dictionaryValue(values, kKZCalendarIntegration);
   const Dictionary exchange = dictionaryValue(calendar, kKZCalendarIntegrationExchange);

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QString>
 #include <QTimer>
+#include <chrono>
 
 #include "host/KZFoundation/Dictionary.h"
 
@@ -14,9 +15,11 @@ class TokenRequest final : public QObject {
   Q_OBJECT
 
  public:
-  explicit TokenRequest(Border* border);  // not owned; must outlive this
+  // The border is not owned and must outlive this.
+  explicit TokenRequest(Border* border, std::chrono::milliseconds patience = std::chrono::minutes(1));
 
-  // Exactly one of the two follows, also from within; a token that is renewed first comes later.
+  // One of the two follows, also from within. A token that comes after the patience has ended, and `failed`
+  // has been told, is still given.
   void ask(const Dictionary& exchange);
   void cancel();
 

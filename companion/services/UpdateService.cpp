@@ -47,7 +47,8 @@ void UpdateService::check() {
   if (m_check == Check::Asked) return;
   // Without a site the plug-in asks for nothing and leaves its flag to its host.
   KZUtility::sharedInstance().cleanCheckForUpdatesInProgressFlag();
-  Q_EMIT noticed(QStringLiteral("No site is known that could have updates. Choose one in Preferences."));
+  Q_EMIT noticed(
+      QStringLiteral("No site is known that could have updates. Choose one in Preferences, Account."));
 }
 
 void UpdateService::checkQuietly() {
@@ -103,8 +104,9 @@ void UpdateService::cancel() {
 }
 
 void UpdateService::abandon() {
-  if (m_check != Check::None)
-    fail(QStringLiteral("The site has changed meanwhile. Check for updates again."));
+  // What was offered was the other site's, too.
+  if (m_check == Check::None) return Q_EMIT ended();
+  fail(QStringLiteral("The site has changed meanwhile. Check for updates again."));
 }
 
 void UpdateService::succeed(const QString& text) {

@@ -34,7 +34,7 @@ class UpdateService final : public QObject {
   void started();
   void progressed(qint64 bytes, qint64 ofBytes);
   void offered(const QString& text);  // the user may want to check
-  void ended();
+  void ended();                       // nothing is under way or offered
 
  private:
   enum class Check { None, Asked, Quiet };

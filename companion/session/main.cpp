@@ -58,6 +58,15 @@ class RecordLines final {
     return m_check.has_value();
   }
 
+  // After the last line.
+  void finish(Recorder* recorder) {
+    if (!m_isWritten) return;
+    const auto revised = [recorder](const QByteArray& line) { return recorder->revised(line); };
+    m_isWhole = m_file.finish(revised) && m_isWhole;
+    if (!m_isWhole)
+      complain(QStringLiteral("the record cannot be read once more: %1").arg(m_file.errorText()));
+  }
+
   // What to exit with after a script that was played to its end.
   int status(LineWriter* writer) {
     const auto difference = m_check ? m_check->difference() : std::nullopt;
@@ -96,6 +105,10 @@ int playSession(const SessionOptions& options, QIODevice* script, RecordLines* l
     return kPluginFailed;
   }
   const Session::End end = session->play(script);
+  if (recorder) {
+    recorder->stop();
+    lines->finish(&*recorder);
+  }
   recorder.reset();
   session.reset();
   writes.reset();

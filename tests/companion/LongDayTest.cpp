@@ -21,7 +21,7 @@ constexpr int kMostGrowth = 1024 * 1024;           // bytes
 // What is allocated and not freed, whatever the allocator keeps.
 qint64 bytesInUse() {
   const struct mallinfo2 info = ::mallinfo2();
-  return static_cast<qint64>(info.uordblks + info.hblkhd);
+  return static_cast<qint64>(info.uordblks) + static_cast<qint64>(info.hblkhd);
 }
 
 QPushButton* buttonOf(const QWidget& window, const QString& title) {

@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QFile>
 #include <QLabel>
+#include <QLineEdit>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QSignalSpy>
@@ -92,6 +93,14 @@ class MeetingListTest : public testing::Test {
     if (QWidget* field = shown(name)) QTest::keyClicks(field, text);
   }
 
+  // Whether the Preferences window says that, as a text of its own.
+  bool reads(const QString& text) const {
+    for (const QLabel* label : window->findChildren<QLabel*>()) {
+      if (label->isVisible() && label->text() == text) return true;
+    }
+    return false;
+  }
+
   QString listText() const { return view.findChild<QLabel*>("meetingsText")->text(); }
 
   bool lists(const QString& subject) {
@@ -146,6 +155,28 @@ TEST_F(MeetingListTest, ListsAnAccountWithAPasswordUntilItIsRefused) {
 TEST_F(MeetingListTest, ListsAnOnlineAccountAfterASignInInTheBrowser) {
   if (IsSkipped()) return;
   click("m_outlookRadioBtn");
+  type("m_emailInputTxt", "online@cloud.sandbox.example");
+  click("m_detectBtn");
+  EXPECT_TRUE(lists("Stand-up")) << listText().toStdString();
+}
+
+// Whatever goes wrong in the browser or behind it: the pane says that it failed and lets the user try again,
+// and nothing of the account is kept.
+TEST_F(MeetingListTest, AnOnlineSignInThatFailsIsToldAndKeepsNothing) {
+  if (IsSkipped()) return;
+  click("m_outlookRadioBtn");
+  for (const char* email :
+       {"online@refused.sandbox.example", "online@trouble.sandbox.example", "online@page.sandbox.example"}) {
+    if (auto* field = qobject_cast<QLineEdit*>(shown("m_emailInputTxt"))) field->selectAll();
+    type("m_emailInputTxt", email);
+    EXPECT_FALSE(reads("Applied failed")) << email << ": of the account before";
+    click("m_detectBtn");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return reads("Applied failed"); }, 8000)) << email;
+    EXPECT_NE(shown("m_detectBtn"), nullptr) << email;
+    EXPECT_TRUE(listText().contains("No account is applied yet. Enter your email address"))
+        << email << ": " << listText().toStdString();
+  }
+  if (auto* field = qobject_cast<QLineEdit*>(shown("m_emailInputTxt"))) field->selectAll();
   type("m_emailInputTxt", "online@cloud.sandbox.example");
   click("m_detectBtn");
   EXPECT_TRUE(lists("Stand-up")) << listText().toStdString();

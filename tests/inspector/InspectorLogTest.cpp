@@ -55,6 +55,12 @@ TEST(InspectorEvent, AddressesKeepTheirPlaceOnly) {
   EXPECT_EQ(event.content.toStdString(), "https://example.com/in");
 }
 
+TEST(InspectorEvent, WhatIsNestedDeeplyIsShownAsItIs) {
+  const QString deep = QString(900, u'[') + QStringLiteral("1,").repeated(10'000) + u'1' + QString(900, u']');
+  const auto event = InspectorEvent::of({.kind = Crossing::Kind::Trace, .text = deep});
+  EXPECT_EQ(event.wholeContent(), deep);
+}
+
 TEST(InspectorLog, IsBoundedByNumberAndByBytes) {
   InspectorLog log;
   InspectorModel model(&log);
@@ -141,6 +147,18 @@ TEST(InspectorModel, ShowsWhatItsFilterAccepts) {
     for (const auto& event : model.events()) titles.append(event->title());
     EXPECT_EQ(titles, row.titles) << qPrintable(row.filter.text);
   }
+}
+
+TEST(InspectorModel, ALineIsOneLineOfFourColumns) {
+  InspectorLog log;
+  InspectorModel model(&log);
+  traceTo(log, "A::b", QString::fromUtf8("one\ntwo\r\tthree\u2028four"));
+  log.record(InspectorEvent::of({.kind = Crossing::Kind::Warning, .name = "a\tb\nc", .text = "d"}));
+  log.record(InspectorEvent::ofKeychain("zoe", InspectorEvent::KeychainChange::Removed));
+  turn();
+  EXPECT_TRUE(model.lineAt(0).endsWith("\tTrace\tA::b\tone two  three four")) << qPrintable(model.lineAt(0));
+  EXPECT_TRUE(model.lineAt(1).endsWith("\tWarning\ta b c\td")) << qPrintable(model.lineAt(1));
+  EXPECT_TRUE(model.lineAt(2).endsWith("\tKeychain\tzoe\tremoved")) << qPrintable(model.lineAt(2));
 }
 
 TEST(InspectorModel, APauseKeepsItsRowsAndCountsWhatComes) {

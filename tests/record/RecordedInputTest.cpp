@@ -3,14 +3,19 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTest>
 #include <QToolBar>
 #include <QWindow>
+#include <atomic>
+#include <optional>
+#include <thread>
 
 #include "companion/record/Recorder.h"
 #include "companion/runtime/PreferencesWindow.h"
 #include "companion/session/ControlFinder.h"
 #include "companion/session/EventPump.h"
+#include "host/KZFoundation/KZNotificationCenter.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 #include "platform/PopUpButton.h"
 #include "platform/WindowController.h"
@@ -143,6 +148,100 @@ TEST_F(RecordedInput, TheUserClosesButACommandDoesNot) {
   m_border.triggerCommand(3);
   eventpump::settle();
   EXPECT_EQ(steps().toStdString(), "{\"command\":3}");
+}
+
+TEST_F(RecordedInput, AKeyOfAPasswordIsNoStep) {
+  showPane("Meetings");
+  clickOn(control("m_outlookRadioBtn"));
+  auto* field = qobject_cast<QLineEdit*>(control("m_emailInputTxt"));
+  field->setEchoMode(QLineEdit::Password);
+  clickOn(field);
+  m_lines.clear();
+  type("pass");
+  QTest::keyClick(window()->windowHandle(), 'q', Qt::AltModifier);
+  type("word");
+  m_border.notify(99, {});
+  EXPECT_EQ(field->text(), "passqword");
+  EXPECT_EQ(steps().toStdString(), "{\"type\":\"m_emailInputTxt\",\"text\":\"secret-1\"}\n{\"notify\":99}");
+}
+
+TEST_F(RecordedInput, AWarningThatIsReadIsAComment) {
+  m_border.notify(8, Dictionary{{"kKZResult", "kKZFail"},
+                                {"kKZErrorHandleData", Dictionary{{"kKZErrorMessage", "It is gone."}}}});
+  eventpump::settle();
+  QWidget* warning = nullptr;
+  for (QWidget* one : QApplication::topLevelWidgets()) {
+    if (one->isVisible() && one->inherits("KZWarningWindow")) warning = one;
+  }
+  ASSERT_TRUE(warning);
+  clickOn(warning->findChild<QPushButton*>());
+  EXPECT_FALSE(warning->isVisible());
+  EXPECT_TRUE(m_lines.contains("# No step can say it: a click on QPushButton in KZWarningWindow"))
+      << qPrintable(m_lines.join(u'\n'));
+}
+
+TEST(RecorderLife, ARecorderMayComeAndGoInTheMiddleOfAnInput) {
+  Border border([](const QUrl&) { return true; });
+  ASSERT_TRUE(border.loadPlugin(FAKE_PLUGIN));
+  border.triggerCommand(2);
+  eventpump::settle();
+  Window* window = findPreferencesWindow();
+  window->controller()->setProperty("crossFade", false);
+  QStringList lines;
+  std::optional<Recorder> recorder;
+  const auto record = [&] {
+    recorder.reset();
+    recorder.emplace(
+        &border,
+        [&lines](const QByteArray& line) {
+          lines.append(QString::fromUtf8(line));
+          return true;
+        },
+        Recorder::Options{.clock = [] { return 0ms; }});
+  };
+  const auto clickOn = [window](const char* pane) {
+    const QWidget* button = toolBarOf(*window)->widgetForAction(paneItemNamed(*window, pane));
+    QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {},
+                      button->mapTo(window, button->rect().center()));
+    eventpump::settle();
+  };
+  record();
+  const auto again =
+      QObject::connect(paneItemNamed(*window, "Meetings"), &QAction::triggered, window, [&] { record(); });
+  clickOn("Meetings");
+  QObject::disconnect(again);
+  lines.clear();
+  clickOn("Notifications");
+  EXPECT_EQ(stepsIn(lines).join(u' ').toStdString(), "{\"pane\":\"Notifications\"}");
+  KZPlistFileHandle::sharedInstance().close();
+}
+
+TEST(RecorderLife, AnEndWaitsForWhatAWorkerTells) {
+  Border border([](const QUrl&) { return true; });
+  ASSERT_TRUE(border.loadPlugin(FAKE_PLUGIN));
+  std::atomic<bool> isEnough = false;
+  std::atomic<int> posted = 0;
+  std::thread worker([&] {
+    while (!isEnough) {
+      KZNotificationCenter::defaultCenter().post({"HTTPAuthenticationDatasource", nullptr, Dictionary()});
+      ++posted;
+    }
+  });
+  for (int round = 0; round < 50; ++round) {
+    const int before = posted;
+    auto isAlive = std::make_shared<std::atomic<bool>>(true);
+    std::atomic<int> tooLate = 0;
+    {
+      const Recorder recorder(&border,
+                              [&, isAlive](const QByteArray&) { return tooLate += *isAlive ? 0 : 1, true; },
+                              {.clock = [] { return 0ms; }});
+      while (posted < before + 2) std::this_thread::yield();
+    }
+    *isAlive = false;
+    EXPECT_EQ(tooLate, 0);
+  }
+  isEnough = true;
+  worker.join();
 }
 
 TEST_F(RecordedInput, AnotherWindowIsNoneOfItsBusiness) {

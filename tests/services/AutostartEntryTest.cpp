@@ -40,12 +40,15 @@ class AutostartEntryTest : public testing::Test {
 
 TEST_F(AutostartEntryTest, WhatItWritesStartsTheProgram) {
   if (QStandardPaths::findExecutable("gio").isEmpty()) GTEST_SKIP() << "gio is missing";
-  const QString program = writeProgram("a $HOME `ls` \"q\" \\ 'program'");
-  const AutostartEntry entry(folder.filePath("made/autostart"), program, {"--state", "/a b/$c\\%u"});
-  ASSERT_EQ(entry.write(), QString());
-  EXPECT_EQ(QProcess::execute("gio", {"launch", entry.path()}), 0);
-  EXPECT_TRUE(QTest::qWaitFor([this] { return !startedWith().isEmpty(); }, 5000));
-  EXPECT_EQ(startedWith().toStdString(), "--state|/a b/$c\\%u|");
+  for (const char* name : {"a $HOME `ls` \"q\" \\ 'program'", "100 % of %u, %% = 'all'"}) {
+    const AutostartEntry entry(folder.filePath("made/autostart"), writeProgram(name),
+                               {"--state", "/a b/$c\\%u"});
+    ASSERT_EQ(entry.write(), QString());
+    QFile::remove(folder.filePath("started"));
+    EXPECT_EQ(QProcess::execute("gio", {"launch", entry.path()}), 0) << name;
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !startedWith().isEmpty(); }, 5000)) << name;
+    EXPECT_EQ(startedWith().toStdString(), "--state|/a b/$c\\%u|") << name;
+  }
 }
 
 TEST_F(AutostartEntryTest, IsWrittenOnlyWhenItDiffersAndRemoved) {

@@ -29,6 +29,22 @@ TEST(MeetingSite, LinksStayWithTheSiteOrThisMachine) {
   }
 }
 
+TEST(MeetingSite, DownloadsAreNeverAskedOfThisMachineUnlessTheSiteIsOnIt) {
+  const std::tuple<const char*, const char*, bool> cases[] = {
+      {"meetings.example.com", "https://cdn.example.org", true},
+      {"meetings.example.com", "http://cdn.example.org", false},
+      {"meetings.example.com", "https://ada@cdn.example.org", false},
+      {"meetings.example.com", "http://127.0.0.1:631", false},
+      {"meetings.example.com", "https://localhost", false},
+      {"127.0.0.1:8080", "http://127.0.0.1:8081", true},
+  };
+  for (const auto& [site, downloads, isTaken] : cases) {
+    const auto said = readMeetingSite(site, QByteArray(R"({"downloads":")") + downloads + "\"}");
+    ASSERT_TRUE(said) << downloads;
+    EXPECT_EQ(!said->downloads.isNull(), isTaken) << site << " " << downloads;
+  }
+}
+
 TEST(MeetingSite, WrongTypesCountAsLeftOut) {
   const auto site =
       readMeetingSite("meetings.example.com", R"({"name":5,"outlook":"yes","downloads":"ftp://a",

@@ -34,17 +34,20 @@ TEST_F(SiteServiceTest, AnAdoptedSiteReachesTheStoreAndThePlugin) {
   const SiteService::Answer answer = lookUp("meetings.sandbox.example");
   ASSERT_TRUE(answer.site) << answer.failure.toStdString();
   EXPECT_TRUE(store().siteName().isNull());
+  const auto told = [this] { return notifications(KZNotify::KZNotifyGetPreferenceDone).size(); };
+  const qsizetype before = told();
   service.adopt(*answer.site);
+  EXPECT_EQ(told(), before + 1);
   EXPECT_EQ(store().siteName(), "meetings.sandbox.example");
   EXPECT_EQ(store().cdnUrl(), "https://downloads.sandbox.example");
   EXPECT_EQ(textValue(store().preferenceInfo(), QRT_Preference_PMRUrl),
-            "https://meetings.sandbox.example/meet/ada");
+            "https://sandbox.example/meet/ada");
 
   border.triggerCommand(static_cast<quint64>(KZCommand::KZCmdJoinByNumber));
   ASSERT_EQ(opened.size(), 1);
   EXPECT_EQ(opened.last().path(), "/join");
   EXPECT_EQ(textValue(store().preferenceInfo(), QRT_Preference_PMRUrl),
-            "https://meetings.sandbox.example/meet/ada");
+            "https://sandbox.example/meet/ada");
   service.openMeetingSettings();
   EXPECT_EQ(opened.last().path(), "/settings");
 
@@ -72,6 +75,12 @@ TEST_F(SiteServiceTest, ASiteThatDoesNotAnswerSaysWhy) {
     EXPECT_TRUE(answer.failure.contains(words)) << site << ": " << answer.failure.toStdString();
   }
   EXPECT_TRUE(store().siteName().isNull());
+}
+
+TEST_F(SiteServiceTest, WithoutASiteTheUserIsToldToChooseOne) {
+  service.openMeetingSettings();
+  service.joinByNumber();
+  EXPECT_EQ(notices, QStringList(2, "No site is known. Choose one in Preferences, Account."));
 }
 
 TEST_F(SiteServiceTest, AGuestHearsOfNoRecord) {

@@ -87,6 +87,15 @@ TEST_F(TelemetryServiceTest, AFullDiskIsToldOnceAndSurvived) {
   EXPECT_EQ(features(), QStringList{"kept"});
 }
 
+TEST_F(TelemetryServiceTest, AFileThatCannotMoveAsideDoesNotGrowForEver) {
+  ASSERT_TRUE(QDir().mkpath(service.path() + ".2/in the way"));
+  for (int number = 0; number < 50; ++number) choose(QStringLiteral("Feature %1").arg(number));
+  EXPECT_LE(QFileInfo(service.path()).size(), 1000);
+  EXPECT_LE(QFileInfo(service.path() + ".1").size(), 1000);
+  ASSERT_EQ(notices.size(), 1);
+  EXPECT_TRUE(notices.first().contains("its folder cannot be changed")) << notices.first().toStdString();
+}
+
 TEST_F(TelemetryServiceTest, AFileThatSomebodySpoiltIsRead) {
   choose("good");
   QFile file(service.path());

@@ -3,10 +3,12 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QCheckBox>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabBar>
+#include <QTableWidget>
 #include <QTest>
 #include <QToolButton>
 #include <memory>
@@ -144,12 +146,48 @@ TEST_F(LookStyleTest, APageSwitchShowsWhichPageAndFocusInEveryScheme) {
     const QImage plain = tabs->grab().toImage();
     QTest::keyClick(&m_window, Qt::Key_Tab);
     tabs->setFocus(Qt::TabFocusReason);
-    EXPECT_NE(plain, tabs->grab().toImage()) << schemeName(scheme);
+    const QImage focused = tabs->grab().toImage();
+    EXPECT_NE(plain, focused) << schemeName(scheme);
+    const bool isContrast = scheme == LookScheme::HighContrastLight || scheme == LookScheme::HighContrastDark;
+    if (isContrast) {
+      EXPECT_EQ(focused.pixelColor(3, tabs->tabRect(0).center().y()),
+                lookPalette(scheme).color(QPalette::HighlightedText));
+    }
     QTest::keyClick(tabs, Qt::Key_Right);
     EXPECT_EQ(tabs->currentIndex(), 1);
     EXPECT_TRUE(
         hasColorNear(tabs->grab(tabs->tabRect(1)).toImage(), lookPalette(scheme).color(QPalette::Highlight)))
         << schemeName(scheme);
+  }
+}
+
+TEST_F(LookStyleTest, AListHasAFrameAHeaderAndFocusInEveryScheme) {
+  auto* table = add(new QTableWidget(2, 2), {20, 100, 300, 120});
+  table->setHorizontalHeaderLabels({"Time", "Name"});
+  table->verticalHeader()->hide();
+  table->setShowGrid(false);
+  table->setStyle(lookStyle());
+  QHeaderView* header = table->horizontalHeader();
+  header->setStyle(lookStyle());
+  show();
+  for (const LookScheme scheme : allSchemes) {
+    QApplication::setPalette(hostPalette(scheme));
+    QApplication::processEvents();
+    table->clearFocus();
+    const QPalette& palette = lookPalette(scheme);
+    const QColor base = palette.color(QPalette::Base);
+    const QImage plain = table->grab().toImage();
+    EXPECT_NE(plain.pixelColor(0, 60), base) << schemeName(scheme);
+    EXPECT_EQ(plain.pixelColor(1, 60), base) << schemeName(scheme);
+    const QImage heading = header->grab().toImage();
+    EXPECT_EQ(heading.pixelColor(2, 2), base) << schemeName(scheme);
+    EXPECT_NE(heading.pixelColor(2, heading.height() - 1), base) << schemeName(scheme);
+    EXPECT_TRUE(hasColorNear(heading, palette.color(QPalette::ButtonText))) << schemeName(scheme);
+    QTest::keyClick(&m_window, Qt::Key_Tab);
+    table->setFocus(Qt::TabFocusReason);
+    const QImage focused = table->grab().toImage();
+    EXPECT_EQ(focused.pixelColor(0, 60), palette.color(QPalette::Highlight)) << schemeName(scheme);
+    EXPECT_EQ(focused.pixelColor(1, 60), palette.color(QPalette::Highlight)) << schemeName(scheme);
   }
 }
 

@@ -1,0 +1,95 @@
+#include "companion/app/SiteDialog.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+
+#include "companion/services/SiteService.h"
+#include "host/KZUtility/KZPlistFileHandle.h"
+#include "tests/services/ServicesFixture.h"
+
+namespace {
+
+class SiteDialogTest : public ServicesFixture {
+ protected:
+  void SetUp() override {
+    ServicesFixture::SetUp();
+    KZPlistFileHandle::sharedInstance().setSiteName("meetings.sandbox.example");
+    dialog = new SiteDialog(&service, nullptr);
+    dialog->show();
+  }
+
+  void TearDown() override {
+    delete dialog;
+    ServicesFixture::TearDown();
+  }
+
+  QPushButton* button(const char* title) const {
+    for (auto* one : dialog->findChildren<QPushButton*>()) {
+      if (one->text() == title) return one;
+    }
+    return nullptr;
+  }
+
+  void enter(const QString& site) const {
+    auto* field = dialog->findChild<QLineEdit*>();
+    field->selectAll();
+    QTest::keyClicks(field, site);
+  }
+
+  QString text() const { return dialog->findChild<QLabel*>("siteText")->text(); }
+  bool showsFailure() const {
+    return waitUntil([this] { return button("Change")->isEnabled() && !text().isEmpty(); });
+  }
+  static QString storedSite() { return KZPlistFileHandle::sharedInstance().siteName(); }
+
+  SiteService service{&border, &network, {}};
+  QPointer<SiteDialog> dialog;
+};
+
+TEST_F(SiteDialogTest, ASiteThatAnswersIsTaken) {
+  enter("CURRENT.sandbox.example ");
+  QTest::keyClick(dialog->findChild<QLineEdit*>(), Qt::Key_Return);
+  EXPECT_FALSE(button("Change")->isEnabled());
+  EXPECT_EQ(text(), "Asking the site.");
+  EXPECT_TRUE(waitUntil([this] { return dialog.isNull(); }));
+  EXPECT_EQ(storedSite(), "current.sandbox.example");
+}
+
+TEST_F(SiteDialogTest, ASiteThatFailsSaysWhyAndIsTakenOnlyWhenTheUserInsists) {
+  enter("error.meetings.sandbox.example");
+  button("Change")->click();
+  ASSERT_TRUE(showsFailure());
+  EXPECT_TRUE(text().contains("error.meetings.sandbox.example has a problem")) << text().toStdString();
+  EXPECT_EQ(storedSite(), "meetings.sandbox.example");
+  ASSERT_TRUE(button("Use it anyway")->isVisible());
+
+  enter("garbage.meetings.sandbox.example");
+  EXPECT_TRUE(text().isEmpty()) << "the reason was another site's";
+  EXPECT_FALSE(button("Use it anyway")->isVisible());
+  button("Change")->click();
+  ASSERT_TRUE(showsFailure());
+  button("Use it anyway")->click();
+  EXPECT_EQ(storedSite(), "garbage.meetings.sandbox.example");
+  EXPECT_TRUE(waitUntil([this] { return dialog.isNull(); }));
+}
+
+TEST_F(SiteDialogTest, WhatIsNoNameCannotBeUsedAnyway) {
+  enter("no site");
+  button("Change")->click();
+  ASSERT_TRUE(showsFailure());
+  EXPECT_TRUE(text().contains("Enter one such as")) << text().toStdString();
+  EXPECT_FALSE(button("Use it anyway")->isVisible());
+}
+
+TEST_F(SiteDialogTest, AnAnswerAfterTheOldSiteWasKeptChangesNothing) {
+  // The answer may come between the click and the end of the dialog: that is drawn out here.
+  dialog->setAttribute(Qt::WA_DeleteOnClose, false);
+  dialog->ask("current.sandbox.example");
+  button("Keep the old site")->click();
+  QTest::qWait(300);
+  EXPECT_EQ(storedSite(), "meetings.sandbox.example");
+}
+
+}  // namespace
