@@ -25,6 +25,7 @@ using namespace std::chrono_literals;
 
 // A window may start out of sight.
 constexpr auto kLongestFirstFrame = 500ms;
+constexpr auto kPaintTime = 100ms;
 const QString kSignedInUri = QStringLiteral("http://127.0.0.1/signed-in");
 
 QString introduction(NetworkReach reach) {
@@ -190,6 +191,6 @@ void Companion::start(demouser::Variant variant) {
   m_window.become(variant);
   m_window.showPreferences();
   m_services->start();
-  // The windows come first.
-  QTimer::singleShot(0, &m_sandbox, [this] { m_sandbox.start(Sandbox::programPath()); });
+  // The windows come first: while they are painted, it would only take their time.
+  QTimer::singleShot(kPaintTime, &m_sandbox, [this] { m_sandbox.start(Sandbox::programPath()); });
 }

@@ -15,7 +15,8 @@
 namespace {
 
 constexpr int kSecondsOfADay = 86'400;
-constexpr int kMostGrowth = 1024 * 1024;  // bytes
+constexpr int kClicksOfADay = kSecondsOfADay / 4;  // each is written to the disk
+constexpr int kMostGrowth = 1024 * 1024;           // bytes
 
 // What is allocated and not freed, whatever the allocator keeps.
 qint64 bytesInUse() {
@@ -30,12 +31,12 @@ QPushButton* buttonOf(const QWidget& window, const QString& title) {
 }
 
 // How much more is in use at the end than when every list that is bounded should be full.
-qint64 growthOfADay(const std::function<void()>& event) {
+qint64 growthOfADay(int events, const std::function<void()>& event) {
   qint64 early = 0;
-  for (int second = 1; second <= kSecondsOfADay; ++second) {
+  for (int number = 1; number <= events; ++number) {
     event();
-    if (second % 500 == 0) QCoreApplication::processEvents();
-    if (second == kSecondsOfADay / 5) early = bytesInUse();
+    if (number % 500 == 0) QCoreApplication::processEvents();
+    if (number == events / 5) early = bytesInUse();
   }
   QCoreApplication::processEvents();
   const qint64 late = bytesInUse();
@@ -50,10 +51,10 @@ TEST(LongDay, AnEventASecondLeavesMemoryFlat) {
   ASSERT_TRUE(companion.loadPlugin(FAKE_PLUGIN));
   QPushButton* const button = buttonOf(*companion.window(), "Close");
   ASSERT_TRUE(button);
-  EXPECT_LT(growthOfADay([button] { button->click(); }), kMostGrowth);
+  EXPECT_LT(growthOfADay(kSecondsOfADay, [button] { button->click(); }), kMostGrowth);
 }
 
-TEST(LongDay, TelemetryASecondLeavesMemoryFlatAndTheFilesBounded) {
+TEST(LongDay, TelemetryLeavesMemoryFlatAndTheFilesBounded) {
   const QTemporaryDir folder;
   Border border([](const QUrl&) { return true; });
   ASSERT_TRUE(border.loadPlugin(FAKE_PLUGIN));
@@ -63,12 +64,12 @@ TEST(LongDay, TelemetryASecondLeavesMemoryFlatAndTheFilesBounded) {
   const auto write = [&] {
     border.triggerCommand(static_cast<quint64>(KZCommand::KZCmdWriteTelemetry), content);
   };
-  EXPECT_LT(growthOfADay(write), kMostGrowth);
+  EXPECT_LT(growthOfADay(kClicksOfADay, write), kMostGrowth);
   qint64 bytes = 0;
   for (const QFileInfo& file : QDir(folder.path()).entryInfoList(QDir::Files)) bytes += file.size();
   const TelemetryFile::Limits limits;
   EXPECT_LE(bytes, limits.files * limits.fileBytes);
-  EXPECT_GT(bytes, (limits.files - 1) * limits.fileBytes / 2);
+  EXPECT_GT(bytes, limits.fileBytes);
   EXPECT_EQ(telemetry.newest(10).size(), 10);
 }
 
