@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
 
 namespace {
@@ -53,6 +54,8 @@ CopyTable::CopyTable(const QString& name, const QStringList& headings)
   horizontalHeader()->setHighlightSections(false);
   horizontalHeader()->setSectionResizeMode(m_textColumns - 1, QHeaderView::Stretch);
   connect(verticalHeader(), &QHeaderView::sectionResized, this, &CopyTable::fitHeight, Qt::QueuedConnection);
+  connect(horizontalScrollBar(), &QScrollBar::rangeChanged, this, &CopyTable::fitHeight,
+          Qt::QueuedConnection);
   connect(this, &QTableWidget::itemDoubleClicked, this, &CopyTable::copy);
 }
 
@@ -97,5 +100,7 @@ void CopyTable::copy(const QTableWidgetItem* item) {
 }
 
 void CopyTable::fitHeight() {
-  setFixedHeight(horizontalHeader()->height() + verticalHeader()->length() + 2 * frameWidth());
+  const QScrollBar* bar = horizontalScrollBar();
+  const int barHeight = bar->maximum() > bar->minimum() ? bar->sizeHint().height() : 0;
+  setFixedHeight(horizontalHeader()->height() + verticalHeader()->length() + barHeight + 2 * frameWidth());
 }
