@@ -40,14 +40,12 @@ TEST_F(SiteServiceTest, AnAdoptedSiteReachesTheStoreAndThePlugin) {
   EXPECT_EQ(told(), before + 1);
   EXPECT_EQ(store().siteName(), "meetings.sandbox.example");
   EXPECT_EQ(store().cdnUrl(), "https://downloads.sandbox.example");
-  EXPECT_EQ(textValue(store().preferenceInfo(), QRT_Preference_PMRUrl),
-            "https://sandbox.example/meet/ada");
+  EXPECT_EQ(textValue(store().preferenceInfo(), QRT_Preference_PMRUrl), "https://sandbox.example/meet/ada");
 
   border.triggerCommand(static_cast<quint64>(KZCommand::KZCmdJoinByNumber));
   ASSERT_EQ(opened.size(), 1);
   EXPECT_EQ(opened.last().path(), "/join");
-  EXPECT_EQ(textValue(store().preferenceInfo(), QRT_Preference_PMRUrl),
-            "https://sandbox.example/meet/ada");
+  EXPECT_EQ(textValue(store().preferenceInfo(), QRT_Preference_PMRUrl), "https://sandbox.example/meet/ada");
   service.openMeetingSettings();
   EXPECT_EQ(opened.last().path(), "/settings");
 
