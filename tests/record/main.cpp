@@ -4,7 +4,7 @@
 #include "companion/runtime/Application.h"
 
 int main(int argc, char** argv) {
-  const Application application(argc, argv);
+  const Application application(argv);
   if (!applyAppearance("light")) return 1;
   testing::InitGoogleTest(&argc, argv);
   return RUN_ALL_TESTS();
