@@ -44,7 +44,7 @@ class RecordedSandbox : public testing::Test {
     m_sandbox.start(KZ_SANDBOX);
     ASSERT_TRUE(ready.wait(20'000));
     ASSERT_TRUE(m_recording.start(path()));
-    ASSERT_TRUE(m_host.load(FAKE_PLUGIN));
+    ASSERT_TRUE(m_host.load(PREFERENCES));
     m_host.notify(KZNotify::KZNotifyGetPreferenceDone,
                   Dictionary{{kKZResult, kKZSuccess}, {"kz", demouser::record()}});
     m_host.trigger(KZCommand::KZCmdShowPreference);

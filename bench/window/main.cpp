@@ -4,8 +4,8 @@
 #include <chrono>
 #include <cstdio>
 
-#include "companion/bench/MemoryUse.h"
-#include "companion/bench/WindowBench.h"
+#include "bench/window/MemoryUse.h"
+#include "bench/window/WindowBench.h"
 #include "companion/runtime/Application.h"
 #include "companion/runtime/PluginHost.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
