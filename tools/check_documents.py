@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""What the documents say exists: the files they link and name, make's targets, and every name in `code` marks."""
+"""What the documents name exists: files and links, make's targets, and every name in `code` marks."""
 import posixpath
 import re
 
@@ -9,19 +9,19 @@ FENCE = re.compile(r"^```.*?^```$", re.MULTILINE | re.DOTALL)
 LINK = re.compile(r"\]\(([^)#\s]+)(?:#[^)]*)?\)|src(?:set)?=\"([^\"]+)\"")
 CODE = re.compile(r"`([^`\n]+)`")
 MAKE = re.compile(r"\bmake ([a-z-]+)")
-# A word that looks like a name of the code: long, with a capital, an underscore or a pair of colons inside.
 NAME = re.compile(r"^~?[A-Za-z_]\w*(?:::\w+)*(?:\(\))?$")
 FOLDER = re.compile(r"^(?:adal|bench|cmake|companion|docs|host|KZPreference|platform|sandbox|tests|tools|\.ci)/")
-# Not ours, but worth naming.
+# Names of others.
 FOREIGN = {"QPluginLoader", "QPluginLoader::instance()", "DISPLAY", "WAYLAND_DISPLAY", "CCACHE_DISABLE", "JOBS"}
 
 
 def is_name(word):
+    """Looks like a name of the code: long, with a capital, an underscore or a pair of colons inside."""
     return bool(NAME.match(word)) and len(word) > 5 and bool(re.search(r"[a-z][A-Z]|_|::|^[A-Z]{2}", word))
 
 
 def document_findings(path, text, exists, names, targets):
-    """`exists` tells whether a path of the project exists, `names` is every word of the code."""
+    """`exists` answers for a path of the project, `names` is every word of the code."""
     folder = posixpath.dirname(path)
     prose = FENCE.sub("", text)
     for link in (first or second for first, second in LINK.findall(prose)):
@@ -40,7 +40,7 @@ def document_findings(path, text, exists, names, targets):
 
 def main():
     names = set()
-    for source in project_files("*.h", "*.cpp", "*.txt", "*.cmake", "*.sh", "Makefile"):
+    for source in project_files("*.h", "*.cpp", "*.txt", "*.cmake", "*.sh", "*.py", "Makefile"):
         names.update(re.findall(r"\w+", read(source)))
     targets = set(re.findall(r"^([a-z-]+):", read("Makefile"), re.MULTILINE))
     findings = []

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""What no file may hold: too many lines, loose ends, and places that only one machine has."""
+"""What no file may hold: too many lines, unfinished work, and paths of one machine."""
 import re
 
 from project_files import finish, project_files, read
@@ -9,7 +9,7 @@ TEXT_FILES = ("*.h", "*.cpp", "*.py", "*.sh", "*.txt", "*.cmake", "*.md", "*.ts"
               "Makefile", ".ci/run", ".clang-tidy")
 # Written with a class of one letter so that this file passes its own check.
 WORDS = {
-    r"\b(TOD[O]|FIXM[E]|XX[X])\b": "a loose end belongs into an issue",
+    r"\b(TOD[O]|FIXM[E]|XX[X])\b": "unfinished work belongs into an issue",
     r"(?<![\w.])/(wor[k]|home/\w+|roo[t])/": "a path of one machine",
     r"(?<![\w.])/tm[p]/(?!\.X11)": "a path of one machine; ask for a temporary folder",
     r"\bPart[s]? \d\.\d\b": "the number of a page that readers do not have",
@@ -20,7 +20,7 @@ PATTERNS = [(re.compile(word), reason) for word, reason in WORDS.items()]
 
 def line_findings(path, number, line):
     if line != line.rstrip():
-        yield f"{path}:{number}: blanks at the end of the line"
+        yield f"{path}:{number}: spaces at the end of the line"
     if "\t" in line and path != "Makefile":
         yield f"{path}:{number}: a tab"
     for pattern, reason in PATTERNS:
