@@ -13,7 +13,6 @@ FLOORS = [
     ["KZPreference/core"],
     ["KZPreference/windows"],
     ["KZPreference/panes"],
-    ["KZPreference/calendar"],
     ["KZPreference/authentication"],
     ["KZPreference/layout"],
     ["KZPreference/contract"],

@@ -13,7 +13,6 @@ WHAT = {
     "core": "entry, dispatch, what actions do",
     "windows": "toolbar, cross-fade, signed in and guest",
     "panes": "general, account, meetings, notifications, video devices",
-    "calendar": "calendar groups, Exchange flow",
     "authentication": "challenges, Office 365 tokens",
     "layout": "what panes share",
     "contract": "abstract classes",
