@@ -11,7 +11,8 @@ TEST_JOBS ?= $(JOBS)
 
 .PHONY: run build test lint sanitize bench pictures host-guide package clean packages
 
-run: build
+run: packages
+	@tools/build.sh $(BUILD) $(JOBS) companion
 	$(BUILD)/bin/companion
 
 build: packages
@@ -27,12 +28,12 @@ sanitize: packages
 	@tools/build.sh $(SANITIZE_BUILD) $(JOBS) -DKZ_SANITIZE=ON
 	@tools/run-tests.sh $(SANITIZE_BUILD) $(TEST_JOBS)
 
-bench: build
+bench: packages
+	@tools/build.sh $(BUILD) $(JOBS) bench/all bounds_tests
 	$(BUILD)/bin/benchmarks
 	$(BUILD)/bin/prefs-bench --window
 	$(BUILD)/bin/prefs-bench --window --fade
-	QT_QPA_PLATFORM=offscreen $(BUILD)/tests/companion_test --gtest_brief=1 --gtest_filter='IdleCompanion.*:LongDay.*'
-	QT_QPA_PLATFORM=offscreen $(BUILD)/tests/exchange_tests --gtest_brief=1 --gtest_filter='DiscoveryTimeTest.*'
+	$(BUILD)/tests/bounds_tests --gtest_brief=1
 
 # The pictures of the documents, from runs of the programs.
 pictures: build

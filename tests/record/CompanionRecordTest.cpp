@@ -47,7 +47,7 @@ TEST_F(CompanionRecord, OfAnExchangeAccountPlaysAgain) {
   {
     Companion companion({});
     ASSERT_TRUE(companion.record(recordPath()));
-    ASSERT_TRUE(companion.loadPlugin(FAKE_PLUGIN));
+    ASSERT_TRUE(companion.loadPlugin(PREFERENCES));
     companion.window()->become(demouser::Variant::SignedIn);
     companion.window()->showPreferences();
     eventpump::settle();

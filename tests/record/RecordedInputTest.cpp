@@ -29,7 +29,7 @@ using namespace std::chrono_literals;
 class RecordedInput : public testing::Test {
  protected:
   void SetUp() override {
-    ASSERT_TRUE(m_border.loadPlugin(FAKE_PLUGIN));
+    ASSERT_TRUE(m_border.loadPlugin(PREFERENCES));
     m_border.triggerCommand(2);
     eventpump::settle();
     window()->controller()->setProperty("crossFade", false);
@@ -182,7 +182,7 @@ TEST_F(RecordedInput, AWarningThatIsReadIsAComment) {
 
 TEST(RecorderLife, ARecorderMayComeAndGoInTheMiddleOfAnInput) {
   Border border([](const QUrl&) { return true; });
-  ASSERT_TRUE(border.loadPlugin(FAKE_PLUGIN));
+  ASSERT_TRUE(border.loadPlugin(PREFERENCES));
   border.triggerCommand(2);
   eventpump::settle();
   Window* window = findPreferencesWindow();
@@ -218,7 +218,7 @@ TEST(RecorderLife, ARecorderMayComeAndGoInTheMiddleOfAnInput) {
 
 TEST(RecorderLife, AnEndWaitsForWhatAWorkerTells) {
   Border border([](const QUrl&) { return true; });
-  ASSERT_TRUE(border.loadPlugin(FAKE_PLUGIN));
+  ASSERT_TRUE(border.loadPlugin(PREFERENCES));
   std::atomic<bool> isEnough = false;
   std::atomic<int> posted = 0;
   std::thread worker([&] {

@@ -44,7 +44,7 @@ class RecordedSandbox : public testing::Test {
     m_sandbox.start(KZ_SANDBOX);
     ASSERT_TRUE(ready.wait(20'000));
     ASSERT_TRUE(m_recording.start(path()));
-    ASSERT_TRUE(m_border.loadPlugin(FAKE_PLUGIN));
+    ASSERT_TRUE(m_border.loadPlugin(PREFERENCES));
     m_border.notify(static_cast<quint32>(KZNotify::KZNotifyGetPreferenceDone),
                     Dictionary{{kKZResult, kKZSuccess}, {"kz", demouser::record()}});
     m_border.triggerCommand(2);

@@ -4,8 +4,8 @@
 #include <chrono>
 #include <cstdio>
 
-#include "companion/bench/MemoryUse.h"
-#include "companion/bench/WindowBench.h"
+#include "bench/window/MemoryUse.h"
+#include "bench/window/WindowBench.h"
 #include "companion/runtime/CommandLine.h"
 #include "companion/runtime/PluginLocation.h"
 #include "companion/runtime/QtMessages.h"

@@ -17,8 +17,8 @@ struct SessionRun {
   QJsonObject result() const { return last().value("result").toObject(); }
 };
 
-// Over the fake plug-in; the script's lines come on standard input.
+// Over the real plug-in; the script's lines come on standard input.
 SessionRun runSession(const QStringList& script, const QStringList& options = {});
 
-// Over that plug-in file.
+// Over the plug-in in that file.
 SessionRun runSessionWith(const QString& plugin, const QStringList& script, const QStringList& options = {});

@@ -1,4 +1,4 @@
-#include "companion/bench/MemoryUse.h"
+#include "bench/window/MemoryUse.h"
 
 #include <QByteArray>
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "companion/bench/WindowBench.h"
+#include "bench/window/WindowBench.h"
 
 #include <QAction>
 #include <algorithm>

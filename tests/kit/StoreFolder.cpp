@@ -1,4 +1,4 @@
-#include "tests/host/StoreFolder.h"
+#include "tests/kit/StoreFolder.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "tests/companion/SessionRun.h"
+#include "tests/kit/SessionRun.h"
 
 #include <QJsonDocument>
 #include <QProcess>
@@ -8,7 +8,7 @@ QJsonObject SessionRun::object(qsizetype line) const {
 }
 
 SessionRun runSession(const QStringList& script, const QStringList& options) {
-  return runSessionWith(FAKE_PLUGIN, script, options);
+  return runSessionWith(PREFERENCES, script, options);
 }
 
 SessionRun runSessionWith(const QString& plugin, const QStringList& script, const QStringList& options) {
