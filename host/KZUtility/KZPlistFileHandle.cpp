@@ -43,11 +43,15 @@ KZPlistFileHandle& KZPlistFileHandle::sharedInstance() {
 KZPlistFileHandle::KZPlistFileHandle() = default;
 KZPlistFileHandle::~KZPlistFileHandle() = default;
 
-void KZPlistFileHandle::open(const QString& folder) {
-  m_file = std::make_unique<PropertyListFile>(folder);
+bool KZPlistFileHandle::open(const QString& folder) {
+  close();  // before the lock: the folder may be the same
+  auto file = std::make_unique<PropertyListFile>(folder);
+  if (!file->lock()) return false;
+  m_file = std::move(file);
   m_values = m_file->read();
   m_setAsidePath = m_file->setAsidePath();
   noteProblem();
+  return true;
 }
 
 void KZPlistFileHandle::close() {

@@ -1,6 +1,7 @@
 #include "host/KZUtility/PropertyListFile.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <unistd.h>
 
 #include <QDateTime>
@@ -8,7 +9,6 @@
 #include <QFile>
 #include <cerrno>
 
-#include "host/KZUtility/AtomicFile.h"
 #include "host/KZUtility/KZTrace.h"
 
 namespace {
@@ -49,8 +49,14 @@ QString PropertyListFile::path() const {
   return QDir(m_folder).filePath(kPropertyListName);
 }
 
-Dictionary PropertyListFile::read() {
+// The folder itself: that needs no room on the disk, leaves nothing behind, and ends with the process.
+bool PropertyListFile::lock() {
   makeFolder();
+  m_lock = Descriptor(::open(QFile::encodeName(m_folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  return !m_lock.isOpen() || ::flock(m_lock.get(), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+}
+
+Dictionary PropertyListFile::read() {
   removeAbandonedFiles(m_folder, kPropertyListName);
   load();
   return valueOfPropertyList(m_document.get()).toMap();

@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "host/KZFoundation/Dictionary.h"
+#include "host/KZUtility/AtomicFile.h"
 #include "host/KZUtility/KZSaveProblem.h"
 #include "host/KZUtility/PropertyListConversion.h"
 
@@ -23,6 +24,9 @@ class PropertyListFile final {
   // Where the last file that could not be used lies now; null when there was none.
   QString setAsidePath() const { return m_setAsidePath; }
 
+  // Makes the folder when missing and locks it while this object lives. False when another process has it:
+  // then nothing may be read or written.
+  [[nodiscard]] bool lock();
   // Once, before anything is set.
   Dictionary read();
 
@@ -52,6 +56,7 @@ class PropertyListFile final {
   void fail(KZSaveProblem problem, const QString& reason);
 
   QString m_folder;
+  Descriptor m_lock;
   QString m_setAsidePath;
   KZSaveProblem m_problem = KZSaveProblem::None;
   // The whole document, so that what nobody here knows is written back as it was.

@@ -1,5 +1,8 @@
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <QDateTime>
 #include <QSignalSpy>
@@ -155,6 +158,29 @@ TEST(KZPlistFileHandle, NeverWritesWhatItCouldNotReadAgain) {
   EXPECT_EQ(store.siteName(), "kept");
   EXPECT_TRUE(store.cdnUrl().isNull());
   EXPECT_EQ(watch.count(KZTraceLevel::Error), 2);
+}
+
+TEST(KZPlistFileHandle, StaysInMemoryWhileAnotherProcessHasTheFolder) {
+  const StoreFolder folder;
+  KZPlistFileHandle& store = StoreFolder::store();
+  store.setSiteName("theirs");
+  store.close();
+  const QTemporaryDir before;
+  ASSERT_TRUE(store.open(before.path()));
+  // A lock on a descriptor of its own is to the system as another process's.
+  const int theirs = ::open(folder.folder().toUtf8().constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  ASSERT_EQ(::flock(theirs, LOCK_EX | LOCK_NB), 0);
+  EXPECT_FALSE(store.open(folder.folder()));
+  EXPECT_TRUE(store.siteName().isNull());
+  EXPECT_TRUE(store.filePath().isNull());
+  store.setSiteName("memory");
+  ::close(theirs);
+  ASSERT_TRUE(store.open(folder.folder()));
+  EXPECT_EQ(store.siteName(), "theirs");
+  // Nothing stays locked but the folder that is open.
+  const int next = ::open(before.path().toUtf8().constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  EXPECT_EQ(::flock(next, LOCK_EX | LOCK_NB), 0);
+  ::close(next);
 }
 
 TEST(KZPlistFileHandle, IsInMemoryUntilOpenedAndAfterClosing) {

@@ -16,8 +16,7 @@
 #include "platform/WindowController.h"
 
 RecordingHost::RecordingHost() {
-  KZPlistFileHandle::sharedInstance().close();
-  KZPlistFileHandle::sharedInstance().open(m_folder.path());
+  EXPECT_TRUE(KZPlistFileHandle::sharedInstance().open(m_folder.path()));
   KZKeyChainHandle::sharedInstance().useStorage(KZKeyChainHandle::Storage::Memory);
   KZUtility::sharedInstance().cleanCheckForUpdatesInProgressFlag();
   KZApplicationHelper::sharedInstance().setSiteEnableOutlook(true);
