@@ -50,7 +50,7 @@ bool KZPlistFileHandle::open(const QString& folder) {
   m_file = std::move(file);
   m_values = m_file->read();
   m_setAsidePath = m_file->setAsidePath();
-  noteProblem();
+  reportProblem();
   return true;
 }
 
@@ -58,7 +58,7 @@ void KZPlistFileHandle::close() {
   m_file.reset();
   m_values.clear();
   m_setAsidePath.clear();
-  noteProblem();
+  reportProblem();
 }
 
 QString KZPlistFileHandle::filePath() const {
@@ -69,7 +69,7 @@ KZSaveProblem KZPlistFileHandle::saveProblem() const {
   return m_file ? m_file->problem() : KZSaveProblem::None;
 }
 
-void KZPlistFileHandle::noteProblem() {
+void KZPlistFileHandle::reportProblem() {
   if (m_problem == saveProblem()) return;
   m_problem = saveProblem();
   Q_EMIT saveProblemChanged(m_problem);
@@ -92,7 +92,7 @@ void KZPlistFileHandle::setValue(const QString& key, const QVariant& value) {
   if (m_file) {
     if (isChanged) m_file->set(key, after);
     m_file->flush();
-    noteProblem();
+    reportProblem();
   }
   if (isChanged) Q_EMIT valueChanged(key, before, after);
 }

@@ -75,10 +75,10 @@ class KZ_HOST_EXPORT KZPlistFileHandle : public QObject {
   KZPlistFileHandle();
   ~KZPlistFileHandle() override;
 
-  void noteProblem();
+  void reportProblem();
 
   Dictionary m_values;
   std::unique_ptr<PropertyListFile> m_file;
-  KZSaveProblem m_problem = KZSaveProblem::None;  // as last told
+  KZSaveProblem m_problem = KZSaveProblem::None;  // as last emitted
   QString m_setAsidePath;
 };
