@@ -13,6 +13,21 @@ namespace {
 
 constexpr qint64 kAbandonedAfterSeconds = 60;
 
+class Descriptor final {
+ public:
+  explicit Descriptor(int descriptor) : m_descriptor(descriptor) {}
+  ~Descriptor() {
+    if (m_descriptor >= 0) ::close(m_descriptor);
+  }
+  Q_DISABLE_COPY_MOVE(Descriptor)
+
+  int get() const { return m_descriptor; }
+  bool isOpen() const { return m_descriptor >= 0; }
+
+ private:
+  int m_descriptor;
+};
+
 bool writeAll(int descriptor, QByteArrayView bytes) {
   while (!bytes.isEmpty()) {
     const ssize_t written = ::write(descriptor, bytes.data(), static_cast<std::size_t>(bytes.size()));

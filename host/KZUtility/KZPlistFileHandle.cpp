@@ -89,9 +89,9 @@ void KZPlistFileHandle::setValue(const QString& key, const QVariant& value) {
   const bool isChanged = !isSameValue(before, after);
   if (isChanged && after.isValid()) m_values.insert(key, after);
   if (isChanged && !after.isValid()) m_values.remove(key);
-  if (m_file) {
-    if (isChanged) m_file->set(key, after);
-    m_file->flush();
+  // An unchanged value is a chance to write what an earlier failure left out.
+  if (m_file && (isChanged || saveProblem() != KZSaveProblem::None)) {
+    m_file->write(m_values);
     reportProblem();
   }
   if (isChanged) Q_EMIT valueChanged(key, before, after);
