@@ -1,6 +1,5 @@
 #include "KZPreference/authentication/ADTokenCacheItem+Mivra.h"
 
-#include "adal/ADAuthenticationSettings.h"
 #include "adal/ADTokenCacheItem.h"
 
 namespace {
@@ -11,5 +10,5 @@ constexpr int expiryMarginSeconds = 600;
 
 bool isExpiredWithPrejudge(const ADTokenCacheItem& item) {
   if (item.isExpired()) return true;
-  return item.expiresOn.addSecs(-expiryMarginSeconds) < ADAuthenticationSettings::sharedInstance().now();
+  return item.expiresOn.addSecs(-expiryMarginSeconds) < adNow();
 }
