@@ -3,7 +3,6 @@
 #include <QLocale>
 
 #include "companion/format/HostState.h"
-#include "companion/format/TokenState.h"
 
 namespace {
 
@@ -31,27 +30,27 @@ HostStateWatch::State HostStateWatch::emptyState() {
 HostStateWatch::State HostStateWatch::present() const {
   State state;
   state.language = QLocale().name();
-  state.host = hoststate::host().toObject();
-  state.store = hoststate::store(valuecodec::Form::Exact).toObject();
+  state.host = hoststate::host();
+  state.store = hoststate::store(valuecodec::Form::Exact);
   if (m_isBegun && m_keychain == Keychain::ReadOnce) {
     state.credential = m_seen.credential;
     state.tokens = m_seen.tokens;
     return state;
   }
-  const QJsonObject keychain = hoststate::keychain().toObject();
+  const QJsonObject keychain = hoststate::keychain();
   state.credential = {{"username", keychain.value(QLatin1String("outlookUsername"))},
                       {"password", keychain.value(QLatin1String("outlookPassword"))}};
-  state.tokens = tokenstate::tokens();
+  state.tokens = hoststate::tokens();
   return state;
 }
 
-QList<QList<LineWriter::Member>> HostStateWatch::changes() {
+QList<Line> HostStateWatch::changes() {
   const State now = present();
-  QList<QList<LineWriter::Member>> steps;
+  QList<Line> steps;
   if (now.language != m_seen.language) steps.append({{"set", "language"}, {"to", now.language}});
   const QJsonObject host = changedValues(m_seen.host, now.host);
   if (!host.isEmpty()) {
-    QList<LineWriter::Member> step = {{"set", "host"}};
+    Line step = {{"set", "host"}};
     for (auto value = host.begin(); value != host.end(); ++value)
       step.emplaceBack(value.key(), value.value());
     steps.append(step);
@@ -64,7 +63,7 @@ QList<QList<LineWriter::Member>> HostStateWatch::changes() {
                   {"password", now.credential.value(QLatin1String("password"))}});
   }
   if (now.tokens != m_seen.tokens) {
-    steps.append({{"set", "tokens"}, {"items", tokenstate::settableTokens()}});
+    steps.append({{"set", "tokens"}, {"items", hoststate::tokens(valuecodec::Form::Exact)}});
   }
   m_seen = now;
   m_isBegun = true;
@@ -77,11 +76,11 @@ void HostStateWatch::accept() {
 }
 
 void HostStateWatch::loadingBegins() {
-  m_storeBeforeLoading = hoststate::store(valuecodec::Form::Exact).toObject();
+  m_storeBeforeLoading = hoststate::store(valuecodec::Form::Exact);
 }
 
 void HostStateWatch::loadingEnded() {
-  const QJsonObject now = hoststate::store(valuecodec::Form::Exact).toObject();
+  const QJsonObject now = hoststate::store(valuecodec::Form::Exact);
   const QJsonObject changed = changedValues(m_storeBeforeLoading, now);
   for (auto value = changed.begin(); value != changed.end(); ++value)
     m_seen.store.insert(value.key(), value.value());

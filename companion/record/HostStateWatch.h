@@ -5,7 +5,7 @@
 #include <QList>
 #include <QString>
 
-#include "companion/format/LineWriter.h"
+#include "companion/format/Line.h"
 
 // Tells which of the host's own state has changed, as the steps that change it. Main thread only.
 class HostStateWatch final {
@@ -18,7 +18,7 @@ class HostStateWatch final {
 
   // The steps from the state that was seen last to the present one. The first time: from the state in which
   // a host without settings begins.
-  QList<QList<LineWriter::Member>> changes();
+  QList<Line> changes();
   // The present state counts as seen.
   void accept();
   // What the store's values become in between counts as seen, the rest does not.

@@ -8,7 +8,7 @@
 #include <QString>
 #include <functional>
 
-#include "companion/format/LineWriter.h"
+#include "companion/format/Line.h"
 #include "companion/record/OtherWindowInput.h"
 #include "companion/record/TypedText.h"
 #include "companion/runtime/Application.h"
@@ -21,7 +21,7 @@ class InputWatch final : public QObject, private InputListener {
   Q_OBJECT
 
  public:
-  using Step = QList<LineWriter::Member>;
+  using Step = Line;
   struct Handlers {
     std::function<void()> begun;  // before anything of it has an effect
     std::function<void()> ended;

@@ -8,7 +8,7 @@
 #include <mutex>
 #include <utility>
 
-#include "companion/format/EventLine.h"
+#include "companion/format/Line.h"
 #include "companion/format/ValueCodec.h"
 #include "companion/record/LateSecrets.h"
 
@@ -199,20 +199,20 @@ void Recorder::writeHeader() {
 void Recorder::writeStep(const Step& step) {
   const QMutexLocker lock(&m_mutex);
   writePause();
-  write(LineWriter::textOf(step));
+  write(lineText(step));
 }
 
 void Recorder::writeOutput(const PluginEvent& event) {
   const QMutexLocker lock(&m_mutex);
   writePause();
-  write(outputMark + LineWriter::textOf(eventLine(event)));
+  write(outputMark + lineText(eventLine(event)));
 }
 
 void Recorder::writeTyped(const TypedText::Edit& edit) {
   const QMutexLocker lock(&m_mutex);
   const QString text = edit.isSecret ? m_vault.nameOf(edit.text) : m_vault.withoutSecrets(edit.text);
   writePause();
-  write(LineWriter::textOf({{"type", edit.field}, {"text", text}}));
+  write(lineText({{"type", edit.field}, {"text", text}}));
 }
 
 void Recorder::writeUnnamed(const QString& what) {
@@ -230,6 +230,5 @@ void Recorder::writePause() {
   m_lastWritten = now;
   if (pause <= kShortestPause) return;
   const auto longest = std::chrono::milliseconds(kLongestPause);
-  write(LineWriter::textOf(
-      {{"wait", static_cast<qint64>(std::min(pause + m_options.slack, longest).count())}}));
+  write(lineText({{"wait", static_cast<qint64>(std::min(pause + m_options.slack, longest).count())}}));
 }

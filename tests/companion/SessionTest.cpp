@@ -11,18 +11,10 @@
 namespace {
 
 const QString kShow = QStringLiteral(R"({"command": 2})");
+const QString kShown = QStringLiteral(R"({"echo":"shown"})");
 
 SessionRun play(const QStringList& script, const QStringList& options = {}) {
   return runSessionWith(FAKE_PLUGIN, script, options);
-}
-
-// What the script prints after the window is shown and has become the key window.
-QStringList shown(const QStringList& script) {
-  SessionRun run = play(QStringList{kShow, R"({"echo": "shown"})"} + script);
-  EXPECT_EQ(run.complaints, "");
-  const qsizetype start = run.lines.indexOf(R"({"echo":"shown"})");
-  EXPECT_GE(start, 0) << qPrintable(run.lines.join(u'\n'));
-  return run.lines.mid(start + 1);
 }
 
 QString happened(const char* content) {
@@ -43,75 +35,113 @@ QJsonObject viewNamed(const QJsonObject& view, const QString& name) {
   return {};
 }
 
-TEST(Session, PrintsWhatCrossesTheBorderInOrder) {
-  const SessionRun run = play({
-      R"({"echo": {"mark": [1, 0.5]}})",
-      R"({"command": 77, "content": {"n": 3, "f": true, "gone": null, "bytes": {"$data": "AP8="}}})",
-      R"({"command": 77})",
-      R"({"command": 20, "content": {"kproximityCommand": "@kstartDetectVD"}})",
-      R"({"command": 20, "content": {"kproximityCommand": "kstartDetectVD"}})",
-      R"({"notify": 7, "content": {}})",
-      R"({"notify": 8})",
-      R"({"command": 28})",
-      R"({"command": 8})",
-      R"({"command": 10})",
-      R"({"post": "HTTPAuthenticationRequired", "userInfo": {"a": 1}, "thread": "worker"})",
-      R"({"post": "HTTPAuthenticationRequired"})",
-      R"({"post": "HTTPAuthenticationDatasource"})",
-      R"({"command": 9, "content": {"password": "secret"}})",
-      R"({"echo": null})",
-  });
-  const QStringList expected = {
-      R"({"echo":{"mark":[1,0.5]}})",
-      R"({"sent":77,"name":"","content":{"bytes":{"$data":"AP8="},"f":true,"n":3}})",
-      R"({"sent":77,"name":"","content":null})",
-      R"({"sent":19,"name":"KZCmdSetVideoDevicePrefs","content":{"same":true}})",
-      R"({"sent":19,"name":"KZCmdSetVideoDevicePrefs","content":{"same":false}})",
-      R"({"sent":13,"name":"KZCmdPreferenceChanged","content":{"hasContent":true,"index":7}})",
-      R"({"sent":13,"name":"KZCmdPreferenceChanged","content":{"hasContent":false,"index":8}})",
-      R"({"sent":29,"name":"KZCmdExchOnlineTokenGot","content":null})",
-      R"({"warning":{"message":"Message","title":"Title"}})",
-      R"({"opened":"https://example.com/a%20b"})",
-      R"({"posted":"HTTPAuthenticationDatasource","userInfo":{"a":1,"answered":true}})",
-      R"({"posted":"HTTPAuthenticationDatasource","userInfo":{"answered":true}})",
-      R"({"echo":null})",
-  };
-  EXPECT_EQ(textOf(run.lines), textOf(expected));
-  EXPECT_EQ(run.complaints, "");
-  EXPECT_EQ(run.status, 0);
-}
+struct Case {
+  const char* what;
+  QStringList script;
+  QStringList expected;
+  QStringList options = {};
+};
 
-TEST(Session, PrintsTraceOnlyWhenAsked) {
-  const SessionRun run = play({R"({"command": 9, "content": {"a": 1}})"}, {"--trace"});
-  ASSERT_EQ(run.lines.size(), 1);
-  EXPECT_EQ(run.object(0).value("trace"), "warning");
-  EXPECT_EQ(run.object(0).value("method"), "FakeCore::handle");
-}
-
-TEST(Session, PrintsWritesWithoutTheirSecretsWhenAsked) {
-  const QStringList script = {
+TEST(Session, PrintsWhatHappensInOrder) {
+  const QStringList writes = {
       R"({"set": "store", "values": {"siteName": "one"}})",
       R"({"set": "store", "values": {"siteName": "one"}})",
       R"({"set": "store", "values": {"siteName": null}})",
       R"({"set": "keychain", "username": "ann", "password": "p:w"})",
       R"({"set": "keychain", "username": null, "password": null})",
   };
-  const QStringList expected = {
-      R"({"stored":"siteName","value":"one","before":null})",
-      R"({"stored":"siteName","value":null,"before":"one"})",
-      R"-({"kept":"OutlookAccount(Onpremise)"})-",
-      R"-({"removed":"OutlookAccount(Onpremise)"})-",
+  const Case cases[] = {
+      {"what the host does",
+       {
+           R"({"echo": {"mark": [1, 0.5]}})",
+           R"({"command": 77, "content": {"n": 3, "f": true, "gone": null, "bytes": {"$data": "AP8="}}})",
+           R"({"command": 77})",
+           R"({"command": 20, "content": {"kproximityCommand": "@kstartDetectVD"}})",
+           R"({"command": 20, "content": {"kproximityCommand": "kstartDetectVD"}})",
+           R"({"notify": 7, "content": {}})",
+           R"({"notify": 8})",
+           R"({"command": 28})",
+           R"({"command": 8})",
+           R"({"command": 10})",
+           R"({"post": "HTTPAuthenticationRequired", "userInfo": {"a": 1}, "thread": "worker"})",
+           R"({"post": "HTTPAuthenticationRequired"})",
+           R"({"post": "HTTPAuthenticationDatasource"})",
+           R"({"command": 9, "content": {"password": "secret"}})",
+           R"({"echo": null})",
+       },
+       {
+           R"({"echo":{"mark":[1,0.5]}})",
+           R"({"sent":77,"name":"","content":{"bytes":{"$data":"AP8="},"f":true,"n":3}})",
+           R"({"sent":77,"name":"","content":null})",
+           R"({"sent":19,"name":"KZCmdSetVideoDevicePrefs","content":{"same":true}})",
+           R"({"sent":19,"name":"KZCmdSetVideoDevicePrefs","content":{"same":false}})",
+           R"({"sent":13,"name":"KZCmdPreferenceChanged","content":{"hasContent":true,"index":7}})",
+           R"({"sent":13,"name":"KZCmdPreferenceChanged","content":{"hasContent":false,"index":8}})",
+           R"({"sent":29,"name":"KZCmdExchOnlineTokenGot","content":null})",
+           R"({"warning":{"message":"Message","title":"Title"}})",
+           R"({"opened":"https://example.com/a%20b"})",
+           R"({"posted":"HTTPAuthenticationDatasource","userInfo":{"a":1,"answered":true}})",
+           R"({"posted":"HTTPAuthenticationDatasource","userInfo":{"answered":true}})",
+           R"({"echo":null})",
+       }},
+      {"trace",
+       {R"({"command": 9, "content": {"password": "secret"}})"},
+       {R"({"trace":"warning","method":"FakeCore::handle","text":"content:{\"password\":\"***\"}"})"},
+       {"--trace"}},
+      {"writes are printed when asked for", writes, {}},
+      {"writes, without their secrets",
+       writes,
+       {
+           R"({"stored":"siteName","value":"one","before":null})",
+           R"({"stored":"siteName","value":null,"before":"one"})",
+           R"-({"kept":"OutlookAccount(Onpremise)"})-",
+           R"-({"removed":"OutlookAccount(Onpremise)"})-",
+       },
+       {"--writes"}},
+      {"what the host owns",
+       {
+           R"({"set": "store", "values": {"siteName": "s", "launchAtLogin": false, "videoDevice": {"a": 1}, "userName": "u"}})",
+           R"({"set": "store", "values": {"userName": null}})",
+           R"({"get": "store"})",
+           R"({"get": "keychain"})",
+           R"({"set": "keychain", "username": "u", "password": "p"})",
+           R"({"get": "keychain"})",
+           R"({"set": "keychain", "username": null, "password": null})",
+           R"({"get": "keychain"})",
+           R"({"set": "host", "checkForUpdatesInProgress": true, "siteEnableOutlook": false, "joinByNumberLink": "x:"})",
+           R"({"get": "host"})",
+           R"({"set": "host", "joinByNumberLink": null, "checkForUpdatesInProgress": false})",
+           R"({"get": "host"})",
+           R"({"personalRoom": {"join": "j", "sip": "s"}})",
+           R"({"personalRoom": {"join": ""}})",
+           R"({"get": "personalRoom"})",
+           R"({"get": "token", "email": "e"})",
+           R"({"get": "token"})",
+       },
+       {
+           R"({"result":{"launchAtLogin":false,"siteName":"s","videoDevice":{"a":1}}})",
+           R"({"result":{"outlookOnlineData":null,"outlookPassword":null,"outlookUsername":null}})",
+           R"({"result":{"outlookOnlineData":null,"outlookPassword":"p","outlookUsername":"u"}})",
+           R"({"result":{"outlookOnlineData":null,"outlookPassword":null,"outlookUsername":null}})",
+           R"({"result":{"checkForUpdatesInProgress":true,"joinByNumberLink":"x:","siteEnableOutlook":false}})",
+           R"({"result":{"checkForUpdatesInProgress":false,"joinByNumberLink":null,"siteEnableOutlook":false}})",
+           R"({"result":{"join":"","sip":"s"}})",
+           R"({"result":{"email":"e","hasUsername":false}})",
+           R"({"result":null})",
+       }},
+      {"comments, empty lines, ends of lines",
+       {"# {", "", "  ", " {\"echo\": 1}\r", "#", R"({"echo": 2})"},
+       {R"({"echo":1})", R"({"echo":2})"}},
   };
-  EXPECT_EQ(textOf(play(script, {"--writes"}).lines), textOf(expected));
-  EXPECT_EQ(textOf(play(script).lines), "");
+  for (const Case& given : cases) {
+    const SessionRun run = play(given.script, given.options);
+    EXPECT_EQ(textOf(run.lines), textOf(given.expected)) << given.what;
+    EXPECT_EQ(run.complaints, "") << given.what;
+    EXPECT_EQ(run.status, 0) << given.what;
+  }
 }
 
 TEST(Session, UserActions) {
-  struct Case {
-    const char* what;
-    QStringList script;
-    QStringList expected;
-  };
   const Case cases[] = {
       {"click",
        {R"({"click": "m_box"})"},
@@ -135,9 +165,11 @@ TEST(Session, UserActions) {
         R"({"refused":"m_covered is covered"})", R"({"refused":"m_off is disabled"})"}},
       {"scrolled into view", {R"({"click": "m_far"})"}, {happened(R"({"clicked":"far"})")}},
       {"same name in two groups", {R"({"click": "GroupB/m_same"})"}, {happened(R"({"clicked":"GroupB"})")}},
-      {"parents may be left out",
-       {R"({"click": "m_generalView/GroupA/m_same"})"},
-       {happened(R"({"clicked":"GroupA"})")}},
+      {"parents by name, by class, or left out",
+       {R"({"click": "m_generalView/GroupA/m_same"})", R"({"click": "FakePane/GroupB/m_same"})",
+        R"({"click": "FakePane/m_far"})"},
+       {happened(R"({"clicked":"GroupA"})"), happened(R"({"clicked":"GroupB"})"),
+        happened(R"({"clicked":"far"})")}},
       {"panes by label and by English label",
        {R"({"pane": "Konto"})", R"({"pane": "Meetings", "shift": true})"},
        {happened(R"({"pane":"Konto","shift":false})"), happened(R"({"pane":"Treffen","shift":true})")}},
@@ -153,9 +185,34 @@ TEST(Session, UserActions) {
        {R"({"echo":1})", happened(R"({"key":true})")}},
   };
   for (const Case& given : cases) {
-    const QStringList lines = shown(given.script);
-    EXPECT_EQ(textOf(lines), textOf(given.expected)) << given.what;
+    const SessionRun run = play(QStringList{kShow, kShown} + given.script);
+    EXPECT_EQ(textOf(run.lines.mid(run.lines.indexOf(kShown) + 1)), textOf(given.expected)) << given.what;
+    EXPECT_EQ(run.status, 0) << given.what;
   }
+}
+
+// A pane and the group in it that have the same name, groups, and a row that no field holds.
+TEST(Session, ParentsAreNamedByFieldOrByClass) {
+  const char* const names[] = {
+      "m_editBtn",
+      "m_meetingView/m_editBtn",
+      "MeetingSubView/m_editBtn",
+      "PrefMeetingView/m_editBtn",
+      "m_meetingView/m_meetingView/m_editBtn",
+      "PrefMeetingView/MeetingSubView/m_editBtn",
+      "m_meetingView/MeetingSubView/m_editBtn",
+      "m_calendarView/m_daysTxt",
+      "CalendarSubView/m_daysTxt",
+      "m_integrationView/m_detectBtn",
+      "CalendarIntegrationSubView/m_detectBtn",
+      "m_notificationView/m_minutesBtn",
+      "PrefNotificationView/MeetingAlertsSubView/m_minutesBtn",
+  };
+  QStringList script = {kShow, R"({"pane": "Meetings"})", R"({"pane": "Notifications"})"};
+  for (const char* name : names)
+    script.append(QStringLiteral(R"({"key": "F20", "in": "%1"})").arg(QLatin1String(name)));
+  const SessionRun run = runSession(script);
+  EXPECT_EQ(run.status, 0) << qPrintable(run.lines.last());
 }
 
 TEST(Session, DescribesTheWindow) {
@@ -199,40 +256,6 @@ TEST(Session, DescribesTheWindow) {
                                                   {"frame", QJsonArray{20, 590.5, 120, 16}},
                                                   {"font", QJsonObject{{"size", 16}, {"bold", true}}},
                                                   {"alignment", "center"}}));
-}
-
-TEST(Session, GetsAndSetsTheHost) {
-  const SessionRun run = play({
-      R"({"set": "store", "values": {"siteName": "s", "launchAtLogin": false, "videoDevice": {"a": 1}, "userName": "u"}})",
-      R"({"set": "store", "values": {"userName": null}})",
-      R"({"get": "store"})",
-      R"({"get": "keychain"})",
-      R"({"set": "keychain", "username": "u", "password": "p"})",
-      R"({"get": "keychain"})",
-      R"({"set": "keychain", "username": null, "password": null})",
-      R"({"get": "keychain"})",
-      R"({"set": "host", "checkForUpdatesInProgress": true, "siteEnableOutlook": false, "joinByNumberLink": "x:"})",
-      R"({"get": "host"})",
-      R"({"set": "host", "joinByNumberLink": null, "checkForUpdatesInProgress": false})",
-      R"({"get": "host"})",
-      R"({"personalRoom": {"join": "j", "sip": "s"}})",
-      R"({"personalRoom": {"join": ""}})",
-      R"({"get": "personalRoom"})",
-      R"({"get": "token", "email": "e"})",
-      R"({"get": "token"})",
-  });
-  const QStringList expected = {
-      R"({"result":{"launchAtLogin":false,"siteName":"s","videoDevice":{"a":1}}})",
-      R"({"result":{"outlookOnlineData":null,"outlookPassword":null,"outlookUsername":null}})",
-      R"({"result":{"outlookOnlineData":null,"outlookPassword":"p","outlookUsername":"u"}})",
-      R"({"result":{"outlookOnlineData":null,"outlookPassword":null,"outlookUsername":null}})",
-      R"({"result":{"checkForUpdatesInProgress":true,"joinByNumberLink":"x:","siteEnableOutlook":false}})",
-      R"({"result":{"checkForUpdatesInProgress":false,"joinByNumberLink":null,"siteEnableOutlook":false}})",
-      R"({"result":{"join":"","sip":"s"}})",
-      R"({"result":{"email":"e","hasUsername":false}})",
-      R"({"result":null})",
-  };
-  EXPECT_EQ(textOf(run.lines), textOf(expected));
 }
 
 TEST(Session, TokensGoThroughTheCache) {
@@ -287,6 +310,9 @@ TEST(Session, StepsThatCannotBePlayedEndIt) {
       {R"({"click": "m_nothing"})", "there is no control m_nothing"},
       {R"({"click": "m_same"})",
        "m_same is not unique: m_generalView/GroupA/m_same, m_generalView/GroupB/m_same"},
+      {R"({"click": "QWidget/m_same"})", "QWidget/m_same is not unique: "},
+      {R"({"click": "GroupA/QRadioButton"})", "there is no control GroupA/QRadioButton"},
+      {R"({"click": "GroupA/FakePane/m_same"})", "there is no control GroupA/FakePane/m_same"},
       {R"({"click": "m_box", "shift": 1})", R"("shift" is not true or false)"},
       {R"({"type": "m_box", "text": "a"})", "m_box is not a text field"},
       {R"({"choose": "m_popup", "item": "99"})", "there is no item 99"},
