@@ -32,8 +32,8 @@ KZ_HOST_EXPORT void setKZTraceSink(KZTraceSink sink);
 // Records go nowhere, and nothing is formatted, until a sink is set again.
 KZ_HOST_EXPORT void muteKZTrace();
 
-// The dictionary as the trace would show it: secrets replaced by "***", also in lists, in inner dictionaries
-// and in texts that hold JSON. For hosts that show contents.
+// The dictionary as the trace would show it: secrets replaced by "***", also in lists, in inner dictionaries,
+// in texts that hold JSON and in the parameters of addresses. For hosts that show contents.
 KZ_HOST_EXPORT Dictionary kzMaskSecrets(const Dictionary& dictionary);
 
 // What stands in a secret's place: asked with the value, or with a whole text that names a secret and is no
