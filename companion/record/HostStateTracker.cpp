@@ -1,88 +1,72 @@
-#include "companion/record/HostStateWatch.h"
+#include "companion/record/HostStateTracker.h"
 
 #include <QLocale>
+#include <utility>
 
 #include "companion/format/HostState.h"
 #include "companion/format/TokenState.h"
 
 namespace {
 
-// The keys whose values differ; null for those that are gone.
+using Step = QList<LineWriter::Member>;
+
+const QString kLanguage = QStringLiteral("language");
+const QString kHost = QStringLiteral("host");
+const QString kStore = QStringLiteral("store");
+const QString kKeychain = QStringLiteral("keychain");
+const QString kTokens = QStringLiteral("tokens");
+
+QJsonObject readCredential() {
+  const QJsonObject keychain = hoststate::keychain().toObject();
+  return {{"username", keychain.value(QLatin1String("outlookUsername"))},
+          {"password", keychain.value(QLatin1String("outlookPassword"))}};
+}
+
+// The values that differ; null for those that are gone. What is absent is as good as null.
 QJsonObject changedValues(const QJsonObject& before, const QJsonObject& after) {
   QJsonObject changed;
-  for (auto value = before.begin(); value != before.end(); ++value) {
-    if (!after.contains(value.key())) changed.insert(value.key(), QJsonValue::Null);
+  for (const QString& key : before.keys()) {
+    if (!after.contains(key)) changed.insert(key, QJsonValue::Null);
   }
   for (auto value = after.begin(); value != after.end(); ++value) {
-    if (before.value(value.key()) != value.value()) changed.insert(value.key(), value.value());
+    const bool isAbsent = value->isNull() && !before.contains(value.key());
+    if (!isAbsent && before.value(value.key()) != value.value()) changed.insert(value.key(), value.value());
   }
   return changed;
 }
 
+Step stepOf(const QString& part, const QJsonObject& values) {
+  Step step = {{"set", part}};
+  for (auto value = values.begin(); value != values.end(); ++value)
+    step.emplaceBack(value.key(), value.value());
+  return step;
+}
+
 }  // namespace
 
-HostStateWatch::State HostStateWatch::emptyState() {
-  State state;
-  state.credential = {{"username", QJsonValue::Null}, {"password", QJsonValue::Null}};
-  state.tokens = QJsonArray();
-  return state;
+QJsonObject HostStateTracker::present() const {
+  const bool isKeychainRead = m_keychain == Keychain::ReadOnce && m_accepted.contains(kKeychain);
+  return {{kLanguage, QLocale().name()},
+          {kHost, hoststate::host()},
+          {kStore, hoststate::store(valuecodec::Form::Exact)},
+          {kKeychain, isKeychainRead ? m_accepted.value(kKeychain) : readCredential()},
+          {kTokens, isKeychainRead ? m_accepted.value(kTokens) : tokenstate::tokens()}};
 }
 
-HostStateWatch::State HostStateWatch::present() const {
-  State state;
-  state.language = QLocale().name();
-  state.host = hoststate::host().toObject();
-  state.store = hoststate::store(valuecodec::Form::Exact).toObject();
-  if (m_isBegun && m_keychain == Keychain::ReadOnce) {
-    state.credential = m_seen.credential;
-    state.tokens = m_seen.tokens;
-    return state;
-  }
-  const QJsonObject keychain = hoststate::keychain().toObject();
-  state.credential = {{"username", keychain.value(QLatin1String("outlookUsername"))},
-                      {"password", keychain.value(QLatin1String("outlookPassword"))}};
-  state.tokens = tokenstate::tokens();
-  return state;
-}
-
-QList<QList<LineWriter::Member>> HostStateWatch::changes() {
-  const State now = present();
-  QList<QList<LineWriter::Member>> steps;
-  if (now.language != m_seen.language) steps.append({{"set", "language"}, {"to", now.language}});
-  const QJsonObject host = changedValues(m_seen.host, now.host);
-  if (!host.isEmpty()) {
-    QList<LineWriter::Member> step = {{"set", "host"}};
-    for (auto value = host.begin(); value != host.end(); ++value)
-      step.emplaceBack(value.key(), value.value());
-    steps.append(step);
-  }
-  const QJsonObject store = changedValues(m_seen.store, now.store);
-  if (!store.isEmpty()) steps.append({{"set", "store"}, {"values", store}});
-  if (now.credential != m_seen.credential) {
-    steps.append({{"set", "keychain"},
-                  {"username", now.credential.value(QLatin1String("username"))},
-                  {"password", now.credential.value(QLatin1String("password"))}});
-  }
-  if (now.tokens != m_seen.tokens) {
-    steps.append({{"set", "tokens"}, {"items", tokenstate::settableTokens()}});
-  }
-  m_seen = now;
-  m_isBegun = true;
+QList<Step> HostStateTracker::changes() {
+  const QJsonObject before = std::exchange(m_accepted, present());
+  const auto changed = [&](const QString& part) {
+    return changedValues(before.value(part).toObject(), m_accepted.value(part).toObject());
+  };
+  QList<Step> steps;
+  if (before.value(kLanguage) != m_accepted.value(kLanguage))
+    steps.append({{"set", kLanguage}, {"to", m_accepted.value(kLanguage)}});
+  if (const QJsonObject host = changed(kHost); !host.isEmpty()) steps.append(stepOf(kHost, host));
+  if (const QJsonObject store = changed(kStore); !store.isEmpty())
+    steps.append({{"set", kStore}, {"values", store}});
+  if (const QJsonObject credential = changed(kKeychain); !credential.isEmpty())
+    steps.append(stepOf(kKeychain, credential));
+  if (before.value(kTokens).toArray() != m_accepted.value(kTokens).toArray())
+    steps.append({{"set", kTokens}, {"items", tokenstate::settableTokens()}});
   return steps;
-}
-
-void HostStateWatch::accept() {
-  m_seen = present();
-  m_isBegun = true;
-}
-
-void HostStateWatch::loadingBegins() {
-  m_storeBeforeLoading = hoststate::store(valuecodec::Form::Exact).toObject();
-}
-
-void HostStateWatch::loadingEnded() {
-  const QJsonObject now = hoststate::store(valuecodec::Form::Exact).toObject();
-  const QJsonObject changed = changedValues(m_storeBeforeLoading, now);
-  for (auto value = changed.begin(); value != changed.end(); ++value)
-    m_seen.store.insert(value.key(), value.value());
 }

@@ -1,9 +1,8 @@
-#include "companion/record/InputWatch.h"
+#include "companion/record/InputRecorder.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QJsonArray>
-#include <QLineEdit>
 #include <QMouseEvent>
 #include <algorithm>
 #include <initializer_list>
@@ -23,14 +22,14 @@ bool isModifierKey(const QKeyEvent& key) {
                        Qt::Key_CapsLock, Qt::Key_NumLock});
 }
 
-// The field edits its text with it.
+// A field edits its text with the key.
 bool isEditing(const QKeyEvent& key) {
   if (isKeyOf(key, {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Escape, Qt::Key_Up,
                     Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown}))
     return false;
   if (key.key() >= Qt::Key_F1 && key.key() <= Qt::Key_F35) return false;
   if (!(key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))) return true;
-  // A field takes signs that are typed with other modifiers too, and one of them may be part of a password.
+  // A field takes characters that are typed with other modifiers too, which may be part of a password.
   const bool isControl = (key.modifiers() & ~Qt::ShiftModifier) == Qt::ControlModifier;
   if (!isControl && !key.text().isEmpty() && key.text().front().isPrint()) return true;
   static const auto edits = {QKeySequence::Copy,
@@ -62,191 +61,198 @@ QWidget* widgetAt(QWidget* window, const QEvent& event) {
 
 }  // namespace
 
-InputWatch::InputWatch(Handlers handlers)
-    : m_handlers(std::move(handlers)),
-      m_typed([this](const TypedText::Edit& edit) { m_handlers.typed(edit); }) {
+InputRecorder::InputRecorder(RecordWriter* writer, Handlers handlers)
+    : m_writer(writer), m_handlers(std::move(handlers)) {
   Application::setInputListener(this);
 }
 
-InputWatch::~InputWatch() {
+InputRecorder::~InputRecorder() {
   Application::setInputListener(nullptr);
 }
 
-bool InputWatch::inputBegins(QObject* receiver, QEvent* event) {
+bool InputRecorder::inputBegins(QObject* receiver, QEvent* event) {
   QWidget* widget =
       receiver->isWidgetType() ? static_cast<QWidget*>(receiver) : pluginwindow::widgetOf(receiver);
-  Window* window = widget ? pluginwindow::ownerOf(widget) : nullptr;
+  if (!widget) return false;
+  Window* window = pluginwindow::ownerOf(widget);
   if (!window) {
-    if (widget) noteElsewhere(widget, *event);
+    const QString what = pluginwindow::inputElsewhere(*widget, *event);
+    if (!what.isNull()) writeUnnamed(what);
     return false;
   }
-  const QEvent::Type type = event->type();
-  if (type == QEvent::Show) {
-    m_isFreshlyShown = m_isFreshlyShown || widget == window;
-    return false;
-  }
-  const bool isState = type == QEvent::WindowActivate || type == QEvent::WindowDeactivate;
-  // A window that closes or changes place inside of something else does so because of it.
-  const bool isOwnDoing = !m_handlers.isPluginAtWork();
-  if (isState && (widget != window || !isOwnDoing || !isActivation(*window, type))) return false;
-  if (type == QEvent::Close && (widget != window || !isOwnDoing)) return false;
-  if (type == QEvent::ShortcutOverride && !isForList()) return false;
+  if (!isUsersDoing(*event, *widget, *window)) return false;
   m_window = window;
   ++m_depth;
   m_handlers.begun();
-  if (isState) {
-    tell({{"activate", type == QEvent::WindowActivate}});
-  } else {
-    onWindowEvent(widget, event);
-  }
+  onInput(widget, event);
   return true;
 }
 
-void InputWatch::noteElsewhere(QWidget* target, const QEvent& event) {
-  const QString what = m_elsewhere.describe(target, event);
-  if (what.isNull()) return;
-  m_typed.tell();
-  m_handlers.unnamed(what);
+// Whether the event is an input of its own, and not the effect of another or of the plug-in.
+bool InputRecorder::isUsersDoing(const QEvent& event, const QWidget& receiver, const Window& window) {
+  const bool isOfWindow = &receiver == &window;
+  switch (event.type()) {
+    case QEvent::Show:
+      m_isFreshlyShown = m_isFreshlyShown || isOfWindow;
+      return false;
+    case QEvent::WindowActivate:
+      // A window that is shown becomes active by itself.
+      return isOfWindow && !m_handlers.isPluginAtWork() && !std::exchange(m_isFreshlyShown, false);
+    case QEvent::WindowDeactivate:
+      return isOfWindow && !m_handlers.isPluginAtWork() && window.isVisible();
+    case QEvent::Close:
+      return isOfWindow && !m_handlers.isPluginAtWork();
+    case QEvent::ShortcutOverride: {
+      // The list of a pop-up takes keys before they are pressed.
+      QWidget* list = QApplication::activePopupWidget();
+      return list && pluginwindow::ownerOf(list) && pluginwindow::popUpOf(list);
+    }
+    default:
+      return true;
+  }
 }
 
-// The list of a pop-up takes keys before they are pressed.
-bool InputWatch::isForList() const {
-  QWidget* list = QApplication::activePopupWidget();
-  return list && pluginwindow::ownerOf(list) && pluginwindow::popUpOf(list);
-}
-
-void InputWatch::inputEnded() {
+void InputRecorder::inputEnded() {
   if (--m_depth == 0) {
-    m_typed.inputEnded();
-    m_isPressing = false;
+    readTypedText();
+    m_mayBeTyping = false;
+    if (m_choosing && m_choosing->title() != m_titleBefore) writeChoice();
     m_choosing = nullptr;
-    disconnect(m_choices);
   }
   m_handlers.ended();
 }
 
-// A window that is shown becomes active by itself.
-bool InputWatch::isActivation(const Window& window, QEvent::Type type) {
-  if (type == QEvent::WindowDeactivate) return window.isVisible();
-  return !std::exchange(m_isFreshlyShown, false);
-}
-
-void InputWatch::onWindowEvent(QWidget* target, QEvent* event) {
-  if (event->type() == QEvent::InputMethod) return followField(target, TypedText::Input::MayEdit);
-  if (event->type() == QEvent::Close) return tell({{"close", true}});
+void InputRecorder::onInput(QWidget* target, QEvent* event) {
+  const QEvent::Type type = event->type();
+  if (type == QEvent::WindowActivate || type == QEvent::WindowDeactivate)
+    return write({{"activate", type == QEvent::WindowActivate}});
+  if (type == QEvent::Close) return write({{"close", true}});
+  if (type == QEvent::InputMethod) return expectTyping(target);
   QWidget* list = QApplication::activePopupWidget();
-  if (list && pluginwindow::ownerOf(list)) {
-    if (PopUpButton* button = pluginwindow::popUpOf(list)) return onListInput(button, *event);
-    // A menu may change the text that it was opened for.
-    return followField(m_window->focusWidget(), TypedText::Input::MayEdit);
-  }
-  switch (event->type()) {
-    case QEvent::MouseButtonPress: {
-      const auto* mouse = static_cast<QMouseEvent*>(event);
-      if (mouse->button() == Qt::LeftButton) return onPress(widgetAt(target, *event), mouse->modifiers());
-      return followField(widgetAt(target, *event), TypedText::Input::MayEdit);
-    }
-    case QEvent::MouseButtonRelease:
-      return onRelease(widgetAt(target, *event));
-    case QEvent::KeyPress:
-      return onKey(*static_cast<QKeyEvent*>(event));
-    case QEvent::Wheel:
-      if (auto* button = qobject_cast<PopUpButton*>(widgetAt(target, *event))) awaitChoice(button);
-      return;
-    case QEvent::Drop:
-      return followField(widgetAt(target, *event), TypedText::Input::MayEdit);
-    default:
-      return;
-  }
+  if (list && pluginwindow::ownerOf(list)) return onListInput(list, *event);
+  if (type == QEvent::KeyPress) return onKey(*static_cast<QKeyEvent*>(event));
+  QWidget* hit = widgetAt(target, *event);
+  if (type == QEvent::Wheel) return expectChoice(qobject_cast<PopUpButton*>(hit));
+  if (type == QEvent::Drop) return expectTyping(hit);
+  if (type != QEvent::MouseButtonPress && type != QEvent::MouseButtonRelease) return;
+  const auto* mouse = static_cast<QMouseEvent*>(event);
+  // The other buttons paste, or open a menu that does.
+  if (mouse->button() != Qt::LeftButton) return expectTyping(hit);
+  if (type == QEvent::MouseButtonRelease) return onRelease(hit);
+  onPress(hit, mouse->modifiers());
 }
 
-void InputWatch::onPress(QWidget* hit, Qt::KeyboardModifiers modifiers) {
-  followField(hit, TypedText::Input::EditsNothing);
-  m_pressed = hit;
-  m_press = {};
-  // A pop-up's choice is told when it is made.
-  if (!hit->isEnabled() || qobject_cast<PopUpButton*>(hit)) return;
-  const QAction* pane = pluginwindow::paneOf(*m_window, hit);
-  const QString name = pane ? pane->text() : pluginwindow::clickableNameOf(*m_window, hit);
-  if (name.isNull()) {
-    m_handlers.unnamed(QStringLiteral("a click on %1").arg(QLatin1String(hit->metaObject()->className())));
-    return;
-  }
-  m_press = {{pane ? "pane" : "click", name}};
-  if (modifiers.testFlag(Qt::ShiftModifier)) m_press.emplaceBack("shift", true);
-  m_isPressing = true;
-}
-
-void InputWatch::onRelease(QWidget* hit) {
-  const bool isClick = hit == m_pressed && !m_press.isEmpty();
-  m_pressed = nullptr;
-  if (isClick) tell(std::exchange(m_press, {}));
-}
-
-void InputWatch::onKey(const QKeyEvent& key) {
-  const bool isTaken = key.key() == std::exchange(m_listKey, 0);
-  if (isTaken || isModifierKey(key)) return;
-  QWidget* focus = m_window->focusWidget();
-  const bool isEdit = qobject_cast<QLineEdit*>(focus) && isEditing(key);
-  followField(focus, isEdit ? TypedText::Input::MayEdit : TypedText::Input::EditsNothing);
-  if (isEdit) return;
-  const bool isSpace = key.key() == Qt::Key_Space || key.key() == Qt::Key_Select;
-  if (const QAction* pane = isSpace ? pluginwindow::paneOf(*m_window, focus) : nullptr)
-    return tell({{"pane", pane->text()}});
-  auto* button = qobject_cast<PopUpButton*>(focus);
-  if (button &&
-      !isKeyOf(key, {Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter}) &&
-      !key.modifiers().testFlag(Qt::ControlModifier))
-    return awaitChoice(button);
-  const QString name = keynames::nameOf(key.key(), key.modifiers());
-  if (name.isNull()) return m_handlers.unnamed(QStringLiteral("a key without a name"));
-  Step step = {{"key", name}};
-  const QString place = focus ? pluginwindow::nameOf(*m_window, focus) : QString();
-  if (!place.isNull()) step.emplaceBack("in", place);
-  const QStringList modifiers = keynames::namesOf(key.modifiers());
-  if (!modifiers.isEmpty()) step.emplaceBack("modifiers", QJsonArray::fromStringList(modifiers));
-  tell(step);
-}
-
-void InputWatch::onListInput(PopUpButton* button, const QEvent& event) {
+void InputRecorder::onListInput(QWidget* list, const QEvent& event) {
+  PopUpButton* button = pluginwindow::popUpOf(list);
+  // A menu may change the text that it was opened for.
+  if (!button) return expectTyping(m_window->focusWidget());
   bool isChoosing = event.type() == QEvent::MouseButtonRelease;
   if (event.type() == QEvent::KeyPress || event.type() == QEvent::ShortcutOverride) {
     const auto& key = static_cast<const QKeyEvent&>(event);
     m_listKey = key.key();
     isChoosing = isKeyOf(key, {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space, Qt::Key_Select});
   }
-  if (isChoosing) awaitChoice(button);
+  if (isChoosing) expectChoice(button);
 }
 
-void InputWatch::followField(QWidget* widget, TypedText::Input input) {
+void InputRecorder::onPress(QWidget* hit, Qt::KeyboardModifiers modifiers) {
+  m_click = {};  // the one before was never released
+  flush();
+  m_pressed = hit;
+  // A pop-up's choice is written when it is made.
+  if (!hit->isEnabled() || qobject_cast<PopUpButton*>(hit)) return;
+  const QAction* pane = pluginwindow::paneOf(*m_window, hit);
+  const QString name = pane ? pane->text() : pluginwindow::clickableNameOf(*m_window, hit);
+  if (name.isNull())
+    return writeUnnamed(QStringLiteral("a click on %1").arg(QLatin1String(hit->metaObject()->className())));
+  m_click = {{pane ? "pane" : "click", name}};
+  if (modifiers.testFlag(Qt::ShiftModifier)) m_click.emplaceBack("shift", true);
+}
+
+void InputRecorder::onRelease(QWidget* hit) {
+  const RecordWriter::Line click = std::exchange(m_click, {});
+  const bool isClick = hit == m_pressed && !click.isEmpty();
+  m_pressed = nullptr;
+  if (isClick) write(click);
+}
+
+void InputRecorder::onKey(const QKeyEvent& key) {
+  const bool isTaken = key.key() == std::exchange(m_listKey, 0);
+  if (isTaken || isModifierKey(key)) return;
+  QWidget* focus = m_window->focusWidget();
+  if (qobject_cast<QLineEdit*>(focus) && isEditing(key)) return expectTyping(focus);
+  const bool isSpace = key.key() == Qt::Key_Space || key.key() == Qt::Key_Select;
+  if (const QAction* pane = isSpace ? pluginwindow::paneOf(*m_window, focus) : nullptr)
+    return write({{"pane", pane->text()}});
+  auto* button = qobject_cast<PopUpButton*>(focus);
+  if (button &&
+      !isKeyOf(key, {Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter}) &&
+      !key.modifiers().testFlag(Qt::ControlModifier))
+    return expectChoice(button);
+  const QString name = keynames::nameOf(key.key(), key.modifiers());
+  if (name.isNull()) return writeUnnamed(QStringLiteral("a key without a name"));
+  RecordWriter::Line step = {{"key", name}};
+  const QString place = focus ? pluginwindow::nameOf(*m_window, focus) : QString();
+  if (!place.isNull()) step.emplaceBack("in", place);
+  const QStringList modifiers = keynames::namesOf(key.modifiers());
+  if (!modifiers.isEmpty()) step.emplaceBack("modifiers", QJsonArray::fromStringList(modifiers));
+  write(step);
+}
+
+// The text is written as a whole, once something else follows or something comes of it.
+void InputRecorder::expectTyping(QWidget* widget) {
   auto* field = qobject_cast<QLineEdit*>(widget);
-  if (!field) return;
-  const QString name = pluginwindow::nameOf(*m_window, field);
-  if (!name.isNull()) m_typed.inputBegins(field, name, input);
+  const QString name = field ? pluginwindow::nameOf(*m_window, field) : QString();
+  if (name.isNull()) return;
+  if (field != m_field || name != m_fieldName) flush();
+  m_field = field;
+  m_fieldName = name;
+  if (!m_typedText) m_textBefore = field->text();
+  m_mayBeTyping = true;
 }
 
-void InputWatch::awaitChoice(PopUpButton* button) {
+void InputRecorder::readTypedText() {
+  if (!m_mayBeTyping || !m_field) return;
+  if (m_typedText || m_field->text() != m_textBefore) m_typedText = m_field->text();
+}
+
+void InputRecorder::expectChoice(PopUpButton* button) {
   m_choosing = button;
+  if (!button) return;
   m_choosingName = pluginwindow::nameOf(*m_window, button);
-  disconnect(m_choices);
-  m_choices = connect(button, &PopUpButton::chosen, this, &InputWatch::tellChoice);
+  m_titleBefore = button->title();
 }
 
-void InputWatch::tellChoice() {
-  if (!m_choosing) return;
+void InputRecorder::writeChoice() {
   const QString item = m_choosing->currentText();
   m_choosing = nullptr;
-  if (m_choosingName.isNull()) return m_handlers.unnamed(QStringLiteral("a choice"));
-  tell({{"choose", m_choosingName}, {"item", item}});
+  if (m_choosingName.isNull()) return writeUnnamed(QStringLiteral("a choice"));
+  write({{"choose", m_choosingName}, {"item", item}});
 }
 
-void InputWatch::tell(const Step& step) {
-  m_typed.tell();
-  m_handlers.step(step);
+void InputRecorder::write(const RecordWriter::Line& step) {
+  flush();
+  m_writer->writeStep(step);
 }
 
-void InputWatch::tellPending() {
-  m_typed.tell();
-  if (m_isPressing && !m_press.isEmpty()) tell(std::exchange(m_press, {}));
-  tellChoice();
+void InputRecorder::writeUnnamed(const QString& what) {
+  flush();
+  m_writer->writeUnnamed(what);
+}
+
+void InputRecorder::flush() {
+  readTypedText();
+  if (m_typedText) {
+    const QString text = *std::exchange(m_typedText, {});
+    m_textBefore = text;
+    // A field that is gone may have been one for a password.
+    const bool isSecret = !m_field || m_field->echoMode() != QLineEdit::Normal;
+    if (isSecret) {
+      m_writer->writePassword(m_fieldName, text);
+    } else {
+      m_writer->writeStep({{"type", m_fieldName}, {"text", text}});
+    }
+  }
+  if (!m_click.isEmpty()) m_writer->writeStep(std::exchange(m_click, {}));
+  if (m_choosing) writeChoice();
 }

@@ -1,71 +1,71 @@
 #pragma once
 
-#include <QEvent>
 #include <QKeyEvent>
-#include <QList>
+#include <QLineEdit>
 #include <QObject>
 #include <QPointer>
 #include <QString>
 #include <functional>
+#include <optional>
 
-#include "companion/format/LineWriter.h"
-#include "companion/record/OtherWindowInput.h"
-#include "companion/record/TypedText.h"
+#include "companion/record/RecordWriter.h"
 #include "companion/runtime/Application.h"
 #include "platform/PopUpButton.h"
 #include "platform/WindowController.h"
 
-// Turns what the user does in the plug-in's window into the steps that do it again. Needs an `Application`.
-// Main thread only.
-class InputWatch final : public QObject, private InputListener {
+// Writes what the user does in the plug-in's window as the steps that do it again. A text, a click and a
+// choice are pending until it is known what they are. Needs an `Application`. Main thread only.
+class InputRecorder final : public QObject, private InputListener {
   Q_OBJECT
 
  public:
-  using Step = QList<LineWriter::Member>;
   struct Handlers {
-    std::function<void()> begun;  // before anything of it has an effect
+    std::function<void()> begun;  // before an input has an effect
     std::function<void()> ended;
-    std::function<void(const Step& step)> step;  // before it has its effect, or else before what comes of it
     std::function<bool()> isPluginAtWork;
-    std::function<void(const TypedText::Edit& edit)> typed;
-    std::function<void(const QString& what)> unnamed;  // what no step can say
   };
 
-  explicit InputWatch(Handlers handlers);
-  ~InputWatch() override;
+  // The writer is not owned and must outlive this.
+  InputRecorder(RecordWriter* writer, Handlers handlers);
+  ~InputRecorder() override;
 
-  // Tells what is only known when something comes of it: a text so far, a choice. Call before anything else
-  // is recorded.
-  void tellPending();
+  // Writes what is pending. Call it before anything else is recorded, which may be an effect of it.
+  void flush();
 
  private:
   bool inputBegins(QObject* receiver, QEvent* event) override;
   void inputEnded() override;
 
-  void noteElsewhere(QWidget* target, const QEvent& event);
-  void onWindowEvent(QWidget* target, QEvent* event);
-  bool isActivation(const Window& window, QEvent::Type type);
+  bool isUsersDoing(const QEvent& event, const QWidget& receiver, const Window& window);
+  void onInput(QWidget* target, QEvent* event);
+  void onListInput(QWidget* list, const QEvent& event);
   void onPress(QWidget* hit, Qt::KeyboardModifiers modifiers);
   void onRelease(QWidget* hit);
   void onKey(const QKeyEvent& key);
-  void onListInput(PopUpButton* button, const QEvent& event);
-  bool isForList() const;
-  void followField(QWidget* widget, TypedText::Input input);
-  void awaitChoice(PopUpButton* button);
-  void tellChoice();
-  void tell(const Step& step);
+  void expectTyping(QWidget* widget);
+  void readTypedText();
+  void expectChoice(PopUpButton* button);
+  void writeChoice();
+  void write(const RecordWriter::Line& step);
+  void writeUnnamed(const QString& what);
 
-  Handlers m_handlers;
-  TypedText m_typed;
-  OtherWindowInput m_elsewhere;
+  RecordWriter* m_writer;
+  const Handlers m_handlers;
   QPointer<Window> m_window;  // that the present input is for
-  QPointer<QWidget> m_pressed;
-  Step m_press;               // what it will have been when the button is released
-  bool m_isPressing = false;  // the press is having its effect
-  QPointer<PopUpButton> m_choosing;
-  QString m_choosingName;
-  QMetaObject::Connection m_choices;
-  int m_listKey = 0;  // that the list of a pop-up has taken
+  int m_depth = 0;            // inputs nest
   bool m_isFreshlyShown = false;
-  int m_depth = 0;
+
+  QPointer<QLineEdit> m_field;  // that was typed into last
+  QString m_fieldName;
+  QString m_textBefore;
+  std::optional<QString> m_typedText;  // pending
+  bool m_mayBeTyping = false;          // the present input may change the field's text
+
+  QPointer<QWidget> m_pressed;
+  RecordWriter::Line m_click;  // pending until the button is released
+
+  QPointer<PopUpButton> m_choosing;  // the present input may choose
+  QString m_choosingName;
+  QString m_titleBefore;
+  int m_listKey = 0;  // that the list of a pop-up has taken
 };

@@ -1,111 +1,94 @@
-#include "companion/record/SecretVault.h"
+#include "companion/record/SecretNames.h"
 
 #include <QRegularExpression>
-#include <QUrlQuery>
-#include <utility>
+#include <algorithm>
+#include <cstring>
+#include <functional>
 
 #include "host/KZFoundation/KZConstantRegistry.h"
+#include "host/KZUtility/KZTrace.h"
 
 namespace {
 
-bool isSecretItem(const QString& key) {
-  static const QStringList ofSignIn = {QStringLiteral("state"), QStringLiteral("nonce"),
-                                       QStringLiteral("code_challenge")};
-  if (ofSignIn.contains(key)) return true;
-  // What is a secret in a dictionary is one in an address.
-  bool isSecret = false;
-  (void)kzReplaceSecrets({{key, QString()}}, [&isSecret](const QVariant& value) {
-    isSecret = true;
-    return value;
-  });
-  return isSecret;
+// Shorter secrets would be found in texts that have nothing to do with them.
+constexpr qsizetype kShortestInTexts = sizeof(quint64) / sizeof(QChar);
+const QString kDataKey = QStringLiteral("$data");
+
+bool isName(const QString& text) {
+  static const QRegularExpression pattern(QStringLiteral("^secret-[1-9][0-9]{0,5}$"));
+  return pattern.match(text).hasMatch();
 }
 
-// The port at which this machine waits for an answer is another one each time.
-QString withoutLoopbackPort(const QString& address) {
-  QUrl url(address);
-  if (url.host() != "127.0.0.1" && url.host() != "localhost") return address;
-  url.setPort(-1);
-  return url.toString(QUrl::FullyEncoded);
+bool isConstant(const QString& text) {
+  return !constantNamed(text.startsWith(u'@') ? text.mid(1) : text).isNull();
+}
+
+// The first characters of a text that has so many.
+quint64 beginningOf(QStringView text) {
+  quint64 beginning = 0;
+  std::memcpy(&beginning, text.data(), sizeof beginning);
+  return beginning;
 }
 
 }  // namespace
 
-QString SecretVault::nameOf(const QString& secret) {
+QString SecretNames::nameOf(const QString& secret) {
   if (secret.isEmpty()) return secret;
   const auto known = m_names.constFind(secret);
   if (known != m_names.constEnd()) return *known;
   QString name = secret;
-  if (!SecretFinder::isName(secret)) {
-    const QStringList taken = m_names.values();
+  if (!isName(secret)) {
     do {
       name = QStringLiteral("secret-%1").arg(++m_lastNumber);
-    } while (taken.contains(name));
+    } while (m_names.contains(name));
   }
   m_names.insert(secret, name);
-  m_finder.add(secret, name);
+  // What is part of a name would be found in names.
+  if (secret.size() < kShortestInTexts || name.contains(secret)) return name;
+  QList<qsizetype>& lengths = m_lengths[beginningOf(secret)];
+  if (!lengths.contains(secret.size())) lengths.append(secret.size());
+  std::ranges::sort(lengths, std::greater());
   return name;
 }
 
-// Bytes that are a text are the same secret as the text.
-QByteArray SecretVault::nameOfBytes(const QByteArray& secret) {
-  const QString text = QString::fromUtf8(secret);
-  return nameOf(text.toUtf8() == secret ? text : QString::fromLatin1(secret.toBase64())).toLatin1();
+QJsonValue SecretNames::withoutSecrets(const QString& member, const QJsonValue& value) {
+  const auto replacement = [this](const QVariant& secret) { return named(secret); };
+  const QVariant open = kzReplaceSecrets({{member, value.toVariant()}}, replacement).value(member);
+  const bool isContent = value.isObject() || value.isArray() || member == QLatin1String("opened");
+  return QJsonValue::fromVariant(isContent ? withoutKnown(open) : open);
 }
 
-Content SecretVault::withoutSecrets(const Content& content) {
-  return content ? Content(withoutSecrets(QVariant(*content)).toMap()) : Content();
-}
-
-QVariant SecretVault::withoutSecrets(const QVariant& value) {
-  const Dictionary replaced =
-      kzReplaceSecrets({{QString(), value}}, [this](const QVariant& secret) { return nameUnderKey(secret); });
-  return withoutKnown(replaced.value(QString()));
-}
-
-QString SecretVault::withoutSecrets(const QString& text) {
-  return withoutSecrets(QVariant(text)).toString();
-}
-
-QVariant SecretVault::nameUnderKey(const QVariant& secret) {
-  switch (secret.typeId()) {
-    case QMetaType::QVariantMap: {
-      Dictionary names = secret.toMap();
-      for (QVariant& value : names) value = nameUnderKey(value);
-      return names;
-    }
-    case QMetaType::QVariantList:
-    case QMetaType::QStringList: {
-      QVariantList names = secret.toList();
-      for (QVariant& value : names) value = nameUnderKey(value);
-      return names;
-    }
-    case QMetaType::QByteArray:
-      return nameOfBytes(secret.toByteArray());
-    default:
-      break;
+QVariant SecretNames::named(const QVariant& secret) {
+  if (isMissing(secret) || secret.typeId() == QMetaType::Bool) return secret;
+  if (secret.typeId() == QMetaType::QVariantMap) {
+    Dictionary names = secret.toMap();
+    if (names.size() == 1 && names.contains(kDataKey)) return namedData(names.value(kDataKey).toString());
+    for (QVariant& value : names) value = named(value);
+    return names;
+  }
+  if (secret.typeId() == QMetaType::QVariantList) {
+    QVariantList names = secret.toList();
+    for (QVariant& value : names) value = named(value);
+    return names;
   }
   const QString text = secret.toString();
-  const bool isOpen = isMissing(secret) || !constantNameOf(text).isNull();
-  return isOpen ? secret : QVariant(nameInCredential(text));
+  if (isConstant(text)) return secret;
+  // A credential is a user name, a colon and a password: the user name stays where the password is known.
+  const qsizetype passwordAt = text.indexOf(u':') + 1;
+  const auto password = passwordAt > 0 ? m_names.constFind(text.mid(passwordAt)) : m_names.constEnd();
+  return password == m_names.constEnd() ? nameOf(text) : text.left(passwordAt) + *password;
 }
 
-// A credential is a user name, a colon and a password; the user name stays where the password is known.
-QString SecretVault::nameInCredential(const QString& text) {
-  for (auto known = m_names.constBegin(); known != m_names.constEnd(); ++known) {
-    const QString end = u':' + known.key();
-    if (text.endsWith(end)) return text.chopped(end.size()) + u':' + *known;
-  }
-  return nameOf(text);
+// Bytes that are a text are the same secret as the text.
+QVariant SecretNames::namedData(const QString& base64) {
+  const QString bytes = QString::fromLatin1(QByteArray::fromBase64(base64.toLatin1()));
+  return Dictionary{{kDataKey, QString::fromLatin1(nameOf(bytes).toLatin1().toBase64())}};
 }
 
-QVariant SecretVault::withoutKnown(const QVariant& value) {
+QVariant SecretNames::withoutKnown(const QVariant& value) const {
   switch (value.typeId()) {
-    case QMetaType::QString: {
-      const QString text = value.toString();
-      const QString open = withoutKnown(text);
-      return open == text ? value : QVariant(open);
-    }
+    case QMetaType::QString:
+      return withoutKnown(value.toString());
     case QMetaType::QVariantMap: {
       Dictionary open = value.toMap();
       for (QVariant& inner : open) inner = withoutKnown(inner);
@@ -117,50 +100,24 @@ QVariant SecretVault::withoutKnown(const QVariant& value) {
       for (QVariant& inner : open) inner = withoutKnown(inner);
       return open;
     }
-    case QMetaType::QByteArray: {
-      const QByteArray bytes = value.toByteArray();
-      return m_finder.isIn(bytes) ? QVariant(nameOfBytes(bytes)) : value;
-    }
     default:
       return value;
   }
 }
 
-QString SecretVault::withoutKnown(const QString& text) {
-  if (text.isEmpty() || m_names.isEmpty() || !constantNameOf(text).isNull()) return text;
-  const auto whole = m_names.constFind(text);
-  if (whole != m_names.constEnd()) return *whole;
-  // Words of base64 first: a user name and a password may be hidden in one.
-  static const QRegularExpression word(QStringLiteral("[A-Za-z0-9+/_-]{6,}={0,2}"));
+QString SecretNames::withoutKnown(const QString& text) const {
   QString open;
   qsizetype end = 0;
-  for (auto match = word.globalMatch(text); match.hasNext();) {
-    const auto found = match.next();
-    if (!m_finder.isInBase64(found.captured())) continue;
-    open += text.mid(end, found.capturedStart() - end) + nameOf(found.captured());
-    end = found.capturedEnd();
+  for (qsizetype at = 0; at + kShortestInTexts <= text.size(); ++at) {
+    const auto lengths = m_lengths.constFind(beginningOf(QStringView(text).mid(at)));
+    if (at < end || lengths == m_lengths.constEnd()) continue;
+    for (const qsizetype length : *lengths) {
+      const auto known = m_names.constFind(text.mid(at, length));
+      if (known == m_names.constEnd()) continue;
+      open += text.mid(end, at - end) + *known;
+      end = at + known.key().size();
+      break;
+    }
   }
-  return m_finder.replaced(open + text.mid(end));
-}
-
-QString SecretVault::itemsWithoutSecrets(const QString& items) {
-  QList<std::pair<QString, QString>> open;
-  const auto given = QUrlQuery(items).queryItems(QUrl::FullyDecoded);
-  for (const auto& [key, value] : given) {
-    const bool isRedirect = key == "redirect_uri";
-    const QString text = isSecretItem(key) ? nameOf(value) : isRedirect ? withoutLoopbackPort(value) : value;
-    open.append({key, QString::fromLatin1(QUrl::toPercentEncoding(withoutKnown(text)))});
-  }
-  QUrlQuery query;
-  query.setQueryItems(open);
-  return query.toString(QUrl::FullyEncoded);
-}
-
-QString SecretVault::addressWithoutSecrets(const QString& address) {
-  QUrl url(address);
-  if (!url.password().isEmpty()) url.setPassword(nameOf(url.password(QUrl::FullyDecoded)));
-  if (url.hasQuery()) url.setQuery(itemsWithoutSecrets(url.query(QUrl::FullyEncoded)));
-  // A sign-in may hand its answer over behind the address.
-  if (url.fragment().contains(u'=')) url.setFragment(itemsWithoutSecrets(url.fragment(QUrl::FullyEncoded)));
-  return withoutKnown(url.toString(QUrl::FullyEncoded));
+  return open + text.mid(end);
 }

@@ -1,37 +1,31 @@
 #pragma once
 
 #include <QHash>
+#include <QJsonValue>
+#include <QList>
 #include <QString>
-
-#include "companion/record/SecretFinder.h"
-#include "companion/runtime/PluginEvent.h"
+#include <QVariant>
 
 // Gives every secret a name of its own, "secret-1" and so on, and puts the names in the secrets' places. A
-// text that is such a name already stands for itself, so that a record of a record has the same names. One
+// text that is such a name stands for itself, so that a record of a played record has the same names. One
 // thread at a time.
-class SecretVault final {
+class SecretNames final {
  public:
-  // The secret's name; from then on the secret is recognised wherever it stands. An empty text is none.
+  // The secret's name; from then on the secret is also replaced inside other texts. An empty text is no
+  // secret.
   QString nameOf(const QString& secret);
 
-  // Without the secrets: what stands under a secret's key, and what is known as one. What holds none keeps
-  // its identity.
-  Content withoutSecrets(const Content& content);
-  QVariant withoutSecrets(const QVariant& value);
-  QString withoutSecrets(const QString& text);
-  // Only without what is known as a secret, whatever its key.
-  QVariant withoutKnown(const QVariant& value);
-  // Also without what makes an address of a sign-in another one each time.
-  QString addressWithoutSecrets(const QString& address);
+  // The value of a line's member without secrets: those that kzReplaceSecrets finds, and known ones. What
+  // names a step, a control or an item stays, whatever the passwords are.
+  QJsonValue withoutSecrets(const QString& member, const QJsonValue& value);
 
  private:
-  QByteArray nameOfBytes(const QByteArray& secret);
-  QVariant nameUnderKey(const QVariant& secret);
-  QString nameInCredential(const QString& text);
-  QString withoutKnown(const QString& text);
-  QString itemsWithoutSecrets(const QString& items);
+  QVariant named(const QVariant& secret);
+  QVariant namedData(const QString& base64);
+  QVariant withoutKnown(const QVariant& value) const;
+  QString withoutKnown(const QString& text) const;
 
-  QHash<QString, QString> m_names;  // by secret
-  SecretFinder m_finder;
+  QHash<QString, QString> m_names;             // by secret
+  QHash<quint64, QList<qsizetype>> m_lengths;  // of the secrets that begin alike, longest first
   int m_lastNumber = 0;
 };

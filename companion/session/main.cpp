@@ -48,21 +48,12 @@ class RecordLines final {
   bool isWhole() const { return m_isWhole; }
 
   bool take(const QByteArray& line) {
-    if (m_check) m_check->hear(line);
+    if (m_check) m_check->compare(line);
     if (!m_isWritten || m_file.write(line)) return true;
     complain(QStringLiteral("the record ends early: %1").arg(m_file.errorText()));
     m_isWritten = false;
     m_isWhole = false;
     return m_check.has_value();
-  }
-
-  // After the last line.
-  void finish(Recorder* recorder) {
-    if (!m_isWritten) return;
-    const auto revised = [recorder](const QByteArray& line) { return recorder->revised(line); };
-    m_isWhole = m_file.finish(revised) && m_isWhole;
-    if (!m_isWhole)
-      complain(QStringLiteral("the record cannot be read once more: %1").arg(m_file.errorText()));
   }
 
   // What to exit with after a script that was played to its end.
@@ -103,10 +94,6 @@ int playSession(const SessionOptions& options, QIODevice* script, RecordLines* l
     return kPluginFailed;
   }
   const Session::End end = session->play(script);
-  if (recorder) {
-    recorder->stop();
-    lines->finish(&*recorder);
-  }
   recorder.reset();
   session.reset();
   writes.reset();
