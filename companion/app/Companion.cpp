@@ -10,7 +10,6 @@
 #include <QWindow>
 #include <chrono>
 
-#include "companion/app/LazyPage.h"
 #include "companion/app/MeetingsView.h"
 #include "companion/app/TelemetryView.h"
 #include "companion/exchange/StandardExchange.h"
@@ -82,11 +81,11 @@ Companion::~Companion() {
 }
 
 void Companion::createPages() {
-  m_window.addPage(QStringLiteral("Meetings"), new MeetingsView(&m_services->meetings()));
-  m_window.addPage(QStringLiteral("Try out"), new LazyPage([this] { return createTryOut(); }));
-  m_window.addPage(QStringLiteral("Inspector"), new LazyPage([this] { return createInspector(); }));
+  m_window.addPage(QStringLiteral("Meetings"), [this] { return new MeetingsView(&m_services->meetings()); });
+  m_window.addPage(QStringLiteral("Try out"), [this] { return createTryOut(); });
+  m_window.addPage(QStringLiteral("Inspector"), [this] { return createInspector(); });
   m_window.addPage(QStringLiteral("Telemetry"),
-                   new LazyPage([this] { return new TelemetryView(&m_services->telemetry()); }));
+                   [this] { return new TelemetryView(&m_services->telemetry()); });
 }
 
 QWidget* Companion::createInspector() {
@@ -98,6 +97,8 @@ QWidget* Companion::createInspector() {
 QWidget* Companion::createTryOut() {
   m_tryOut = new TryOutView;
   connect(m_tryOut, &TryOutView::siteChosen, &m_window, &CompanionWindow::useSite);
+  connect(m_tryOut, &TryOutView::copied, &m_window,
+          [this](const QString& text) { m_window.showNotice(QStringLiteral("Copied: %1").arg(text)); });
   offer(m_offered);
   return m_tryOut;
 }

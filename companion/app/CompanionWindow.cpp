@@ -8,6 +8,7 @@
 #include <QRadioButton>
 #include <QStackedWidget>
 #include <QTabBar>
+#include <utility>
 
 #include "companion/app/FaultNotice.h"
 #include "companion/app/SiteDialog.h"
@@ -86,13 +87,19 @@ QWidget* CompanionWindow::createPages() {
   return box;
 }
 
-void CompanionWindow::addPage(const QString& title, QWidget* page) {
-  m_pages->addWidget(page);
+void CompanionWindow::addPage(const QString& title, const PageMaker& make) {
+  auto* place = new QWidget;
+  auto* column = new QVBoxLayout(place);
+  column->setContentsMargins(0, 0, 0, 0);
+  m_pages->addWidget(place);
+  m_pageMakers.append(make);
   m_tabs->addTab(title);
   m_updates->comeLastInTabOrder();
 }
 
 void CompanionWindow::showPage(int index) {
+  const PageMaker make = std::exchange(m_pageMakers[index], {});
+  if (make) m_pages->widget(index)->layout()->addWidget(make());
   m_pages->setCurrentIndex(index);
   // A page that is made when it is shown first comes after what was there.
   m_updates->comeLastInTabOrder();

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QList>
 #include <QPointer>
 #include <QWidget>
+#include <functional>
 
 #include "companion/app/DemoUser.h"
 #include "companion/services/CompanionServices.h"
@@ -33,8 +35,10 @@ class CompanionWindow final : public QWidget {
   void startOver();
   void showRecording(bool isRunning);
   void showNotice(const QString& text);
-  // The window takes the page; the first one is in front. After useServices.
-  void addPage(const QString& title, QWidget* page);
+  // The page is made when it is first shown, so that what nobody looks at costs the start nothing; the
+  // window takes it. The first page is in front. After useServices.
+  using PageMaker = std::function<QWidget*()>;
+  void addPage(const QString& title, const PageMaker& make);
   // Asks the site, and belongs to it from then on.
   void useSite(const QString& site);
 
@@ -65,6 +69,7 @@ class CompanionWindow final : public QWidget {
   QRadioButton* m_guest = nullptr;
   QTabBar* m_tabs = nullptr;
   QStackedWidget* m_pages = nullptr;
+  QList<PageMaker> m_pageMakers;  // empty where the page is made
   QLabel* m_identity = nullptr;
   QLabel* m_notice = nullptr;
   UpdateBar* m_updates = nullptr;

@@ -6,7 +6,7 @@
 #include <algorithm>
 
 #include "host/KZFoundation/Dictionary.h"
-#include "host/KZUtility/BoundedJson.h"
+#include "host/KZUtility/KZUtility.h"
 
 namespace {
 
@@ -88,9 +88,8 @@ QVariant replacedInText(const QVariant& value, int depth, const Replacement& rep
   const QString text = value.toString();
   if (isAddress(text)) return replacedInAddress(value, replacement);
   if (!namesSecret(text)) return value;
-  const std::optional<QVariant> json = boundedJsonValue(text);
-  const QJsonDocument document =
-      json ? QJsonDocument::fromVariant(replaced(*json, depth + 1, replacement)) : QJsonDocument();
+  const QVariant json = KZUtility::JSONValueFromString(text);
+  const auto document = QJsonDocument::fromVariant(replaced(json, depth + 1, replacement));
   if (document.isNull()) return replacement(value);
   return QString::fromUtf8(document.toJson(QJsonDocument::Compact));
 }

@@ -7,7 +7,7 @@
 #include "adal/ADTokenCache.h"
 #include "adal/ADTokenCacheDelegate.h"
 #include "host/KZFoundation/KZConstants.h"
-#include "tests/authentication/TraceRecorder.h"
+#include "tests/kit/TraceCollector.h"
 
 namespace {
 
@@ -37,11 +37,11 @@ ADTokenCacheItem refreshFor(const QString& user, const QString& token) {
 class ADTokenCacheWrapperTest : public testing::Test {
  protected:
   ADTokenCacheWrapperTest() {
-    ADAuthenticationSettings::sharedInstance().setClock([] { return lookUpTime; });
+    setADClock([] { return lookUpTime; });
     ADAuthenticationSettings::sharedInstance().setDefaultStorageDelegate(nullptr);
   }
   ~ADTokenCacheWrapperTest() override {
-    ADAuthenticationSettings::sharedInstance().setClock({});
+    setADClock(nullptr);
     store({});
   }
 
@@ -55,7 +55,7 @@ class ADTokenCacheWrapperTest : public testing::Test {
     return textValue(information, QRT_ListingMeeting_exchOnlineToken);
   }
 
-  TraceRecorder trace;
+  TraceCollector trace;
 };
 
 TEST_F(ADTokenCacheWrapperTest, TokensCountAsExpiredInTheirLastTenMinutes) {

@@ -29,7 +29,7 @@ using namespace std::chrono_literals;
 class RecordedInput : public testing::Test {
  protected:
   void SetUp() override {
-    ASSERT_TRUE(m_host.load(FAKE_PLUGIN));
+    ASSERT_TRUE(m_host.load(PREFERENCES));
     m_host.trigger(KZCommand::KZCmdShowPreference);
     eventpump::settle();
     window()->controller()->setProperty("crossFade", false);
@@ -183,7 +183,7 @@ TEST_F(RecordedInput, AWarningThatIsReadIsAComment) {
 
 TEST(RecorderLife, ARecorderMayComeAndGoInTheMiddleOfAnInput) {
   PluginHost host;
-  ASSERT_TRUE(host.load(FAKE_PLUGIN));
+  ASSERT_TRUE(host.load(PREFERENCES));
   host.trigger(KZCommand::KZCmdShowPreference);
   eventpump::settle();
   Window* window = findPreferencesWindow();
@@ -219,7 +219,7 @@ TEST(RecorderLife, ARecorderMayComeAndGoInTheMiddleOfAnInput) {
 
 TEST(RecorderLife, AnEndWaitsForWhatAWorkerTells) {
   PluginHost host;
-  ASSERT_TRUE(host.load(FAKE_PLUGIN));
+  ASSERT_TRUE(host.load(PREFERENCES));
   std::atomic<bool> isEnough = false;
   std::atomic<int> posted = 0;
   std::thread worker([&] {

@@ -43,14 +43,14 @@ class RecordedSandbox : public testing::TestWithParam<Account> {
  protected:
   void SetUp() override {
     if (QStandardPaths::findExecutable("openssl").isEmpty()) GTEST_SKIP() << "openssl is missing";
-    KZPlistFileHandle::sharedInstance().open(m_folder.filePath("state"));
+    ASSERT_TRUE(KZPlistFileHandle::sharedInstance().open(m_folder.filePath("state")));
     KZKeyChainHandle::sharedInstance().useStorage(KZKeyChainHandle::Storage::Memory);
     QObject::connect(&m_sandbox, &Sandbox::ready, &m_exchange, &CompanionExchange::useSandbox);
     QSignalSpy ready(&m_sandbox, &Sandbox::ready);
     m_sandbox.start(KZ_SANDBOX);
     ASSERT_TRUE(ready.wait(20'000));
     ASSERT_TRUE(m_recording.start(path()));
-    ASSERT_TRUE(m_host.load(FAKE_PLUGIN));
+    ASSERT_TRUE(m_host.load(PREFERENCES));
     m_host.notify(KZNotify::KZNotifyGetPreferenceDone,
                   Dictionary{{kKZResult, kKZSuccess}, {"kz", demouser::record()}});
     m_host.trigger(KZCommand::KZCmdShowPreference);
