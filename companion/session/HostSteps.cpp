@@ -66,33 +66,25 @@ StepResult setKeychain(Step& step, StepContext&) {
   return {};
 }
 
-void setUpdateFlag(Step& step) {
-  KZUtility& utility = KZUtility::sharedInstance();
-  const bool isInProgress = step.flag("checkForUpdatesInProgress");
-  if (!step.isGood()) return;
-  isInProgress ? utility.setCheckForUpdatesInProgressFlag() : utility.cleanCheckForUpdatesInProgressFlag();
-}
-
-void setOutlookPermission(Step& step) {
-  const bool isEnabled = step.flag("siteEnableOutlook");
-  if (step.isGood()) KZApplicationHelper::sharedInstance().setSiteEnableOutlook(isEnabled);
-}
-
-void setJoinByNumberLink(Step& step) {
-  const QString link = step.optionalText("joinByNumberLink");
-  if (step.isGood()) KZUtility::sharedInstance().setKZMemCacheData(kPreferences_JoinByNumberLink, link);
-}
-
 StepResult setHost(Step& step, StepContext&) {
-  static const QHash<QString, void (*)(Step&)> setters = {{"checkForUpdatesInProgress", setUpdateFlag},
-                                                          {"siteEnableOutlook", setOutlookPermission},
-                                                          {"joinByNumberLink", setJoinByNumberLink}};
+  const QJsonObject known = hoststate::host();
   for (const QString& key : step.keys()) {
-    if (key == "set") continue;
-    if (!setters.contains(key)) step.fail(QStringLiteral("the host has no %1").arg(key));
-    if (step.isGood()) setters.value(key)(step);
+    if (key != "set" && !known.contains(key)) step.fail(QStringLiteral("the host has no %1").arg(key));
   }
-  return step.result();
+  KZUtility& utility = KZUtility::sharedInstance();
+  KZApplicationHelper& helper = KZApplicationHelper::sharedInstance();
+  const bool isChecking = step.has("checkForUpdatesInProgress") ? step.flag("checkForUpdatesInProgress")
+                                                                : utility.isCheckForUpdatesInProgress();
+  const bool isOutlookEnabled =
+      step.has("siteEnableOutlook") ? step.flag("siteEnableOutlook") : helper.siteEnableOutlook();
+  const QVariant link = step.has("joinByNumberLink")
+                            ? QVariant(step.optionalText("joinByNumberLink"))
+                            : utility.getKZMemCacheData(kPreferences_JoinByNumberLink);
+  if (!step.isGood()) return step.result();
+  isChecking ? utility.setCheckForUpdatesInProgressFlag() : utility.cleanCheckForUpdatesInProgressFlag();
+  helper.setSiteEnableOutlook(isOutlookEnabled);
+  utility.setKZMemCacheData(kPreferences_JoinByNumberLink, link);
+  return {};
 }
 
 StepResult setLanguage(Step& step, StepContext&) {
@@ -121,18 +113,16 @@ ADTokenCacheItem readToken(Step& values) {
 }
 
 StepResult setTokens(Step& step, StepContext&) {
-  const QJsonValue list = step.raw("items");
-  if (!list.isArray()) return StepResult::failed(QStringLiteral("\"items\" is not a list"));
   QList<ADTokenCacheItem> items;
-  for (const QJsonValue& element : list.toArray()) {
+  for (const QJsonValue& element : step.list("items")) {
     if (!element.isObject()) return StepResult::failed(QStringLiteral("an item is not an object"));
     Step values(element.toObject());
     items.append(readToken(values));
     if (!values.isGood()) return values.result();
   }
-  if (ADTokenCache::defaultCache().replaceAllItems(items))
-    return StepResult::failed(QStringLiteral("the token cache took no items"));
-  return {};
+  if (!step.isGood()) return step.result();
+  const auto failure = ADTokenCache::defaultCache().replaceAllItems(items);
+  return failure ? StepResult::failed(QStringLiteral("the token cache took no items")) : StepResult();
 }
 
 StepResult dispatch(const StepTable& table, const char* verb, Step& step, StepContext& context) {

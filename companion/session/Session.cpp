@@ -72,23 +72,29 @@ void Session::print(const PluginEvent& event) const {
   if (const Line line = eventLine(event); !line.isEmpty()) printLine(line);
 }
 
-Session::End Session::play(QIODevice* script) {
+bool Session::play(QIODevice* script) {
   for (int number = 1;; ++number) {
     const QByteArray line = readLine(script);
-    if (line.isEmpty()) return End::Played;
-    if (line.size() > kLongestLine) return fail(QStringLiteral("the line is too long"), number);
+    if (line.isEmpty()) return true;
+    const bool isTooLong = line.size() > kLongestLine;
     const QByteArray step = line.trimmed();
-    if (step.isEmpty() || step.startsWith('#')) continue;
-    const StepResult result = playLine(step);
-    if (!result.failure.isEmpty()) return fail(result.failure, number);
+    if (!isTooLong && (step.isEmpty() || step.startsWith('#'))) continue;
+    const StepResult result =
+        isTooLong ? StepResult::failed(QStringLiteral("the line is too long")) : playStep(step);
+    if (!result.failure.isEmpty()) {
+      // The error is the last line: nothing that the plug-in still does is printed.
+      m_observer.reset();
+      printLine({{"error", result.failure}, {"line", number}});
+      return false;
+    }
     if (!result.line.isEmpty()) printLine(result.line);
     eventpump::settle();
   }
 }
 
-StepResult Session::playLine(const QByteArray& line) {
+StepResult Session::playStep(const QByteArray& text) {
   QJsonParseError error;
-  const QJsonDocument document = QJsonDocument::fromJson(line, &error);
+  const QJsonDocument document = QJsonDocument::fromJson(text, &error);
   if (error.error != QJsonParseError::NoError) {
     return StepResult::failed(
         QStringLiteral("not JSON: %1 at byte %2").arg(error.errorString()).arg(error.offset));
@@ -103,11 +109,4 @@ StepResult Session::playLine(const QByteArray& line) {
     return StepResult::failed(
         QStringLiteral("several steps in one line: %1").arg(words.join(QStringLiteral(", "))));
   return stepFunctions().value(words.first())(step, m_context);
-}
-
-Session::End Session::fail(const QString& reason, int lineNumber) {
-  // The error is the last line: nothing that the plug-in still does is printed.
-  m_observer.reset();
-  printLine({{"error", reason}, {"line", lineNumber}});
-  return End::StepFailed;
 }

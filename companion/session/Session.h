@@ -16,13 +16,12 @@ class Session final {
     bool isPrintingTrace = false;
     bool isPrintingWrites = false;
   };
-  // The program's exit status.
-  enum class End { Played = 0, StepFailed = 2 };
 
   // The host is not owned. Its plug-in is loaded before anything is played; what the loading does is printed.
   Session(PluginHost* host, const Options& options);
 
-  End play(QIODevice* script);
+  // False when a step could not be read or played: that is printed, and nothing after it.
+  [[nodiscard]] bool play(QIODevice* script);
 
   // The sum of the waits that the script has asked for, the running one included. Any thread.
   std::chrono::milliseconds waited() const { return std::chrono::milliseconds(m_context.waitedMs); }
@@ -31,8 +30,7 @@ class Session final {
 
  private:
   void print(const PluginEvent& event) const;
-  StepResult playLine(const QByteArray& line);
-  End fail(const QString& reason, int lineNumber);
+  StepResult playStep(const QByteArray& text);
 
   const Options m_options;
   StepContext m_context;

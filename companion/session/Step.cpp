@@ -1,6 +1,5 @@
 #include "companion/session/Step.h"
 
-#include <QJsonArray>
 #include <algorithm>
 #include <cmath>
 
@@ -46,15 +45,8 @@ qint64 Step::integer(const char* key, qint64 least, qint64 greatest) {
   return least;
 }
 
-QStringList Step::optionalTexts(const char* key) {
-  if (!has(key)) return {};
-  const QJsonArray array = typed(key, QJsonValue::Array, "a list of texts").toArray();
-  QStringList texts;
-  for (const QJsonValue& element : array) {
-    if (!element.isString()) fail(QStringLiteral("\"%1\" is not a list of texts").arg(QLatin1String(key)));
-    texts.append(element.toString());
-  }
-  return texts;
+QJsonArray Step::list(const char* key) {
+  return typed(key, QJsonValue::Array, "a list").toArray();
 }
 
 QJsonObject Step::object(const char* key) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QJsonArray>
 #include <QJsonObject>
 #include <QString>
 #include <QStringList>
@@ -36,7 +37,7 @@ class Step final {
   bool optionalFlag(const char* key);  // left out: false
   double number(const char* key);
   qint64 integer(const char* key, qint64 least, qint64 greatest);
-  QStringList optionalTexts(const char* key);  // none when left out
+  QJsonArray list(const char* key);
   QJsonObject object(const char* key);
   Content content(const char* key);  // nothing when left out or null
 

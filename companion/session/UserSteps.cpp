@@ -13,7 +13,9 @@ namespace {
 
 Qt::KeyboardModifiers readModifiers(Step& step) {
   Qt::KeyboardModifiers modifiers;
-  for (const QString& name : step.optionalTexts("modifiers")) {
+  if (!step.has("modifiers")) return modifiers;
+  for (const QJsonValue& element : step.list("modifiers")) {
+    const QString name = element.toString();
     const auto modifier = keynames::modifierNamed(name);
     if (!modifier) step.fail(QStringLiteral("there is no modifier %1").arg(name));
     modifiers |= modifier.value_or(Qt::NoModifier);

@@ -10,9 +10,9 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QToolBar>
-#include <algorithm>
 
 #include "companion/format/ControlFinder.h"
+#include "companion/format/ValueCodec.h"
 #include "companion/runtime/PreferencesWindow.h"
 #include "host/KZCommonUI/MarigoldWarningView.h"
 #include "host/KZUIExtension/BRNHyperlinkTextField.h"
@@ -69,18 +69,9 @@ void describe(const QLineEdit& field, QJsonObject* description) {
   description->insert("alignment", describeAlignment(field.alignment()));
 }
 
-void describe(const QPushButton& button, QJsonObject* description) {
+void describe(const QAbstractButton& button, QJsonObject* description) {
   insertText(button, description);
-}
-
-void describe(const QRadioButton& button, QJsonObject* description) {
-  insertText(button, description);
-  description->insert("state", button.isChecked() ? 1 : 0);
-}
-
-void describe(const QCheckBox& button, QJsonObject* description) {
-  insertText(button, description);
-  description->insert("state", button.isChecked() ? 1 : 0);
+  if (button.isCheckable()) description->insert("state", button.isChecked() ? 1 : 0);
 }
 
 void describe(const BRNHyperlinkTextField& link, QJsonObject* description) {
@@ -157,18 +148,15 @@ QJsonArray describeToolBar(const Window& window) {
 }
 
 QJsonValue selectedLabelOf(const Window& window) {
-  const QList<QAction*> items = paneItemsOf(window);
-  const auto selected = std::ranges::find_if(items, &QAction::isChecked);
-  return selected == items.end() ? QJsonValue(QJsonValue::Null) : QJsonValue((*selected)->text());
+  for (const QAction* item : paneItemsOf(window)) {
+    if (item->isChecked()) return item->text();
+  }
+  return QJsonValue::Null;
 }
 
 QJsonObject describeAnimation(const ViewAnimation* animation) {
   return {{"running", animation && animation->isRunning()},
           {"duration", animation ? animation->duration() : 0.0}};
-}
-
-QJsonValue textOrNull(const QString& text) {
-  return text.isNull() ? QJsonValue(QJsonValue::Null) : QJsonValue(text);
 }
 
 QJsonObject describeView(const QWidget& view) {
@@ -204,7 +192,7 @@ QJsonValue describeWindow(const Window* window) {
       {"selected", selectedLabelOf(*window)},
       {"toolbar", describeToolBar(*window)},
       {"animation", describeAnimation(animationOf(*window))},
-      {"firstResponder", textOrNull(ControlFinder(content).nameOf(window->focusWidget()))},
+      {"firstResponder", valuecodec::encode(ControlFinder(content).nameOf(window->focusWidget()))},
       {"content", describeView(*content)},
   };
 }

@@ -61,7 +61,7 @@ class RecordedInput : public testing::Test {
 
   QString steps() const { return stepsIn(m_lines).join(u'\n'); }
 
-  PluginHost m_host{[](const QUrl&) { return true; }};
+  PluginHost m_host;
   QStringList m_lines;
   Recorder m_recorder{&m_host,
                       [this](const QByteArray& line) {
@@ -182,7 +182,7 @@ TEST_F(RecordedInput, AWarningThatIsReadIsAComment) {
 }
 
 TEST(RecorderLife, ARecorderMayComeAndGoInTheMiddleOfAnInput) {
-  PluginHost host([](const QUrl&) { return true; });
+  PluginHost host;
   ASSERT_TRUE(host.load(PREFERENCES));
   host.trigger(KZCommand::KZCmdShowPreference);
   eventpump::settle();
@@ -218,7 +218,7 @@ TEST(RecorderLife, ARecorderMayComeAndGoInTheMiddleOfAnInput) {
 }
 
 TEST(RecorderLife, AnEndWaitsForWhatAWorkerTells) {
-  PluginHost host([](const QUrl&) { return true; });
+  PluginHost host;
   ASSERT_TRUE(host.load(PREFERENCES));
   std::atomic<bool> isEnough = false;
   std::atomic<int> posted = 0;
