@@ -1,6 +1,5 @@
 #include "platform/Text.h"
 
-#include <QCache>
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QHash>
@@ -16,8 +15,8 @@ FontKind fontKind(FontRole role, double size) {
   return {static_cast<int>(role), qRound(size)};
 }
 
-// Panes ask for the same fonts and measure the same texts several times, and shaping a text is dear: what was
-// found is kept until the application's font changes. Main thread only.
+// Panes ask for the same fonts and measure the same texts several times, and shaping a text is slow: the
+// results are kept until the application's font changes. Main thread only.
 class FontTable {
  public:
   static FontTable& current() {
@@ -30,16 +29,17 @@ class FontTable {
   double height(FontKind kind) { return entry(kind).height; }
 
   double width(const QString& text, FontKind kind) {
+    const auto measure = [&] { return QFontMetricsF(font(kind)).horizontalAdvance(text); };
+    if (text.size() > kLongestKept) return measure();
     const std::pair key(text, kind);
-    if (const double* known = m_widths.object(key)) return *known;
-    const double width = QFontMetricsF(font(kind)).horizontalAdvance(text);
-    m_widths.insert(key, new double(width), std::max<qsizetype>(text.size(), kSmallestCost));
-    return width;
+    if (const auto known = m_widths.constFind(key); known != m_widths.cend()) return *known;
+    if (m_widths.size() >= kMostKept) m_widths.clear();
+    return *m_widths.insert(key, measure());
   }
 
  private:
-  static constexpr qsizetype kRememberedCharacters = 4'000'000;
-  static constexpr qsizetype kSmallestCost = 100;
+  static constexpr qsizetype kMostKept = 2000;
+  static constexpr qsizetype kLongestKept = 2000;
 
   struct Entry {
     QFont font;
@@ -69,7 +69,7 @@ class FontTable {
 
   QFont m_base;
   QHash<FontKind, Entry> m_entries;
-  QCache<std::pair<QString, FontKind>, double> m_widths{kRememberedCharacters};
+  QHash<std::pair<QString, FontKind>, double> m_widths;
 };
 
 }  // namespace
