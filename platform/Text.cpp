@@ -29,17 +29,16 @@ class FontTable {
   double height(FontKind kind) { return entry(kind).height; }
 
   double width(const QString& text, FontKind kind) {
-    const auto measure = [&] { return QFontMetricsF(font(kind)).horizontalAdvance(text); };
-    if (text.size() > kLongestKept) return measure();
     const std::pair key(text, kind);
     if (const auto known = m_widths.constFind(key); known != m_widths.cend()) return *known;
-    if (m_widths.size() >= kMostKept) m_widths.clear();
-    return *m_widths.insert(key, measure());
+    if (m_widths.size() >= kMostTexts || m_characters >= kMostCharacters) forgetWidths();
+    m_characters += text.size();
+    return *m_widths.insert(key, QFontMetricsF(font(kind)).horizontalAdvance(text));
   }
 
  private:
-  static constexpr qsizetype kMostKept = 2000;
-  static constexpr qsizetype kLongestKept = 2000;
+  static constexpr qsizetype kMostTexts = 2000;
+  static constexpr qsizetype kMostCharacters = 4'000'000;
 
   struct Entry {
     QFont font;
@@ -49,7 +48,12 @@ class FontTable {
   void startWith(const QFont& base) {
     m_base = base;
     m_entries.clear();
+    forgetWidths();
+  }
+
+  void forgetWidths() {
     m_widths.clear();
+    m_characters = 0;
   }
 
   const Entry& entry(FontKind kind) {
@@ -70,6 +74,7 @@ class FontTable {
   QFont m_base;
   QHash<FontKind, Entry> m_entries;
   QHash<std::pair<QString, FontKind>, double> m_widths;
+  qsizetype m_characters = 0;  // in m_widths
 };
 
 }  // namespace

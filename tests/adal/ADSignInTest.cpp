@@ -1,4 +1,5 @@
 #include <QJsonObject>
+#include <QNetworkReply>
 #include <QSet>
 
 #include "tests/adal/SignInFixture.h"
@@ -104,11 +105,10 @@ TEST_F(ADSignInTest, SameRequestWhileOneWaitsOpensNoSecondBrowser) {
       ADAuthenticationContext::initWithAuthority(authority->address(), ADAuthorityValidation::Off, error);
   std::swap(other, context);
   signIn(second);
-  QTest::qWait(50);
-  EXPECT_EQ(opened.size(), 1);
   visit(opened.first());
   ASSERT_TRUE(waitFor(first));
   ASSERT_TRUE(waitFor(second));
+  EXPECT_EQ(opened.size(), 1);
   EXPECT_EQ(first->tokenCacheItem, second->tokenCacheItem);
   EXPECT_EQ(authority->tokenRequests().size(), 1);
 
@@ -123,8 +123,8 @@ TEST_F(ADSignInTest, DestroyedContextGivesUpUnanswered) {
   ASSERT_TRUE(waitForBrowser());
   const QUrl redirect = redirectOf(opened.first());
   context.reset();
-  visit(opened.first());
-  QTest::qWait(50);
+  const QNetworkReply* const page = visit(opened.first());
+  ASSERT_TRUE(QTest::qWaitFor([page] { return page->isFinished(); }));
   EXPECT_FALSE(result);
   EXPECT_FALSE(sendRaw(redirect.host(), redirect.port(), "GET / HTTP/1.1\r\n\r\n"));
   EXPECT_TRUE(authority->tokenRequests().isEmpty());
