@@ -8,8 +8,8 @@
 #include <QSignalSpy>
 
 #include "tests/host/BrokenDisk.h"
-#include "tests/host/StoreFolder.h"
-#include "tests/host/TraceWatch.h"
+#include "tests/kit/StoreFolder.h"
+#include "tests/kit/TraceCollector.h"
 
 TEST(KZPlistFileFault, SetsADamagedFileAsideAndGoesOn) {
   const QByteArray good = StoreFolder::plist("<key>siteName</key><string>a</string>");
@@ -36,7 +36,7 @@ TEST(KZPlistFileFault, SetsADamagedFileAsideAndGoesOn) {
   };
   for (const QByteArray& bytes : rows) {
     const StoreFolder folder;
-    const TraceWatch watch;
+    const TraceCollector watch;
     folder.openWith(bytes);
     EXPECT_EQ(watch.count(KZTraceLevel::Error), 1) << bytes.left(60).constData();
     EXPECT_EQ(folder.setAsideBytes(), bytes) << bytes.left(60).constData();
@@ -50,7 +50,7 @@ TEST(KZPlistFileFault, SetsADamagedFileAsideAndGoesOn) {
 
 TEST(KZPlistFileFault, SetsEachDamagedFileAsideUnderANameOfItsOwn) {
   const StoreFolder folder;
-  const TraceWatch watch;
+  const TraceCollector watch;
   for (int turn = 0; turn < 3; ++turn) folder.openWith("damaged");
   EXPECT_EQ(folder.names().size(), 3);
 }
@@ -64,7 +64,7 @@ TEST(KZPlistFileFault, SetsAsideWhatIsNoRegularFile) {
   };
   for (const Maker make : makers) {
     const StoreFolder folder;
-    const TraceWatch watch;
+    const TraceCollector watch;
     make(folder.file().toUtf8());
     folder.reopen();
     StoreFolder::store().setSiteName("new");
@@ -80,7 +80,7 @@ TEST(KZPlistFileFault, NeverTouchesAnotherUsersFile) {
   const QByteArray theirs = StoreFolder::plist("<key>siteName</key><string>theirs</string>");
   folder.replace(theirs);
   ASSERT_EQ(::chown(folder.file().toUtf8().constData(), 65534, 65534), 0);
-  const TraceWatch watch;
+  const TraceCollector watch;
   folder.reopen();
   StoreFolder::store().setSiteName("memory");
   EXPECT_EQ(StoreFolder::store().siteName(), "memory");
@@ -94,7 +94,7 @@ TEST(KZPlistFileFault, SetsAnUnreadableFileAside) {
   const StoreFolder folder;
   folder.replace("unread");
   ASSERT_EQ(::chmod(folder.file().toUtf8().constData(), 0), 0);
-  const TraceWatch watch;
+  const TraceCollector watch;
   folder.reopen();
   StoreFolder::store().setSiteName("new");
   EXPECT_EQ(watch.count(KZTraceLevel::Error), 1);
@@ -119,7 +119,7 @@ TEST(KZPlistFileFault, WritesNothingWhereItMayNot) {
     folder.replace(row.bytes);
     const QByteArray place = folder.folder().toUtf8();
     ASSERT_EQ(::chmod(place.constData(), row.mode), 0);
-    const TraceWatch watch;
+    const TraceCollector watch;
     folder.reopen();
     StoreFolder::store().setCdnUrl("first");
     StoreFolder::store().setCdnUrl("second");
@@ -134,7 +134,7 @@ TEST(KZPlistFileFault, WritesNothingWhereItMayNot) {
 
 TEST(KZPlistFileFault, KeepsAValueThatTheDiskRefusedAndTriesAgain) {
   const StoreFolder folder;
-  const TraceWatch watch;
+  const TraceCollector watch;
   KZPlistFileHandle& store = StoreFolder::store();
   QSignalSpy told(&store, &KZPlistFileHandle::saveProblemChanged);
   store.setSiteName("old");
@@ -160,7 +160,7 @@ TEST(KZPlistFileFault, KeepsAValueThatTheDiskRefusedAndTriesAgain) {
 
 TEST(KZPlistFileFault, SurvivesAFolderThatIsNoneOrGoesAway) {
   const StoreFolder folder;
-  const TraceWatch watch;
+  const TraceCollector watch;
   KZPlistFileHandle& store = StoreFolder::store();
   store.setSiteName("first");
   ASSERT_TRUE(QDir(folder.folder()).removeRecursively());
