@@ -62,7 +62,7 @@ class FontTable {
     return *found;
   }
 
-  // The application's own family comes last, so that no name is ever replaced silently.
+  // The application's own family is used where Inter is missing.
   Entry made(FontKind kind) const {
     QFont font = m_base;
     font.setFamilies({QStringLiteral("Inter"), m_base.family()});
