@@ -9,7 +9,7 @@
 #include <thread>
 
 #include "KZPreference/authentication/AdalMivraLogDelegate.h"
-#include "KZPreference/contract/PreferenceActionDelegateProtocol.h"
+#include "KZPreference/core/PreferenceActionDelegate.h"
 #include "adal/ADAuthenticationSettings.h"
 #include "adal/ADLogger.h"
 #include "adal/ADTokenCache.h"
@@ -21,32 +21,13 @@
 
 namespace {
 
-class Host final : public PreferenceActionDelegateProtocol, public ExchangeResolveResultReceiving {
+class Host final : public PluginCommandSender, public ExchangeResolveResultReceiving {
  public:
-  void sinkOutlookAccountCredential(const Dictionary& credential) override { credentials.append(credential); }
-  void notifyExchOnlineTokenGot(const Dictionary& result) override { tokens.append(result); }
+  quint64 sendPluginCommand(KZCommand command, const Content& content) override {
+    (command == KZCommand::KZCmdSinkOutlookAccountCredential ? credentials : tokens).append(*content);
+    return 0;
+  }
   void onExchangeResolveDone(const Dictionary& result) override { resolved.append(result); }
-
-  void setPrefMeetingView(CalendarPreferenceReceiver*) override {}
-  void setNonSignInPrefMeetingView(CalendarPreferenceReceiver*) override {}
-  void checkingStartStateChanging(bool) override {}
-  void outlookIntegratingStateChange(bool) override {}
-  void applyOutlookAccount(const Dictionary&) override {}
-  void cancelApplyOutlookAccount(const Dictionary&) override {}
-  void notifyListExchMeetingAuthFailure() override {}
-  void setExchOnpremiseCredInvalid() override {}
-  void notifyExchDiscoverAuthFailure() override {}
-  void setExchangeInfo(const Dictionary&) override {}
-  void editMeetingNowSetting() override {}
-  void setCalendarDays(const QString&) override {}
-  void setCalendarIntegrationSource(const QString&) override {}
-  void calendarIntergrationSourceChanged() override {}
-  void setMeetingAlerts(bool, const QString&) override {}
-  void setSnooze(bool, const QString&) override {}
-  void setMeetingCard(bool, const QString&) override {}
-  void setVideoDevicePrefs(const Dictionary&) override {}
-  void setDisplayName(const QString&, const QString&) override {}
-  void changeSite() override {}
 
   qsizetype calls() const { return credentials.size() + tokens.size() + resolved.size(); }
 
@@ -70,7 +51,7 @@ class ADAuthenticationWrapperTest : public testing::Test {
       return true;
     });
     AdalMivraLogDelegate::load();
-    wrapper = std::make_unique<ADAuthenticationWrapper>(&host);
+    wrapper = std::make_unique<ADAuthenticationWrapper>(&delegate);
     wrapper->setExchangeResolveResultReceiver(&host);
   }
   ~ADAuthenticationWrapperTest() override {
@@ -97,8 +78,7 @@ class ADAuthenticationWrapperTest : public testing::Test {
     browseLast();
   }
   void browseLast() {
-    const qsizetype before = opened.size();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return opened.size() > before || !opened.isEmpty(); }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !opened.isEmpty(); }));
     QNetworkReply* const reply = browser.get(QNetworkRequest(opened.last()));
     QObject::connect(reply, &QNetworkReply::finished, reply, &QObject::deleteLater);
   }
@@ -108,6 +88,7 @@ class ADAuthenticationWrapperTest : public testing::Test {
 
   TraceCollector trace;
   Host host;
+  PreferenceActionDelegate delegate{&host};
   sandbox::HttpServer server;
   std::unique_ptr<sandbox::Authority> authority;
   QNetworkAccessManager browser;
@@ -151,10 +132,10 @@ TEST_F(ADAuthenticationWrapperTest, RefreshRepeatsTheRequest) {
   wrapper->refreshTokenWithParams(params("refresh-revoked"), {});
   ASSERT_TRUE(waitForCalls(2));
   EXPECT_EQ(host.tokens.last(), (Dictionary{{"GetTokenFailed", true}}))
-      << "nothing is left of the request before";
+      << "nothing is left of the last request";
 }
 
-TEST_F(ADAuthenticationWrapperTest, WhatCannotBeStartedReportsToNobody) {
+TEST_F(ADAuthenticationWrapperTest, ARequestThatCannotStartReportsNothing) {
   wrapper->startWithParams({});
   Dictionary unusable = params();
   unusable.insert("authority", "http://login.example.com");
@@ -189,7 +170,7 @@ TEST_F(ADAuthenticationWrapperTest, SuccessWithoutAnItemReportsNothingAndKeepsTh
             Dictionary());
 }
 
-TEST_F(ADAuthenticationWrapperTest, DestroyedWrapperIsLeftAlone) {
+TEST_F(ADAuthenticationWrapperTest, DestroyingItCancelsItsRequests) {
   wrapper->refreshTokenWithParams(params(authority->grantRefreshToken("client-1")), {});
   signIn();
   wrapper.reset();
@@ -197,26 +178,27 @@ TEST_F(ADAuthenticationWrapperTest, DestroyedWrapperIsLeftAlone) {
   EXPECT_EQ(host.calls(), 0);
 }
 
-TEST_F(ADAuthenticationWrapperTest, CompletionCountsOnceAndArrivesOnTheHomesThread) {
-  auto home = std::make_unique<QObject>();
+TEST_F(ADAuthenticationWrapperTest, OnlyTheFirstCompletionIsDeliveredInTheReceiversThread) {
+  auto receiver = std::make_unique<QObject>();
   std::vector<std::thread::id> deliveries;
   const ADAuthenticationCallback deliver = [&](const ADAuthenticationResult&) {
     deliveries.push_back(std::this_thread::get_id());
   };
-  const ADAuthenticationCallback completion = ADAuthenticationWrapper::oneShotCompletion(home.get(), Q_FUNC_INFO, deliver);
+  const ADAuthenticationCallback completion =
+      ADAuthenticationWrapper::oneShotCompletion(receiver.get(), Q_FUNC_INFO, deliver);
   std::thread worker([copy = completion] {
     copy({});
     copy({});
   });
   worker.join();
   completion({});
-  EXPECT_TRUE(deliveries.empty()) << "never from inside the completion";
+  EXPECT_TRUE(deliveries.empty()) << "never from within the completion";
   QTest::qWait(20);
   EXPECT_EQ(deliveries, std::vector{std::this_thread::get_id()});
   EXPECT_EQ(trace.lines().filter("error fBlockHit is YES").size(), 2);
 
-  ADAuthenticationWrapper::oneShotCompletion(home.get(), Q_FUNC_INFO, deliver)({});
-  home.reset();
+  ADAuthenticationWrapper::oneShotCompletion(receiver.get(), Q_FUNC_INFO, deliver)({});
+  receiver.reset();
   QTest::qWait(20);
   EXPECT_EQ(deliveries.size(), 1U);
 }

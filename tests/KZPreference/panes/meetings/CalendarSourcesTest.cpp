@@ -7,7 +7,7 @@
 #include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 #include "platform/StaticText.h"
-#include "tests/KZPreference/calendar/PreferenceHost.h"
+#include "tests/KZPreference/panes/meetings/PreferenceHost.h"
 
 namespace {
 

@@ -23,6 +23,8 @@ class PreferenceHost final : public TestHost {
   void resolve(const Dictionary& result);
   void resolveWith(const QString& email);  // success, with that account
   void fail(const QString& message);
+  // The Exchange client asks for a credential; what is invalid is left out. Any thread.
+  static void challenge(const QVariant& kind, const QVariant& warning = QVariant());
 
   template <typename T = QWidget>
   static T& control(const char* name) {

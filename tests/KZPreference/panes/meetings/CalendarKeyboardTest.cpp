@@ -7,7 +7,7 @@
 
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
-#include "tests/KZPreference/calendar/PreferenceHost.h"
+#include "tests/KZPreference/panes/meetings/PreferenceHost.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "tests/KZPreference/calendar/PreferenceHost.h"
+#include "tests/KZPreference/panes/meetings/PreferenceHost.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -6,6 +6,7 @@
 
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZFoundation/KZConstants.h"
+#include "host/KZFoundation/KZNotificationCenter.h"
 #include "tests/kit/Input.h"
 
 quint64 PreferenceHost::sendPluginCommand(const KZEventIdentify& event, const Content& content) {
@@ -50,6 +51,14 @@ void PreferenceHost::resolveWith(const QString& email) {
 
 void PreferenceHost::fail(const QString& message) {
   resolve({{kKZResult, kKZFail}, {kKZErrorHandleData, Dictionary{{kKZErrorMessage, message}}}});
+}
+
+void PreferenceHost::challenge(const QVariant& kind, const QVariant& warning) {
+  Dictionary info;
+  if (kind.isValid()) info.insert(QStringLiteral("AuthRequiringType"), kind);
+  if (warning.isValid()) info.insert(QStringLiteral("ShowWarningMsg"), warning);
+  KZNotificationCenter::defaultCenter().post(
+      {.name = QStringLiteral("HTTPAuthenticationRequired"), .object = nullptr, .userInfo = info});
 }
 
 void PreferenceHost::click(const char* name) {

@@ -97,7 +97,7 @@ TEST_F(ADTokenCacheWrapperTest, NeedsBothItemsOfThatUser) {
   for (const QList<ADTokenCacheItem>& items : cases) {
     store(items);
     EXPECT_EQ(lookUp(user), Dictionary());
-    EXPECT_EQ(lookUp(QString(), QString()), Dictionary()) << "nobody's tokens are for nobody";
+    EXPECT_EQ(lookUp(QString(), QString()), Dictionary()) << "an empty user name matches no item";
   }
 }
 
@@ -122,7 +122,7 @@ class NestedLookUp final : public ADTokenCacheDelegate {
   Dictionary answer{{"not", "asked"}};
 };
 
-TEST_F(ADTokenCacheWrapperTest, CacheThatCannotAnswerIsAnErrorTraceAndNoToken) {
+TEST_F(ADTokenCacheWrapperTest, ABusyCacheIsAnErrorTraceAndNoToken) {
   NestedLookUp delegate;
   ADAuthenticationSettings::sharedInstance().setDefaultStorageDelegate(&delegate);
   store({accessFor("a@example.com", "access"), refreshFor("a@example.com", "refresh")});
