@@ -16,7 +16,7 @@
 
 namespace {
 
-// Posts from a thread of its own; the thread is joined when this goes.
+// Posts a challenge on a thread of its own, which the destructor joins.
 class Worker {
  public:
   explicit Worker(const QVariant& kind)
@@ -170,7 +170,7 @@ TEST_F(OLAccountAuthenticatorTest, WorkersComeBackWhenThePlugInShutsDown) {
   EXPECT_TRUE(happened.isEmpty());
 }
 
-TEST_F(OLAccountAuthenticatorTest, ARefusalIsNotReportedByAnAuthenticatorThatIsGone) {
+TEST_F(OLAccountAuthenticatorTest, ADestroyedAuthenticatorReportsNoRefusal) {
   PreferenceHost::challenge(1, QStringLiteral("true"));
   KZPreferenceCore::shutDown();
   QTest::qWait(150);

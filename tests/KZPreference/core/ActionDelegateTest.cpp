@@ -62,7 +62,7 @@ TEST_F(ActionDelegateTest, ARefusedCredentialIsMarkedBeforeTheCommand) {
   EXPECT_EQ(takeSent(), QStringList{"21 {}"});
 }
 
-TEST_F(ActionDelegateTest, ASourceBringsTheDefaultDaysAndReachesBothPanesBeforeTheStore) {
+TEST_F(ActionDelegateTest, ASourceSetsTheDefaultDaysAndReachesBothPanesBeforeTheStore) {
   class Pane final : public CalendarPreferenceReceiver {
    public:
     void setCalendarPreference(const Dictionary& preference) override {

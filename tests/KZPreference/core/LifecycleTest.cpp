@@ -48,7 +48,7 @@ TEST_F(LifecycleTest, AHostMayDestroyTheWindowWhileItCloses) {
   EXPECT_TRUE(window()->isVisible());
 }
 
-TEST_F(LifecycleTest, NothingIsLeftWhenThePluginGoesWithEverythingOpen) {
+TEST_F(LifecycleTest, ThePluginMayShutDownWithEverythingOpen) {
   command(2);
   clickPane("Meetings");
   notify(7, Dictionary{{kKZResult, kKZFail}});

@@ -35,7 +35,7 @@ TEST_F(PreferenceWindowTest, TheWidestPaneSetsTheWidthOfAll) {
   for (const QString& name : kPaneNames) EXPECT_LT(widthOf(name), expected);
 }
 
-TEST_F(PreferenceWindowTest, OnlyASuccessTellsTheHostOfItsCalendar) {
+TEST_F(PreferenceWindowTest, OnlyASuccessSendsASourceChange) {
   for (const bool isShown : {false, true}) {
     if (isShown) command(2);
     notify(15, Dictionary{{kKZResult, kKZFail}});

@@ -57,7 +57,7 @@ TEST(CalendarIntegrationAssist, AppliedMeansAServiceAndACredentialThatFitsIt) {
   store.close();
 }
 
-TEST(CalendarIntegrationMessage, KeepsItsLineAndSurvivesIt) {
+TEST(CalendarIntegrationMessage, KeepsItsTextFieldAndOutlivesIt) {
   auto line = std::make_unique<StaticText>(QString(), FontRole::Label, 13);
   CalendarIntegrationMessage message;
   message.showSuccessMessage();

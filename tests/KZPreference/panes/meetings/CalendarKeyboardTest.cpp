@@ -13,7 +13,7 @@ namespace {
 
 using Variant = PreferenceHost::Variant;
 
-// To whatever has the focus, as a keyboard does.
+// To the control that has the focus.
 void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
   QTest::keyClick(PreferenceHost::window()->windowHandle(), key, modifiers);
 }
@@ -100,7 +100,7 @@ TEST_P(CalendarKeyboard, TheWholeExchangeFlowNeedsNoMouse) {
   EXPECT_TRUE(QApplication::focusWidget() && QApplication::focusWidget()->isVisible());
 }
 
-// Only a platform with a screen reader's bridge tells of changes.
+// Only a platform with a bridge to screen readers sends these events.
 TEST_P(CalendarKeyboard, TheStatusLineIsAnnounced) {
   if (!QAccessible::isActive()) GTEST_SKIP();
   s_announced.clear();
@@ -109,7 +109,7 @@ TEST_P(CalendarKeyboard, TheStatusLineIsAnnounced) {
   EXPECT_EQ(s_announced, QStringList({"No service there", "Still none"}));
 }
 
-TEST_P(CalendarKeyboard, EveryControlTellsWhatItIs) {
+TEST_P(CalendarKeyboard, EveryControlHasARoleAndAName) {
   host.needCredential();
   const struct {
     const char* control;

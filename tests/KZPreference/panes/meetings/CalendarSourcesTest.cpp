@@ -6,7 +6,6 @@
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
-#include "platform/StaticText.h"
 #include "tests/KZPreference/panes/meetings/PreferenceHost.h"
 
 namespace {
@@ -118,26 +117,6 @@ TEST_F(CalendarSources, AChoiceIsStoredAndReportedAtOnceAndTheChangeOnClose) {
   host.openMeetings();
   PreferenceHost::window()->close();
   EXPECT_EQ(host.takeSent(), QStringList());
-}
-
-TEST_F(CalendarSources, AnotherSourceChosenDuringARequestLeavesTheRequestRunning) {
-  offer(true, true);
-  host.openMeetings(Variant::SignedIn);
-  host.type("m_emailInputTxt", QStringLiteral("ann@brenn.example"));
-  host.click("m_detectBtn");
-  host.takeSent();
-  host.click("m_googleRadioBtn");
-  EXPECT_EQ(host.takeSent(), QStringList());
-  for (const char* name : {"m_emailInputTxt", "m_passwordInputTxt", "m_applyBtn", "m_detectBtn"})
-    EXPECT_FALSE(isOn(name)) << name;
-  EXPECT_TRUE(isOn("m_usernameInputTxt"));
-  EXPECT_FALSE(PreferenceHost::control("m_spinner").isHidden());
-
-  host.fail(QStringLiteral("No service there"));
-  EXPECT_EQ(PreferenceHost::control<StaticText>("m_messageTxt").text(), "No service there");
-  EXPECT_TRUE(PreferenceHost::control("m_messageTxt").isVisible());
-  EXPECT_TRUE(PreferenceHost::control("m_spinner").isHidden());
-  EXPECT_EQ(chosen(), QStringList("m_googleRadioBtn"));
 }
 
 TEST_F(CalendarSources, TheServicesOwnCalendarHidesTheStateOfAnAppliedAccount) {

@@ -18,7 +18,6 @@ using Variant = PreferenceHost::Variant;
 
 const QString kEmail = QStringLiteral("ann@brenn.example");
 const QString kDetect = QStringLiteral(R"(15 {"QRT_ExchangeDiscover_Email":"ann@brenn.example"})");
-const QString kCancelEmpty = QStringLiteral(R"(16 {"QRT_ExchangeDiscover_Email":""})");
 
 QString credentialText(const QString& content) {
   return QStringLiteral(
@@ -38,7 +37,7 @@ QString busyPlace() {
   return isBeside("m_applyBtn", 2) ? QStringLiteral("applying") : QStringLiteral("astray");
 }
 
-// Everything that the flow decides, in one line: `idle d--- blue Applied successfully`; the letters stand for
+// What the flow decides, in one line: `idle d--- blue Applied successfully`; the letters stand for
 // what is shown and enabled: detect, user name, password, apply (a capital letter: shown but disabled, "-":
 // hidden).
 QString shows() {
@@ -60,7 +59,6 @@ class ExchangeFlow : public testing::TestWithParam<Variant> {
   ExchangeFlow() {
     host.openMeetings(GetParam());
     host.takeSent();
-    host.takeTelemetry();
   }
 
   void detect() {
@@ -211,21 +209,6 @@ TEST_P(ExchangeFlow, EnablingFollowsWhatIsTyped) {
   }
 }
 
-TEST_P(ExchangeFlow, SuccessStoresAccountAndCredential) {
-  apply();
-  host.resolveWith(kEmail);
-  Dictionary exchange = dictionaryValue(KZPlistFileHandle::sharedInstance().calendarIntegration(),
-                                        kKZCalendarIntegrationExchange);
-  EXPECT_EQ(textValue(exchange, QRT_ExchangeDiscover_Username), QLatin1String("BRENN\\ann"));
-  EXPECT_EQ(textValue(exchange, kKZCalendarIntegrationExchangeEmail), kEmail);
-  QString username;
-  QString password;
-  KZKeyChainHandle::sharedInstance().getOutlookUsername(&username, &password);
-  EXPECT_EQ(username, QLatin1String("BRENN\\ann"));
-  EXPECT_EQ(password, QLatin1String("pw"));
-  EXPECT_EQ(host.takeTelemetry(), QStringList("TelemetryValue_FeatureName_Click_ApplyExchangeAccount"));
-}
-
 // Without a credential step the fields are empty, and so is what is stored.
 TEST_P(ExchangeFlow, SuccessWithoutAUserNameStoresEmptyTexts) {
   detect();
@@ -235,16 +218,6 @@ TEST_P(ExchangeFlow, SuccessWithoutAUserNameStoresEmptyTexts) {
   KZKeyChainHandle::sharedInstance().getOutlookUsername(&username, &password);
   EXPECT_TRUE(!username.isNull() && username.isEmpty());
   EXPECT_TRUE(!password.isNull() && password.isEmpty());
-}
-
-TEST_P(ExchangeFlow, ClosingInMidFlightCancelsOnceWithTheFieldsCurrentText) {
-  detect();
-  host.takeSent();
-  PreferenceHost::window()->close();
-  EXPECT_EQ(host.takeSent(), QStringList{kCancelEmpty});
-  host.openMeetings();
-  PreferenceHost::window()->close();
-  EXPECT_EQ(host.takeSent(), QStringList());
 }
 
 TEST_P(ExchangeFlow, ClosingInMidFlightAfterAnAccountWasAppliedCancelsThatOne) {
@@ -280,7 +253,7 @@ TEST_P(ExchangeFlow, AnAppliedAccountIsShownUnlessItsCredentialIsMarkedInvalid) 
   }
 }
 
-TEST_P(ExchangeFlow, ResultsThatSayNothingUsefulLoseNothing) {
+TEST_P(ExchangeFlow, MalformedResultsChangeNothing) {
   const Dictionary results[] = {
       {},
       {{kKZResult, 1}},

@@ -24,7 +24,7 @@ void PreferenceHost::openMeetings(Variant variant) {
 }
 
 void PreferenceHost::openMeetings() {
-  // A window that was dropped goes first.
+  // Delete the last window first.
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   command(KZCommand::KZCmdShowPreference);
   window()->controller()->setProperty("crossFade", false);

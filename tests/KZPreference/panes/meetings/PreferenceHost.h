@@ -6,7 +6,7 @@
 #include "platform/WindowController.h"
 #include "tests/kit/TestHost.h"
 
-// How PreferenceHost notes that the host is told of a changed source.
+// The command for a changed source, as takeSent() returns it.
 inline const QString kSourceChanged = QStringLiteral("18 {}");
 
 // A host whose user works in the Meetings pane.
@@ -23,7 +23,7 @@ class PreferenceHost final : public TestHost {
   void resolve(const Dictionary& result);
   void resolveWith(const QString& email);  // success, with that account
   void fail(const QString& message);
-  // The Exchange client asks for a credential; what is invalid is left out. Any thread.
+  // The Exchange client asks for a credential; invalid arguments are left out. Any thread.
   static void challenge(const QVariant& kind, const QVariant& warning = QVariant());
 
   template <typename T = QWidget>
