@@ -15,7 +15,7 @@ NINJA = ninja -C $(BUILD) -j $(JOBS)
 .PHONY: run build test lint sanitize bench pictures documents package clean packages
 
 run: $(BUILD)/build.ninja
-	@$(NINJA) companion KZPreference
+	@$(NINJA) companion
 	$(BUILD)/bin/companion
 
 build: $(BUILD)/build.ninja
@@ -32,19 +32,20 @@ sanitize: $(SANITIZE_BUILD)/build.ninja
 	@ninja -C $(SANITIZE_BUILD) -j $(JOBS)
 	@tools/run-tests.sh $(SANITIZE_BUILD) $(TEST_JOBS)
 
-bench: build
+bench: $(BUILD)/build.ninja
+	@$(NINJA) bench/all bounds_tests
 	$(BUILD)/bin/benchmarks
 	$(BUILD)/bin/prefs-bench --window
 	$(BUILD)/bin/prefs-bench --window --fade
-	QT_QPA_PLATFORM=offscreen $(BUILD)/tests/companion_test --gtest_brief=1 --gtest_filter='IdleCompanion.*:LongDay.*'
-	QT_QPA_PLATFORM=offscreen $(BUILD)/tests/exchange_tests --gtest_brief=1 --gtest_filter='DiscoveryTimeTest.*'
+	$(BUILD)/tests/bounds_tests --gtest_brief=1
 
 # The pictures of windows in the documents, from runs of the programs.
 pictures: build
 	@tools/draw-pictures.sh $(BUILD)
 
 # The tables, flows and layers in the documents, from the code and runs of the programs.
-documents: build
+documents: $(BUILD)/build.ninja
+	@$(NINJA) print-commands prefs-session kz-sandbox KZPreference
 	@tools/documents.py $(BUILD)/bin
 
 # A Debian package of the plug-in, its programs and the host SDK.

@@ -23,17 +23,3 @@ function(kz_target name)
   target_link_libraries(${name} PRIVATE kz_options)
   target_include_directories(${name} PUBLIC $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}>)
 endfunction()
-
-# kz_test(NAME SOURCES... LIBRARIES...): a GoogleTest program that runs without a display and writes nothing of the user's.
-function(kz_test name)
-  cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES" ${ARGN})
-  add_executable(${name} ${arg_SOURCES})
-  kz_target(${name})
-  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
-  target_link_libraries(${name} PRIVATE ${arg_LIBRARIES} GTest::gtest Qt6::Test)
-  add_test(NAME ${name} COMMAND ${name})
-  set(home ${CMAKE_BINARY_DIR}/tests/home)
-  set_tests_properties(${name} PROPERTIES
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;QT_LOGGING_RULES=qt.qpa.*=false;XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_CACHE_HOME=${home}/cache"
-    TIMEOUT 300)
-endfunction()

@@ -28,4 +28,4 @@ struct LookColors {
   qreal focusWidth = 2;
 };
 
-const LookColors& lookColorsFor(LookScheme scheme);
+PLATFORM_EXPORT const LookColors& lookColorsFor(LookScheme scheme);

@@ -10,7 +10,6 @@
 #include <QWindow>
 #include <chrono>
 
-#include "companion/app/LazyPage.h"
 #include "companion/app/MeetingsView.h"
 #include "companion/app/TelemetryView.h"
 #include "companion/exchange/StandardExchange.h"
@@ -63,13 +62,13 @@ CompanionServices::Settings serviceSettings(const CompanionOptions& options,
 }  // namespace
 
 Companion::Companion(const CompanionOptions& options)
-    : m_border([](const QUrl& url) { return QDesktopServices::openUrl(url); }),
-      m_logging(m_border.addObserver(
-          [this](const Crossing& crossing) { m_log.record(InspectorEvent::of(crossing)); })),
-      m_recording(&m_border),
-      m_window(&m_border),
+    : m_host([](const QUrl& url) { return QDesktopServices::openUrl(url); }),
+      m_logging(m_host.addObserver([this](const PluginEvent& event, PluginHost::Phase phase) {
+        if (phase == PluginHost::Phase::Begin) m_log.record(event);
+      })),
+      m_recording(&m_host),
+      m_window(&m_host),
       m_options(options) {
-  connectStores();
   m_window.showNotice(introduction(options.reach));
   connectSandbox();
   connectRecording();
@@ -78,15 +77,15 @@ Companion::Companion(const CompanionOptions& options)
 Companion::~Companion() {
   m_recording.stop();
   // What the plug-in's end still tells must find its observers.
-  m_border.shutDown();
+  m_host.shutDown();
 }
 
 void Companion::createPages() {
-  m_window.addPage(QStringLiteral("Meetings"), new MeetingsView(&m_services->meetings()));
-  m_window.addPage(QStringLiteral("Try out"), new LazyPage([this] { return createTryOut(); }));
-  m_window.addPage(QStringLiteral("Inspector"), new LazyPage([this] { return createInspector(); }));
+  m_window.addPage(QStringLiteral("Meetings"), [this] { return new MeetingsView(&m_services->meetings()); });
+  m_window.addPage(QStringLiteral("Try out"), [this] { return createTryOut(); });
+  m_window.addPage(QStringLiteral("Inspector"), [this] { return createInspector(); });
   m_window.addPage(QStringLiteral("Telemetry"),
-                   new LazyPage([this] { return new TelemetryView(&m_services->telemetry()); }));
+                   [this] { return new TelemetryView(&m_services->telemetry()); });
 }
 
 QWidget* Companion::createInspector() {
@@ -98,6 +97,8 @@ QWidget* Companion::createInspector() {
 QWidget* Companion::createTryOut() {
   m_tryOut = new TryOutView;
   connect(m_tryOut, &TryOutView::siteChosen, &m_window, &CompanionWindow::useSite);
+  connect(m_tryOut, &TryOutView::copied, &m_window,
+          [this](const QString& text) { m_window.showNotice(QStringLiteral("Copied: %1").arg(text)); });
   offer(m_offered);
   return m_tryOut;
 }
@@ -107,21 +108,6 @@ void Companion::offer(const Offered& offered) {
   if (!m_tryOut) return;
   m_tryOut->setAccounts(offered.accounts);
   m_tryOut->setSites(offered.sites);
-}
-
-void Companion::connectStores() {
-  connect(&KZPlistFileHandle::sharedInstance(), &KZPlistFileHandle::valueChanged, &m_log,
-          [this](const QString& key, const QVariant& before, const QVariant& after) {
-            m_log.record(InspectorEvent::ofStoreWrite(key, before, after));
-          });
-  const KZKeyChainHandle& keychain = KZKeyChainHandle::sharedInstance();
-  using Change = InspectorEvent::KeychainChange;
-  connect(&keychain, &KZKeyChainHandle::itemWritten, &m_log, [this](const QString& account) {
-    m_log.record(InspectorEvent::ofKeychain(account, Change::Written));
-  });
-  connect(&keychain, &KZKeyChainHandle::itemRemoved, &m_log, [this](const QString& account) {
-    m_log.record(InspectorEvent::ofKeychain(account, Change::Removed));
-  });
 }
 
 void Companion::connectSandbox() {
@@ -175,13 +161,13 @@ void Companion::showWindow() {
 bool Companion::loadPlugin(const QString& path) {
   createServices();
   createPages();
-  return m_border.loadPlugin(path);
+  return m_host.load(path);
 }
 
 void Companion::createServices() {
   const ExchangeConfiguration configuration = standardExchangeConfiguration(m_options.clientId, kSignedInUri);
-  m_exchange = std::make_unique<CompanionExchange>(&m_border, m_options.reach, configuration);
-  m_services = std::make_unique<CompanionServices>(&m_border, serviceSettings(m_options, configuration));
+  m_exchange = std::make_unique<CompanionExchange>(&m_host, m_options.reach, configuration);
+  m_services = std::make_unique<CompanionServices>(&m_host, serviceSettings(m_options, configuration));
   connect(m_exchange.get(), &CompanionExchange::noticed, &m_window, &CompanionWindow::showNotice);
   connect(m_services.get(), &CompanionServices::noticed, &m_window, &CompanionWindow::showNotice);
   m_window.useServices(m_services.get());

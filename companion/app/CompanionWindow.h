@@ -1,12 +1,14 @@
 #pragma once
 
+#include <QList>
 #include <QPointer>
 #include <QWidget>
+#include <functional>
 
 #include "companion/app/DemoUser.h"
 #include "companion/services/CompanionServices.h"
 
-class Border;
+class PluginHost;
 class QLabel;
 class QStackedWidget;
 class QTabBar;
@@ -15,12 +17,12 @@ class QRadioButton;
 class SiteDialog;
 class UpdateBar;
 
-// The companion's own window: who is there, what a host can ask of its plug-in, and what crosses the border.
+// The companion's own window: who is there, what a host can ask of its plug-in, and what crosses the host.
 class CompanionWindow final : public QWidget {
   Q_OBJECT
 
  public:
-  explicit CompanionWindow(Border* border);  // not owned; must outlive the window
+  explicit CompanionWindow(PluginHost* host);  // not owned; must outlive the window
 
   // Before anything is done in the window; once. Not owned; must outlive the window.
   void useServices(CompanionServices* services);
@@ -33,8 +35,10 @@ class CompanionWindow final : public QWidget {
   void startOver();
   void showRecording(bool isRunning);
   void showNotice(const QString& text);
-  // The window takes the page; the first one is in front. After useServices.
-  void addPage(const QString& title, QWidget* page);
+  // The page is made when it is first shown, so that what nobody looks at costs the start nothing; the
+  // window takes it. The first page is in front. After useServices.
+  using PageMaker = std::function<QWidget*()>;
+  void addPage(const QString& title, const PageMaker& make);
   // Asks the site, and belongs to it from then on.
   void useSite(const QString& site);
 
@@ -59,12 +63,13 @@ class CompanionWindow final : public QWidget {
   SiteDialog* openSiteDialog();
   void showIdentity();
 
-  Border* m_border;
+  PluginHost* m_host;
   CompanionServices* m_services = nullptr;
   QRadioButton* m_signedIn = nullptr;
   QRadioButton* m_guest = nullptr;
   QTabBar* m_tabs = nullptr;
   QStackedWidget* m_pages = nullptr;
+  QList<PageMaker> m_pageMakers;  // empty where the page is made
   QLabel* m_identity = nullptr;
   QLabel* m_notice = nullptr;
   UpdateBar* m_updates = nullptr;

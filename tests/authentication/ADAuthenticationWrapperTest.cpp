@@ -19,7 +19,7 @@
 #include "host/KZUtility/KZWorkspace.h"
 #include "sandbox/Authority.h"
 #include "sandbox/HttpServer.h"
-#include "tests/authentication/TraceRecorder.h"
+#include "tests/kit/TraceCollector.h"
 
 namespace {
 
@@ -108,7 +108,7 @@ class ADAuthenticationWrapperTest : public testing::Test {
     return ADTokenCache::defaultCache().allItems().items.first().refreshToken;
   }
 
-  TraceRecorder trace;
+  TraceCollector trace;
   Host host;
   sandbox::HttpServer server;
   std::unique_ptr<sandbox::Authority> authority;

@@ -11,7 +11,7 @@
 #include "adal/ADAuthenticationSettings.h"
 #include "adal/ADTokenCache.h"
 #include "host/KZUtility/KZKeyChainHandle.h"
-#include "tests/authentication/TraceRecorder.h"
+#include "tests/kit/TraceCollector.h"
 
 namespace {
 
@@ -65,7 +65,7 @@ class ADMivraCacheDelegateTest : public testing::Test {
     return names;
   }
 
-  TraceRecorder trace;
+  TraceCollector trace;
   std::shared_ptr<FakeKeychain> keychain;
   ADTokenCache& cache = ADTokenCache::defaultCache();
   ADMivraCacheDelegate& delegate = ADMivraCacheDelegate::sharedInstance();

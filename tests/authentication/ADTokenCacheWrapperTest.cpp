@@ -7,7 +7,7 @@
 #include "adal/ADTokenCache.h"
 #include "adal/ADTokenCacheDelegate.h"
 #include "host/KZFoundation/KZConstants.h"
-#include "tests/authentication/TraceRecorder.h"
+#include "tests/kit/TraceCollector.h"
 
 namespace {
 
@@ -55,7 +55,7 @@ class ADTokenCacheWrapperTest : public testing::Test {
     return textValue(information, QRT_ListingMeeting_exchOnlineToken);
   }
 
-  TraceRecorder trace;
+  TraceCollector trace;
 };
 
 TEST_F(ADTokenCacheWrapperTest, TokensCountAsExpiredInTheirLastTenMinutes) {

@@ -10,8 +10,8 @@
 #include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/SecretServiceKeychain.h"
 #include "tests/host/BrokenDisk.h"
-#include "tests/host/StoreFolder.h"
-#include "tests/host/TraceWatch.h"
+#include "tests/kit/StoreFolder.h"
+#include "tests/kit/TraceCollector.h"
 
 namespace {
 
@@ -20,7 +20,7 @@ struct FaultNoticeTest : testing::Test {
     return notice->isVisibleTo(&window) && notice->text().contains(what);
   }
 
-  const TraceWatch traces;
+  const TraceCollector traces;
   QWidget window;
   FaultNotice* notice = new FaultNotice(&window);
 };

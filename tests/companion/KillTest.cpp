@@ -14,8 +14,8 @@
 
 #include "host/KZUtility/KZPlistFileHandle.h"
 #include "host/KZUtility/SecretServiceKeychain.h"
-#include "tests/host/TraceWatch.h"
 #include "tests/host/keychain/ServiceProcess.h"
+#include "tests/kit/TraceCollector.h"
 
 namespace {
 
@@ -73,7 +73,7 @@ TEST(Killed, LosesNoSettingThatWasConfirmed) {
   constexpr int rounds = 12;
   const QTemporaryDir state;
   KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
-  const TraceWatch watch;
+  const TraceCollector watch;
   const auto write = [](int number) {
     // Long enough to be written in pieces.
     const QString filler(20'000, u'x');

@@ -5,15 +5,19 @@
 #include <QJsonArray>
 #include <QTemporaryDir>
 
-#include "tests/companion/SessionRun.h"
+#include "tests/kit/SessionRun.h"
 
 namespace {
 
 const QString kShow = QStringLiteral(R"({"command": 2})");
 
+SessionRun play(const QStringList& script, const QStringList& options = {}) {
+  return runSessionWith(FAKE_PLUGIN, script, options);
+}
+
 // What the script prints after the window is shown and has become the key window.
 QStringList shown(const QStringList& script) {
-  SessionRun run = runSession(QStringList{kShow, R"({"echo": "shown"})"} + script);
+  SessionRun run = play(QStringList{kShow, R"({"echo": "shown"})"} + script);
   EXPECT_EQ(run.complaints, "");
   const qsizetype start = run.lines.indexOf(R"({"echo":"shown"})");
   EXPECT_GE(start, 0) << qPrintable(run.lines.join(u'\n'));
@@ -39,7 +43,7 @@ QJsonObject viewNamed(const QJsonObject& view, const QString& name) {
 }
 
 TEST(Session, PrintsWhatCrossesTheBorderInOrder) {
-  const SessionRun run = runSession({
+  const SessionRun run = play({
       R"({"echo": {"mark": [1, 0.5]}})",
       R"({"command": 77, "content": {"n": 3, "f": true, "gone": null, "bytes": {"$data": "AP8="}}})",
       R"({"command": 77})",
@@ -77,7 +81,7 @@ TEST(Session, PrintsWhatCrossesTheBorderInOrder) {
 }
 
 TEST(Session, PrintsTraceOnlyWhenAsked) {
-  const SessionRun run = runSession({R"({"command": 9, "content": {"a": 1}})"}, {"--trace"});
+  const SessionRun run = play({R"({"command": 9, "content": {"a": 1}})"}, {"--trace"});
   ASSERT_EQ(run.lines.size(), 1);
   EXPECT_EQ(run.object(0).value("trace"), "warning");
   EXPECT_EQ(run.object(0).value("method"), "FakeCore::handle");
@@ -97,8 +101,8 @@ TEST(Session, PrintsWritesWithoutTheirSecretsWhenAsked) {
       R"-({"kept":"OutlookAccount(Onpremise)"})-",
       R"-({"removed":"OutlookAccount(Onpremise)"})-",
   };
-  EXPECT_EQ(textOf(runSession(script, {"--writes"}).lines), textOf(expected));
-  EXPECT_EQ(textOf(runSession(script).lines), "");
+  EXPECT_EQ(textOf(play(script, {"--writes"}).lines), textOf(expected));
+  EXPECT_EQ(textOf(play(script).lines), "");
 }
 
 TEST(Session, UserActions) {
@@ -154,10 +158,10 @@ TEST(Session, UserActions) {
 }
 
 TEST(Session, DescribesTheWindow) {
-  const SessionRun none = runSession({R"({"get": "window"})"});
+  const SessionRun none = play({R"({"get": "window"})"});
   EXPECT_EQ(none.lines, QStringList{R"({"result":null})"});
 
-  const SessionRun run = runSession({kShow, R"({"type": "m_field", "text": "x"})", R"({"get": "window"})"});
+  const SessionRun run = play({kShow, R"({"type": "m_field", "text": "x"})", R"({"get": "window"})"});
   const QJsonObject window = run.result();
   EXPECT_EQ(window.value("controller"), "FakeWindowController");
   EXPECT_EQ(window.value("title"), "Fake preferences");
@@ -197,7 +201,7 @@ TEST(Session, DescribesTheWindow) {
 }
 
 TEST(Session, GetsAndSetsTheHost) {
-  const SessionRun run = runSession({
+  const SessionRun run = play({
       R"({"set": "store", "values": {"siteName": "s", "launchAtLogin": false, "videoDevice": {"a": 1}, "userName": "u"}})",
       R"({"set": "store", "values": {"userName": null}})",
       R"({"get": "store"})",
@@ -231,7 +235,7 @@ TEST(Session, GetsAndSetsTheHost) {
 }
 
 TEST(Session, TokensGoThroughTheCache) {
-  const SessionRun run = runSession({
+  const SessionRun run = play({
       R"({"set": "tokens", "items": [{"userId": "u", "authority": "https://a", "resource": "r", "clientId": "c",)"
       R"( "accessToken": "t", "refreshToken": "f", "multiResource": false, "expiresIn": 3600},)"
       R"( {"userId": "u", "authority": "https://a", "clientId": "c", "refreshToken": "f", "multiResource": true}]})",
@@ -250,14 +254,14 @@ TEST(Session, TokensGoThroughTheCache) {
 TEST(Session, KeepsItsStateFolderAndWritesPictures) {
   const QTemporaryDir folder;
   const QString picture = folder.filePath("pane.png");
-  const SessionRun run = runSession({R"({"set": "store", "values": {"siteName": "kept"}})", kShow,
-                                     QStringLiteral(R"({"screenshot": "%1"})").arg(picture)},
-                                    {"--state", folder.path()});
+  const SessionRun run = play({R"({"set": "store", "values": {"siteName": "kept"}})", kShow,
+                               QStringLiteral(R"({"screenshot": "%1"})").arg(picture)},
+                              {"--state", folder.path()});
   EXPECT_EQ(run.status, 0);
   EXPECT_EQ(QImage(picture).width(), 440);
-  const SessionRun again = runSession({R"({"get": "store"})"}, {"--state", folder.path()});
+  const SessionRun again = play({R"({"get": "store"})"}, {"--state", folder.path()});
   EXPECT_EQ(again.result().value("siteName"), "kept");
-  EXPECT_TRUE(runSession({R"({"get": "store"})"}).result().isEmpty());
+  EXPECT_TRUE(play({R"({"get": "store"})"}).result().isEmpty());
 }
 
 TEST(Session, StepsThatCannotBePlayedEndIt) {
@@ -291,7 +295,7 @@ TEST(Session, StepsThatCannotBePlayedEndIt) {
       {R"({"screenshot": "/nowhere/at/all.png"})", "cannot write /nowhere/at/all.png"},
   };
   for (const auto& [step, reason] : cases) {
-    const SessionRun run = runSession({"# a script", kShow, step, R"({"echo": "not reached"})"});
+    const SessionRun run = play({"# a script", kShow, step, R"({"echo": "not reached"})"});
     EXPECT_EQ(run.status, 2) << step;
     EXPECT_EQ(run.last().value("line"), 3) << step;
     EXPECT_TRUE(run.last().value("error").toString().startsWith(QLatin1String(reason)))
@@ -317,8 +321,8 @@ TEST(Session, APluginThatCannotBeLoadedIsStatusThree) {
 
 TEST(Session, WaitRunsTimersAndMeasuresTexts) {
   const SessionRun run =
-      runSession({R"({"wait": 20})", R"({"measure": "text", "text": "Meetings", "font": "bold", "size": 16})",
-                  R"({"measure": "Meetings", "font": "default"})"});
+      play({R"({"wait": 20})", R"({"measure": "text", "text": "Meetings", "font": "bold", "size": 16})",
+            R"({"measure": "Meetings", "font": "default"})"});
   ASSERT_EQ(run.lines.size(), 2);
   EXPECT_GT(run.object(0).value("result").toObject().value("width").toDouble(),
             run.result().value("width").toDouble());

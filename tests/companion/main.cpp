@@ -1,13 +1,11 @@
-#include <gtest/gtest.h>
-
-#include <QApplication>
-
 #include "companion/app/Appearance.h"
+#include "companion/runtime/Application.h"
+#include "tests/kit/TestRun.h"
 
-// Dressed as the companion is: what fails only in its own look fails here too.
+// With the companion's own application object and look: what fails only with them fails here too.
 int main(int argc, char** argv) {
-  QApplication application(argc, argv);
+  const TestSurroundings surroundings;
+  const Application application(argc, argv);
   if (!applyAppearance("light")) return 1;
-  testing::InitGoogleTest(&argc, argv);
-  return RUN_ALL_TESTS();
+  return runTests(argc, argv);
 }

@@ -3,7 +3,7 @@
 #include <QDir>
 #include <QFile>
 
-#include "tests/companion/SessionRun.h"
+#include "tests/kit/SessionRun.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "tests/companion/SessionRun.h"
+#include "tests/kit/SessionRun.h"
 
 namespace {
 

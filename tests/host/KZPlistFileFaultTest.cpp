@@ -9,8 +9,8 @@
 #include <QSignalSpy>
 
 #include "tests/host/BrokenDisk.h"
-#include "tests/host/StoreFolder.h"
-#include "tests/host/TraceWatch.h"
+#include "tests/kit/StoreFolder.h"
+#include "tests/kit/TraceCollector.h"
 
 namespace {
 
@@ -43,7 +43,7 @@ TEST(KZPlistFileFault, SetsADamagedFileAsideAndGoesOn) {
   };
   for (const QByteArray& bytes : rows) {
     const StoreFolder folder;
-    const TraceWatch watch;
+    const TraceCollector watch;
     QElapsedTimer timer;
     timer.start();
     folder.openWith(bytes);
@@ -60,7 +60,7 @@ TEST(KZPlistFileFault, SetsADamagedFileAsideAndGoesOn) {
 
 TEST(KZPlistFileFault, SetsEachDamagedFileAsideUnderANameOfItsOwn) {
   const StoreFolder folder;
-  const TraceWatch watch;
+  const TraceCollector watch;
   for (int turn = 0; turn < 3; ++turn) folder.openWith("damaged");
   EXPECT_EQ(folder.names().size(), 3);
 }
@@ -74,7 +74,7 @@ TEST(KZPlistFileFault, SetsAsideWhatIsNoRegularFile) {
   };
   for (const Maker make : makers) {
     const StoreFolder folder;
-    const TraceWatch watch;
+    const TraceCollector watch;
     make(folder.file().toUtf8());
     folder.reopen();
     StoreFolder::store().setSiteName("new");
@@ -90,7 +90,7 @@ TEST(KZPlistFileFault, NeverTouchesAnotherUsersFile) {
   const QByteArray theirs = StoreFolder::plist("<key>siteName</key><string>theirs</string>");
   folder.replace(theirs);
   ASSERT_EQ(::chown(folder.file().toUtf8().constData(), 65534, 65534), 0);
-  const TraceWatch watch;
+  const TraceCollector watch;
   folder.reopen();
   StoreFolder::store().setSiteName("memory");
   EXPECT_EQ(StoreFolder::store().siteName(), "memory");
@@ -104,7 +104,7 @@ TEST(KZPlistFileFault, SetsAnUnreadableFileAside) {
   const StoreFolder folder;
   folder.replace("unread");
   ASSERT_EQ(::chmod(folder.file().toUtf8().constData(), 0), 0);
-  const TraceWatch watch;
+  const TraceCollector watch;
   folder.reopen();
   StoreFolder::store().setSiteName("new");
   EXPECT_EQ(watch.count(KZTraceLevel::Error), 1);
@@ -129,7 +129,7 @@ TEST(KZPlistFileFault, WritesNothingWhereItMayNot) {
     folder.replace(row.bytes);
     const QByteArray place = folder.folder().toUtf8();
     ASSERT_EQ(::chmod(place.constData(), row.mode), 0);
-    const TraceWatch watch;
+    const TraceCollector watch;
     folder.reopen();
     StoreFolder::store().setCdnUrl("first");
     StoreFolder::store().setCdnUrl("second");
@@ -144,7 +144,7 @@ TEST(KZPlistFileFault, WritesNothingWhereItMayNot) {
 
 TEST(KZPlistFileFault, KeepsAValueThatTheDiskRefusedAndTriesAgain) {
   const StoreFolder folder;
-  const TraceWatch watch;
+  const TraceCollector watch;
   KZPlistFileHandle& store = StoreFolder::store();
   QSignalSpy told(&store, &KZPlistFileHandle::saveProblemChanged);
   store.setSiteName("old");
@@ -170,7 +170,7 @@ TEST(KZPlistFileFault, KeepsAValueThatTheDiskRefusedAndTriesAgain) {
 
 TEST(KZPlistFileFault, SurvivesAFolderThatIsNoneOrGoesAway) {
   const StoreFolder folder;
-  const TraceWatch watch;
+  const TraceCollector watch;
   KZPlistFileHandle& store = StoreFolder::store();
   store.setSiteName("first");
   ASSERT_TRUE(QDir(folder.folder()).removeRecursively());

@@ -6,8 +6,8 @@
 #include <QXmlStreamReader>
 #include <cmath>
 
-#include "tests/host/StoreFolder.h"
-#include "tests/host/TraceWatch.h"
+#include "tests/kit/StoreFolder.h"
+#include "tests/kit/TraceCollector.h"
 
 namespace {
 
@@ -128,7 +128,7 @@ TEST(KZPlistFileHandle, StaysReadableForOthersWhateverATextHolds) {
   const StoreFolder folder;
   KZPlistFileHandle& store = StoreFolder::store();
   const QString odd = QString("a") + QChar(0) + "b" + QChar(1) + "c" + QChar(0xD800) + "d" + QChar(0xFFFF);
-  const TraceWatch watch;
+  const TraceCollector watch;
   store.setValue("odd" + QString(QChar(2)), odd);
   EXPECT_EQ(store.value("odd" + QString(QChar(2))), QVariant(odd));
   EXPECT_EQ(watch.count(KZTraceLevel::Error), 1);
@@ -144,7 +144,7 @@ TEST(KZPlistFileHandle, StaysReadableForOthersWhateverATextHolds) {
 TEST(KZPlistFileHandle, NeverWritesWhatItCouldNotReadAgain) {
   const StoreFolder folder;
   KZPlistFileHandle& store = StoreFolder::store();
-  const TraceWatch watch;
+  const TraceCollector watch;
   store.setSiteName("kept");
   QVariant deep = true;
   for (int level = 0; level < 200; ++level) deep = QVariantList{deep};

@@ -4,12 +4,12 @@
 #include <atomic>
 #include <thread>
 
-#include "tests/host/TraceWatch.h"
+#include "tests/kit/TraceCollector.h"
 
 namespace {
 
 QString traced(const QVariant& value) {
-  const TraceWatch watch;
+  const TraceCollector watch;
   MVRNSInfoFuncTraceIMPL("Test", Q_FUNC_INFO, "%@", value);
   return watch.lastText();
 }
@@ -64,7 +64,7 @@ TEST(KZTrace, PrintsEachKindOfValue) {
 }
 
 TEST(KZTrace, FormatsByDirectiveAndNamesTheMethodInBothForms) {
-  const TraceWatch watch;
+  const TraceCollector watch;
   const void* nobody = nullptr;
   MVRNSErrorFuncTraceIMPL("Test", "void A::b(int)", "flag:%d text:%@, delegate:%@, c:%s.", true,
                           QString("100%d"), nobody, "é");

@@ -2,7 +2,7 @@
 
 #include <QJsonDocument>
 
-#include "tests/host/TraceWatch.h"
+#include "tests/kit/TraceCollector.h"
 
 namespace {
 
@@ -66,7 +66,7 @@ TEST(SecretMask, LeavesTextsWithoutSecretsAsTheyAre) {
 }
 
 TEST(SecretMask, ReachesTheTraceAndItsTextsToo) {
-  const TraceWatch watch;
+  const TraceCollector watch;
   MVRNSInfoFuncTraceIMPL("Test", "A::b()", "%@", Dictionary{{"password", kSecret}});
   EXPECT_EQ(watch.lastText(), R"({"password":"***"})");
   MVRNSInfoFuncTraceIMPL("Test", "A::b()", "%@", QString(R"({"refreshToken":"s3cr3t"})"));

@@ -5,7 +5,7 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-#include "tests/companion/SessionRun.h"
+#include "tests/kit/SessionRun.h"
 
 QStringList linesOf(const QString& path);
 // Without comments and without the lines that set the host's state.

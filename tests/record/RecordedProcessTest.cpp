@@ -26,7 +26,7 @@ class RecordedProcess : public testing::Test {
     environment.insert("XDG_RUNTIME_DIR", m_folder.path());
     environment.insert("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere");
     m_companion.setProcessEnvironment(environment);
-    m_companion.start(COMPANION, QStringList{"--plugin", FAKE_PLUGIN, "--state", m_folder.filePath("state"),
+    m_companion.start(COMPANION, QStringList{"--plugin", PREFERENCES, "--state", m_folder.filePath("state"),
                                              "--record", path()} +
                                      options);
   }

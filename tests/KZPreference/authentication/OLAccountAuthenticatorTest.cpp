@@ -112,7 +112,7 @@ TEST_F(OLAccountAuthenticatorTest, AnswersByKindAndByWhatIsKnown) {
   const Dictionary exchange = dictionaryValue(KZPlistFileHandle::sharedInstance().calendarIntegration(),
                                               kKZCalendarIntegrationExchange);
   EXPECT_EQ(flagValue(exchange, kKZCalendarIntegrationOnpremiseCredValid), false);
-  EXPECT_TRUE(host.trace().filter("kc").isEmpty());
+  EXPECT_TRUE(host.takeTrace().filter("kc").isEmpty());
 }
 
 // First the group's own failure, then the empty answer, and a tenth of a second later the host hears of it.

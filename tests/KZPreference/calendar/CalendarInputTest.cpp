@@ -91,7 +91,7 @@ TEST_F(CalendarInput, CredentialsArePassedOnExactlyAndPasswordsNeverTraced) {
     KZKeyChainHandle::sharedInstance().getOutlookUsername(&username, &password);
     EXPECT_EQ(username, credential.username);
     EXPECT_EQ(password, credential.password);
-    for (const QString& line : host.trace()) {
+    for (const QString& line : host.takeTrace()) {
       EXPECT_FALSE(line.contains(credential.password)) << qPrintable(line.left(200));
       EXPECT_FALSE(line.contains(credential.password.left(6))) << qPrintable(line.left(200));
     }

@@ -1,55 +1,20 @@
 #include "tests/KZPreference/calendar/PreferenceHost.h"
 
 #include <QClipboard>
-#include <QJsonDocument>
+#include <QGuiApplication>
 #include <QTest>
 
-#include "KZPreference/core/KZPreferenceCore.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZFoundation/KZConstants.h"
-#include "host/KZUtility/KZKeyChainHandle.h"
-#include "host/KZUtility/KZPlistFileHandle.h"
-#include "host/KZUtility/KZTrace.h"
-#include "platform/WindowController.h"
-
-PreferenceHost::PreferenceHost() {
-  KZPlistFileHandle::sharedInstance().close();
-  KZKeyChainHandle::sharedInstance().useStorage(KZKeyChainHandle::Storage::Memory);
-  setKZTraceSink([this](const KZTraceRecord& record) { m_trace.append(record.method + u' ' + record.text); });
-  m_core = &KZPreferenceCore::sharedInstance();
-  m_core->setDelegate(this);
-}
-
-PreferenceHost::~PreferenceHost() {
-  KZPreferenceCore::shutDown();
-  setKZTraceSink({});
-}
+#include "tests/kit/Input.h"
 
 quint64 PreferenceHost::sendPluginCommand(const KZEventIdentify& event, const Content& content) {
-  const Dictionary dictionary = content.value_or(Dictionary());
-  if (event.m_componentEventIndex == static_cast<quint32>(KZCommand::KZCmdWriteTelemetry)) {
-    m_telemetry.append(textValue(dictionaryValue(dictionary, TelemetryKey_Values), TelemetryKey_FeatureName));
-    return 0;
+  if (event.m_componentEventIndex != static_cast<quint32>(KZCommand::KZCmdWriteTelemetry)) {
+    return TestHost::sendPluginCommand(event, content);
   }
-  const QJsonDocument json(QJsonObject::fromVariantMap(dictionary));
-  const QString text =
-      content ? QString::fromUtf8(json.toJson(QJsonDocument::Compact)) : QStringLiteral("nil");
-  m_sent.append(QStringLiteral("%1 %2").arg(event.m_componentEventIndex).arg(text));
+  const Dictionary values = dictionaryValue(content.value_or(Dictionary()), TelemetryKey_Values);
+  m_telemetry.append(textValue(values, TelemetryKey_FeatureName));
   return 0;
-}
-
-void PreferenceHost::command(KZCommand number, const Content& content) {
-  m_core->onHandleOtherPluginsTriggerCommand(static_cast<quint64>(number), content);
-}
-
-void PreferenceHost::notify(KZNotify index, const Content& content) {
-  m_core->onHandleServicesNotification(KZEventIdentify::monitorwith(0, static_cast<quint64>(index)), content);
-}
-
-QWidget* PreferenceHost::window() {
-  for (QWidget* widget : QApplication::topLevelWidgets())
-    if (qobject_cast<Window*>(widget) && WindowController::of(widget)) return widget;
-  return nullptr;
 }
 
 void PreferenceHost::openMeetings(Variant variant) {
@@ -61,10 +26,9 @@ void PreferenceHost::openMeetings() {
   // A window that was dropped goes first.
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   command(KZCommand::KZCmdShowPreference);
-  WindowController::of(window())->setProperty("crossFade", false);
-  for (QToolButton* button : window()->findChildren<QToolButton*>())
-    if (button->text() == QLatin1String("Meetings")) button->click();
+  window()->controller()->setProperty("crossFade", false);
   if (!QTest::qWaitForWindowActive(window())) qFatal("the window does not become active");
+  kit::clickItem(*window(), QStringLiteral("Meetings"));
 }
 
 void PreferenceHost::needCredential() {
@@ -89,16 +53,11 @@ void PreferenceHost::fail(const QString& message) {
 }
 
 void PreferenceHost::click(const char* name) {
-  auto& button = control(name);
-  QTest::mouseClick(&button, Qt::LeftButton, {}, button.rect().center());
+  kit::click(control(name));
 }
 
 void PreferenceHost::type(const char* name, const QString& text) {
-  auto& field = control(name);
-  field.setFocus();
-  QTest::keySequence(&field, QKeySequence::SelectAll);
-  if (text.isEmpty()) return QTest::keyClick(&field, Qt::Key_Delete);
-  QTest::keyClicks(&field, text);
+  kit::type(control(name), text);
 }
 
 void PreferenceHost::paste(const char* name, const QString& text) {
@@ -113,9 +72,6 @@ void PreferenceHost::press(const char* name, Qt::Key key) {
   QTest::keyClick(&control(name), key);
 }
 
-QStringList PreferenceHost::takeSent() {
-  return std::exchange(m_sent, {});
-}
 QStringList PreferenceHost::takeTelemetry() {
   return std::exchange(m_telemetry, {});
 }

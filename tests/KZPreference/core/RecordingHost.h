@@ -2,15 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <QStringList>
-#include <QTemporaryDir>
-#include <functional>
-#include <utility>
-
 #include "KZPreference/contract/PluginCommandSender.h"
-#include "host/KZFoundation/KZPluginCoreMgr.h"
-
-class Window;
+#include "platform/WindowController.h"
+#include "tests/kit/Input.h"
+#include "tests/kit/TestHost.h"
 
 // The way out for objects that a test makes by itself.
 class CoreSender final : public PluginCommandSender {
@@ -24,41 +19,20 @@ class CoreSender final : public PluginCommandSender {
   KZPluginCoreMgr* m_core;
 };
 
-// A test with a plug-in and a host around it: an empty store in a file, no secrets, and a record of all that
-// the plug-in sends, shows and traces.
-class RecordingHost : public testing::Test, public KZPluginDelegate {
- public:
-  quint64 sendPluginCommand(const KZEventIdentify& event, const Content& content) override;
-
+// A test with a plug-in and a host around it.
+class RecordingHost : public testing::Test, public TestHost {
  protected:
-  RecordingHost();
-  ~RecordingHost() override;
-
-  void command(quint64 number, const Content& content = std::nullopt);
-  void notify(quint32 index, const Content& content);
-  // What waits in the event loop, deferred deletions included.
-  static void settle();
-
-  static Window* window();  // nullptr when there is none
-  static QString controllerClass();
+  static void settle() { kit::settle(); }
+  static QString controllerClass() {
+    return window() ? QString::fromLatin1(window()->controller()->metaObject()->className()) : QString();
+  }
   template <typename T>
   static T* find(const char* name) {
-    return qobject_cast<T*>(findObject(name));
+    auto* found = window() ? window()->findChild<T*>(QString::fromLatin1(name)) : nullptr;
+    if (!found) qFatal("no control is called %s", name);
+    return found;
   }
-  static void clickPane(const QString& label, Qt::KeyboardModifiers modifiers = {});
-
-  // `4 {"kLaunchAtLogin":true}`, or `14 nil`, since the last call.
-  QStringList takeSent() { return std::exchange(m_sent, {}); }
-  QStringList takeTrace() { return std::exchange(m_trace, {}); }  // `Class::method text`
-
-  KZPluginCoreMgr* m_core;
-  std::function<void()> m_onNextSent;  // what the host does inside the next command that it receives
-  QStringList m_warnings;
-
- private:
-  static QObject* findObject(const char* name);
-
-  QTemporaryDir m_folder;
-  QStringList m_sent;
-  QStringList m_trace;
+  static void clickPane(const QString& label, Qt::KeyboardModifiers modifiers = {}) {
+    kit::clickItem(*window(), label, modifiers);
+  }
 };

@@ -6,8 +6,8 @@
 
 #include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/SecretServiceKeychain.h"
-#include "tests/host/TraceWatch.h"
 #include "tests/host/keychain/ServiceProcess.h"
+#include "tests/kit/TraceCollector.h"
 
 namespace {
 
@@ -18,7 +18,7 @@ const KZKeychainBackend::Item kAnyItem{QStringLiteral("test"), QStringLiteral("a
 
 // The whole of what a host does with its secrets, while the keychain is of no use.
 void expectMemoryAfterOneWarning() {
-  const TraceWatch watch;
+  const TraceCollector watch;
   KZKeyChainHandle& handle = KZKeyChainHandle::sharedInstance();
   handle.useBackend(std::make_shared<SecretServiceKeychain>(kDeadline));
   EXPECT_FALSE(handle.isLost());
@@ -88,7 +88,7 @@ TEST(FaultyKeychain, DelaysByTheDeadlineAtMostAndNeverPrompts) {
 }
 
 TEST(FaultyKeychain, KeepsWhatItHadReadWhenTheServiceDies) {
-  const TraceWatch watch;
+  const TraceCollector watch;
   KZKeyChainHandle& handle = KZKeyChainHandle::sharedInstance();
   {
     const ServiceProcess keyring;

@@ -6,8 +6,8 @@
 
 #include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/SecretServiceKeychain.h"
-#include "tests/host/TraceWatch.h"
 #include "tests/host/keychain/ServiceProcess.h"
+#include "tests/kit/TraceCollector.h"
 
 namespace {
 
@@ -83,7 +83,7 @@ TEST(RealKeychain, GoesOnWithADaemonThatWasStartedAgain) {
 
 TEST(RealKeychain, HoldsTheHostsCredentials) {
   const ServiceProcess keyring;
-  const TraceWatch watch;
+  const TraceCollector watch;
   KZKeyChainHandle& handle = KZKeyChainHandle::sharedInstance();
   const auto nextRun = [&] { handle.useBackend(std::make_shared<SecretServiceKeychain>(kPatient)); };
   nextRun();

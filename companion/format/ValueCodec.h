@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QJsonValue>
+#include <QString>
+#include <QVariant>
+
+#include "host/KZFoundation/Dictionary.h"
+
+// Values between a script and the host. A text that begins with "@" is the host's constant object of that
+// name, bytes are {"$data": base64}, null is a missing value.
+namespace valuecodec {
+
+struct [[nodiscard]] Decoded {
+  QVariant value;
+  QString error;  // empty when all is well
+};
+
+Decoded decode(const QJsonValue& value);
+
+// As results are printed, or so that `decode` makes the same of it again, constants' very objects included.
+enum class Form { Printed, Exact };
+
+QJsonValue encode(const QVariant& value, Form form = Form::Printed);
+QJsonValue encodeContent(const Content& content, Form form = Form::Printed);  // null where there is none
+
+}  // namespace valuecodec

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QJsonObject>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+// One run of prefs-session over a script.
+struct SessionRun {
+  int status = -1;
+  QStringList lines;  // of standard output
+  QString complaints;
+
+  QJsonObject object(qsizetype line) const;
+  QJsonObject last() const { return object(lines.size() - 1); }
+  // The result of the last line.
+  QJsonObject result() const { return last().value("result").toObject(); }
+};
+
+// Over the real plug-in; the script's lines come on standard input.
+SessionRun runSession(const QStringList& script, const QStringList& options = {});
+
+// Over the plug-in in that file.
+SessionRun runSessionWith(const QString& plugin, const QStringList& script, const QStringList& options = {});
