@@ -12,7 +12,6 @@ LAYERS = [
     ["KZPreference/core"],
     ["KZPreference/windows"],
     ["KZPreference/panes"],
-    ["KZPreference/calendar"],
     ["KZPreference/authentication"],
     ["KZPreference/layout"],
     ["KZPreference/contract"],

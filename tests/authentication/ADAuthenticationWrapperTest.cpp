@@ -9,8 +9,6 @@
 #include <thread>
 
 #include "KZPreference/authentication/AdalMivraLogDelegate.h"
-#include "KZPreference/authentication/OneShotCompletion.h"
-#include "KZPreference/contract/ExchangeResolveResultReceiving.h"
 #include "KZPreference/contract/PreferenceActionDelegateProtocol.h"
 #include "adal/ADAuthenticationSettings.h"
 #include "adal/ADLogger.h"
@@ -205,7 +203,7 @@ TEST_F(ADAuthenticationWrapperTest, CompletionCountsOnceAndArrivesOnTheHomesThre
   const ADAuthenticationCallback deliver = [&](const ADAuthenticationResult&) {
     deliveries.push_back(std::this_thread::get_id());
   };
-  const ADAuthenticationCallback completion = oneShotCompletion(home.get(), Q_FUNC_INFO, deliver);
+  const ADAuthenticationCallback completion = ADAuthenticationWrapper::oneShotCompletion(home.get(), Q_FUNC_INFO, deliver);
   std::thread worker([copy = completion] {
     copy({});
     copy({});
@@ -217,7 +215,7 @@ TEST_F(ADAuthenticationWrapperTest, CompletionCountsOnceAndArrivesOnTheHomesThre
   EXPECT_EQ(deliveries, std::vector{std::this_thread::get_id()});
   EXPECT_EQ(trace.lines().filter("error fBlockHit is YES").size(), 2);
 
-  oneShotCompletion(home.get(), Q_FUNC_INFO, deliver)({});
+  ADAuthenticationWrapper::oneShotCompletion(home.get(), Q_FUNC_INFO, deliver)({});
   home.reset();
   QTest::qWait(20);
   EXPECT_EQ(deliveries.size(), 1U);

@@ -19,10 +19,10 @@ class LayersTest(unittest.TestCase):
         cases = [
             ("companion/app/A.cpp", "KZPreference/core/B.h", 0),
             ("KZPreference/core/A.cpp", "KZPreference/contract/B.h", 0),
-            ("KZPreference/panes/general/A.cpp", "KZPreference/calendar/B.h", 0),
+            ("KZPreference/panes/general/A.cpp", "KZPreference/layout/B.h", 0),
             ("adal/A.cpp", "adal/B.h", 0),
             ("bench/A.cpp", "companion/runtime/B.h", 0),
-            ("KZPreference/calendar/A.cpp", "KZPreference/panes/general/B.h", 1),
+            ("KZPreference/authentication/A.cpp", "KZPreference/panes/general/B.h", 1),
             ("KZPreference/layout/A.cpp", "KZPreference/core/B.h", 1),
             ("host/A.cpp", "platform/B.h", 1),
             ("platform/A.cpp", "companion/app/B.h", 1),

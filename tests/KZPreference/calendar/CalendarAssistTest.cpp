@@ -1,8 +1,8 @@
-#include "KZPreference/calendar/CalendarIntegrationAssist.h"
+#include "KZPreference/panes/meetings/CalendarIntegrationAssist.h"
 
 #include <gtest/gtest.h>
 
-#include "KZPreference/calendar/CalendarIntegrationMessage.h"
+#include "KZPreference/panes/meetings/CalendarIntegrationMessage.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/KZPlistFileHandle.h"

@@ -1,4 +1,3 @@
-#include "KZPreference/contract/CalendarPreferenceReceiver.h"
 #include "KZPreference/core/PreferenceActionDelegate.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"

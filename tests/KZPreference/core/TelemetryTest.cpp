@@ -1,5 +1,5 @@
 #include "KZPreference/contract/PluginCommandSender.h"
-#include "KZPreference/contract/PreferenceTelemetry.h"
+#include "KZPreference/layout/PreferenceTelemetry.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "tests/KZPreference/core/RecordingHost.h"
 

@@ -6,7 +6,7 @@
 #include <QTest>
 
 #include "KZPreference/core/PreferenceActionDelegate.h"
-#include "KZPreference/layout/PrefMeetingView+Visible.h"
+#include "KZPreference/panes/meetings/PrefMeetingView+Visible.h"
 #include "KZPreference/layout/PrefsViewDefine.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUIExtension/BRNHyperlinkTextField.h"
