@@ -10,6 +10,7 @@
 #include "host/KZUtility/KZPlistFileHandle.h"
 #include "host/KZUtility/KZUtility.h"
 #include "platform/FrameLayout.h"
+#include "platform/KeyView.h"
 
 namespace {
 

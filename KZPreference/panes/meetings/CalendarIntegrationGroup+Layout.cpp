@@ -9,6 +9,7 @@
 #include "KZPreference/panes/meetings/PrefMeetingView+Visible.h"
 #include "host/KZUIExtension/FlatImageButton.h"
 #include "platform/FrameLayout.h"
+#include "platform/KeyView.h"
 #include "platform/Spinner.h"
 
 namespace {
