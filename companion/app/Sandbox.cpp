@@ -1,7 +1,6 @@
 #include "companion/app/Sandbox.h"
 
 #include <QCoreApplication>
-#include <QJsonDocument>
 #include <QStandardPaths>
 #include <chrono>
 
@@ -52,9 +51,8 @@ void Sandbox::start(const QString& path) {
 void Sandbox::readFirstLine() {
   if (!m_patience.isActive() || !m_process.canReadLine()) return;
   m_patience.stop();
-  const QJsonObject where = QJsonDocument::fromJson(m_process.readLine()).object();
-  const QJsonObject exchange = where.value(QLatin1String("exchange")).toObject();
-  if (!exchange.isEmpty()) return Q_EMIT ready(exchange, where.value(QLatin1String("site")).toObject());
+  const SandboxDescription description = SandboxDescription::fromJson(m_process.readLine());
+  if (!description.isEmpty()) return Q_EMIT ready(description);
   fail(QStringLiteral("The sandbox plays nothing: the openssl program may be missing."));
 }
 

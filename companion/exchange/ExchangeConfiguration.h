@@ -14,7 +14,7 @@
 // Where one online service answers and where its users sign in.
 struct OnlineService {
   QStringList hostSuffixes;  // a host is the service's when it is one of these or lies below one
-  QUrl autodiscover;         // asked with a token
+  QUrl autodiscover;         // requested with a token
   QString authority;
   QString resource;
   QString clientId;
@@ -30,9 +30,9 @@ struct ServiceRecord {
 };
 
 using ServicesFound = std::function<void(const QList<ServiceRecord>&)>;
-// Calls back at most once, with nothing where there is none or the lookup failed, and never after `asker` is
-// gone.
-using ServiceLookup = std::function<void(const QString& name, QObject* asker, ServicesFound found)>;
+// Calls back at most once, with nothing where there is none or the lookup failed, and never after `context`
+// is gone.
+using ServiceLookup = std::function<void(const QString& name, QObject* context, ServicesFound found)>;
 
 // How the user is asked whether an address outside the mail domain may be used. One question at a time; the
 // answer may come at any later moment, or never.
@@ -49,12 +49,16 @@ struct ExchangeLimits {
 };
 
 struct ExchangeConfiguration {
-  NetworkConfiguration network;
-  ExchangeLimits limits;
-  QList<OnlineService> onlineServices;
-  ServiceLookup services;
-  RedirectPrompt prompt;
+  NetworkConfiguration network = {};
+  ExchangeLimits limits = {};
+  QList<OnlineService> onlineServices = {};
+  ServiceLookup services = {};
+  RedirectPrompt prompt = {};
+
+  // The service that owns the host; nothing for any other host.
+  std::optional<OnlineService> onlineServiceOf(const QString& host) const;
 };
 
-// The service that owns the host; nothing for any other host.
-std::optional<OnlineService> onlineServiceOf(const QList<OnlineService>& services, const QString& host);
+// The internet: its name servers, the system's certificates, and the public online services. The two texts
+// are the registration of the application that signs in.
+ExchangeConfiguration productionExchange(const QString& clientId, const QString& redirectUri);

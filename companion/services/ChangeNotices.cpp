@@ -68,7 +68,7 @@ ChangeNotices::ChangeNotices(PluginHost* host) {
 void ChangeNotices::answer(KZCommand command, const Content& content) {
   const bool isRecord = command == KZCommand::KZCmdPreferenceChanged;
   const QString notice = isRecord ? recordNotice(content) : noticeOf(command, content);
-  if (!notice.isEmpty()) Q_EMIT noticed(notice);
+  if (!notice.isEmpty()) Q_EMIT message(notice);
 }
 
 QString ChangeNotices::recordNotice(const Content& content) {

@@ -16,7 +16,7 @@ class ChangeNotices final : public QObject {
   explicit ChangeNotices(PluginHost* host);  // not owned
 
  Q_SIGNALS:
-  void noticed(const QString& text);
+  void message(const QString& text);
 
  private:
   void answer(KZCommand command, const Content& content);

@@ -33,7 +33,7 @@ class TelemetryService final : public QObject {
 
  Q_SIGNALS:
   void changed();
-  void noticed(const QString& text);  // for the user
+  void message(const QString& text);  // for the user
 
  private:
   void keep(const Dictionary& record);
