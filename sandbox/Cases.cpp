@@ -9,7 +9,7 @@ namespace {
 constexpr Account allAccounts[] = {
     {Case::OnPremise, "onprem@corp.sandbox.example", "CORP\\onprem", "correct horse",
      "Exchange with a password. Any other password is refused, and the third one locks the account until the "
-     "sandbox starts anew"},
+     "sandbox is started again"},
     {Case::OnPremise, "locked@corp.sandbox.example", "CORP\\locked", "correct horse",
      "The account is locked from the start: no password is right"},
     {Case::Online, "online@cloud.sandbox.example", "", "", "Office 365: sign in in the browser"},
@@ -26,7 +26,7 @@ constexpr Account allAccounts[] = {
     {Case::Online, "online@endless.sandbox.example", "", "",
      "Office 365 that does not say how long the sign-in is good"},
     {Case::OtherEmail, "moved@moved.sandbox.example", "CORP\\onprem", "correct horse",
-     "Leads to onprem@corp.sandbox.example"},
+     "Redirects to onprem@corp.sandbox.example"},
     {Case::PlainRedirect, "hosted@hosted.sandbox.example", "CORP\\onprem", "correct horse",
      "An unencrypted address leads to the server: you are asked first"},
     {Case::ServiceRecord, "named@named.sandbox.example", "CORP\\onprem", "correct horse",

@@ -31,5 +31,5 @@ class Sandbox final : public QObject {
   void fail(const QString& reason);
 
   QProcess m_process;
-  QTimer m_patience;
+  QTimer m_startLimit;
 };

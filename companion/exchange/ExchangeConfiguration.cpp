@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "companion/exchange/ServiceRecords.h"
 #include "companion/network/WebAddress.h"
 
 std::optional<OnlineService> ExchangeConfiguration::onlineServiceOf(const QString& host) const {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QList>
-#include <QObject>
 #include <QString>
 #include <QStringList>
 #include <QUrl>
@@ -9,6 +8,7 @@
 #include <functional>
 #include <optional>
 
+#include "companion/exchange/ServiceRecords.h"
 #include "companion/network/NetworkConfiguration.h"
 
 // Where one online service answers and where its users sign in.
@@ -20,19 +20,6 @@ struct OnlineService {
   QString clientId;
   QString redirectUri;
 };
-
-// A service record of the domain name system.
-struct ServiceRecord {
-  QString target;
-  quint16 port = 0;
-  quint16 priority = 0;
-  quint16 weight = 0;
-};
-
-using ServicesFound = std::function<void(const QList<ServiceRecord>&)>;
-// Calls back at most once, with nothing where there is none or the lookup failed, and never after `context`
-// is gone.
-using ServiceLookup = std::function<void(const QString& name, QObject* context, ServicesFound found)>;
 
 // How the user is asked whether an address outside the mail domain may be used. One question at a time; the
 // answer may come at any later moment, or never.

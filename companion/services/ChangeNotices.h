@@ -4,11 +4,10 @@
 #include <optional>
 
 #include "host/KZFoundation/Dictionary.h"
-#include "host/KZFoundation/KZCommands.h"
 
 class PluginHost;
 
-// Says to the user what a change in Preferences means here. Main thread only.
+// Explains to the user what a change in Preferences means here. Main thread only.
 class ChangeNotices final : public QObject {
   Q_OBJECT
 
@@ -19,8 +18,7 @@ class ChangeNotices final : public QObject {
   void message(const QString& text);
 
  private:
-  void answer(KZCommand command, const Content& content);
   QString recordNotice(const Content& content);
 
-  std::optional<QString> m_room;  // the last one heard of
+  std::optional<QString> m_room;  // of the last record
 };

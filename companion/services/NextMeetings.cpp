@@ -64,7 +64,7 @@ void NextMeetings::request() {
   m_exchange.reset();
   m_account = readMeetingAccount();
   if (!m_account.missing.isEmpty()) return show({}, m_account.missing);
-  // Before a token is asked for, and an online service with it.
+  // The request of a token would already reach an online service.
   const QString refusal = m_network->refusalOf(meetingAddress(m_account.exchange));
   if (!refusal.isEmpty()) return show({}, refusal);
   m_isAsking = true;
@@ -72,7 +72,7 @@ void NextMeetings::request() {
   m_account.isOnline ? m_token.ask(m_account.exchange) : list({});
 }
 
-// A token goes to the account that it was asked for, whatever the store says meanwhile.
+// The token goes to the account that it was requested for, even if the store has changed since.
 void NextMeetings::list(const QString& token) {
   m_exchange = std::make_unique<ExchangeMeetings>(m_network->exchange());
   connect(m_exchange.get(), &ExchangeMeetings::listed, this, [this](const QList<ExchangeMeeting>& meetings) {
