@@ -5,14 +5,14 @@
 #include <functional>
 #include <optional>
 
+#include "adal/ADAddress.h"
 #include "adal/ADError.h"
-#include "adal/ADParameters.h"
-#include "adal/ADPromptBehavior.h"
+#include "adal/ADRequest.h"
 
 class ADWebClient;
 struct ADWebAnswer;
 
-// How one generation of authorities is told what a token is for.
+// How one generation of authorities expects to be asked.
 struct ADProtocolGeneration {
   const char* resourceParameter;  // the parameter that names the resource
   const char* scopes;             // always asked for, as far as the authority knows them

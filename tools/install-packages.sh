@@ -7,7 +7,7 @@ packages=(
   g++ cmake ninja-build make pkg-config ccache
   # libraries
   qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev
-  libplist-dev libsecret-1-dev libgtest-dev libbenchmark-dev
+  libsecret-1-dev libgtest-dev libbenchmark-dev
   # pictures and fonts (the second has the Japanese and Chinese letters)
   librsvg2-bin fonts-inter fonts-noto-cjk fontconfig
   # a keychain for the tests, on a bus of its own

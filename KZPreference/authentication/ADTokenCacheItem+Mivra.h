@@ -1,11 +1,10 @@
 #pragma once
 
-#include "adal/ADAuthenticationSettings.h"
 #include "adal/ADTokenCacheItem.h"
 
 // Whether the access token is expired or will be within ten minutes. At exactly ten minutes it is still good.
 inline bool isExpiredWithPrejudge(const ADTokenCacheItem& item) {
   constexpr int marginSeconds = 600;
   return item.isExpired() ||
-         item.expiresOn.addSecs(-marginSeconds) < ADAuthenticationSettings::sharedInstance().now();
+         item.expiresOn.addSecs(-marginSeconds) < adNow();
 }

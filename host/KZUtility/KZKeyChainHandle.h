@@ -26,7 +26,7 @@ class KZ_HOST_EXPORT KZKeyChainHandle : public QObject {
   void useStorage(Storage storage);
   void useBackend(std::shared_ptr<KZKeychainBackend> backend);  // another keychain than these two
   // Whether the keychain that was chosen last has failed, so that what is committed lasts for this run only.
-  bool isLost() const;
+  bool hasFailed() const;
 
   // The saved on-premise credential; each text is null when absent. Committing two missing texts removes it.
   void getOutlookUsername(QString* username, QString* password);
@@ -42,8 +42,8 @@ class KZ_HOST_EXPORT KZKeyChainHandle : public QObject {
   [[nodiscard]] KZKeychainBackend::Status deleteGenericPassword(const KZKeychainBackend::Item& item);
 
  Q_SIGNALS:
-  // Once for each keychain that fails, on the thread of the call that it failed.
-  void lost();
+  // Once for each keychain that fails, on the thread of the call that failed.
+  void failed();
   // After an item was written or removed, in the keychain or in memory; on the thread of the call.
   void itemWritten(const QString& account);
   void itemRemoved(const QString& account);

@@ -19,9 +19,12 @@ class KZ_HOST_EXPORT KZPlistFileHandle : public QObject {
  public:
   static KZPlistFileHandle& sharedInstance();
 
-  // Reads the store in that folder, which is made when missing. Before the first call the store is in memory
-  // only.
-  void open(const QString& folder);
+  // Locks that folder, which is made when missing, and reads the store in it; a folder that was open before
+  // is left as by `close`. False when another process has locked the folder: nothing is read or written
+  // there, and the store is in memory only, as before the first call. A folder that cannot be made or locked
+  // for another reason is used without a lock. The lock ends with `close` or with the process, however that
+  // ends.
+  [[nodiscard]] bool open(const QString& folder);
   // Forgets everything and is in memory only again; the file stays.
   void close();
   QString filePath() const;  // null while in memory only
@@ -72,10 +75,10 @@ class KZ_HOST_EXPORT KZPlistFileHandle : public QObject {
   KZPlistFileHandle();
   ~KZPlistFileHandle() override;
 
-  void noteProblem();
+  void reportProblem();
 
   Dictionary m_values;
   std::unique_ptr<PropertyListFile> m_file;
-  KZSaveProblem m_problem = KZSaveProblem::None;  // as last told
+  KZSaveProblem m_problem = KZSaveProblem::None;  // as last emitted
   QString m_setAsidePath;
 };

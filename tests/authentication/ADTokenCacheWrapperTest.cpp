@@ -37,11 +37,11 @@ ADTokenCacheItem refreshFor(const QString& user, const QString& token) {
 class ADTokenCacheWrapperTest : public testing::Test {
  protected:
   ADTokenCacheWrapperTest() {
-    ADAuthenticationSettings::sharedInstance().setClock([] { return lookUpTime; });
+    setADClock([] { return lookUpTime; });
     ADAuthenticationSettings::sharedInstance().setDefaultStorageDelegate(nullptr);
   }
   ~ADTokenCacheWrapperTest() override {
-    ADAuthenticationSettings::sharedInstance().setClock({});
+    setADClock(nullptr);
     store({});
   }
 

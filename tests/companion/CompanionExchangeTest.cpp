@@ -180,7 +180,7 @@ TEST_F(CompanionExchangeTest, ASandboxThatDiesEndsTheSearch) {
 TEST_F(CompanionExchangeTest, TheMeetingsPaneFindsAnAccount) {
   const QTemporaryDir folder;
   KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
-  store.open(folder.path());
+  ASSERT_TRUE(store.open(folder.path()));
   KZKeyChainHandle::sharedInstance().useStorage(KZKeyChainHandle::Storage::Memory);
   ASSERT_TRUE(host.load(PREFERENCES));
   ASSERT_NO_FATAL_FAILURE(startSandbox());

@@ -34,7 +34,7 @@ class MeetingListTest : public testing::Test {
  protected:
   void SetUp() override {
     if (QStandardPaths::findExecutable("openssl").isEmpty()) GTEST_SKIP() << "openssl is missing";
-    KZPlistFileHandle::sharedInstance().open(folder.path());
+    ASSERT_TRUE(KZPlistFileHandle::sharedInstance().open(folder.path()));
     KZKeyChainHandle::sharedInstance().useStorage(KZKeyChainHandle::Storage::Memory);
     ASSERT_TRUE(host.load(PREFERENCES));
     QObject::connect(&services, &CompanionServices::message, &services,

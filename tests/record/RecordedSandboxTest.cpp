@@ -37,7 +37,7 @@ class RecordedSandbox : public testing::Test {
  protected:
   void SetUp() override {
     if (QStandardPaths::findExecutable("openssl").isEmpty()) GTEST_SKIP() << "openssl is missing";
-    KZPlistFileHandle::sharedInstance().open(m_folder.filePath("state"));
+    ASSERT_TRUE(KZPlistFileHandle::sharedInstance().open(m_folder.filePath("state")));
     KZKeyChainHandle::sharedInstance().useStorage(KZKeyChainHandle::Storage::Memory);
     QObject::connect(&m_sandbox, &Sandbox::ready, &m_network, &ServiceNetwork::useSandbox);
     QSignalSpy ready(&m_sandbox, &Sandbox::ready);
