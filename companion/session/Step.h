@@ -10,7 +10,7 @@
 #include "host/KZFoundation/Dictionary.h"
 
 // What comes of a step: the line that is printed for it (empty: none), or the reason why it cannot be played.
-// What a user could not do either is no failure: it prints a refusal.
+// A control that a user could not use is no failure: a refusal is printed.
 struct [[nodiscard]] StepResult {
   Line line = {};
   QString failure = {};
