@@ -5,7 +5,6 @@
 #include <memory>
 
 #include "companion/runtime/PluginHost.h"
-#include "companion/runtime/PluginLocation.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 #include "host/KZUtility/KZTrace.h"
 

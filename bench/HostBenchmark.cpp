@@ -17,7 +17,8 @@ constexpr int kWriteRounds = 200;
 // Ignored in this direction.
 void commandWithoutEffect(benchmark::State& state) {
   constexpr quint64 kUnused = 5;
-  for ([[maybe_unused]] auto round : state) benchhost::host().triggerCommand(kUnused, {});
+  for ([[maybe_unused]] auto round : state)
+    benchhost::host().core().onHandleOtherPluginsTriggerCommand(kUnused, {});
   state.SetItemsProcessed(state.iterations());
 }
 BENCHMARK(commandWithoutEffect);
@@ -25,7 +26,8 @@ BENCHMARK(commandWithoutEffect);
 // With its answer and its telemetry on the way back.
 void commandWithAnswer(benchmark::State& state) {
   const auto joinByNumber = static_cast<quint64>(KZCommand::KZCmdJoinByNumber);
-  for ([[maybe_unused]] auto round : state) benchhost::host().triggerCommand(joinByNumber, Dictionary());
+  for ([[maybe_unused]] auto round : state)
+    benchhost::host().core().onHandleOtherPluginsTriggerCommand(joinByNumber, Dictionary());
   state.SetItemsProcessed(state.iterations());
 }
 BENCHMARK(commandWithAnswer);

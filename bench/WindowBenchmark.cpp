@@ -22,7 +22,7 @@ constexpr int kOpenRounds = 40;
 constexpr int kSwitchRounds = 100;
 
 void trigger(KZCommand command) {
-  benchhost::host().triggerCommand(static_cast<quint64>(command), {});
+  benchhost::host().trigger(command, {});
 }
 
 Window* openPreferences() {

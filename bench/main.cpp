@@ -3,14 +3,13 @@
 #include <QApplication>
 
 #include "bench/BenchHost.h"
-#include "companion/runtime/QtMessages.h"
+#include "companion/runtime/Application.h"
 
 int main(int argc, char** argv) {
   const bool hasDisplay =
       !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
   if (!hasDisplay && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  installQtMessageFilter();
-  QApplication application(argc, argv);
+  Application application(argv);
   QApplication::setStyle(QStringLiteral("fusion"));
   QApplication::setQuitOnLastWindowClosed(false);
   benchmark::Initialize(&argc, argv);

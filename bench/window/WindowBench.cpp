@@ -35,7 +35,7 @@ std::optional<FrameWatch::Clock::time_point> WindowBench::open(const QString& pl
     m_errorText = m_host.errorText();
     return {};
   }
-  m_host.triggerCommand(static_cast<quint64>(KZCommand::KZCmdShowPreference), {});
+  m_host.trigger(KZCommand::KZCmdShowPreference, {});
   m_window = findPreferencesWindow();
   if (!m_window) {
     m_errorText = QStringLiteral("the plug-in shows no window");

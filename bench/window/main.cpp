@@ -6,9 +6,8 @@
 
 #include "bench/window/MemoryUse.h"
 #include "bench/window/WindowBench.h"
-#include "companion/runtime/CommandLine.h"
-#include "companion/runtime/PluginLocation.h"
-#include "companion/runtime/QtMessages.h"
+#include "companion/runtime/Application.h"
+#include "companion/runtime/PluginHost.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 #include "host/KZUtility/KZTrace.h"
 
@@ -72,9 +71,7 @@ int main(int argc, char** argv) {
       qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
   }
-  installQtMessageFilter();
-  int onlyName = 1;
-  QApplication application(onlyName, argv);
+  Application application(argv);
   QApplication::setQuitOnLastWindowClosed(false);
   const auto toolkitReady = FrameWatch::Clock::now();
 
@@ -94,7 +91,7 @@ int main(int argc, char** argv) {
   parser.addOptions({{"window", "Measure the window."},
                      {"fade", "With the cross-fade."},
                      {"plugin", "The plug-in to load.", "FILE", defaultPluginPath()}});
-  parser.process(argumentsOf(argc, argv));
+  parser.process(Application::commandLine(argc, argv));
   if (!parser.isSet("window")) {
     std::fprintf(stderr, "prefs-bench: say --window\n");
     return kUnusable;

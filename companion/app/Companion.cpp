@@ -63,13 +63,13 @@ CompanionServices::Settings serviceSettings(const CompanionOptions& options,
 }  // namespace
 
 Companion::Companion(const CompanionOptions& options)
-    : m_border([](const QUrl& url) { return QDesktopServices::openUrl(url); }),
-      m_logging(m_border.addObserver(
-          [this](const Crossing& crossing) { m_log.record(InspectorEvent::of(crossing)); })),
-      m_recording(&m_border),
-      m_window(&m_border),
+    : m_host([](const QUrl& url) { return QDesktopServices::openUrl(url); }),
+      m_logging(m_host.addObserver([this](const PluginEvent& event, PluginHost::Phase phase) {
+        if (phase == PluginHost::Phase::Begin) m_log.record(event);
+      })),
+      m_recording(&m_host),
+      m_window(&m_host),
       m_options(options) {
-  connectStores();
   m_window.showNotice(introduction(options.reach));
   connectSandbox();
   connectRecording();
@@ -78,7 +78,7 @@ Companion::Companion(const CompanionOptions& options)
 Companion::~Companion() {
   m_recording.stop();
   // What the plug-in's end still tells must find its observers.
-  m_border.shutDown();
+  m_host.shutDown();
 }
 
 void Companion::createPages() {
@@ -107,21 +107,6 @@ void Companion::offer(const Offered& offered) {
   if (!m_tryOut) return;
   m_tryOut->setAccounts(offered.accounts);
   m_tryOut->setSites(offered.sites);
-}
-
-void Companion::connectStores() {
-  connect(&KZPlistFileHandle::sharedInstance(), &KZPlistFileHandle::valueChanged, &m_log,
-          [this](const QString& key, const QVariant& before, const QVariant& after) {
-            m_log.record(InspectorEvent::ofStoreWrite(key, before, after));
-          });
-  const KZKeyChainHandle& keychain = KZKeyChainHandle::sharedInstance();
-  using Change = InspectorEvent::KeychainChange;
-  connect(&keychain, &KZKeyChainHandle::itemWritten, &m_log, [this](const QString& account) {
-    m_log.record(InspectorEvent::ofKeychain(account, Change::Written));
-  });
-  connect(&keychain, &KZKeyChainHandle::itemRemoved, &m_log, [this](const QString& account) {
-    m_log.record(InspectorEvent::ofKeychain(account, Change::Removed));
-  });
 }
 
 void Companion::connectSandbox() {
@@ -175,13 +160,13 @@ void Companion::showWindow() {
 bool Companion::loadPlugin(const QString& path) {
   createServices();
   createPages();
-  return m_border.loadPlugin(path);
+  return m_host.load(path);
 }
 
 void Companion::createServices() {
   const ExchangeConfiguration configuration = standardExchangeConfiguration(m_options.clientId, kSignedInUri);
-  m_exchange = std::make_unique<CompanionExchange>(&m_border, m_options.reach, configuration);
-  m_services = std::make_unique<CompanionServices>(&m_border, serviceSettings(m_options, configuration));
+  m_exchange = std::make_unique<CompanionExchange>(&m_host, m_options.reach, configuration);
+  m_services = std::make_unique<CompanionServices>(&m_host, serviceSettings(m_options, configuration));
   connect(m_exchange.get(), &CompanionExchange::noticed, &m_window, &CompanionWindow::showNotice);
   connect(m_services.get(), &CompanionServices::noticed, &m_window, &CompanionWindow::showNotice);
   m_window.useServices(m_services.get());

@@ -10,7 +10,7 @@
 #include "companion/app/Sandbox.h"
 #include "companion/app/TryOutView.h"
 #include "companion/inspector/InspectorLog.h"
-#include "companion/runtime/Border.h"
+#include "companion/runtime/PluginHost.h"
 #include "companion/services/CompanionServices.h"
 
 // Everything that the companion is made of, put together. Open the settings store and choose the keychain
@@ -28,7 +28,7 @@ class Companion final : public QObject {
 
   // False when the plug-in cannot be loaded; the reason is in `errorText`.
   [[nodiscard]] bool loadPlugin(const QString& path);
-  const QString& errorText() const { return m_border.errorText(); }
+  const QString& errorText() const { return m_host.errorText(); }
 
   // Records from now on; call it before loading, so that the record is whole. False when the file cannot be
   // made.
@@ -54,15 +54,14 @@ class Companion final : public QObject {
   QWidget* createTryOut();
   QWidget* createInspector();
   void offer(const Offered& offered);
-  void connectStores();
   void connectSandbox();
   void connectRecording();
   void toggleRecording();
   void recordAnew(const QString& path);
 
-  Border m_border;
+  PluginHost m_host;
   InspectorLog m_log;
-  Border::Token m_logging;
+  PluginHost::Token m_logging;
   Recording m_recording;
   std::unique_ptr<CompanionServices> m_services;  // the pages use them to their end
   CompanionWindow m_window;

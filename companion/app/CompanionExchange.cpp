@@ -4,17 +4,25 @@
 
 #include "companion/exchange/EmailDomain.h"
 #include "companion/exchange/SandboxExchange.h"
-#include "companion/runtime/Border.h"
+#include "companion/runtime/PluginHost.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZConstants.h"
 
-CompanionExchange::CompanionExchange(Border* border, Reach reach, ExchangeConfiguration network)
-    : m_border(border),
+CompanionExchange::CompanionExchange(PluginHost* host, Reach reach, ExchangeConfiguration network)
+    : m_host(host),
       m_reach(reach),
       m_network(std::move(network)),
       m_missing(QStringLiteral("The sandbox is still starting. Try again in a moment.")) {
   renewDiscovery({});
-  connect(border, &Border::commandSent, this, &CompanionExchange::answer);
+  host->handle(KZCommand::KZCmdApplyOutlookAccount, this,
+               [this](const Content& content) { search(content.value_or(Dictionary())); });
+  host->handle(KZCommand::KZCmdCancelApplyOutlookAccount, this,
+               [this](const Content&) { m_discovery->cancel(); });
+  host->handle(KZCommand::KZCmdSinkOutlookAccountCredential, this, [this](const Content& content) {
+    m_discovery->sinkCredential(content.value_or(Dictionary()));
+  });
+  host->handle(KZCommand::KZCmdExchDiscoverAuthFailure, this,
+               [this](const Content&) { m_discovery->notifyAuthFailure(); });
 }
 
 CompanionExchange::~CompanionExchange() = default;
@@ -37,27 +45,10 @@ void CompanionExchange::renewDiscovery(const QString& reason) {
   configuration.prompt = m_question.prompt();
   m_discovery = std::make_unique<ExchangeDiscovery>(std::move(configuration));
   connect(m_discovery.get(), &ExchangeDiscovery::notified, this,
-          [this](KZNotify index, const Dictionary& content) {
-            m_border->notify(static_cast<quint32>(index), content);
-          });
+          [this](KZNotify index, const Dictionary& content) { m_host->notify(index, content); });
   connect(m_discovery.get(), &ExchangeDiscovery::noticed, this,
           [this](const QString& text) { Q_EMIT noticed(text + u'.'); });
   if (isSearching) reportFailure(reason);
-}
-
-void CompanionExchange::answer(quint64 command, const Content& content) {
-  switch (static_cast<KZCommand>(command)) {
-    case KZCommand::KZCmdApplyOutlookAccount:
-      return search(content.value_or(Dictionary()));
-    case KZCommand::KZCmdCancelApplyOutlookAccount:
-      return m_discovery->cancel();
-    case KZCommand::KZCmdSinkOutlookAccountCredential:
-      return m_discovery->sinkCredential(content.value_or(Dictionary()));
-    case KZCommand::KZCmdExchDiscoverAuthFailure:
-      return m_discovery->notifyAuthFailure();
-    default:
-      return;
-  }
 }
 
 void CompanionExchange::search(const Dictionary& content) {
@@ -80,7 +71,7 @@ QString CompanionExchange::refusalOf(const Dictionary& content) const {
 }
 
 void CompanionExchange::reportFailure(const QString& message) {
-  m_border->notify(
-      static_cast<quint32>(KZNotify::KZNotifyResolveExchangeDone),
+  m_host->notify(
+      KZNotify::KZNotifyResolveExchangeDone,
       Dictionary{{kKZResult, kKZFail}, {kKZErrorHandleData, Dictionary{{kKZErrorMessage, message}}}});
 }

@@ -8,7 +8,7 @@
 #include "companion/app/RedirectQuestion.h"
 #include "companion/exchange/ExchangeDiscovery.h"
 
-class Border;
+class PluginHost;
 
 // Finds Exchange services for the plug-in: hears its commands and answers them. Main thread only.
 class CompanionExchange final : public QObject {
@@ -18,8 +18,8 @@ class CompanionExchange final : public QObject {
   using Reach = NetworkReach;
 
   // `network` is how to look in the network; with Reach::Sandbox nobody outside the sandbox is asked.
-  // The border is not owned and must outlive this.
-  CompanionExchange(Border* border, Reach reach, ExchangeConfiguration network);
+  // The host is not owned and must outlive this.
+  CompanionExchange(PluginHost* host, Reach reach, ExchangeConfiguration network);
   ~CompanionExchange() override;
 
   // A search that runs when the sandbox comes or goes fails.
@@ -30,13 +30,12 @@ class CompanionExchange final : public QObject {
   void noticed(const QString& text);  // for the user
 
  private:
-  void answer(quint64 command, const Content& content);
   void search(const Dictionary& content);
   QString refusalOf(const Dictionary& content) const;
   void reportFailure(const QString& message);
   void renewDiscovery(const QString& reason);
 
-  Border* m_border;
+  PluginHost* m_host;
   const Reach m_reach;
   const ExchangeConfiguration m_network;
   RedirectQuestion m_question;

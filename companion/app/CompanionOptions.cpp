@@ -3,7 +3,7 @@
 #include <QCommandLineParser>
 #include <QGuiApplication>
 
-#include "companion/runtime/PluginLocation.h"
+#include "companion/runtime/PluginHost.h"
 
 CompanionOptions CompanionOptions::read(const QStringList& arguments) {
   QCommandLineParser parser;

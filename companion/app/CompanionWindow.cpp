@@ -12,7 +12,7 @@
 #include "companion/app/FaultNotice.h"
 #include "companion/app/SiteDialog.h"
 #include "companion/app/UpdateBar.h"
-#include "companion/runtime/Border.h"
+#include "companion/runtime/PluginHost.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZConstants.h"
@@ -21,17 +21,13 @@
 
 namespace {
 
-constexpr quint64 number(KZCommand command) {
-  return static_cast<quint64>(command);
-}
-
 Dictionary fromApplication() {
   return {{TelemetryKey_ActionFrom, TelemetryValue_ActionFrom_APP}};
 }
 
 }  // namespace
 
-CompanionWindow::CompanionWindow(Border* border) : m_border(border) {
+CompanionWindow::CompanionWindow(PluginHost* host) : m_host(host) {
   setWindowTitle(QStringLiteral("Brenn Mivra Meetings – Companion"));
   resize(900, 560);
   auto* column = new QVBoxLayout(this);
@@ -150,14 +146,14 @@ void CompanionWindow::become(demouser::Variant variant) {
   showIdentity();
   if (isGuest) {
     m_services->site().signOut();
-    return m_border->triggerCommand(number(KZCommand::KZCmdInitGuestPreference));
+    return m_host->trigger(KZCommand::KZCmdInitGuestPreference);
   }
-  m_border->triggerCommand(number(KZCommand::KZCmdDestroyPreference));
+  m_host->trigger(KZCommand::KZCmdDestroyPreference);
   m_services->site().signIn();
 }
 
 void CompanionWindow::showPreferences() {
-  m_border->triggerCommand(number(KZCommand::KZCmdShowPreference), fromApplication());
+  m_host->trigger(KZCommand::KZCmdShowPreference, fromApplication());
 }
 
 void CompanionWindow::startOver() {
@@ -177,8 +173,7 @@ void CompanionWindow::comeToFront() {
 }
 
 void CompanionWindow::showAccount() {
-  m_border->triggerCommand(number(KZCommand::KZCmdShowPreference),
-                           Dictionary{{kOpenPrefsViewType, kPrefsAccountView}});
+  m_host->trigger(KZCommand::KZCmdShowPreference, Dictionary{{kOpenPrefsViewType, kPrefsAccountView}});
 }
 
 void CompanionWindow::checkForUpdates() {
@@ -186,13 +181,13 @@ void CompanionWindow::checkForUpdates() {
 }
 
 void CompanionWindow::joinByNumber() {
-  m_border->triggerCommand(number(KZCommand::KZCmdJoinByNumber), fromApplication());
+  m_host->trigger(KZCommand::KZCmdJoinByNumber, fromApplication());
 }
 
 void CompanionWindow::closePreferences() {
-  m_border->triggerCommand(number(KZCommand::KZCmdDestroyPreference));
+  m_host->trigger(KZCommand::KZCmdDestroyPreference);
   // The plug-in has forgotten that the user is a guest.
-  if (m_guest->isChecked()) m_border->triggerCommand(number(KZCommand::KZCmdInitGuestPreference));
+  if (m_guest->isChecked()) m_host->trigger(KZCommand::KZCmdInitGuestPreference);
 }
 
 SiteDialog* CompanionWindow::openSiteDialog() {

@@ -6,7 +6,7 @@
 #include "companion/app/DemoUser.h"
 #include "companion/services/CompanionServices.h"
 
-class Border;
+class PluginHost;
 class QLabel;
 class QStackedWidget;
 class QTabBar;
@@ -15,12 +15,12 @@ class QRadioButton;
 class SiteDialog;
 class UpdateBar;
 
-// The companion's own window: who is there, what a host can ask of its plug-in, and what crosses the border.
+// The companion's own window: who is there, what a host can ask of its plug-in, and what crosses the host.
 class CompanionWindow final : public QWidget {
   Q_OBJECT
 
  public:
-  explicit CompanionWindow(Border* border);  // not owned; must outlive the window
+  explicit CompanionWindow(PluginHost* host);  // not owned; must outlive the window
 
   // Before anything is done in the window; once. Not owned; must outlive the window.
   void useServices(CompanionServices* services);
@@ -59,7 +59,7 @@ class CompanionWindow final : public QWidget {
   SiteDialog* openSiteDialog();
   void showIdentity();
 
-  Border* m_border;
+  PluginHost* m_host;
   CompanionServices* m_services = nullptr;
   QRadioButton* m_signedIn = nullptr;
   QRadioButton* m_guest = nullptr;

@@ -28,7 +28,7 @@ bool Recording::start(const QString& path) {
   }
   m_file = std::move(file);
   m_recorder = std::make_unique<Recorder>(
-      m_border, [this](const QByteArray& line) { return take(line); },
+      m_host, [this](const QByteArray& line) { return take(line); },
       Recorder::Options{
           .clock = timeSinceStart, .slack = kPauseSlack, .keychain = HostStateWatch::Keychain::ReadOnce});
   Q_EMIT changed(true);

@@ -7,12 +7,12 @@
 #include "companion/record/RecordFile.h"
 #include "companion/record/Recorder.h"
 
-// The record that the companion makes of what happens at its border. Main thread only.
+// The record that the companion makes of what happens at its host. Main thread only.
 class Recording final : public QObject {
   Q_OBJECT
 
  public:
-  explicit Recording(Border* border) : m_border(border) {}  // not owned, must outlive this
+  explicit Recording(PluginHost* host) : m_host(host) {}  // not owned, must outlive this
 
   bool isRunning() const { return m_recorder != nullptr; }
   // False when the file cannot be made; the user is told why. What was being recorded before ends.
@@ -29,7 +29,7 @@ class Recording final : public QObject {
   [[nodiscard]] bool finish();  // recorder and file
   QString unfinishedText() const;
 
-  Border* m_border;
+  PluginHost* m_host;
   std::unique_ptr<RecordFile> m_file;
   std::unique_ptr<Recorder> m_recorder;
 };

@@ -8,8 +8,6 @@
 #include "companion/app/Companion.h"
 #include "companion/app/DemoTour.h"
 #include "companion/runtime/Application.h"
-#include "companion/runtime/CommandLine.h"
-#include "companion/runtime/QtMessages.h"
 #include "companion/runtime/SingleInstance.h"
 #include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
@@ -108,13 +106,11 @@ int runCompanion(CompanionOptions options) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  const QStringList arguments = argumentsOf(argc, argv);
+  const QStringList arguments = Application::commandLine(argc, argv);
   const bool isOffscreen = qgetenv("QT_QPA_PLATFORM").startsWith("offscreen");
   if (arguments.contains("--demo") && !isOffscreen) qputenv("QT_QPA_PLATFORM", "offscreen");
   choosePlatform();
-  installQtMessageFilter();
-  int onlyName = 1;
-  Application application(onlyName, argv);
+  Application application(argv);
   QApplication::setApplicationName("companion");
   QApplication::setApplicationVersion(KZ_VERSION);
   QGuiApplication::setDesktopFileName("brenn-mivra-companion");

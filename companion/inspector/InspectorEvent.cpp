@@ -6,8 +6,8 @@
 #include <QUrl>
 #include <algorithm>
 
+#include "companion/format/ValueCodec.h"
 #include "companion/inspector/ValueDifference.h"
-#include "companion/session/ValueCodec.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZFoundation/KZCommands.h"
 
@@ -36,67 +36,93 @@ QString jsonText(const Content& content) {
   return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
 }
 
-QString notificationName(quint64 index) {
+QString notificationName(KZNotify index) {
   const auto table = kzNotifyTable();
-  const auto row = std::ranges::find(table, static_cast<KZNotify>(index), &KZNotifyRow::index);
+  const auto row = std::ranges::find(table, index, &KZNotifyRow::index);
   return row == table.end() ? QString() : QString::fromLatin1(row->name);
 }
 
-bool isTelemetry(const Crossing& crossing) {
-  return crossing.kind == Crossing::Kind::CommandToHost &&
-         crossing.number == static_cast<quint64>(KZCommand::KZCmdWriteTelemetry);
+InspectorEvent numberedEvent(Kind kind, quint64 number, const QString& name, const Content& content) {
+  return {.kind = kind, .number = number, .name = name, .content = jsonText(content)};
 }
 
-InspectorEvent telemetryEvent(const Crossing& crossing) {
-  const Dictionary record = crossing.content.value_or(Dictionary());
-  const Dictionary values = dictionaryValue(record, TelemetryKey_Values);
+InspectorEvent commandEvent(Kind kind, KZCommand command, const Content& content) {
+  const auto number = static_cast<quint64>(command);
+  return numberedEvent(kind, number, QString::fromLatin1(kzCommandName(number)), content);
+}
+
+InspectorEvent telemetryEvent(const Content& content) {
+  const Dictionary values = dictionaryValue(content.value_or(Dictionary()), TelemetryKey_Values);
   const QString feature = textValue(values, TelemetryKey_FeatureName);
-  return {.kind = Kind::Telemetry,
-          .number = crossing.number,
-          .name = feature.isEmpty() ? QStringLiteral("KZCmdWriteTelemetry") : feature,
-          .content = jsonText(values.isEmpty() ? crossing.content : Content(values))};
+  return numberedEvent(Kind::Telemetry, static_cast<quint64>(KZCommand::KZCmdWriteTelemetry),
+                       feature.isEmpty() ? QStringLiteral("KZCmdWriteTelemetry") : feature,
+                       values.isEmpty() ? content : Content(values));
 }
 
-InspectorEvent commandEvent(Kind kind, const Crossing& crossing) {
-  return {.kind = kind,
-          .number = crossing.number,
-          .name = QString::fromLatin1(kzCommandName(crossing.number)),
-          .content = jsonText(crossing.content)};
+InspectorEvent roomEvent(const PersonalRoomChange& room) {
+  Dictionary given;
+  if (!room.joinUrl.isNull()) given.insert(QStringLiteral("join"), room.joinUrl);
+  if (!room.sipUrl.isNull()) given.insert(QStringLiteral("sip"), room.sipUrl);
+  return numberedEvent(Kind::PersonalRoom, 0, QStringLiteral("setPMRJoinUrl:sipUrl:"), given);
 }
 
-InspectorEvent textOf(const Crossing& crossing) {
-  switch (crossing.kind) {
-    case Crossing::Kind::CommandToPlugin:
-      return commandEvent(Kind::CommandToPlugin, crossing);
-    case Crossing::Kind::CommandToHost:
-      return isTelemetry(crossing) ? telemetryEvent(crossing) : commandEvent(Kind::CommandToHost, crossing);
-    case Crossing::Kind::Notification:
-      return {.kind = Kind::Notification,
-              .number = crossing.number,
-              .name = notificationName(crossing.number),
-              .content = jsonText(crossing.content)};
-    case Crossing::Kind::PersonalRoom:
-      return {.kind = Kind::PersonalRoom,
-              .name = QStringLiteral("setPMRJoinUrl:sipUrl:"),
-              .content = jsonText(crossing.content)};
-    case Crossing::Kind::Challenge:
-      return {.kind = Kind::Challenge, .name = crossing.name, .content = jsonText(crossing.content)};
-    case Crossing::Kind::Answer:
-      return {.kind = Kind::Answer, .name = crossing.name, .content = jsonText(crossing.content)};
-    case Crossing::Kind::Address: {
-      // What follows the place may carry a sign-in's state; the place suffices.
-      constexpr auto parts = QUrl::RemoveQuery | QUrl::RemoveFragment | QUrl::RemoveUserInfo;
-      return {.kind = Kind::Address,
-              .name = QStringLiteral("openURL"),
-              .content = QUrl(crossing.text).toDisplayString(parts)};
-    }
-    case Crossing::Kind::Warning:
-      return {.kind = Kind::Warning, .name = maskedText(crossing.name), .content = maskedText(crossing.text)};
-    case Crossing::Kind::Trace:
-      break;
-  }
-  // Whoever traced has masked it.
-  return {.kind = Kind::Trace, .level = crossing.level, .name = crossing.name, .content = crossing.text};
+InspectorEvent addressEvent(const AddressRequest& request) {
+  // What follows the place may carry a sign-in's state; the place suffices.
+  constexpr auto parts = QUrl::RemoveQuery | QUrl::RemoveFragment | QUrl::RemoveUserInfo;
+  return {.kind = Kind::Address,
+          .name = QStringLiteral("openURL"),
+          .content = QUrl(request.address).toDisplayString(parts)};
+}
+
+InspectorEvent keychainEvent(const KeychainChange& change) {
+  const bool isWritten = change.kind == KeychainChange::Kind::Written;
+  return {.kind = Kind::Keychain,
+          .name = change.account,
+          .content = isWritten ? QStringLiteral("written") : QStringLiteral("removed")};
+}
+
+InspectorEvent textOf(const PluginEvent& event) {
+  return std::visit(
+      Overloaded{
+          [](const PluginLoad& load) -> InspectorEvent {
+            return {.kind = Kind::Trace, .name = QStringLiteral("load"), .content = load.path};
+          },
+          [](const CommandToPlugin& triggered) {
+            return commandEvent(Kind::CommandToPlugin, triggered.command, triggered.content);
+          },
+          [](const CommandToHost& sent) {
+            if (sent.command == KZCommand::KZCmdWriteTelemetry) return telemetryEvent(sent.content);
+            return commandEvent(Kind::CommandToHost, sent.command, sent.content);
+          },
+          [](const NotificationToPlugin& notified) {
+            const auto index = static_cast<quint64>(notified.index);
+            return numberedEvent(Kind::Notification, index, notificationName(notified.index),
+                                 notified.content);
+          },
+          [](const PersonalRoomChange& room) { return roomEvent(room); },
+          [](const CredentialRequest& request) {
+            return numberedEvent(Kind::Challenge, 0, request.name, request.userInfo);
+          },
+          [](const CredentialResponse& response) {
+            return numberedEvent(Kind::Answer, 0, response.name, response.userInfo);
+          },
+          [](const AddressRequest& request) { return addressEvent(request); },
+          [](const WarningShown& warning) -> InspectorEvent {
+            return {.kind = Kind::Warning,
+                    .name = maskedText(warning.title),
+                    .content = maskedText(warning.message)};
+          },
+          [](const StoreChange& change) -> InspectorEvent {
+            return {.kind = Kind::StoreWrite,
+                    .name = change.key,
+                    .content = valueDifference(change.key, change.before, change.after).join(u'\n')};
+          },
+          [](const KeychainChange& change) { return keychainEvent(change); },
+          // Secrets are masked where the trace is written.
+          [](const KZTraceRecord& trace) -> InspectorEvent {
+            return {.kind = Kind::Trace, .level = trace.level, .name = trace.method, .content = trace.text};
+          }},
+      event);
 }
 
 // Indented, content that is nested deeply grows a thousand times.
@@ -119,21 +145,8 @@ InspectorEvent bounded(InspectorEvent event) {
 
 }  // namespace
 
-InspectorEvent InspectorEvent::of(const Crossing& crossing) {
-  return bounded(textOf(crossing));
-}
-
-InspectorEvent InspectorEvent::ofStoreWrite(const QString& key, const QVariant& before,
-                                            const QVariant& after) {
-  return bounded(
-      {.kind = Kind::StoreWrite, .name = key, .content = valueDifference(key, before, after).join(u'\n')});
-}
-
-InspectorEvent InspectorEvent::ofKeychain(const QString& account, KeychainChange change) {
-  return bounded(
-      {.kind = Kind::Keychain,
-       .name = account,
-       .content = change == KeychainChange::Written ? QStringLiteral("written") : QStringLiteral("removed")});
+InspectorEvent InspectorEvent::of(const PluginEvent& event) {
+  return bounded(textOf(event));
 }
 
 qsizetype InspectorEvent::bytes() const {

@@ -4,7 +4,7 @@
 #include <QString>
 #include <QVariant>
 
-#include "companion/runtime/Crossing.h"
+#include "companion/runtime/PluginEvent.h"
 
 // One thing that happened between the host and its plug-in, as text that is fit to show: without secrets and
 // of bounded length.
@@ -34,12 +34,7 @@ struct InspectorEvent {
   // Compact JSON ("none" where there is no content), the lines of a difference, or text.
   QString content = {};
 
-  static InspectorEvent of(const Crossing& crossing);
-  // A missing value: the key was, or is, not there.
-  static InspectorEvent ofStoreWrite(const QString& key, const QVariant& before, const QVariant& after);
-
-  enum class KeychainChange { Written, Removed };
-  static InspectorEvent ofKeychain(const QString& account, KeychainChange change);
+  static InspectorEvent of(const PluginEvent& event);
 
   qsizetype bytes() const;
   QString title() const;           // number and name

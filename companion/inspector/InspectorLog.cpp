@@ -23,7 +23,8 @@ void InspectorLog::Bounded::dropTo(qsizetype count, qsizetype byteCount) {
   }
 }
 
-void InspectorLog::record(InspectorEvent event) {
+void InspectorLog::record(const PluginEvent& recorded) {
+  InspectorEvent event = InspectorEvent::of(recorded);
   const QMutexLocker lock(&m_mutex);
   event.serial = m_nextSerial++;
   const bool isFirst = m_waiting.events.empty();

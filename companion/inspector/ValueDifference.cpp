@@ -3,7 +3,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
-#include "companion/session/ValueCodec.h"
+#include "companion/format/ValueCodec.h"
 #include "host/KZFoundation/Dictionary.h"
 #include "host/KZUtility/KZTrace.h"
 

@@ -2,8 +2,8 @@
 
 #include <QLocale>
 
-#include "companion/session/HostState.h"
-#include "companion/session/TokenState.h"
+#include "companion/format/HostState.h"
+#include "companion/format/TokenState.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <QList>
 #include <QString>
 
-#include "companion/session/LineWriter.h"
+#include "companion/format/LineWriter.h"
 
 // Tells which of the host's own state has changed, as the steps that change it. Main thread only.
 class HostStateWatch final {

@@ -9,8 +9,8 @@
 #include <initializer_list>
 #include <utility>
 
+#include "companion/format/KeyNames.h"
 #include "companion/record/PluginWindow.h"
-#include "companion/session/KeyNames.h"
 
 namespace {
 

@@ -8,10 +8,10 @@
 #include <QString>
 #include <functional>
 
+#include "companion/format/LineWriter.h"
 #include "companion/record/OtherWindowInput.h"
 #include "companion/record/TypedText.h"
 #include "companion/runtime/Application.h"
-#include "companion/session/LineWriter.h"
 #include "platform/PopUpButton.h"
 #include "platform/WindowController.h"
 

@@ -2,7 +2,7 @@
 
 #include <QByteArray>
 
-#include "companion/session/ValueCodec.h"
+#include "companion/format/ValueCodec.h"
 
 class SecretVault;
 

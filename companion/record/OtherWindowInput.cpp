@@ -4,7 +4,7 @@
 #include <QMouseEvent>
 #include <algorithm>
 
-#include "companion/session/KeyNames.h"
+#include "companion/format/KeyNames.h"
 
 namespace {
 

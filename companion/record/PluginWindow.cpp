@@ -7,8 +7,8 @@
 #include <QWindow>
 #include <algorithm>
 
+#include "companion/format/ControlFinder.h"
 #include "companion/runtime/PreferencesWindow.h"
-#include "companion/session/ControlFinder.h"
 #include "platform/PopUpButton.h"
 #include "platform/WindowController.h"
 

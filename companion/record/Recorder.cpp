@@ -8,9 +8,9 @@
 #include <mutex>
 #include <utility>
 
+#include "companion/format/EventLine.h"
+#include "companion/format/ValueCodec.h"
 #include "companion/record/LateSecrets.h"
-#include "companion/session/CrossingLine.h"
-#include "companion/session/ValueCodec.h"
 
 namespace {
 
@@ -22,25 +22,19 @@ constexpr auto kLongestPause = 5s;
 
 }  // namespace
 
-Recorder::Recorder(Border* border, Sink sink, Options options)
+Recorder::Recorder(PluginHost* host, Sink sink, Options options)
     : m_sink(std::move(sink)),
       m_options(std::move(options)),
       m_state(m_options.keychain),
       m_input(inputHandlers()),
       m_lastWritten(m_options.clock()) {
   writeHeader();
-  m_observer = border->addObserver([this, gate = m_gate](const Crossing& crossing) {
-    if (crossing.kind == Crossing::Kind::Trace) return;
-    // A worker's crossing that is under way when the recording ends must not outlive it.
+  m_observer = host->addObserver([this, gate = m_gate](const PluginEvent& event, PluginHost::Phase phase) {
+    // A worker's event that is under way when the recording ends must not outlive it.
     std::unique_lock lock(gate->mutex, std::defer_lock);
     if (QThread::currentThread() != gate->home) lock.lock();
-    if (gate->isOpen) hear(crossing);
+    if (gate->isOpen) onEvent(event, phase);
   });
-  connect(border, &Border::loading, this, [this] {
-    m_state.loadingBegins();
-    m_actors.push_back(Actor::Loader);
-  });
-  connect(border, &Border::returned, this, &Recorder::end);
 }
 
 Recorder::~Recorder() {
@@ -74,44 +68,61 @@ InputWatch::Handlers Recorder::inputHandlers() {
           .unnamed = [this](const QString& what) { writeUnnamed(what); }};
 }
 
-void Recorder::hear(const Crossing& crossing) {
+void Recorder::onEvent(const PluginEvent& event, PluginHost::Phase phase) {
+  const bool isUnrecorded = std::holds_alternative<KZTraceRecord>(event) ||
+                            std::holds_alternative<StoreChange>(event) ||
+                            std::holds_alternative<KeychainChange>(event);
+  if (isUnrecorded) return;
+  if (phase == PluginHost::Phase::End) return end();
   if (QThread::currentThread() == thread()) m_input.tellPending();
-  const Crossing open = withoutSecrets(crossing);
-  switch (crossing.kind) {
-    case Crossing::Kind::CommandToPlugin:
-    case Crossing::Kind::Notification: {
-      begin(Actor::Plugin);
-      const bool isCommand = crossing.kind == Crossing::Kind::CommandToPlugin;
-      Step step = {{isCommand ? "command" : "notify", static_cast<qint64>(crossing.number)}};
-      if (open.content)
-        step.emplaceBack("content", valuecodec::encodeContent(open.content, valuecodec::Form::Exact));
-      return writeStep(step);
-    }
-    case Crossing::Kind::PersonalRoom:
-      begin(Actor::Plugin);
-      return writeStep({{"personalRoom", valuecodec::encodeContent(open.content)}});
-    case Crossing::Kind::CommandToHost:
-      begin(Actor::Host);
-      return writeOutput(open);
-    case Crossing::Kind::Challenge:
-      return hearPost(open);
-    case Crossing::Kind::Answer:
-      return crossing.poster && crossing.poster == m_options.hostPoster ? hearPost(open) : writeOutput(open);
-    case Crossing::Kind::Address:
-    case Crossing::Kind::Warning:
-      return writeOutput(open);
-    case Crossing::Kind::Trace:
-      return;
-  }
+  onBegin(withoutSecrets(event));
 }
 
-void Recorder::hearPost(const Crossing& crossing) {
-  const bool isOnMainThread = QThread::currentThread() == thread();
-  const bool isChallenge = crossing.kind == Crossing::Kind::Challenge;
-  if (isOnMainThread && isChallenge) begin(Actor::Plugin);
-  Step step = {{"post", crossing.name},
-               {"userInfo", valuecodec::encodeContent(crossing.content, valuecodec::Form::Exact)}};
-  if (!isOnMainThread) step.emplaceBack("thread", "worker");
+void Recorder::onBegin(const PluginEvent& event) {
+  using valuecodec::Form;
+  const auto numbered = [this](const QString& word, qint64 number, const Content& content) {
+    begin(Actor::Plugin);
+    Step step = {{word, number}};
+    if (content) step.emplaceBack("content", valuecodec::encodeContent(content, Form::Exact));
+    writeStep(step);
+  };
+  std::visit(Overloaded{[this](const PluginLoad&) {
+                          m_state.loadingBegins();
+                          m_actors.push_back(Actor::Loader);
+                        },
+                        [&](const CommandToPlugin& triggered) {
+                          numbered("command", static_cast<qint64>(triggered.command), triggered.content);
+                        },
+                        [&](const NotificationToPlugin& notified) {
+                          numbered("notify", static_cast<qint64>(notified.index), notified.content);
+                        },
+                        [this](const PersonalRoomChange& room) {
+                          begin(Actor::Plugin);
+                          Dictionary given;
+                          if (!room.joinUrl.isNull()) given.insert(QStringLiteral("join"), room.joinUrl);
+                          if (!room.sipUrl.isNull()) given.insert(QStringLiteral("sip"), room.sipUrl);
+                          writeStep({{"personalRoom", valuecodec::encodeContent(given)}});
+                        },
+                        [&](const CommandToHost& sent) {
+                          begin(Actor::Host);
+                          writeOutput(sent);
+                        },
+                        [this](const CredentialRequest& request) {
+                          if (QThread::currentThread() == thread()) begin(Actor::Plugin);
+                          writePost(request.name, request.userInfo);
+                        },
+                        [this](const CredentialResponse& response) {
+                          const bool isHost = response.poster && response.poster == m_options.hostPoster;
+                          if (isHost) return writePost(response.name, response.userInfo);
+                          writeOutput(response);
+                        },
+                        [this](const auto& output) { writeOutput(output); }},
+             event);
+}
+
+void Recorder::writePost(const QString& name, const Dictionary& userInfo) {
+  Step step = {{"post", name}, {"userInfo", valuecodec::encodeContent(userInfo, valuecodec::Form::Exact)}};
+  if (QThread::currentThread() != thread()) step.emplaceBack("thread", "worker");
   writeStep(step);
 }
 
@@ -155,14 +166,24 @@ void Recorder::writeHostChanges() {
   }
 }
 
-Crossing Recorder::withoutSecrets(const Crossing& crossing) {
+PluginEvent Recorder::withoutSecrets(const PluginEvent& event) {
   const QMutexLocker lock(&m_mutex);
-  Crossing open = crossing;
-  open.content = m_vault.withoutSecrets(crossing.content);
-  open.text = crossing.kind == Crossing::Kind::Address ? m_vault.addressWithoutSecrets(crossing.text)
-                                                       : m_vault.withoutSecrets(crossing.text);
-  // What else has a name has it from the code.
-  if (crossing.kind == Crossing::Kind::Warning) open.name = m_vault.withoutSecrets(crossing.name);
+  PluginEvent open = event;
+  const auto openTexts = [this](auto&... texts) { ((texts = m_vault.withoutSecrets(texts)), ...); };
+  const auto openUserInfo = [this](auto& posted) {
+    posted.userInfo = m_vault.withoutSecrets(Content(posted.userInfo)).value_or(Dictionary());
+  };
+  std::visit(Overloaded{[this](AddressRequest& request) {
+                          request.address = m_vault.addressWithoutSecrets(request.address);
+                        },
+                        [&](WarningShown& warning) { openTexts(warning.title, warning.message); },
+                        [&](CredentialRequest& request) { openUserInfo(request); },
+                        [&](CredentialResponse& response) { openUserInfo(response); },
+                        [this](auto& other) {
+                          if constexpr (requires { other.content; })
+                            other.content = m_vault.withoutSecrets(other.content);
+                        }},
+             open);
   return open;
 }
 
@@ -181,10 +202,10 @@ void Recorder::writeStep(const Step& step) {
   write(LineWriter::textOf(step));
 }
 
-void Recorder::writeOutput(const Crossing& crossing) {
+void Recorder::writeOutput(const PluginEvent& event) {
   const QMutexLocker lock(&m_mutex);
   writePause();
-  write(outputMark + LineWriter::textOf(crossingLine(crossing)));
+  write(outputMark + LineWriter::textOf(eventLine(event)));
 }
 
 void Recorder::writeTyped(const TypedText::Edit& edit) {

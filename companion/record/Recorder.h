@@ -12,7 +12,7 @@
 #include "companion/record/HostStateWatch.h"
 #include "companion/record/InputWatch.h"
 #include "companion/record/SecretVault.h"
-#include "companion/runtime/Border.h"
+#include "companion/runtime/PluginHost.h"
 
 // Writes what a host and its user do to the plug-in as the steps of a session, and what comes out of it as
 // comments in between. Secrets are replaced before they are written. Make it on the main thread.
@@ -35,8 +35,8 @@ class Recorder final : public QObject {
   // How the lines begin that tell what came out.
   static constexpr char outputMark[] = "# <- ";
 
-  // The border is not owned and must outlive this.
-  Recorder(Border* border, Sink sink, Options options);
+  // The host is not owned and must outlive this.
+  Recorder(PluginHost* host, Sink sink, Options options);
   ~Recorder() override;
 
   // Writes what is pending; from then on nothing is recorded.
@@ -55,17 +55,18 @@ class Recorder final : public QObject {
   };
 
   InputWatch::Handlers inputHandlers();
-  void hear(const Crossing& crossing);
-  void hearPost(const Crossing& crossing);
+  void onEvent(const PluginEvent& event, PluginHost::Phase phase);
+  void onBegin(const PluginEvent& event);
+  void writePost(const QString& name, const Dictionary& userInfo);
   void begin(Actor actor);
   void end();
   bool isPluginAtWork() const { return !m_actors.empty() && m_actors.back() != Actor::Host; }
   void writeHostChanges();
 
-  Crossing withoutSecrets(const Crossing& crossing);
+  PluginEvent withoutSecrets(const PluginEvent& event);
   void writeHeader();
   void writeStep(const Step& step);
-  void writeOutput(const Crossing& crossing);
+  void writeOutput(const PluginEvent& event);
   void writeTyped(const TypedText::Edit& edit);
   void writeUnnamed(const QString& what);
   // With `m_mutex` held.
@@ -83,5 +84,5 @@ class Recorder final : public QObject {
   std::chrono::milliseconds m_lastWritten;
   bool m_isOver = false;
   const std::shared_ptr<Gate> m_gate{new Gate{QThread::currentThread()}};
-  Border::Token m_observer;
+  PluginHost::Token m_observer;
 };

@@ -4,7 +4,7 @@
 #include <QString>
 
 #include "companion/record/SecretFinder.h"
-#include "companion/runtime/Crossing.h"
+#include "companion/runtime/PluginEvent.h"
 
 // Gives every secret a name of its own, "secret-1" and so on, and puts the names in the secrets' places. A
 // text that is such a name already stands for itself, so that a record of a record has the same names. One

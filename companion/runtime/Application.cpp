@@ -1,12 +1,30 @@
 #include "companion/runtime/Application.h"
 
 #include <QEvent>
+#include <QLoggingCategory>
 #include <QThread>
 
 namespace {
 
 InputListener* theInputListener = nullptr;
-int theListening = 0;  // counts the listeners that there have been
+int theListenerCount = 0;  // all that there have been
+
+QtMessageHandler previousMessageHandler = nullptr;
+
+void filterQtMessage(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+  const bool isAboutPlatform = message.startsWith(QLatin1String("This plugin does not support")) ||
+                               message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR")) ||
+                               QLatin1String(context.category).startsWith(QLatin1String("qt.qpa"));
+  if (isAboutPlatform && type != QtFatalMsg && type != QtCriticalMsg) return;
+  if (previousMessageHandler) previousMessageHandler(type, context, message);
+}
+
+// QApplication keeps a reference to the count, and the platform reports while it is constructed.
+int& preparedArgumentCount() {
+  static int onlyProgramName = 1;
+  previousMessageHandler = qInstallMessageHandler(filterQtMessage);
+  return onlyProgramName;
+}
 
 bool isInput(const QObject& receiver, const QEvent& event) {
   switch (event.type()) {
@@ -32,18 +50,26 @@ bool isInput(const QObject& receiver, const QEvent& event) {
 
 }  // namespace
 
+Application::Application(char** argv) : QApplication(preparedArgumentCount(), argv) {}
+
+QStringList Application::commandLine(int argc, char** argv) {
+  QStringList arguments;
+  for (int place = 0; place < argc; ++place) arguments.append(QString::fromLocal8Bit(argv[place]));
+  return arguments;
+}
+
 void Application::setInputListener(InputListener* listener) {
   theInputListener = listener;
-  ++theListening;
+  ++theListenerCount;
 }
 
 bool Application::notify(QObject* receiver, QEvent* event) {
   // Other threads deliver their events here too.
-  const bool isHeard = theInputListener && QThread::currentThread() == thread() &&
-                       isInput(*receiver, *event) && theInputListener->inputBegins(receiver, event);
-  const int listening = theListening;
+  const bool isListened = theInputListener && QThread::currentThread() == thread() &&
+                          isInput(*receiver, *event) && theInputListener->inputBegins(receiver, event);
+  const int listenerCount = theListenerCount;
   const bool isAccepted = QApplication::notify(receiver, event);
-  // Who came in the meantime has not heard of the beginning.
-  if (isHeard && theInputListener && listening == theListening) theInputListener->inputEnded();
+  // A listener that was set meanwhile has not seen the beginning.
+  if (isListened && theInputListener && listenerCount == theListenerCount) theInputListener->inputEnded();
   return isAccepted;
 }

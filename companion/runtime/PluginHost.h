@@ -1,44 +1,89 @@
 #pragma once
 
+#include <QMutex>
+#include <QObject>
 #include <QPluginLoader>
-#include <QString>
+#include <QPointer>
+#include <QUrl>
 #include <functional>
+#include <memory>
+#include <vector>
 
+#include "companion/runtime/PluginEvent.h"
+#include "host/KZFoundation/KZNotificationCenter.h"
 #include "host/KZFoundation/KZPluginCoreMgr.h"
 #include "host/KZFoundation/KZTokenLookup.h"
 
-// The host's end of the border: loads the plug-in, forwards commands and notifications to its core, and hears
-// the commands that it sends. The application object must outlive it. Main thread only.
-class PluginHost final : private KZPluginDelegate {
- public:
-  using CommandHandler = std::function<void(quint64 number, const Content& content)>;
+// A host's side of the plug-in: loads it, triggers its commands, answers those that it sends, and reports
+// every event to observers. One at a time in a process; the application object must outlive it. Main thread
+// only; posted notifications, keychain changes and traces may come from any thread.
+class PluginHost final : public QObject, public KZPluginDelegate {
+  Q_OBJECT
 
-  PluginHost() = default;
+ public:
+  using Opener = std::function<bool(const QUrl&)>;
+  using CommandHandler = std::function<void(const Content&)>;
+
+  // Every event is reported when it begins, before it has its effect. A load, a command in either direction,
+  // a notification, a personal room, and a credential request on the main thread are reported again when
+  // they have ended; these nest.
+  enum class Phase { Begin, End };
+  using Observer = std::function<void(const PluginEvent&, Phase)>;
+  // Holds the registration: without the last copy the observer is not called any more.
+  using Token = std::shared_ptr<const Observer>;
+
+  // `opener` opens the addresses that the plug-in asks for.
+  explicit PluginHost(Opener opener = [](const QUrl&) { return true; });
   ~PluginHost() override;
 
-  // False when the file is no plug-in of ours; `errorText` tells why. Load at most once.
+  // False when the file is no plug-in of ours; `errorText` says why. Load at most once.
   [[nodiscard]] bool load(const QString& path);
   const QString& errorText() const { return m_errorText; }
-
-  // Called for every command that the plug-in sends, from within the call that made it send.
-  void setCommandHandler(CommandHandler handler) { m_handler = std::move(handler); }
-
-  // Only after a successful load.
-  void triggerCommand(quint64 number, const Content& content);
-  void notify(quint32 index, const Content& content);
-  KZPluginCoreMgr& core() const { return *m_core; }
-  KZTokenLookup* tokenLookup() const { return m_tokenLookup; }  // nullptr when the plug-in has none
-
   // Destroys the plug-in's core and windows; what they still send is dropped. The destructor does it too.
   void shutDown();
 
- private:
+  // Called on the thread of the event, in the order of registration.
+  [[nodiscard]] Token addObserver(Observer observer);
+  // What the host does about a command of the plug-in, after the observers have seen it and within the call
+  // that sent it; as long as `context` lives. A command may have several handlers.
+  void handle(KZCommand command, const QObject* context, CommandHandler handler);
+
+  // Without a loaded plug-in these are reported and have no effect.
+  void trigger(KZCommand command, const Content& content = {});
+  void notify(KZNotify index, const Content& content);
+  void setPersonalRoom(const QString& joinUrl, const QString& sipUrl);  // null: not given
+
+  // Only while the plug-in is loaded.
+  KZPluginCoreMgr& core() const { return *m_core; }
+  KZTokenLookup* tokenLookup() const { return m_tokenLookup; }  // nullptr when the plug-in has none
+
+  // The plug-in calls it.
   quint64 sendPluginCommand(const KZEventIdentify& event, const Content& content) override;
+
+ private:
+  struct RegisteredHandler {
+    KZCommand command;
+    QPointer<const QObject> context;
+    CommandHandler handler;
+  };
+
+  void observeHostLibrary(Opener opener);
+  void report(const PluginEvent& event, Phase phase = Phase::Begin);
+
+  QMutex m_mutex;
+  std::vector<std::weak_ptr<const Observer>> m_observers;
+  std::vector<RegisteredHandler> m_handlers;
+  KZNotificationCenter::Token m_requests;
+  KZNotificationCenter::Token m_requestEnds;
+  KZNotificationCenter::Token m_responses;
 
   QPluginLoader m_loader;
   KZPluginFactory* m_factory = nullptr;
   KZPluginCoreMgr* m_core = nullptr;
   KZTokenLookup* m_tokenLookup = nullptr;
-  CommandHandler m_handler;
   QString m_errorText;
 };
+
+// Where the plug-in lies, seen from the program: beside it in a build folder, or below lib/ where it is
+// installed. The first place when there is none, so that the loader's reason names it.
+QString defaultPluginPath();

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "companion/runtime/Border.h"
+#include "companion/runtime/PluginHost.h"
 #include "companion/services/MeetingAccount.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZConstants.h"
@@ -56,14 +56,18 @@ QString noticeOf(KZCommand command, const Content& content) {
 
 }  // namespace
 
-ChangeNotices::ChangeNotices(Border* border) {
-  connect(border, &Border::commandSent, this, &ChangeNotices::answer);
+ChangeNotices::ChangeNotices(PluginHost* host) {
+  for (const KZCommand command :
+       {KZCommand::KZCmdPreferenceChanged, KZCommand::KZCmdCalendarIntegrationSourceChanged,
+        KZCommand::KZCmdSetVideoDevicePrefs, KZCommand::KZCmdListExchMeetingAuthFailure,
+        KZCommand::KZCmdExchDiscoverAuthFailure}) {
+    host->handle(command, this, [this, command](const Content& content) { answer(command, content); });
+  }
 }
 
-void ChangeNotices::answer(quint64 command, const Content& content) {
-  const auto known = static_cast<KZCommand>(command);
-  const bool isRecord = known == KZCommand::KZCmdPreferenceChanged;
-  const QString notice = isRecord ? recordNotice(content) : noticeOf(known, content);
+void ChangeNotices::answer(KZCommand command, const Content& content) {
+  const bool isRecord = command == KZCommand::KZCmdPreferenceChanged;
+  const QString notice = isRecord ? recordNotice(content) : noticeOf(command, content);
   if (!notice.isEmpty()) Q_EMIT noticed(notice);
 }
 

@@ -4,21 +4,22 @@
 #include <optional>
 
 #include "host/KZFoundation/Dictionary.h"
+#include "host/KZFoundation/KZCommands.h"
 
-class Border;
+class PluginHost;
 
 // Says to the user what a change in Preferences means here. Main thread only.
 class ChangeNotices final : public QObject {
   Q_OBJECT
 
  public:
-  explicit ChangeNotices(Border* border);  // not owned
+  explicit ChangeNotices(PluginHost* host);  // not owned
 
  Q_SIGNALS:
   void noticed(const QString& text);
 
  private:
-  void answer(quint64 command, const Content& content);
+  void answer(KZCommand command, const Content& content);
   QString recordNotice(const Content& content);
 
   std::optional<QString> m_room;  // the last one heard of

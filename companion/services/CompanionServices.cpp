@@ -1,13 +1,13 @@
 #include "companion/services/CompanionServices.h"
 
-CompanionServices::CompanionServices(Border* border, const Settings& settings)
+CompanionServices::CompanionServices(PluginHost* host, const Settings& settings)
     : m_network(settings.reach, settings.exchange.network),
-      m_site(border, &m_network, settings.record),
-      m_updates(border, &m_network, settings.packageFolder),
-      m_telemetry(border, TelemetryFile(settings.dataFolder)),
-      m_general(border, settings.autostart),
-      m_meetings(border, &m_network, settings.exchange),
-      m_changes(border) {
+      m_site(host, &m_network, settings.record),
+      m_updates(host, &m_network, settings.packageFolder),
+      m_telemetry(host, TelemetryFile(settings.dataFolder)),
+      m_general(host, settings.autostart),
+      m_meetings(host, &m_network, settings.exchange),
+      m_changes(host) {
   connect(&m_site, &SiteService::noticed, this, &CompanionServices::noticed);
   connect(&m_updates, &UpdateService::noticed, this, &CompanionServices::noticed);
   connect(&m_telemetry, &TelemetryService::noticed, this, &CompanionServices::noticed);

@@ -26,7 +26,7 @@ class CompanionServices final : public QObject {
     AutostartEntry autostart;
   };
 
-  CompanionServices(Border* border, const Settings& settings);  // the border must outlive this
+  CompanionServices(PluginHost* host, const Settings& settings);  // the host must outlive this
 
   // After the plug-in is loaded.
   void start();

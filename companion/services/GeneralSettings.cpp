@@ -1,12 +1,13 @@
 #include "companion/services/GeneralSettings.h"
 
-#include "companion/runtime/Border.h"
+#include "companion/runtime/PluginHost.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 
-GeneralSettings::GeneralSettings(Border* border, const AutostartEntry& autostart) : m_autostart(autostart) {
-  connect(border, &Border::commandSent, this, &GeneralSettings::answer);
+GeneralSettings::GeneralSettings(PluginHost* host, const AutostartEntry& autostart) : m_autostart(autostart) {
+  host->handle(KZCommand::KZCmdUpdateGeneralSetting, this,
+               [this](const Content& content) { update(content.value_or(Dictionary())); });
   // Without a choice nothing starts at login, and the pane, which takes that as on, is to show it.
   KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
   if (!store.isPlistKeyExist(KZLaunchAtLogin)) store.setLaunchAtLogin(false);
@@ -17,9 +18,7 @@ void GeneralSettings::apply() {
   if (!failure.isEmpty()) Q_EMIT noticed(failure);
 }
 
-void GeneralSettings::answer(quint64 command, const Content& content) {
-  if (command != static_cast<quint64>(KZCommand::KZCmdUpdateGeneralSetting)) return;
-  const Dictionary values = content.value_or(Dictionary());
+void GeneralSettings::update(const Dictionary& values) {
   if (const auto isWanted = flagValue(values, kLaunchAtLogin)) startAtLogin(*isWanted);
   if (const auto isWanted = flagValue(values, kEnableOutlookKZPluginValue)) {
     Q_EMIT noticed(*isWanted ? QStringLiteral("Meetings can be scheduled from Microsoft Outlook once it is "

@@ -5,7 +5,7 @@
 #include "companion/services/AutostartEntry.h"
 #include "host/KZFoundation/Dictionary.h"
 
-class Border;
+class PluginHost;
 
 // Does what the user chose in the General pane. Main thread only.
 class GeneralSettings final : public QObject {
@@ -13,8 +13,8 @@ class GeneralSettings final : public QObject {
 
  public:
   // Before the plug-in reads the store, in which starting at login is off until the user chooses it. The
-  // border is not owned.
-  GeneralSettings(Border* border, const AutostartEntry& autostart);
+  // host is not owned.
+  GeneralSettings(PluginHost* host, const AutostartEntry& autostart);
 
   // Makes the desktop agree with the store.
   void apply();
@@ -23,7 +23,7 @@ class GeneralSettings final : public QObject {
   void noticed(const QString& text);  // for the user
 
  private:
-  void answer(quint64 command, const Content& content);
+  void update(const Dictionary& values);
   void startAtLogin(bool isWanted);
   QString carryOut(bool isWanted) const;
 

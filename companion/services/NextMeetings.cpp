@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "companion/exchange/SandboxExchange.h"
-#include "companion/runtime/Border.h"
+#include "companion/runtime/PluginHost.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
@@ -24,15 +24,10 @@ bool isWithin(const ServiceNetwork& network, const Dictionary& exchange) {
   return true;
 }
 
-bool isResolved(const Crossing& crossing) {
-  return crossing.kind == Crossing::Kind::Notification &&
-         crossing.number == static_cast<quint64>(KZNotify::KZNotifyResolveExchangeDone);
-}
-
 }  // namespace
 
-NextMeetings::NextMeetings(Border* border, ServiceNetwork* network, ExchangeConfiguration exchange)
-    : m_network(network), m_ordinary(std::move(exchange)), m_token(border) {
+NextMeetings::NextMeetings(PluginHost* host, ServiceNetwork* network, ExchangeConfiguration exchange)
+    : m_network(network), m_ordinary(std::move(exchange)), m_token(host) {
   m_soon.setSingleShot(true);
   m_soon.setInterval(0ms);
   m_again.setInterval(kRefreshTime);
@@ -45,7 +40,7 @@ NextMeetings::NextMeetings(Border* border, ServiceNetwork* network, ExchangeConf
   connect(network, &ServiceNetwork::changed, this, &NextMeetings::refreshSoon);
   useSandbox({});
   watchStore();
-  watchBorder(border);
+  watchHost(host);
 }
 
 void NextMeetings::useSandbox(const QJsonObject& description) {
@@ -67,13 +62,14 @@ void NextMeetings::watchStore() {
           });
 }
 
-void NextMeetings::watchBorder(Border* border) {
-  connect(border, &Border::commandSent, this, [this](quint64 command) {
-    if (command == static_cast<quint64>(KZCommand::KZCmdCalendarIntegrationSourceChanged)) refreshSoon();
-  });
+void NextMeetings::watchHost(PluginHost* host) {
+  host->handle(KZCommand::KZCmdCalendarIntegrationSourceChanged, this,
+               [this](const Content&) { refreshSoon(); });
   // The same account may have been applied with another password.
-  m_observing = border->addObserver([this](const Crossing& crossing) {
-    if (isResolved(crossing)) refreshSoon();
+  m_observing = host->addObserver([this](const PluginEvent& event, PluginHost::Phase phase) {
+    const auto* notified = std::get_if<NotificationToPlugin>(&event);
+    const bool isResolved = notified && notified->index == KZNotify::KZNotifyResolveExchangeDone;
+    if (isResolved && phase == PluginHost::Phase::Begin) refreshSoon();
   });
 }
 

@@ -12,7 +12,7 @@
 #include "companion/services/ServiceNetwork.h"
 #include "companion/services/TokenRequest.h"
 
-class Border;
+class PluginHost;
 
 // The next meetings of the applied account. Asked while somebody watches: at once when the account changes,
 // and every few minutes. Main thread only.
@@ -21,7 +21,7 @@ class NextMeetings final : public QObject {
 
  public:
   // The two are not owned and must outlive this; `exchange` is how accounts are reached without the sandbox.
-  NextMeetings(Border* border, ServiceNetwork* network, ExchangeConfiguration exchange);
+  NextMeetings(PluginHost* host, ServiceNetwork* network, ExchangeConfiguration exchange);
 
   // `description` is the "exchange" of what kz-sandbox prints first; empty while it is not running.
   void useSandbox(const QJsonObject& description);
@@ -40,7 +40,7 @@ class NextMeetings final : public QObject {
  private:
   void refreshSoon();
   void watchStore();
-  void watchBorder(Border* border);
+  void watchHost(PluginHost* host);
   void ask();
   void show(const QList<ExchangeMeeting>& meetings, const QString& text);
 

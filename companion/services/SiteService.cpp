@@ -1,6 +1,6 @@
 #include "companion/services/SiteService.h"
 
-#include "companion/runtime/Border.h"
+#include "companion/runtime/PluginHost.h"
 #include "companion/runtime/PreferencesWindow.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZConstants.h"
@@ -45,16 +45,16 @@ void askSite(WebFetch& fetch, const QString& site, const SiteService::Done& done
 
 }  // namespace
 
-SiteService::SiteService(Border* border, ServiceNetwork* network, const Dictionary& standIn)
-    : m_border(border), m_network(network), m_standIn(standIn) {
-  connect(border, &Border::commandSent, this, &SiteService::answer);
+SiteService::SiteService(PluginHost* host, ServiceNetwork* network, const Dictionary& standIn)
+    : m_host(host), m_network(network), m_standIn(standIn) {
+  host->handle(KZCommand::KZCmdChangeSite, this, [this](const Content&) { Q_EMIT siteWanted(); });
+  host->handle(KZCommand::KZCmdRequireLink, this, [this](const Content& content) {
+    openPage(content.value_or(Dictionary()).value(QRT_Require_Link_Action_Type).toInt());
+  });
   connect(network, &ServiceNetwork::changed, this, &SiteService::refresh);
 }
 
-void SiteService::answer(quint64 command, const Content& content) {
-  if (command == static_cast<quint64>(KZCommand::KZCmdChangeSite)) return Q_EMIT siteWanted();
-  if (command != static_cast<quint64>(KZCommand::KZCmdRequireLink)) return;
-  const int page = content.value_or(Dictionary()).value(QRT_Require_Link_Action_Type).toInt();
+void SiteService::openPage(int page) {
   if (page == kMeetingSettings) openMeetingSettings();
   if (page == kJoinByNumber) joinByNumber();
 }
@@ -70,11 +70,11 @@ void SiteService::signIn() {
 
 void SiteService::tellPlugin(const Dictionary& record) {
   if (m_isSignedIn) {
-    m_border->setPersonalRoom(textValue(record, QRT_Preference_PMRUrl),
-                              textValue(record, QRT_Preference_PMRSipUrl));
+    m_host->setPersonalRoom(textValue(record, QRT_Preference_PMRUrl),
+                            textValue(record, QRT_Preference_PMRSipUrl));
   }
-  m_border->notify(static_cast<quint32>(KZNotify::KZNotifyGetPreferenceDone),
-                   Dictionary{{kKZResult, kKZSuccess}, {QStringLiteral("kz"), record}});
+  m_host->notify(KZNotify::KZNotifyGetPreferenceDone,
+                 Dictionary{{kKZResult, kKZSuccess}, {QStringLiteral("kz"), record}});
 }
 
 void SiteService::refresh() {
@@ -128,7 +128,7 @@ void SiteService::adoptSilent(const QString& site) {
 void SiteService::showRecordAnew() {
   const Window* window = findPreferencesWindow();
   const bool isInUse = window && window->isVisible();
-  if (!isInUse) m_border->triggerCommand(static_cast<quint64>(KZCommand::KZCmdDestroyPreference));
+  if (!isInUse) m_host->trigger(KZCommand::KZCmdDestroyPreference);
   tellPlugin(record());
   if (!isInUse) return;
   Q_EMIT noticed(QStringLiteral("Your site has news for Preferences. Press Close, then Preferences."));
@@ -138,10 +138,9 @@ void SiteService::showAgain() {
   // A guest's window shows no site.
   if (!m_isSignedIn) return;
   // A window reads the site when it is built.
-  m_border->triggerCommand(static_cast<quint64>(KZCommand::KZCmdDestroyPreference));
+  m_host->trigger(KZCommand::KZCmdDestroyPreference);
   tellPlugin(record());
-  m_border->triggerCommand(static_cast<quint64>(KZCommand::KZCmdShowPreference),
-                           Dictionary{{kOpenPrefsViewType, kPrefsAccountView}});
+  m_host->trigger(KZCommand::KZCmdShowPreference, Dictionary{{kOpenPrefsViewType, kPrefsAccountView}});
 }
 
 void SiteService::openMeetingSettings() {

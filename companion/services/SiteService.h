@@ -9,7 +9,7 @@
 #include "companion/services/MeetingSite.h"
 #include "companion/services/ServiceNetwork.h"
 
-class Border;
+class PluginHost;
 
 // The user's meeting site: what it says of itself and of the user, for the plug-in and for this host. Main
 // thread only.
@@ -25,7 +25,7 @@ class SiteService final : public QObject {
   using Done = std::function<void(const Answer&)>;
 
   // `standIn` is the user's record while no site has given one. The two are not owned and must outlive this.
-  SiteService(Border* border, ServiceNetwork* network, const Dictionary& standIn);
+  SiteService(PluginHost* host, ServiceNetwork* network, const Dictionary& standIn);
 
   // Tells the plug-in, as a host does after a sign-in. While a guest is there nobody's record is told.
   void signIn();
@@ -53,7 +53,7 @@ class SiteService final : public QObject {
   void changed();                     // another site, or another download address
 
  private:
-  void answer(quint64 command, const Content& content);
+  void openPage(int page);
   void renew(const MeetingSite& site);
   void take(const MeetingSite& site);
   void tellPlugin(const Dictionary& record);
@@ -61,7 +61,7 @@ class SiteService final : public QObject {
   void showAgain();
   Dictionary record() const;
 
-  Border* m_border;
+  PluginHost* m_host;
   ServiceNetwork* m_network;
   const Dictionary m_standIn;
   std::optional<MeetingSite> m_site;

@@ -3,7 +3,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include "companion/runtime/Border.h"
+#include "companion/runtime/PluginHost.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
@@ -49,8 +49,10 @@ TelemetryRecord recordOf(const QByteArray& line) {
 
 }  // namespace
 
-TelemetryService::TelemetryService(Border* border, const TelemetryFile& file) : m_file(file) {
-  connect(border, &Border::commandSent, this, &TelemetryService::answer);
+TelemetryService::TelemetryService(PluginHost* host, const TelemetryFile& file) : m_file(file) {
+  host->handle(KZCommand::KZCmdWriteTelemetry, this, [this](const Content& content) {
+    if (content && isOn()) keep(*content);
+  });
 }
 
 bool TelemetryService::isOn() const {
@@ -63,9 +65,8 @@ void TelemetryService::setOn(bool isOn) {
   Q_EMIT changed();
 }
 
-void TelemetryService::answer(quint64 command, const Content& content) {
-  if (command != static_cast<quint64>(KZCommand::KZCmdWriteTelemetry) || !content || !isOn()) return;
-  const QString reason = m_file.append(lineOf(*content));
+void TelemetryService::keep(const Dictionary& record) {
+  const QString reason = m_file.append(lineOf(record));
   // Once until it works again: every click would say it.
   if (!reason.isEmpty() && !m_isFailing) {
     Q_EMIT noticed(QStringLiteral("Telemetry cannot be kept in %1: %2. Free some space, or switch it off.")

@@ -8,7 +8,7 @@
 #include "companion/services/TelemetryFile.h"
 #include "host/KZFoundation/Dictionary.h"
 
-class Border;
+class PluginHost;
 
 struct TelemetryRecord {
   QDateTime time;
@@ -21,7 +21,7 @@ class TelemetryService final : public QObject {
   Q_OBJECT
 
  public:
-  TelemetryService(Border* border, const TelemetryFile& file);  // the border is not owned
+  TelemetryService(PluginHost* host, const TelemetryFile& file);  // the host is not owned
 
   // Kept in the store; on where nothing is said.
   bool isOn() const;
@@ -36,7 +36,7 @@ class TelemetryService final : public QObject {
   void noticed(const QString& text);  // for the user
 
  private:
-  void answer(quint64 command, const Content& content);
+  void keep(const Dictionary& record);
 
   const TelemetryFile m_file;
   bool m_isFailing = false;

@@ -1,10 +1,10 @@
 #include "companion/services/TokenRequest.h"
 
-#include "companion/runtime/Border.h"
+#include "companion/runtime/PluginHost.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZConstants.h"
 
-TokenRequest::TokenRequest(Border* border, std::chrono::milliseconds patience) : m_border(border) {
+TokenRequest::TokenRequest(PluginHost* host, std::chrono::milliseconds patience) : m_host(host) {
   m_patience.setSingleShot(true);
   m_patience.setInterval(patience);
   connect(&m_patience, &QTimer::timeout, this, [this] {
@@ -12,14 +12,15 @@ TokenRequest::TokenRequest(Border* border, std::chrono::milliseconds patience) :
         QStringLiteral("The sign-in of %1 was not renewed in time. Refresh, or detect the account again.")
             .arg(m_email));
   });
-  connect(border, &Border::commandSent, this, &TokenRequest::answer);
+  host->handle(KZCommand::KZCmdExchOnlineTokenGot, this,
+               [this](const Content& content) { takeToken(content.value_or(Dictionary())); });
 }
 
 void TokenRequest::ask(const Dictionary& exchange) {
   m_email = textValue(exchange, kKZCalendarIntegrationExchangeEmail);
   m_patience.start();
-  m_border->triggerCommand(
-      static_cast<quint64>(KZCommand::KZCmdGetExchOnlineToken),
+  m_host->trigger(
+      KZCommand::KZCmdGetExchOnlineToken,
       Dictionary{{kKZCalendarIntegration, Dictionary{{kKZCalendarIntegrationExchange, exchange}}}});
 }
 
@@ -28,9 +29,8 @@ void TokenRequest::cancel() {
   m_patience.stop();
 }
 
-void TokenRequest::answer(quint64 command, const Content& content) {
-  if (command != static_cast<quint64>(KZCommand::KZCmdExchOnlineTokenGot) || m_email.isNull()) return;
-  const Dictionary values = content.value_or(Dictionary());
+void TokenRequest::takeToken(const Dictionary& values) {
+  if (m_email.isNull()) return;
   const Dictionary calendar = dictionaryValue(values, kKZCalendarIntegration);
   const Dictionary exchange = dictionaryValue(calendar, kKZCalendarIntegrationExchange);
   // The answer to an earlier question may come late.

@@ -7,7 +7,7 @@
 
 #include "host/KZFoundation/Dictionary.h"
 
-class Border;
+class PluginHost;
 
 // Asks the plug-in for the token of an online account. One request at a time; a new one ends the one before.
 // Main thread only.
@@ -15,8 +15,8 @@ class TokenRequest final : public QObject {
   Q_OBJECT
 
  public:
-  // The border is not owned and must outlive this.
-  explicit TokenRequest(Border* border, std::chrono::milliseconds patience = std::chrono::minutes(1));
+  // The host is not owned and must outlive this.
+  explicit TokenRequest(PluginHost* host, std::chrono::milliseconds patience = std::chrono::minutes(1));
 
   // One of the two follows, also from within. A token that comes after the patience has ended, and `failed`
   // has been told, is still given.
@@ -28,10 +28,10 @@ class TokenRequest final : public QObject {
   void failed(const QString& reason);  // a sentence for the user
 
  private:
-  void answer(quint64 command, const Content& content);
+  void takeToken(const Dictionary& values);
   void fail(const QString& reason);
 
-  Border* m_border;
+  PluginHost* m_host;
   QTimer m_patience;
   QString m_email;  // null while nothing is asked
 };

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "companion/network/WebAddress.h"
-#include "companion/runtime/Border.h"
+#include "companion/runtime/PluginHost.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZConstants.h"
@@ -23,19 +23,22 @@ QUrl manifestAddress(const Dictionary& content) {
   return siteAddress(textValue(content, QRT_LoginResult_site)).resolved(file);
 }
 
-void trigger(Border& border, KZCommand command) {
-  border.triggerCommand(static_cast<quint64>(command),
-                        Dictionary{{TelemetryKey_ActionFrom, TelemetryValue_ActionFrom_APP}});
+void trigger(PluginHost& host, KZCommand command) {
+  host.trigger(command, Dictionary{{TelemetryKey_ActionFrom, TelemetryValue_ActionFrom_APP}});
 }
 
 }  // namespace
 
-UpdateService::UpdateService(Border* border, ServiceNetwork* network, const QString& folder)
-    : m_border(border), m_network(network), m_folder(folder) {
+UpdateService::UpdateService(PluginHost* host, ServiceNetwork* network, const QString& folder)
+    : m_host(host), m_network(network), m_folder(folder) {
   m_day.setInterval(24h);
   connect(&m_day, &QTimer::timeout, this,
-          [this] { trigger(*m_border, KZCommand::KZCmdCheckForUpdatesAutomatically); });
-  connect(border, &Border::commandSent, this, &UpdateService::answer);
+          [this] { trigger(*m_host, KZCommand::KZCmdCheckForUpdatesAutomatically); });
+  host->handle(KZCommand::KZCmdCheckForUpdates, this,
+               [this](const Content& content) { look(Check::Asked, content.value_or(Dictionary())); });
+  host->handle(KZCommand::KZCmdCheckForUpdatesAutomatically, this, [this](const Content& content) {
+    if (m_check == Check::None) look(Check::Quiet, content.value_or(Dictionary()));
+  });
 }
 
 void UpdateService::check() {
@@ -43,7 +46,7 @@ void UpdateService::check() {
     return Q_EMIT noticed(
         QStringLiteral("A check for updates is already running. Wait for it, or cancel it."));
   }
-  trigger(*m_border, KZCommand::KZCmdCheckForUpdates);
+  trigger(*m_host, KZCommand::KZCmdCheckForUpdates);
   if (m_check == Check::Asked) return;
   // Without a site the plug-in asks for nothing and leaves its flag to its host.
   KZUtility::sharedInstance().cleanCheckForUpdatesInProgressFlag();
@@ -53,14 +56,7 @@ void UpdateService::check() {
 
 void UpdateService::checkQuietly() {
   m_day.start();
-  trigger(*m_border, KZCommand::KZCmdCheckForUpdatesAutomatically);
-}
-
-void UpdateService::answer(quint64 command, const Content& content) {
-  const Dictionary values = content.value_or(Dictionary());
-  if (command == static_cast<quint64>(KZCommand::KZCmdCheckForUpdates)) return look(Check::Asked, values);
-  if (command != static_cast<quint64>(KZCommand::KZCmdCheckForUpdatesAutomatically)) return;
-  if (m_check == Check::None) look(Check::Quiet, values);
+  trigger(*m_host, KZCommand::KZCmdCheckForUpdatesAutomatically);
 }
 
 void UpdateService::look(Check check, const Dictionary& content) {
@@ -113,8 +109,7 @@ void UpdateService::succeed(const QString& text) {
   const bool isAsked = m_check == Check::Asked;
   end();
   if (!isAsked) return;
-  m_border->notify(static_cast<quint32>(KZNotify::KZNotifyCheckForUpdatesDone),
-                   Dictionary{{kKZResult, kKZSuccess}});
+  m_host->notify(KZNotify::KZNotifyCheckForUpdatesDone, Dictionary{{kKZResult, kKZSuccess}});
   // The plug-in clears it after a failure only.
   KZUtility::sharedInstance().cleanCheckForUpdatesInProgressFlag();
   Q_EMIT noticed(text);
@@ -125,8 +120,8 @@ void UpdateService::fail(const QString& reason) {
   end();
   // A quiet check keeps quiet.
   if (!isAsked) return;
-  m_border->notify(
-      static_cast<quint32>(KZNotify::KZNotifyCheckForUpdatesDone),
+  m_host->notify(
+      KZNotify::KZNotifyCheckForUpdatesDone,
       Dictionary{{kKZResult, kKZFail}, {kKZErrorHandleData, Dictionary{{kKZErrorMessage, reason}}}});
 }
 

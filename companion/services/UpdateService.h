@@ -10,7 +10,7 @@
 #include "companion/services/UpdateDownload.h"
 #include "host/KZFoundation/Dictionary.h"
 
-class Border;
+class PluginHost;
 
 // Looks for newer versions and fetches them; nothing is installed. Main thread only.
 class UpdateService final : public QObject {
@@ -18,7 +18,7 @@ class UpdateService final : public QObject {
 
  public:
   // The two are not owned and must outlive this. Packages go to `folder`.
-  UpdateService(Border* border, ServiceNetwork* network, const QString& folder);
+  UpdateService(PluginHost* host, ServiceNetwork* network, const QString& folder);
 
   // As the user asks for it, through the plug-in.
   void check();
@@ -39,7 +39,6 @@ class UpdateService final : public QObject {
  private:
   enum class Check { None, Asked, Quiet };
 
-  void answer(quint64 command, const Content& content);
   void look(Check check, const Dictionary& content);
   void readManifest(const WebAnswer& answer);
   void download(const UpdateManifest& manifest);
@@ -47,7 +46,7 @@ class UpdateService final : public QObject {
   void fail(const QString& reason);
   void end();
 
-  Border* m_border;
+  PluginHost* m_host;
   ServiceNetwork* m_network;
   const QString m_folder;
   QTimer m_day;

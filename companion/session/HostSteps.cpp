@@ -3,13 +3,13 @@
 #include <QClipboard>
 #include <QGuiApplication>
 
+#include "companion/format/HostState.h"
+#include "companion/format/TokenState.h"
+#include "companion/format/ValueCodec.h"
 #include "companion/runtime/PreferencesWindow.h"
-#include "companion/session/HostState.h"
-#include "companion/session/TokenState.h"
-#include "companion/session/ValueCodec.h"
 #include "companion/session/ViewDescription.h"
 
-HostSteps::HostSteps(Border* border, LineWriter* writer) : m_border(border), m_writer(writer) {
+HostSteps::HostSteps(PluginHost* host, LineWriter* writer) : m_host(host), m_writer(writer) {
   m_getters = {
       {"store", [this](StepArguments&) { return answer(hoststate::store()); }},
       {"keychain", [this](StepArguments&) { return answer(hoststate::keychain()); }},
@@ -20,7 +20,7 @@ HostSteps::HostSteps(Border* border, LineWriter* writer) : m_border(border), m_w
       {"personalRoom",
        [this](StepArguments&) {
          return answer(
-             QJsonObject{{"join", m_border->core().pmrJoinUrl()}, {"sip", m_border->core().pmrSipUrl()}});
+             QJsonObject{{"join", m_host->core().pmrJoinUrl()}, {"sip", m_host->core().pmrSipUrl()}});
        }},
       {"window", [this](StepArguments&) { return answer(describeWindow(findPreferencesWindow())); }},
   };
@@ -50,8 +50,8 @@ StepOutcome HostSteps::getToken(StepArguments& step) {
   const QString email = step.optionalText("email");
   const QString username = step.optionalText("username");
   if (!step.isGood()) return step.outcome();
-  if (!m_border->tokenLookup()) return StepOutcome::failed(QStringLiteral("this plug-in has no token cache"));
-  const Dictionary token = m_border->tokenLookup()->getAccessTokenByEmail(email, username);
+  if (!m_host->tokenLookup()) return StepOutcome::failed(QStringLiteral("this plug-in has no token cache"));
+  const Dictionary token = m_host->tokenLookup()->getAccessTokenByEmail(email, username);
   return answer(valuecodec::encodeContent(token.isEmpty() ? Content() : Content(token)));
 }
 

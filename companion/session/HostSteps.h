@@ -1,13 +1,13 @@
 #pragma once
 
-#include "companion/runtime/Border.h"
-#include "companion/session/LineWriter.h"
+#include "companion/format/LineWriter.h"
+#include "companion/runtime/PluginHost.h"
 #include "companion/session/StepTable.h"
 
 // `get` and `set`: what the host owns, and what the window shows.
 class HostSteps final {
  public:
-  HostSteps(Border* border, LineWriter* writer);  // not owned
+  HostSteps(PluginHost* host, LineWriter* writer);  // not owned
 
   void addTo(StepTable* table);
 
@@ -16,7 +16,7 @@ class HostSteps final {
   StepOutcome getToken(StepArguments& step);
   StepOutcome answer(const QJsonValue& result);
 
-  Border* m_border;
+  PluginHost* m_host;
   LineWriter* m_writer;
   StepTable m_getters;
   StepTable m_setters;

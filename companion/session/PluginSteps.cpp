@@ -32,14 +32,14 @@ void PluginSteps::addTo(StepTable* table) {
 StepOutcome PluginSteps::command(StepArguments& step) {
   const qint64 number = step.integer("command", 0, std::numeric_limits<qint64>::max());
   const Content content = step.content("content");
-  if (step.isGood()) m_border->triggerCommand(static_cast<quint64>(number), content);
+  if (step.isGood()) m_host->trigger(static_cast<KZCommand>(number), content);
   return step.outcome();
 }
 
 StepOutcome PluginSteps::notify(StepArguments& step) {
   const qint64 index = step.integer("notify", 0, std::numeric_limits<quint32>::max());
   const Content content = step.content("content");
-  if (step.isGood()) m_border->notify(static_cast<quint32>(index), content);
+  if (step.isGood()) m_host->notify(static_cast<KZNotify>(index), content);
   return step.outcome();
 }
 
@@ -62,6 +62,6 @@ StepOutcome PluginSteps::personalRoom(StepArguments& step) {
   const QString join = room.optionalText("join");
   const QString sip = room.optionalText("sip");
   if (!step.isGood()) return step.outcome();
-  if (room.isGood()) m_border->setPersonalRoom(join, sip);
+  if (room.isGood()) m_host->setPersonalRoom(join, sip);
   return room.outcome();
 }

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "companion/runtime/Border.h"
+#include "companion/runtime/PluginHost.h"
 #include "companion/session/StepTable.h"
 
 // What a host does to its plug-in: commands, notifications, the personal room.
 class PluginSteps final {
  public:
-  explicit PluginSteps(Border* border) : m_border(border) {}  // not owned
+  explicit PluginSteps(PluginHost* host) : m_host(host) {}  // not owned
 
   void addTo(StepTable* table);
 
@@ -19,5 +19,5 @@ class PluginSteps final {
   StepOutcome post(StepArguments& step);
   StepOutcome personalRoom(StepArguments& step);
 
-  Border* m_border;
+  PluginHost* m_host;
 };

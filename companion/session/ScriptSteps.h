@@ -3,7 +3,7 @@
 #include <atomic>
 #include <chrono>
 
-#include "companion/session/LineWriter.h"
+#include "companion/format/LineWriter.h"
 #include "companion/session/StepTable.h"
 
 // The steps of the script itself: waiting, marking, measuring, taking pictures.

@@ -3,28 +3,31 @@
 #include <QStringList>
 #include <algorithm>
 
-#include "companion/session/CrossingLine.h"
+#include "companion/format/EventLine.h"
 #include "companion/session/EventPump.h"
 #include "companion/session/StepReader.h"
 
-Session::Session(Border* border, LineWriter* writer, Trace trace)
+Session::Session(PluginHost* host, LineWriter* writer, Trace trace)
     : m_writer(writer),
-      m_pluginSteps(border),
+      m_pluginSteps(host),
       m_userSteps(writer),
-      m_hostSteps(border, writer),
+      m_hostSteps(host, writer),
       m_scriptSteps(writer) {
   m_pluginSteps.addTo(&m_table);
   m_userSteps.addTo(&m_table);
   m_hostSteps.addTo(&m_table);
   m_scriptSteps.addTo(&m_table);
-  m_observer = border->addObserver([this, trace](const Crossing& crossing) { print(crossing, trace); });
+  m_observer = host->addObserver([this, trace](const PluginEvent& event, PluginHost::Phase phase) {
+    if (phase == PluginHost::Phase::Begin) print(event, trace);
+  });
 }
 
-void Session::print(const Crossing& crossing, Trace trace) {
-  const bool isOwn = crossing.kind == Crossing::Kind::Answer && crossing.poster == poster();
-  const bool isUnwanted = crossing.kind == Crossing::Kind::Trace && trace == Trace::Off;
+void Session::print(const PluginEvent& event, Trace trace) {
+  const auto* response = std::get_if<CredentialResponse>(&event);
+  const bool isOwn = response && response->poster == poster();
+  const bool isUnwanted = std::holds_alternative<KZTraceRecord>(event) && trace == Trace::Off;
   if (isOwn || isUnwanted) return;
-  const QList<LineWriter::Member> line = crossingLine(crossing);
+  const QList<LineWriter::Member> line = eventLine(event);
   if (!line.isEmpty()) m_writer->print(line);
 }
 

@@ -3,9 +3,9 @@
 #include <QIODevice>
 #include <chrono>
 
-#include "companion/runtime/Border.h"
+#include "companion/format/LineWriter.h"
+#include "companion/runtime/PluginHost.h"
 #include "companion/session/HostSteps.h"
-#include "companion/session/LineWriter.h"
 #include "companion/session/PluginSteps.h"
 #include "companion/session/ScriptSteps.h"
 #include "companion/session/StepTable.h"
@@ -18,7 +18,7 @@ class Session final {
   // The program's exit status.
   enum class End { Played = 0, StepFailed = 2 };
 
-  Session(Border* border, LineWriter* writer,
+  Session(PluginHost* host, LineWriter* writer,
           Trace trace);  // not owned; load the plug-in before playing
 
   End play(QIODevice* script);
@@ -29,7 +29,7 @@ class Session final {
   const void* poster() const { return m_pluginSteps.poster(); }
 
  private:
-  void print(const Crossing& crossing, Trace trace);
+  void print(const PluginEvent& event, Trace trace);
   StepOutcome playStep(const QJsonObject& step);
   End fail(const QString& reason, int lineNumber);
 
@@ -39,5 +39,5 @@ class Session final {
   HostSteps m_hostSteps;
   ScriptSteps m_scriptSteps;
   StepTable m_table;
-  Border::Token m_observer;
+  PluginHost::Token m_observer;
 };

@@ -2,7 +2,7 @@
 
 #include <QCommandLineParser>
 
-#include "companion/runtime/PluginLocation.h"
+#include "companion/runtime/PluginHost.h"
 
 bool SessionOptions::read(const QStringList& arguments, QString* reason) {
   QCommandLineParser parser;

@@ -4,8 +4,8 @@
 #include <QString>
 #include <functional>
 
-#include "companion/session/StepArguments.h"
-#include "companion/session/StepOutcome.h"
+#include "companion/format/StepArguments.h"
+#include "companion/format/StepOutcome.h"
 
 // What a step's word does.
 using StepHandler = std::function<StepOutcome(StepArguments& step)>;

@@ -8,8 +8,8 @@
 #include <QWidget>
 #include <QWindow>
 
+#include "companion/format/ControlFinder.h"
 #include "companion/runtime/PreferencesWindow.h"
-#include "companion/session/ControlFinder.h"
 #include "companion/session/EventPump.h"
 #include "companion/session/InputEvents.h"
 #include "platform/PopUpButton.h"

@@ -4,9 +4,9 @@
 #include <QLineEdit>
 #include <optional>
 
+#include "companion/format/ControlFinder.h"
+#include "companion/format/KeyNames.h"
 #include "companion/runtime/PreferencesWindow.h"
-#include "companion/session/ControlFinder.h"
-#include "companion/session/KeyNames.h"
 #include "platform/PopUpButton.h"
 #include "platform/WindowController.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "companion/session/LineWriter.h"
+#include "companion/format/LineWriter.h"
 #include "companion/session/StepTable.h"
 #include "companion/session/UserInput.h"
 

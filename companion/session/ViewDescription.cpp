@@ -6,9 +6,9 @@
 #include <QWidget>
 #include <algorithm>
 
+#include "companion/format/ControlFinder.h"
 #include "companion/runtime/PreferencesWindow.h"
 #include "companion/session/ControlDescription.h"
-#include "companion/session/ControlFinder.h"
 #include "platform/FrameLayout.h"
 #include "platform/View.h"
 #include "platform/ViewAnimation.h"

@@ -1,6 +1,6 @@
 #include "companion/session/WriteWatch.h"
 
-#include "companion/session/ValueCodec.h"
+#include "companion/format/ValueCodec.h"
 #include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 

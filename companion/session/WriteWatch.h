@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-#include "companion/session/LineWriter.h"
+#include "companion/format/LineWriter.h"
 
 // Prints what is written into the settings store, and which items of the keychain are written or removed;
 // never a secret.

@@ -9,8 +9,6 @@
 #include "companion/record/RecordFile.h"
 #include "companion/record/Recorder.h"
 #include "companion/runtime/Application.h"
-#include "companion/runtime/CommandLine.h"
-#include "companion/runtime/QtMessages.h"
 #include "companion/session/Session.h"
 #include "companion/session/SessionOptions.h"
 #include "companion/session/WriteWatch.h"
@@ -87,21 +85,21 @@ class RecordLines final {
 };
 
 int playSession(const SessionOptions& options, QIODevice* script, RecordLines* lines) {
-  Border border([](const QUrl&) { return true; });
+  PluginHost host;
   LineWriter writer(stdout);
   std::optional<WriteWatch> writes;
   if (options.isPrintingWrites) writes.emplace(&writer);
   // What is traced while the plug-in is loaded is heard, what the end traces is not part of the script.
-  std::optional<Session> session(std::in_place, &border, &writer, options.trace);
+  std::optional<Session> session(std::in_place, &host, &writer, options.trace);
   std::optional<Recorder> recorder;
   if (lines->isWanted()) {
     recorder.emplace(
-        &border, [lines](const QByteArray& line) { return lines->take(line); },
+        &host, [lines](const QByteArray& line) { return lines->take(line); },
         Recorder::Options{.clock = [&session] { return session->waited(); },
                           .hostPoster = session->poster()});
   }
-  if (!border.loadPlugin(options.pluginPath)) {
-    complain(border.errorText());
+  if (!host.load(options.pluginPath)) {
+    complain(host.errorText());
     return kPluginFailed;
   }
   const Session::End end = session->play(script);
@@ -136,15 +134,13 @@ int runSession(const SessionOptions& options) {
 
 int main(int argc, char** argv) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  installQtMessageFilter();
-  int onlyName = 1;
-  Application application(onlyName, argv);
+  Application application(argv);
   Application::setQuitOnLastWindowClosed(false);
   Application::setApplicationName("prefs-session");
 
   SessionOptions options;
   QString reason;
-  if (!options.read(argumentsOf(argc, argv), &reason)) {
+  if (!options.read(Application::commandLine(argc, argv), &reason)) {
     complain(reason);
     return kUnusable;
   }

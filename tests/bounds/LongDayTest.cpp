@@ -56,14 +56,12 @@ TEST(LongDay, AnEventASecondLeavesMemoryFlat) {
 
 TEST(LongDay, TelemetryLeavesMemoryFlatAndTheFilesBounded) {
   const QTemporaryDir folder;
-  Border border([](const QUrl&) { return true; });
-  ASSERT_TRUE(border.loadPlugin(FAKE_PLUGIN));
-  TelemetryService telemetry(&border, TelemetryFile(folder.path()));
+  PluginHost host([](const QUrl&) { return true; });
+  ASSERT_TRUE(host.load(FAKE_PLUGIN));
+  TelemetryService telemetry(&host, TelemetryFile(folder.path()));
   const Dictionary content{
       {TelemetryKey_Values, Dictionary{{TelemetryKey_FeatureName, "TelemetryValue_FeatureName_Any"}}}};
-  const auto write = [&] {
-    border.triggerCommand(static_cast<quint64>(KZCommand::KZCmdWriteTelemetry), content);
-  };
+  const auto write = [&] { host.trigger(KZCommand::KZCmdWriteTelemetry, content); };
   EXPECT_LT(growthOfADay(kClicksOfADay, write), kMostGrowth);
   qint64 bytes = 0;
   for (const QFileInfo& file : QDir(folder.path()).entryInfoList(QDir::Files)) bytes += file.size();

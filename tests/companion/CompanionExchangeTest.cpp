@@ -14,7 +14,7 @@
 #include "companion/app/DemoUser.h"
 #include "companion/app/Sandbox.h"
 #include "companion/inspector/InspectorLog.h"
-#include "companion/runtime/Border.h"
+#include "companion/runtime/PluginHost.h"
 #include "companion/runtime/PreferencesWindow.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZConstants.h"
@@ -45,7 +45,7 @@ class CompanionExchangeTest : public testing::Test {
   }
 
   void loadFakePlugin() {
-    ASSERT_TRUE(border.loadPlugin(FAKE_PLUGIN));
+    ASSERT_TRUE(host.load(FAKE_PLUGIN));
     // After the fake plug-in's own, whose answer it replaces.
     authenticator = KZNotificationCenter::defaultCenter().addObserver(
         "HTTPAuthenticationRequired", [this](const KZNotification& challenge) { onChallenge(challenge); });
@@ -59,18 +59,20 @@ class CompanionExchangeTest : public testing::Test {
   }
 
   void onChallenge(const KZNotification& challenge) {
-    if (textValue(challenge.userInfo, "ShowWarningMsg") == "true") return border.triggerCommand(22);
+    if (textValue(challenge.userInfo, "ShowWarningMsg") == "true")
+      return host.trigger(KZCommand::KZCmdExchDiscoverAuthFailure);
     KZNotificationCenter::defaultCenter().post(
         {"HTTPAuthenticationDatasource", nullptr, {{"Username", "CORP\\onprem"}, {"Password", password}}});
   }
 
   void detect(const QString& email) {
-    border.triggerCommand(15, Dictionary{{QRT_ExchangeDiscover_Email, email}});
+    host.trigger(KZCommand::KZCmdApplyOutlookAccount, Dictionary{{QRT_ExchangeDiscover_Email, email}});
   }
 
   void sinkPassword() {
-    border.triggerCommand(27, Dictionary{{QRT_CredentialType, QRT_CredentialTypeUsernamePassword},
-                                         {QRT_CredentialContent, "CORP\\onprem:" + password}});
+    host.trigger(KZCommand::KZCmdSinkOutlookAccountCredential,
+                 Dictionary{{QRT_CredentialType, QRT_CredentialTypeUsernamePassword},
+                            {QRT_CredentialContent, "CORP\\onprem:" + password}});
   }
 
   QStringList notifications() {
@@ -88,11 +90,12 @@ class CompanionExchangeTest : public testing::Test {
     return hasCome ? notifications().at(count - 1) : QString();
   }
 
-  Border border{[](const QUrl&) { return true; }};
+  PluginHost host;
   InspectorLog log;
-  Border::Token logging =
-      border.addObserver([this](const Crossing& crossing) { log.record(InspectorEvent::of(crossing)); });
-  CompanionExchange exchange{&border, CompanionExchange::Reach::Sandbox, {}};
+  PluginHost::Token logging = host.addObserver([this](const PluginEvent& event, PluginHost::Phase phase) {
+    if (phase == PluginHost::Phase::Begin) log.record(event);
+  });
+  CompanionExchange exchange{&host, CompanionExchange::Reach::Sandbox, {}};
   Sandbox sandbox;
   KZNotificationCenter::Token authenticator;
   QString password = QStringLiteral("correct horse");
@@ -126,7 +129,7 @@ TEST_F(CompanionExchangeTest, ACancelledSearchAnswersNothingAndClosesItsQuestion
   detect("hosted@hosted.sandbox.example");
   ASSERT_TRUE(QTest::qWaitFor([] { return openQuestion() != nullptr; }, 8000));
   EXPECT_FALSE(openQuestion()->isModal());
-  border.triggerCommand(16);
+  host.trigger(KZCommand::KZCmdCancelApplyOutlookAccount);
   EXPECT_TRUE(QTest::qWaitFor([] { return openQuestion() == nullptr; }, 2000));
   QTest::qWait(300);
   EXPECT_TRUE(notifications().isEmpty()) << qPrintable(notifications().join(u'\n'));
@@ -180,12 +183,12 @@ TEST_F(CompanionExchangeTest, TheMeetingsPaneFindsAnAccount) {
   KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
   store.open(folder.path());
   KZKeyChainHandle::sharedInstance().useStorage(KZKeyChainHandle::Storage::Memory);
-  ASSERT_TRUE(border.loadPlugin(PREFERENCES));
+  ASSERT_TRUE(host.load(PREFERENCES));
   ASSERT_NO_FATAL_FAILURE(startSandbox());
   if (IsSkipped()) return;
-  border.notify(static_cast<quint32>(KZNotify::KZNotifyGetPreferenceDone),
-                Dictionary{{kKZResult, kKZSuccess}, {"kz", demouser::record()}});
-  border.triggerCommand(2);
+  host.notify(KZNotify::KZNotifyGetPreferenceDone,
+              Dictionary{{kKZResult, kKZSuccess}, {"kz", demouser::record()}});
+  host.trigger(KZCommand::KZCmdShowPreference);
   Window* window = findPreferencesWindow();
   ASSERT_NE(window, nullptr);
   paneItemNamed(*window, "Meetings")->trigger();
@@ -217,7 +220,7 @@ TEST_F(CompanionExchangeTest, TheMeetingsPaneFindsAnAccount) {
   const QString found = notificationNumber(3);
   EXPECT_TRUE(found.startsWith("15 ") && found.contains("https://")) << qPrintable(found);
   EXPECT_FALSE(found.contains(password));
-  border.shutDown();
+  host.shutDown();
   store.close();
 }
 

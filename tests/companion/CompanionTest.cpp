@@ -3,13 +3,13 @@
 #include <QImage>
 #include <QLineEdit>
 #include <QProcess>
-#include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QThread>
 
 #include "companion/app/DemoUser.h"
 #include "companion/inspector/InspectorLog.h"
-#include "companion/runtime/Border.h"
+#include "companion/runtime/PluginHost.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 
@@ -23,23 +23,26 @@ QStringList namesIn(const InspectorLog& log, InspectorEvent::Kind kind) {
   return names;
 }
 
-TEST(Border, TellsWhatCrossesAlsoFromOtherThreads) {
-  Border border([](const QUrl&) { return true; });
+TEST(PluginHost, ReportsEventsAlsoFromOtherThreads) {
+  PluginHost host;
   InspectorLog log;
-  const Border::Token logging =
-      border.addObserver([&log](const Crossing& crossing) { log.record(InspectorEvent::of(crossing)); });
-  ASSERT_TRUE(border.loadPlugin(FAKE_PLUGIN));
-  border.triggerCommand(9, Dictionary{{"a", 1}});
-  border.triggerCommand(28);
+  const PluginHost::Token logging =
+      host.addObserver([&log](const PluginEvent& event, PluginHost::Phase phase) {
+        if (phase == PluginHost::Phase::Begin) log.record(event);
+      });
+  ASSERT_TRUE(host.load(FAKE_PLUGIN));
+  host.trigger(KZCommand::KZCmdCheckForUpdatesAutomatically, Dictionary{{"a", 1}});
+  host.trigger(KZCommand::KZCmdGetExchOnlineToken);
   const std::unique_ptr<QThread> worker(QThread::create([] {
     KZNotificationCenter::defaultCenter().post({"HTTPAuthenticationDatasource", nullptr, {}});
   }));
-  QSignalSpy sent(&border, &Border::commandSent);
+  int sent = 0;
+  host.handle(KZCommand::KZCmdExchOnlineTokenGot, &host, [&sent](const Content&) { ++sent; });
   worker->start();
-  EXPECT_TRUE(sent.wait(2000));
+  EXPECT_TRUE(QTest::qWaitFor([&sent] { return sent == 1; }, 2000));
   worker->wait();
   QCoreApplication::processEvents();
-  EXPECT_EQ(namesIn(log, InspectorEvent::Kind::Trace), QStringList{"FakeCore::handle"});
+  EXPECT_EQ(namesIn(log, InspectorEvent::Kind::Trace), QStringList({"load", "FakeCore::handle"}));
   EXPECT_EQ(namesIn(log, InspectorEvent::Kind::CommandToHost), QStringList{"29 KZCmdExchOnlineTokenGot"});
   EXPECT_EQ(namesIn(log, InspectorEvent::Kind::Answer), QStringList{"HTTPAuthenticationDatasource"});
 }

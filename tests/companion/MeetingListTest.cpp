@@ -17,7 +17,7 @@
 #include "companion/app/DemoUser.h"
 #include "companion/app/MeetingsView.h"
 #include "companion/app/Sandbox.h"
-#include "companion/runtime/Border.h"
+#include "companion/runtime/PluginHost.h"
 #include "companion/runtime/PreferencesWindow.h"
 #include "companion/services/CompanionServices.h"
 #include "host/KZFoundation/KZCommands.h"
@@ -36,7 +36,7 @@ class MeetingListTest : public testing::Test {
     if (QStandardPaths::findExecutable("openssl").isEmpty()) GTEST_SKIP() << "openssl is missing";
     KZPlistFileHandle::sharedInstance().open(folder.path());
     KZKeyChainHandle::sharedInstance().useStorage(KZKeyChainHandle::Storage::Memory);
-    ASSERT_TRUE(border.loadPlugin(PREFERENCES));
+    ASSERT_TRUE(host.load(PREFERENCES));
     QObject::connect(&services, &CompanionServices::noticed, &services,
                      [this](const QString& text) { notices.append(text); });
     QObject::connect(&sandbox, &Sandbox::ready, &services,
@@ -46,7 +46,7 @@ class MeetingListTest : public testing::Test {
                      });
     startSandbox();
     services.site().signIn();
-    border.triggerCommand(2);
+    host.trigger(KZCommand::KZCmdShowPreference);
     window = findPreferencesWindow();
     ASSERT_NE(window, nullptr);
     paneItemNamed(*window, "Meetings")->trigger();
@@ -55,7 +55,7 @@ class MeetingListTest : public testing::Test {
 
   void TearDown() override {
     view.close();
-    border.shutDown();
+    host.shutDown();
     KZPlistFileHandle::sharedInstance().close();
   }
 
@@ -111,13 +111,13 @@ class MeetingListTest : public testing::Test {
 
   const QTemporaryDir folder;
   QNetworkAccessManager browser;
-  Border border{[this](const QUrl& url) {
+  PluginHost host{[this](const QUrl& url) {
     QNetworkReply* page = browser.get(QNetworkRequest(url));
     QObject::connect(page, &QNetworkReply::finished, page, &QObject::deleteLater);
     return true;
   }};
-  CompanionExchange exchange{&border, NetworkReach::Sandbox, {}};
-  CompanionServices services{&border,
+  CompanionExchange exchange{&host, NetworkReach::Sandbox, {}};
+  CompanionServices services{&host,
                              {.reach = NetworkReach::Sandbox,
                               .exchange = {},
                               .record = demouser::record(),
@@ -187,7 +187,7 @@ TEST_F(MeetingListTest, NobodyIsAskedWhileNobodyWatches) {
   QSignalSpy changed(&services.meetings(), &NextMeetings::changed);
   view.hide();
   click("m_outlookRadioBtn");
-  border.triggerCommand(18);
+  host.trigger(KZCommand::KZCmdCalendarIntegrationSourceChanged);
   QTest::qWait(100);
   EXPECT_TRUE(changed.isEmpty());
   view.show();

@@ -44,7 +44,7 @@ class SiteDialogTest : public ServicesFixture {
   }
   static QString storedSite() { return KZPlistFileHandle::sharedInstance().siteName(); }
 
-  SiteService service{&border, &network, {}};
+  SiteService service{&host, &network, {}};
   QPointer<SiteDialog> dialog;
 };
 

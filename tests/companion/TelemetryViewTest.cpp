@@ -10,11 +10,12 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "companion/runtime/Border.h"
+#include "companion/runtime/PluginHost.h"
 #include "companion/services/TelemetryService.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
+#include "tests/kit/FromPlugin.h"
 
 namespace {
 
@@ -24,10 +25,9 @@ class TelemetryViewTest : public testing::Test {
   void TearDown() override { KZPlistFileHandle::sharedInstance().close(); }
 
   void choose(const QString& feature) {
-    Q_EMIT border.commandSent(
-        static_cast<quint64>(KZCommand::KZCmdWriteTelemetry),
-        Dictionary{{TelemetryKey_MetricName, "metric"},
-                   {TelemetryKey_Values, Dictionary{{TelemetryKey_FeatureName, feature}}}});
+    sendFromPlugin(host, KZCommand::KZCmdWriteTelemetry,
+                   Dictionary{{TelemetryKey_MetricName, "metric"},
+                              {TelemetryKey_Values, Dictionary{{TelemetryKey_FeatureName, feature}}}});
     QTest::qWait(1);
   }
 
@@ -38,8 +38,8 @@ class TelemetryViewTest : public testing::Test {
   QString text() const { return view.findChild<QLabel*>("telemetryText")->text(); }
 
   const QTemporaryDir folder;
-  Border border{[](const QUrl&) { return true; }};
-  TelemetryService service{&border, TelemetryFile(folder.filePath("data"), {.fileBytes = 1000, .files = 2})};
+  PluginHost host;
+  TelemetryService service{&host, TelemetryFile(folder.filePath("data"), {.fileBytes = 1000, .files = 2})};
   TelemetryView view{&service};
   QTableWidget* table = view.findChild<QTableWidget*>();
   QCheckBox* isOn = view.findChild<QCheckBox*>();

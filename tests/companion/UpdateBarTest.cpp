@@ -33,7 +33,7 @@ class UpdateBarTest : public ServicesFixture {
   QString text() const { return bar->findChild<QLabel*>()->text(); }
 
   QString packages = folder.filePath("updates");
-  UpdateService updates{&border, &network, packages};
+  UpdateService updates{&host, &network, packages};
   QWidget parent;
   UpdateBar* bar = [this] {
     auto* made = new UpdateBar(&updates);
@@ -88,9 +88,9 @@ TEST_F(UpdateBarTest, ACheckTakesOverAQuietOneThatStillRuns) {
   useSite("slow.meetings.sandbox.example");
   updates.checkQuietly();
   QTest::qWait(20);
-  border.triggerCommand(static_cast<quint64>(KZCommand::KZCmdCheckForUpdates));
+  host.trigger(KZCommand::KZCmdCheckForUpdates);
   EXPECT_TRUE(bar->isVisible());
-  border.triggerCommand(static_cast<quint64>(KZCommand::KZCmdCheckForUpdatesAutomatically));
+  host.trigger(KZCommand::KZCmdCheckForUpdatesAutomatically);
   ASSERT_TRUE(waitUntil([this] { return progress->value() > 0; }));
   EXPECT_FALSE(shownButton("Download")) << "the quiet check has answered, too";
   shownButton("Cancel")->click();

@@ -35,7 +35,7 @@ class InspectorViewTest : public testing::Test {
     m_view.show();
   }
 
-  void tell(const Crossing& crossing) { m_log.record(InspectorEvent::of(crossing)); }
+  void tell(const PluginEvent& event) { m_log.record(event); }
 
   QAbstractButton* button(const QString& begin) {
     const auto all = m_view.findChildren<QAbstractButton*>();
@@ -63,17 +63,19 @@ class InspectorViewTest : public testing::Test {
 TEST_F(InspectorViewTest, SecretsAreNowhere) {
   const QString json = R"({"access_token":"s3cret","user":"ada"})";
   const Dictionary content{{QRT_CredentialContent, kSecret}, {"data", json}};
-  using enum Crossing::Kind;
-  for (const auto kind : {CommandToPlugin, CommandToHost, Notification, PersonalRoom, Challenge, Answer}) {
-    tell({.kind = kind, .number = 27, .name = "name", .content = content});
-  }
-  tell({.kind = CommandToHost, .number = 23, .content = content});
-  tell({.kind = Address, .text = "https://example.com/?token=s3cret"});
-  tell({.kind = Warning, .name = "Failed", .text = "at https://example.com/?code=s3cret"});
-  m_log.record(InspectorEvent::ofStoreWrite("preferenceInfo", content, {}));
+  const auto sinkCredential = KZCommand::KZCmdSinkOutlookAccountCredential;
+  tell(CommandToPlugin{sinkCredential, content});
+  tell(CommandToHost{sinkCredential, content});
+  tell(NotificationToPlugin{KZNotify::KZNotifyGetPreferenceDone, content});
+  tell(CredentialRequest{"name", content});
+  tell(CredentialResponse{"name", content});
+  tell(CommandToHost{KZCommand::KZCmdWriteTelemetry, content});
+  tell(AddressRequest{"https://example.com/?token=s3cret"});
+  tell(WarningShown{"Failed", "at https://example.com/?code=s3cret"});
+  m_log.record(StoreChange{"preferenceInfo", content, {}});
   press("Copy");
   const QString copied = QGuiApplication::clipboard()->text();
-  EXPECT_EQ(copied.count(u'\n'), 10);
+  EXPECT_EQ(copied.count(u'\n'), 9);
   EXPECT_FALSE(copied.contains(kSecret)) << qPrintable(copied);
   for (int row = 0; row < table()->model()->rowCount(); ++row) {
     EXPECT_FALSE(shownDetails(row).contains(kSecret)) << qPrintable(shownDetails(row));
@@ -86,10 +88,8 @@ TEST_F(InspectorViewTest, SecretsAreNowhere) {
 }
 
 TEST_F(InspectorViewTest, AnArrowKeyShowsTheWholeContent) {
-  tell({.kind = Crossing::Kind::CommandToHost,
-        .number = 4,
-        .content = Dictionary{{"a", Dictionary{{"b", 1}}}}});
-  m_log.record(InspectorEvent::ofStoreWrite("siteName", "old", "new"));
+  tell(CommandToHost{static_cast<KZCommand>(4), Dictionary{{"a", Dictionary{{"b", 1}}}}});
+  m_log.record(StoreChange{"siteName", "old", "new"});
   QCoreApplication::processEvents();
   EXPECT_EQ(shownDetails(0).toStdString(), "{\n    \"a\": {\n        \"b\": 1\n    }\n}");
   QTest::keyClick(table(), Qt::Key_Down);
@@ -105,8 +105,8 @@ TEST_F(InspectorViewTest, AnArrowKeyShowsTheWholeContent) {
 }
 
 TEST_F(InspectorViewTest, TheBoxesAndTheFieldFilter) {
-  tell({.kind = Crossing::Kind::CommandToPlugin, .number = 2});
-  tell({.kind = Crossing::Kind::Trace, .name = "A::b", .text = "hello"});
+  tell(CommandToPlugin{static_cast<KZCommand>(2)});
+  tell(KZTraceRecord{KZTraceLevel::Info, {}, "A::b", "hello"});
   QCoreApplication::processEvents();
   EXPECT_EQ(table()->model()->rowCount(), 1) << "traces are off at first";
   press("Traces");
@@ -118,11 +118,11 @@ TEST_F(InspectorViewTest, TheBoxesAndTheFieldFilter) {
 }
 
 TEST_F(InspectorViewTest, APauseKeepsWhatIsRead) {
-  tell({.kind = Crossing::Kind::CommandToPlugin, .number = 2});
+  tell(CommandToPlugin{static_cast<KZCommand>(2)});
   QCoreApplication::processEvents();
   const QString read = shownDetails(0);
   press("Pause");
-  tell({.kind = Crossing::Kind::CommandToPlugin, .number = 3});
+  tell(CommandToPlugin{static_cast<KZCommand>(3)});
   QCoreApplication::processEvents();
   EXPECT_EQ(table()->model()->rowCount(), 1);
   EXPECT_EQ(button("Continue")->text().toStdString(), "Continue (1 new)");
@@ -134,7 +134,7 @@ TEST_F(InspectorViewTest, APauseKeepsWhatIsRead) {
 
 TEST_F(InspectorViewTest, TheListFollowsItsEndUnlessScrolledAway) {
   const auto add = [this](int count) {
-    for (int at = 0; at < count; ++at) tell({.kind = Crossing::Kind::CommandToPlugin, .number = 2});
+    for (int at = 0; at < count; ++at) tell(CommandToPlugin{static_cast<KZCommand>(2)});
     for (int times = 0; times < 3; ++times) QCoreApplication::processEvents();
   };
   const auto lastVisible = [this] { return table()->rowAt(table()->viewport()->height() - 2); };
@@ -154,7 +154,7 @@ TEST_F(InspectorViewTest, TheListFollowsItsEndUnlessScrolledAway) {
 }
 
 TEST_F(InspectorViewTest, AListThatIsFilledAlreadyOpensAtItsEnd) {
-  for (int at = 0; at < 200; ++at) tell({.kind = Crossing::Kind::CommandToPlugin, .number = 2});
+  for (int at = 0; at < 200; ++at) tell(CommandToPlugin{static_cast<KZCommand>(2)});
   QCoreApplication::processEvents();
   InspectorView late(&m_log);
   late.resize(900, 400);
@@ -165,9 +165,9 @@ TEST_F(InspectorViewTest, AListThatIsFilledAlreadyOpensAtItsEnd) {
 }
 
 TEST_F(InspectorViewTest, AnExportReadsBack) {
-  tell({.kind = Crossing::Kind::CommandToHost, .number = 4, .content = Dictionary{{"on", true}}});
-  tell({.kind = Crossing::Kind::Trace, .name = "A::b", .text = "{\"a\":1}", .level = KZTraceLevel::Error});
-  m_log.record(InspectorEvent::ofStoreWrite("siteName", {}, "new"));
+  tell(CommandToHost{static_cast<KZCommand>(4), Dictionary{{"on", true}}});
+  tell(KZTraceRecord{KZTraceLevel::Error, {}, "A::b", "{\"a\":1}"});
+  m_log.record(StoreChange{"siteName", {}, "new"});
   QCoreApplication::processEvents();
   const QTemporaryDir folder;
   const auto lines = [&](InspectorView::Scope scope) {
@@ -199,10 +199,10 @@ TEST_F(InspectorViewTest, AnExportThatFailsIsTold) {
 
 TEST_F(InspectorViewTest, WhatIsReadStaysWhenItsRowGoes) {
   const auto add = [this](int count) {
-    for (int at = 0; at < count; ++at) tell({.kind = Crossing::Kind::CommandToPlugin, .number = 3});
+    for (int at = 0; at < count; ++at) tell(CommandToPlugin{static_cast<KZCommand>(3)});
     for (int times = 0; times < 3; ++times) QCoreApplication::processEvents();
   };
-  tell({.kind = Crossing::Kind::CommandToPlugin, .number = 2, .content = Dictionary{{"a", 1}}});
+  tell(CommandToPlugin{static_cast<KZCommand>(2), Dictionary{{"a", 1}}});
   add(int(InspectorLog::mostEvents) - 1);
   const QString read = shownDetails(0);
   table()->scrollTo(table()->model()->index(5000, 0), QAbstractItemView::PositionAtTop);
@@ -221,7 +221,7 @@ TEST_F(InspectorViewTest, ManyEventsCostLittle) {
   QElapsedTimer timer;
   timer.start();
   for (int number = 0; number < kEvents; ++number) {
-    tell({.kind = Crossing::Kind::CommandToHost, .number = 4, .content = Dictionary{{"number", number}}});
+    tell(CommandToHost{static_cast<KZCommand>(4), Dictionary{{"number", number}}});
     if (number % 240 == 0) QCoreApplication::processEvents();
   }
   QCoreApplication::processEvents();

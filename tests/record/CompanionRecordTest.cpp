@@ -6,8 +6,8 @@
 
 #include "companion/app/Companion.h"
 #include "companion/exchange/CredentialChallenge.h"
+#include "companion/format/ControlFinder.h"
 #include "companion/runtime/PreferencesWindow.h"
-#include "companion/session/ControlFinder.h"
 #include "companion/session/EventPump.h"
 #include "companion/session/UserInput.h"
 #include "host/KZUtility/KZKeyChainHandle.h"
@@ -70,8 +70,8 @@ TEST_F(CompanionRecord, OfAnExchangeAccountPlaysAgain) {
 }
 
 TEST_F(CompanionRecord, TellsTheUserWhatBecomesOfIt) {
-  Border border([](const QUrl&) { return true; });
-  Recording recording(&border);
+  PluginHost host([](const QUrl&) { return true; });
+  Recording recording(&host);
   QSignalSpy noticed(&recording, &Recording::noticed);
   QSignalSpy changed(&recording, &Recording::changed);
   EXPECT_FALSE(recording.start("/nowhere/at/all"));

@@ -11,9 +11,9 @@
 #include <optional>
 #include <thread>
 
+#include "companion/format/ControlFinder.h"
 #include "companion/record/Recorder.h"
 #include "companion/runtime/PreferencesWindow.h"
-#include "companion/session/ControlFinder.h"
 #include "companion/session/EventPump.h"
 #include "host/KZFoundation/KZNotificationCenter.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
@@ -29,8 +29,8 @@ using namespace std::chrono_literals;
 class RecordedInput : public testing::Test {
  protected:
   void SetUp() override {
-    ASSERT_TRUE(m_border.loadPlugin(PREFERENCES));
-    m_border.triggerCommand(2);
+    ASSERT_TRUE(m_host.load(PREFERENCES));
+    m_host.trigger(KZCommand::KZCmdShowPreference);
     eventpump::settle();
     window()->controller()->setProperty("crossFade", false);
     m_lines.clear();
@@ -61,9 +61,9 @@ class RecordedInput : public testing::Test {
 
   QString steps() const { return stepsIn(m_lines).join(u'\n'); }
 
-  Border m_border{[](const QUrl&) { return true; }};
+  PluginHost m_host{[](const QUrl&) { return true; }};
   QStringList m_lines;
-  Recorder m_recorder{&m_border,
+  Recorder m_recorder{&m_host,
                       [this](const QByteArray& line) {
                         m_lines.append(QString::fromUtf8(line));
                         return true;
@@ -96,7 +96,7 @@ TEST_F(RecordedInput, ATextIsOneStepBeforeWhatFollows) {
   type("e");
   EXPECT_FALSE(steps().contains("ann@"));
   press(Qt::Key_Return);
-  m_border.notify(99, {});
+  m_host.notify(static_cast<KZNotify>(99), {});
   EXPECT_EQ(steps().toStdString(),
             "{\"click\":\"m_emailInputTxt\"}\n"
             "{\"type\":\"m_emailInputTxt\",\"text\":\"ann@brenn.example\"}\n"
@@ -142,10 +142,10 @@ TEST_F(RecordedInput, TheUserClosesButACommandDoesNot) {
   window()->windowHandle()->close();
   eventpump::settle();
   EXPECT_EQ(steps().toStdString(), "{\"close\":true}");
-  m_border.triggerCommand(2);
+  m_host.trigger(KZCommand::KZCmdShowPreference);
   eventpump::settle();
   m_lines.clear();
-  m_border.triggerCommand(3);
+  m_host.trigger(KZCommand::KZCmdDestroyPreference);
   eventpump::settle();
   EXPECT_EQ(steps().toStdString(), "{\"command\":3}");
 }
@@ -160,14 +160,15 @@ TEST_F(RecordedInput, AKeyOfAPasswordIsNoStep) {
   type("pass");
   QTest::keyClick(window()->windowHandle(), 'q', Qt::AltModifier);
   type("word");
-  m_border.notify(99, {});
+  m_host.notify(static_cast<KZNotify>(99), {});
   EXPECT_EQ(field->text(), "passqword");
   EXPECT_EQ(steps().toStdString(), "{\"type\":\"m_emailInputTxt\",\"text\":\"secret-1\"}\n{\"notify\":99}");
 }
 
 TEST_F(RecordedInput, AWarningThatIsReadIsAComment) {
-  m_border.notify(8, Dictionary{{"kKZResult", "kKZFail"},
-                                {"kKZErrorHandleData", Dictionary{{"kKZErrorMessage", "It is gone."}}}});
+  m_host.notify(KZNotify::KZNotifyCheckForUpdatesDone,
+                Dictionary{{"kKZResult", "kKZFail"},
+                           {"kKZErrorHandleData", Dictionary{{"kKZErrorMessage", "It is gone."}}}});
   eventpump::settle();
   QWidget* warning = nullptr;
   for (QWidget* one : QApplication::topLevelWidgets()) {
@@ -181,9 +182,9 @@ TEST_F(RecordedInput, AWarningThatIsReadIsAComment) {
 }
 
 TEST(RecorderLife, ARecorderMayComeAndGoInTheMiddleOfAnInput) {
-  Border border([](const QUrl&) { return true; });
-  ASSERT_TRUE(border.loadPlugin(PREFERENCES));
-  border.triggerCommand(2);
+  PluginHost host([](const QUrl&) { return true; });
+  ASSERT_TRUE(host.load(PREFERENCES));
+  host.trigger(KZCommand::KZCmdShowPreference);
   eventpump::settle();
   Window* window = findPreferencesWindow();
   window->controller()->setProperty("crossFade", false);
@@ -192,7 +193,7 @@ TEST(RecorderLife, ARecorderMayComeAndGoInTheMiddleOfAnInput) {
   const auto record = [&] {
     recorder.reset();
     recorder.emplace(
-        &border,
+        &host,
         [&lines](const QByteArray& line) {
           lines.append(QString::fromUtf8(line));
           return true;
@@ -217,8 +218,8 @@ TEST(RecorderLife, ARecorderMayComeAndGoInTheMiddleOfAnInput) {
 }
 
 TEST(RecorderLife, AnEndWaitsForWhatAWorkerTells) {
-  Border border([](const QUrl&) { return true; });
-  ASSERT_TRUE(border.loadPlugin(PREFERENCES));
+  PluginHost host([](const QUrl&) { return true; });
+  ASSERT_TRUE(host.load(PREFERENCES));
   std::atomic<bool> isEnough = false;
   std::atomic<int> posted = 0;
   std::thread worker([&] {
@@ -232,7 +233,7 @@ TEST(RecorderLife, AnEndWaitsForWhatAWorkerTells) {
     auto isAlive = std::make_shared<std::atomic<bool>>(true);
     std::atomic<int> tooLate = 0;
     {
-      const Recorder recorder(&border,
+      const Recorder recorder(&host,
                               [&, isAlive](const QByteArray&) { return tooLate += *isAlive ? 0 : 1, true; },
                               {.clock = [] { return 0ms; }});
       while (posted < before + 2) std::this_thread::yield();

@@ -13,8 +13,8 @@
 #include "companion/app/DemoUser.h"
 #include "companion/app/Recording.h"
 #include "companion/app/Sandbox.h"
+#include "companion/format/ControlFinder.h"
 #include "companion/runtime/PreferencesWindow.h"
-#include "companion/session/ControlFinder.h"
 #include "companion/session/EventPump.h"
 #include "companion/session/UserInput.h"
 #include "host/KZFoundation/KZCommands.h"
@@ -44,10 +44,10 @@ class RecordedSandbox : public testing::Test {
     m_sandbox.start(KZ_SANDBOX);
     ASSERT_TRUE(ready.wait(20'000));
     ASSERT_TRUE(m_recording.start(path()));
-    ASSERT_TRUE(m_border.loadPlugin(PREFERENCES));
-    m_border.notify(static_cast<quint32>(KZNotify::KZNotifyGetPreferenceDone),
-                    Dictionary{{kKZResult, kKZSuccess}, {"kz", demouser::record()}});
-    m_border.triggerCommand(2);
+    ASSERT_TRUE(m_host.load(PREFERENCES));
+    m_host.notify(KZNotify::KZNotifyGetPreferenceDone,
+                  Dictionary{{kKZResult, kKZSuccess}, {"kz", demouser::record()}});
+    m_host.trigger(KZCommand::KZCmdShowPreference);
     eventpump::settle();
     const Window& window = *findPreferencesWindow();
     ASSERT_TRUE(m_user.clickPane(window, paneItemNamed(window, "Meetings"), {}).isNull());
@@ -55,7 +55,7 @@ class RecordedSandbox : public testing::Test {
   }
   void TearDown() override {
     m_recording.stop();
-    m_border.shutDown();
+    m_host.shutDown();
     KZPlistFileHandle::sharedInstance().close();
   }
 
@@ -117,10 +117,10 @@ class RecordedSandbox : public testing::Test {
 
   QTemporaryDir m_folder;
   QUrl m_opened;
-  Border m_border{[this](const QUrl& url) { return open(url); }};
-  CompanionExchange m_exchange{&m_border, CompanionExchange::Reach::Sandbox, {}};
+  PluginHost m_host{[this](const QUrl& url) { return open(url); }};
+  CompanionExchange m_exchange{&m_host, CompanionExchange::Reach::Sandbox, {}};
   Sandbox m_sandbox;
-  Recording m_recording{&m_border};
+  Recording m_recording{&m_host};
   UserInput m_user;
 };
 

@@ -10,10 +10,11 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "companion/runtime/Border.h"
+#include "companion/runtime/PluginHost.h"
 #include "companion/services/GeneralSettings.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
+#include "tests/kit/FromPlugin.h"
 
 namespace {
 
@@ -71,14 +72,14 @@ TEST_F(AutostartEntryTest, IsWrittenOnlyWhenItDiffersAndRemoved) {
 }
 
 TEST_F(AutostartEntryTest, FollowsTheUsersChoiceAlone) {
-  Border border([](const QUrl&) { return true; });
+  PluginHost host;
   const AutostartEntry entry(folder.filePath("autostart"), "/usr/bin/companion");
-  GeneralSettings settings(&border, entry);
+  GeneralSettings settings(&host, entry);
   QStringList notices;
   QObject::connect(&settings, &GeneralSettings::noticed, &settings,
                    [&notices](const QString& text) { notices.append(text); });
-  const auto choose = [&border](bool isOn) {
-    Q_EMIT border.commandSent(4, Dictionary{{kLaunchAtLogin, isOn}});
+  const auto choose = [&host](bool isOn) {
+    sendFromPlugin(host, KZCommand::KZCmdUpdateGeneralSetting, Dictionary{{kLaunchAtLogin, isOn}});
   };
   settings.apply();
   EXPECT_FALSE(QFile::exists(entry.path())) << "nobody has chosen";
@@ -94,7 +95,7 @@ TEST_F(AutostartEntryTest, FollowsTheUsersChoiceAlone) {
 
   QFile inTheWay(folder.filePath("file"));
   ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
-  GeneralSettings stuck(&border, AutostartEntry(folder.filePath("file"), "/usr/bin/companion"));
+  GeneralSettings stuck(&host, AutostartEntry(folder.filePath("file"), "/usr/bin/companion"));
   QObject::connect(&stuck, &GeneralSettings::noticed, &stuck,
                    [&notices](const QString& text) { notices.append(text); });
   choose(true);

@@ -26,7 +26,7 @@ class ChangeNoticesTest : public ServicesFixture {
   }
 
   void openPane(const char* label) {
-    border.triggerCommand(static_cast<quint64>(KZCommand::KZCmdShowPreference));
+    host.trigger(KZCommand::KZCmdShowPreference);
     ASSERT_NE(findPreferencesWindow(), nullptr);
     paneItemNamed(*findPreferencesWindow(), label)->trigger();
   }
@@ -50,8 +50,7 @@ class ChangeNoticesTest : public ServicesFixture {
   }
 
   void tellRecord(const Dictionary& record) {
-    border.notify(static_cast<quint32>(KZNotify::KZNotifyGetPreferenceDone),
-                  Dictionary{{kKZResult, kKZSuccess}, {"kz", record}});
+    host.notify(KZNotify::KZNotifyGetPreferenceDone, Dictionary{{kKZResult, kKZSuccess}, {"kz", record}});
   }
 
   static void challenge(int type) {
@@ -62,8 +61,8 @@ class ChangeNoticesTest : public ServicesFixture {
   // The latest notice.
   std::string told() const { return notices.isEmpty() ? std::string() : notices.last().toStdString(); }
 
-  ChangeNotices changes{&border};
-  GeneralSettings general{&border, AutostartEntry(folder.filePath("autostart"), "/bin/true")};
+  ChangeNotices changes{&host};
+  GeneralSettings general{&host, AutostartEntry(folder.filePath("autostart"), "/bin/true")};
 };
 
 TEST_F(ChangeNoticesTest, ChoicesInTheGeneralPane) {
@@ -93,7 +92,7 @@ TEST_F(ChangeNoticesTest, AnotherPersonalRoomIsNewsTheFirstAndTheSameAreNot) {
 TEST_F(ChangeNoticesTest, AGuestOfAnotherName) {
   KZPlistFileHandle::sharedInstance().setDisplayName("Gustav");
   KZPlistFileHandle::sharedInstance().setUserName("gustav@example.com");
-  border.triggerCommand(static_cast<quint64>(KZCommand::KZCmdInitGuestPreference));
+  host.trigger(KZCommand::KZCmdInitGuestPreference);
   openPane("Account");
   auto* edit = shown<QWidget>("m_editBtn");
   ASSERT_NE(edit, nullptr);

@@ -6,19 +6,18 @@
 
 void ServicesFixture::SetUp() {
   KZKeyChainHandle::sharedInstance().useStorage(KZKeyChainHandle::Storage::Memory);
-  m_watching = border.addObserver([this](const Crossing& crossing) {
-    if (crossing.kind == Crossing::Kind::Warning) warnings.append(crossing.text);
-    if (crossing.kind == Crossing::Kind::Notification) {
-      m_notifications.append({crossing.number, crossing.content.value_or(Dictionary())});
-    }
+  m_observer = host.addObserver([this](const PluginEvent& event, PluginHost::Phase phase) {
+    if (phase == PluginHost::Phase::End) return;
+    if (const auto* warning = std::get_if<WarningShown>(&event)) warnings.append(warning->message);
+    if (const auto* notified = std::get_if<NotificationToPlugin>(&event)) m_notifications.append(*notified);
   });
-  ASSERT_TRUE(border.loadPlugin(PREFERENCES)) << border.errorText().toStdString();
+  ASSERT_TRUE(host.load(PREFERENCES)) << host.errorText().toStdString();
   if (!sites.listen()) GTEST_SKIP() << "the openssl program is missing: no certificate for the sandbox";
   network.useSandbox(sites.describe());
 }
 
 void ServicesFixture::TearDown() {
-  border.shutDown();
+  host.shutDown();
   KZPlistFileHandle::sharedInstance().close();
   KZUtility::sharedInstance().cleanCheckForUpdatesInProgressFlag();
 }
@@ -31,8 +30,8 @@ NetworkConfiguration ServicesFixture::quickConfiguration() {
 
 QList<Dictionary> ServicesFixture::notifications(KZNotify index) const {
   QList<Dictionary> contents;
-  for (const auto& [number, content] : m_notifications) {
-    if (number == static_cast<quint64>(index)) contents.append(content);
+  for (const NotificationToPlugin& notified : m_notifications) {
+    if (notified.index == index) contents.append(notified.content.value_or(Dictionary()));
   }
   return contents;
 }

@@ -9,7 +9,7 @@
 #include <QUrl>
 #include <functional>
 
-#include "companion/runtime/Border.h"
+#include "companion/runtime/PluginHost.h"
 #include "companion/services/ServiceNetwork.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "sandbox/MeetingSite.h"
@@ -29,7 +29,7 @@ class ServicesFixture : public testing::Test {
   const QTemporaryDir folder;
   sandbox::MeetingSite sites;
   QList<QUrl> opened;
-  Border border{[this](const QUrl& url) {
+  PluginHost host{[this](const QUrl& url) {
     opened.append(url);
     return true;
   }};
@@ -38,6 +38,6 @@ class ServicesFixture : public testing::Test {
   QStringList notices;
 
  private:
-  QList<std::pair<quint64, Dictionary>> m_notifications;
-  Border::Token m_watching;
+  QList<NotificationToPlugin> m_notifications;
+  PluginHost::Token m_observer;
 };

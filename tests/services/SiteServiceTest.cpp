@@ -25,7 +25,7 @@ class SiteServiceTest : public ServicesFixture {
 
   static KZPlistFileHandle& store() { return KZPlistFileHandle::sharedInstance(); }
 
-  SiteService service{&border, &network, {{QRT_Preference_PMRUrl, "https://stand-in.example/ada"}}};
+  SiteService service{&host, &network, {{QRT_Preference_PMRUrl, "https://stand-in.example/ada"}}};
 };
 
 TEST_F(SiteServiceTest, AnAdoptedSiteReachesTheStoreAndThePlugin) {
@@ -42,7 +42,7 @@ TEST_F(SiteServiceTest, AnAdoptedSiteReachesTheStoreAndThePlugin) {
   EXPECT_EQ(store().cdnUrl(), "https://downloads.sandbox.example");
   EXPECT_EQ(textValue(store().preferenceInfo(), QRT_Preference_PMRUrl), "https://sandbox.example/meet/ada");
 
-  border.triggerCommand(static_cast<quint64>(KZCommand::KZCmdJoinByNumber));
+  host.trigger(KZCommand::KZCmdJoinByNumber);
   ASSERT_EQ(opened.size(), 1);
   EXPECT_EQ(opened.last().path(), "/join");
   EXPECT_EQ(textValue(store().preferenceInfo(), QRT_Preference_PMRUrl), "https://sandbox.example/meet/ada");
@@ -51,7 +51,7 @@ TEST_F(SiteServiceTest, AnAdoptedSiteReachesTheStoreAndThePlugin) {
 
   service.adoptSilent("silent.meetings.sandbox.example");
   EXPECT_TRUE(store().cdnUrl().isNull());
-  border.triggerCommand(static_cast<quint64>(KZCommand::KZCmdJoinByNumber));
+  host.trigger(KZCommand::KZCmdJoinByNumber);
   EXPECT_EQ(opened.size(), 2);
   EXPECT_TRUE(notices.last().contains("joining by number")) << notices.last().toStdString();
 }

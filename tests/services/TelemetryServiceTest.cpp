@@ -7,9 +7,10 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
-#include "companion/runtime/Border.h"
+#include "companion/runtime/PluginHost.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
+#include "tests/kit/FromPlugin.h"
 
 namespace {
 
@@ -24,8 +25,8 @@ class TelemetryServiceTest : public testing::Test {
   void choose(const QString& feature, const Dictionary& more = {}) {
     Dictionary values = more;
     values.insert(TelemetryKey_FeatureName, feature);
-    Q_EMIT border.commandSent(23,
-                              Dictionary{{TelemetryKey_MetricName, "metric"}, {TelemetryKey_Values, values}});
+    sendFromPlugin(host, KZCommand::KZCmdWriteTelemetry,
+                   Dictionary{{TelemetryKey_MetricName, "metric"}, {TelemetryKey_Values, values}});
   }
 
   QStringList features() const {
@@ -36,8 +37,8 @@ class TelemetryServiceTest : public testing::Test {
 
   const QTemporaryDir folder;
   const QString data = folder.filePath("made/telemetry");
-  Border border{[](const QUrl&) { return true; }};
-  TelemetryService service{&border, TelemetryFile(data, {.fileBytes = 1000, .files = 3})};
+  PluginHost host;
+  TelemetryService service{&host, TelemetryFile(data, {.fileBytes = 1000, .files = 3})};
   QStringList notices;
 };
 

@@ -3,6 +3,7 @@
 #include <QSignalSpy>
 
 #include "host/KZFoundation/KZConstants.h"
+#include "tests/kit/FromPlugin.h"
 #include "tests/services/ServicesFixture.h"
 
 namespace {
@@ -11,25 +12,25 @@ using namespace std::chrono_literals;
 
 const QString kAskedEmail = QStringLiteral("ada@cloud.example");
 
-// The real plug-in knows no token here, so that the test can play the renewal.
+// The test plays the renewal.
 class TokenRequestTest : public ServicesFixture {
  protected:
   static Dictionary accountOf(const QString& email) { return {{kKZCalendarIntegrationExchangeEmail, email}}; }
 
   void answer(const QString& email, Dictionary values) {
     values.insert(kKZCalendarIntegration, Dictionary{{kKZCalendarIntegrationExchange, accountOf(email)}});
-    Q_EMIT border.commandSent(static_cast<quint64>(KZCommand::KZCmdExchOnlineTokenGot), values);
+    sendFromPlugin(host, KZCommand::KZCmdExchOnlineTokenGot, values);
   }
 
-  // As the plug-in is while it renews: it has heard the question and says nothing.
-  void askSilently(TokenRequest& request) {
-    const QSignalBlocker silence(border);
-    request.ask(accountOf(kAskedEmail));
-  }
+  // Without a plug-in nothing answers, as while the plug-in renews.
+  void SetUp() override {}
+
+  static void ask(TokenRequest& request) { request.ask(accountOf(kAskedEmail)); }
 };
 
 TEST_F(TokenRequestTest, WithoutATokenSaysAtOnceThatNobodyIsSignedIn) {
-  TokenRequest request(&border);
+  ASSERT_TRUE(host.load(PREFERENCES)) << host.errorText().toStdString();
+  TokenRequest request(&host);
   QSignalSpy failed(&request, &TokenRequest::failed);
   request.ask(accountOf(kAskedEmail));
   ASSERT_EQ(failed.size(), 1);
@@ -38,10 +39,10 @@ TEST_F(TokenRequestTest, WithoutATokenSaysAtOnceThatNobodyIsSignedIn) {
 }
 
 TEST_F(TokenRequestTest, TakesTheAnswerToItsQuestionAlone) {
-  TokenRequest request(&border);
+  TokenRequest request(&host);
   QSignalSpy got(&request, &TokenRequest::got);
   QSignalSpy failed(&request, &TokenRequest::failed);
-  askSilently(request);
+  ask(request);
   answer("earlier@cloud.example", {{QRT_ListingMeeting_exchOnlineToken, "another's"}});
   answer(kAskedEmail, {{QRT_ListingMeeting_exchOnlineToken, "old"}, {"isTokenExpired", true}});
   EXPECT_TRUE(got.isEmpty() && failed.isEmpty());
@@ -50,22 +51,22 @@ TEST_F(TokenRequestTest, TakesTheAnswerToItsQuestionAlone) {
   ASSERT_EQ(got.size(), 1);
   EXPECT_EQ(got.first().first().toString(), "new");
 
-  askSilently(request);
+  ask(request);
   answer(kAskedEmail, {{"GetTokenFailed", true}});
   ASSERT_EQ(failed.size(), 1);
   EXPECT_TRUE(failed.first().first().toString().contains("could not be renewed. Detect the account again"));
 
-  askSilently(request);
+  ask(request);
   request.cancel();
   answer(kAskedEmail, {{QRT_ListingMeeting_exchOnlineToken, "cancelled"}});
   EXPECT_EQ(got.size(), 1);
 }
 
 TEST_F(TokenRequestTest, ALateRenewalIsStillGivenAfterTheUserHasBeenTold) {
-  TokenRequest request(&border, 20ms);
+  TokenRequest request(&host, 20ms);
   QSignalSpy got(&request, &TokenRequest::got);
   QSignalSpy failed(&request, &TokenRequest::failed);
-  askSilently(request);
+  ask(request);
   ASSERT_TRUE(failed.wait(2000));
   EXPECT_TRUE(failed.first().first().toString().contains("not renewed in time. Refresh"));
   answer(kAskedEmail, {{QRT_ListingMeeting_exchOnlineToken, "late"}, {"isTokenExpired", false}});

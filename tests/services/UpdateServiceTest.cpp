@@ -35,7 +35,7 @@ class UpdateServiceTest : public ServicesFixture {
   static bool isInProgress() { return KZUtility::sharedInstance().isCheckForUpdatesInProgress(); }
 
   QString packages = folder.filePath("updates");
-  UpdateService updates{&border, &network, packages};
+  UpdateService updates{&host, &network, packages};
   QStringList offers;
   int ended = 0;
   int progress = 0;

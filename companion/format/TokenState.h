@@ -3,7 +3,7 @@
 #include <QJsonArray>
 #include <QJsonValue>
 
-#include "companion/session/StepArguments.h"
+#include "companion/format/StepArguments.h"
 
 // The default token cache as scripts read and write it.
 namespace tokenstate {

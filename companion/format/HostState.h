@@ -2,8 +2,8 @@
 
 #include <QJsonValue>
 
-#include "companion/session/StepArguments.h"
-#include "companion/session/ValueCodec.h"
+#include "companion/format/StepArguments.h"
+#include "companion/format/ValueCodec.h"
 
 // The host's own state as scripts read and write it.
 namespace hoststate {

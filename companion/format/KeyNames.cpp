@@ -1,4 +1,4 @@
-#include "companion/session/KeyNames.h"
+#include "companion/format/KeyNames.h"
 
 #include <QKeySequence>
 #include <algorithm>

@@ -1,4 +1,4 @@
-#include "companion/session/ControlFinder.h"
+#include "companion/format/ControlFinder.h"
 
 #include <QWidget>
 #include <algorithm>

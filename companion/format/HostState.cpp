@@ -1,4 +1,4 @@
-#include "companion/session/HostState.h"
+#include "companion/format/HostState.h"
 
 #include <QHash>
 #include <QLocale>

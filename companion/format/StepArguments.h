@@ -6,7 +6,7 @@
 #include <initializer_list>
 #include <optional>
 
-#include "companion/session/StepOutcome.h"
+#include "companion/format/StepOutcome.h"
 #include "host/KZFoundation/Dictionary.h"
 
 // Reads one step's values. The first value that is missing or of a wrong type is remembered and everything

@@ -1,10 +1,10 @@
-#include "companion/session/StepArguments.h"
+#include "companion/format/StepArguments.h"
 
 #include <QJsonArray>
 #include <algorithm>
 #include <cmath>
 
-#include "companion/session/ValueCodec.h"
+#include "companion/format/ValueCodec.h"
 
 QString StepArguments::text(const char* key) {
   return typed(key, QJsonValue::String, "a text").toString();

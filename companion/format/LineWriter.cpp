@@ -1,4 +1,4 @@
-#include "companion/session/LineWriter.h"
+#include "companion/format/LineWriter.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,4 +1,4 @@
-#include "companion/session/ValueCodec.h"
+#include "companion/format/ValueCodec.h"
 
 #include <QDateTime>
 #include <QJsonArray>

@@ -1,7 +1,7 @@
-#include "companion/session/TokenState.h"
+#include "companion/format/TokenState.h"
 
 #include "adal/ADTokenCache.h"
-#include "companion/session/ValueCodec.h"
+#include "companion/format/ValueCodec.h"
 
 namespace tokenstate {
 namespace {

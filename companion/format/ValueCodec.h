@@ -6,7 +6,7 @@
 
 #include "host/KZFoundation/Dictionary.h"
 
-// Values between a script and the border. A text that begins with "@" is the host's constant object of that
+// Values between a script and the host. A text that begins with "@" is the host's constant object of that
 // name, bytes are {"$data": base64}, null is a missing value.
 namespace valuecodec {
 
