@@ -20,7 +20,7 @@ class InspectorLog final : public QObject {
   using QObject::QObject;
 
   // Any thread. The event is in the log once the main thread's loop has turned.
-  void record(const PluginEvent& event);
+  void record(const PluginEvent& recorded);
   void clear();
 
   const std::deque<Event>& events() const { return m_kept.events; }
