@@ -206,13 +206,13 @@ TEST_F(InspectorViewTest, WhatIsReadStaysWhenItsRowGoes) {
   add(int(InspectorLog::mostEvents) - 1);
   const QString read = shownDetails(0);
   table()->scrollTo(table()->model()->index(5000, 0), QAbstractItemView::PositionAtTop);
-  const quint64 first = m_log.events().at(size_t(table()->rowAt(2)))->serial;
+  const InspectorLog::Event first = m_log.eventAt(table()->rowAt(2));
   add(1);
   EXPECT_LT(table()->model()->rowCount(), InspectorLog::mostEvents) << "the oldest are gone";
   EXPECT_EQ(details()->toPlainText(), read);
   EXPECT_FALSE(table()->currentIndex().isValid());
   EXPECT_TRUE(table()->selectionModel()->selectedRows().isEmpty());
-  EXPECT_EQ(m_log.events().at(size_t(table()->rowAt(2)))->serial, first);
+  EXPECT_EQ(m_log.eventAt(table()->rowAt(2)), first);
 }
 
 // Generous bounds, for what they would catch is time that grows with the list.
