@@ -15,7 +15,7 @@ NINJA = ninja -C $(BUILD) -j $(JOBS)
 .PHONY: run build test lint sanitize bench pictures documents package clean packages
 
 run: $(BUILD)/build.ninja
-	@$(NINJA) companion KZPreference
+	@$(NINJA) companion
 	$(BUILD)/bin/companion
 
 build: $(BUILD)/build.ninja
@@ -44,7 +44,8 @@ pictures: build
 	@tools/draw-pictures.sh $(BUILD)
 
 # The tables, flows and layers in the documents, from the code and runs of the programs.
-documents: build
+documents: $(BUILD)/build.ninja
+	@$(NINJA) print-commands prefs-session kz-sandbox KZPreference
 	@tools/documents.py $(BUILD)/bin
 
 # A Debian package of the plug-in, its programs and the host SDK.

@@ -19,7 +19,7 @@ struct ADProtocolGeneration {
   const char* alwaysPrompt;       // shows the sign-in page in any case, and still gets a refresh token
 };
 
-// Where an authority is asked, and what it understands.
+// An authority's addresses, and the parameters that it expects.
 struct ADEndpoints {
   QUrl authorization;
   QUrl token;
@@ -36,7 +36,7 @@ struct ADEndpointsOrError {
   std::optional<ADError> error;
 };
 
-// Reads the authority's OpenID configuration document; where it has none, its usual paths hold.
+// Reads the authority's OpenID configuration document; without one, the usual paths are assumed.
 void findEndpoints(ADWebClient& web, const QString& authority,
                    const std::function<void(const ADEndpointsOrError&)>& done);
 

@@ -63,7 +63,7 @@ ADSignIn::ADSignIn(const ADSignInRequest& request)
   Q_ASSERT(QThread::currentThread() == QCoreApplication::instance()->thread());
   m_deadline.setSingleShot(true);
   connect(&m_deadline, &QTimer::timeout, this, [this] { fail({ADErrorCode::TimedOut, {}}); });
-  // Windows and sockets must not outlive the application object, which this may.
+  // Windows and sockets must not outlive the application object; this object may.
   connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, &ADSignIn::stopWaiting);
 }
 

@@ -34,9 +34,9 @@ def generated_texts(programs):
     with running_sandbox(programs) as sandbox:
         texts["accounts"] = table(["account", "user name", "password", "what happens"], [
             [code(row["email"]), code(row["username"]), code(row["password"]), row["meaning"]]
-            for row in sandbox["exchange"]["accounts"]])
+            for row in sandbox["accounts"]])
         texts["sites"] = table(["site", "what happens"], [
-            [code(row["site"]), row["meaning"]] for row in sandbox["site"]["sites"]])
+            [code(row["site"]), row["meaning"]] for row in sandbox["sites"]])
         for script in project_files("docs/flows/*.jsonl"):
             texts[pathlib.Path(script).stem] = diagram(flow_diagram(programs, read(script), commands, sandbox["authority"]))
     return texts | {"layers": diagram(layers_diagram())}

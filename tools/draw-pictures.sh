@@ -37,5 +37,3 @@ cp "$demo/dark/signed-in-meetings.png" "$pictures/meetings-dark.png"
 {"wait": 400}
 {"screenshot": "$pictures/meetings-credential.png"}
 STEPS
-
-ls "$pictures"/*.png

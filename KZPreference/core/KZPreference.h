@@ -29,7 +29,8 @@ class KZPreference final : public KZPluginMgr, public PluginCommandSender {
 
   quint64 sendPluginCommand(KZCommand command, const Content& content) override;
 
-  // The host's own windows, which hosts used before the plug-in had one. Nothing in the plug-in opens them.
+  // The legacy windows, which belong to the host. The plug-in creates none of them.
+
   // The meeting key in the content's host information, when that meeting has a window; null otherwise.
   QString hasHostInfo(const Dictionary& content) const;
   static QString getBrennOI(const Dictionary& content);

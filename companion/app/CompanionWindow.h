@@ -15,7 +15,6 @@ class QTabBar;
 class QPushButton;
 class QRadioButton;
 class SiteDialog;
-class UpdateBar;
 
 // The companion's own window: who is there, what a host can ask of its plug-in, and what crosses the host.
 class CompanionWindow final : public QWidget {
@@ -58,6 +57,8 @@ class CompanionWindow final : public QWidget {
   void showPage(int index);
   void showAccount();
   void checkForUpdates();
+  void openUpdatePage();
+  void showUpdate();
   void joinByNumber();
   void closePreferences();
   SiteDialog* openSiteDialog();
@@ -72,7 +73,7 @@ class CompanionWindow final : public QWidget {
   QList<PageMaker> m_pageMakers;  // empty where the page is made
   QLabel* m_identity = nullptr;
   QLabel* m_notice = nullptr;
-  UpdateBar* m_updates = nullptr;
+  QPushButton* m_updateButton = nullptr;
   QPushButton* m_recordButton = nullptr;
   QPointer<SiteDialog> m_siteDialog;
 };

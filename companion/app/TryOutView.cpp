@@ -66,9 +66,9 @@ QWidget* TryOutView::createBar(const QString& text, QWidget* button) {
   return bar;
 }
 
-void TryOutView::setAccounts(const QList<SandboxAccount>& accounts) {
+void TryOutView::setAccounts(const QList<SandboxDescription::Account>& accounts) {
   QList<QStringList> rows;
-  for (const SandboxAccount& account : accounts) {
+  for (const SandboxDescription::Account& account : accounts) {
     rows.append({account.email, account.username, account.password, account.meaning});
   }
   setListRows(m_accounts, rows);
@@ -76,9 +76,9 @@ void TryOutView::setAccounts(const QList<SandboxAccount>& accounts) {
   showIntroduction();
 }
 
-void TryOutView::setSites(const QList<SandboxSite>& sites) {
+void TryOutView::setSites(const QList<SandboxDescription::Site>& sites) {
   QList<QStringList> rows;
-  for (const SandboxSite& site : sites) rows.append({site.site, site.meaning});
+  for (const SandboxDescription::Site& site : sites) rows.append({site.site, site.meaning});
   setListRows(m_sites, rows);
   m_sites->setCurrentCell(0, 0);
   showIntroduction();

@@ -3,8 +3,7 @@
 #include <QList>
 #include <QWidget>
 
-#include "companion/app/SandboxSites.h"
-#include "companion/exchange/SandboxExchange.h"
+#include "companion/exchange/SandboxDescription.h"
 
 class QLabel;
 class QTableWidget;
@@ -18,8 +17,8 @@ class TryOutView final : public QWidget {
   TryOutView();
 
   // Empty lists while there is no sandbox.
-  void setAccounts(const QList<SandboxAccount>& accounts);
-  void setSites(const QList<SandboxSite>& sites);
+  void setAccounts(const QList<SandboxDescription::Account>& accounts);
+  void setSites(const QList<SandboxDescription::Site>& sites);
 
  Q_SIGNALS:
   void copied(const QString& text);

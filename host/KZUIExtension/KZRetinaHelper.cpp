@@ -11,7 +11,7 @@
 namespace {
 
 constexpr qreal kDisabledOpacity = 0.4;
-constexpr int kInkLimit = 110;  // what is lighter counts as paper by degrees
+constexpr int kInkLimit = 110;  // lighter pixels are mixed with the paper colour
 
 QRgb activeRgb(const QPalette& palette, QPalette::ColorRole role) {
   return palette.color(QPalette::Active, role).rgb();

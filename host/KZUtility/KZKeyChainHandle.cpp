@@ -102,7 +102,7 @@ struct KZKeyChainHandle::Private {
 };
 
 KZKeyChainHandle& KZKeyChainHandle::sharedInstance() {
-  // Never destroyed: a keychain that answers late must find what it answers to.
+  // Never destroyed: a keychain may answer after the application object is gone.
   static KZKeyChainHandle* const handle = new KZKeyChainHandle;
   return *handle;
 }

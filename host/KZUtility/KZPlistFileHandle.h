@@ -12,7 +12,7 @@ class PropertyListFile;
 
 // The host's settings store: an XML property list, read once and written atomically at every change. A value
 // that cannot be written stays in memory for this run, with an error trace; a file that cannot be read is
-// never overwritten. Keys that nobody here knows survive. Main thread only.
+// never overwritten. Unknown keys survive. Main thread only.
 class KZ_HOST_EXPORT KZPlistFileHandle : public QObject {
   Q_OBJECT
 
@@ -31,7 +31,7 @@ class KZ_HOST_EXPORT KZPlistFileHandle : public QObject {
   // None while the file has all that was set, or there is none. What it lacks is written with the next change
   // that succeeds.
   KZSaveProblem saveProblem() const;
-  // Where the file lies that `open` could not read: the settings have started anew. Null when it could.
+  // Where `open` moved a file that it could not read, so that the settings start empty. Null when it could.
   QString setAsidePath() const { return m_setAsidePath; }
 
   // Keys as in the file. A missing value removes the key.

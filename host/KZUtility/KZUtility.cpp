@@ -104,12 +104,12 @@ QVariant KZUtility::JSONValueFromString(const QString& text) {
 
 QString KZUtility::getLengthLimitationStringValue(const QString& text) {
   if (text.size() <= kLongestValue) return text;
-  // What stands farther behind cannot change where the last fitting character ends.
+  // Later text does not affect where the last fitting character ends.
   const QString start = text.left(2 * kLongestValue);
   QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, start);
   finder.setPosition(kLongestValue);
   qsizetype end = finder.isAtBoundary() ? kLongestValue : finder.toPreviousBoundary();
-  // One endless character: cut between its code points.
+  // A single character that is too long is cut between its code points.
   if (end <= 0) end = text.at(kLongestValue - 1).isHighSurrogate() ? kLongestValue - 1 : kLongestValue;
   return text.left(end);
 }

@@ -138,9 +138,6 @@ class PropertyListWriter final {
   PropertyListXml write(const Dictionary& dictionary) {
     m_xml.setAutoFormatting(true);
     m_xml.writeStartDocument();
-    m_xml.writeDTD(
-        QStringLiteral("<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
-                       "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">"));
     m_xml.writeStartElement(QStringLiteral("plist"));
     m_xml.writeAttribute(QStringLiteral("version"), QStringLiteral("1.0"));
     writeDictionary(dictionary, kTopLevel);

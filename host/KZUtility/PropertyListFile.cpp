@@ -121,7 +121,7 @@ bool PropertyListFile::setAside() {
                           QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd'T'HHmmss'Z'"));
   for (int attempt = 0; attempt < kMostSetAside; ++attempt) {
     const QString aside = attempt == 0 ? stamped : stamped + u'-' + QString::number(attempt);
-    // Nothing that was set aside before is lost to a second one of the same second.
+    // A file that was set aside in the same second is not replaced.
     const int status = ::renameat2(AT_FDCWD, QFile::encodeName(path()).constData(), AT_FDCWD,
                                    QFile::encodeName(aside).constData(), RENAME_NOREPLACE);
     if (status == 0) {

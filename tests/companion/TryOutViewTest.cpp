@@ -15,7 +15,7 @@ namespace {
 class TryOutViewTest : public testing::Test {
  protected:
   TryOutViewTest() {
-    QList<SandboxAccount> accounts(30, {"other@sandbox.example", "", "", "happens"});
+    QList<SandboxDescription::Account> accounts(30, {"other@sandbox.example", "", "", "happens"});
     accounts.prepend({"onprem@corp.sandbox.example", "CORP\\onprem", "correct horse", "works"});
     view.setAccounts(accounts);
     view.setSites({{"meetings.sandbox.example", "works"}, {"silent.sandbox.example", "never answers"}});

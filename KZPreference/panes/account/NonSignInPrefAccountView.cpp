@@ -10,6 +10,7 @@
 #include "host/KZUtility/KZPlistFileHandle.h"
 #include "host/KZUtility/KZUtility.h"
 #include "platform/FrameLayout.h"
+#include "platform/KeyView.h"
 
 namespace {
 
@@ -87,10 +88,10 @@ void NonSignInPrefAccountView::initErrorText() {
 }
 
 void NonSignInPrefAccountView::initEditButton() {
-  const Size heading = accountLabelSize();
-  const double y = frameOf(this).height - marginAtTopEdge - heading.height * 0.5 - 8;
+  const Size title = accountLabelSize();
+  const double y = frameOf(this).height - marginAtTopEdge - title.height * 0.5 - 8;
   m_editBtn = addLink(this, "m_editBtn",
-                      {marginAtLeftEdge + heading.width + marginBetweenContentAndButton, y,
+                      {marginAtLeftEdge + title.width + marginBetweenContentAndButton, y,
                        buttonWidthWithTitle(editButtonLabel()), commonLabelHeight},
                       editButtonLabel());
   connect(m_editBtn, &BRNHyperlinkTextField::clicked, this, &NonSignInPrefAccountView::onEditButton);

@@ -9,6 +9,7 @@
 #include "KZPreference/panes/meetings/PrefMeetingView+Visible.h"
 #include "host/KZUIExtension/FlatImageButton.h"
 #include "platform/FrameLayout.h"
+#include "platform/KeyView.h"
 #include "platform/Spinner.h"
 
 namespace {
@@ -39,11 +40,11 @@ void CalendarIntegrationGroup::initIntegratinLabel() {
       addTitle(this, "m_integrationTxt",
                {marginAtLeftEdge, frameOf(this).height - size.height, size.width + textPad, size.height},
                title, Qt::AlignRight);
-  alignHeading();
+  alignTitle();
 }
 
-// The frame grows with each relayout; the margin keeps the text in line with the other headings.
-void CalendarIntegrationGroup::alignHeading() {
+// The frame grows with each relayout; the margin keeps the text in line with the other titles.
+void CalendarIntegrationGroup::alignTitle() {
   const double spare = frameOf(m_integrationTxt).width - titleTextSize(m_integrationTxt->text()).width;
   m_integrationTxt->setContentsMargins(0, 0, static_cast<int>(spare), 0);
 }
@@ -139,9 +140,9 @@ void CalendarIntegrationGroup::placeCredentialControls() {
 }
 
 void CalendarIntegrationGroup::relayoutAfterResize() {
-  const Frame heading = frameOf(m_integrationTxt);
-  setFrame(m_integrationTxt, {marginAtLeftEdge, frameOf(this).height - heading.height,
-                              heading.width + textPad, heading.height});
-  alignHeading();
+  const Frame title = frameOf(m_integrationTxt);
+  setFrame(m_integrationTxt,
+           {marginAtLeftEdge, frameOf(this).height - title.height, title.width + textPad, title.height});
+  alignTitle();
   placeCredentialControls();
 }

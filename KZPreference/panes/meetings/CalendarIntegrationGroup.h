@@ -54,7 +54,7 @@ class CalendarIntegrationGroup : public View, public OutlookAccountAuthDelegate 
   // For a new height of the group.
   void relayoutAfterResize();
 
-  // Shows whether an account is applied. Reading that costs a look into the keychain.
+  // Shows whether an account is applied, for which it reads the keychain.
   void updateByAppliedState() { showAppliedState(m_assist.isOLAccountApplied()); }
   virtual void showAppliedState(bool isApplied);
   virtual void enableOutlook();
@@ -64,7 +64,7 @@ class CalendarIntegrationGroup : public View, public OutlookAccountAuthDelegate 
   // The user chose this source.
   void reportSource(const QString& source, const QString& featureName);
 
-  // The window closes: tells the delegate of a changed source.
+  // For the closing window: reports a changed source.
   virtual void reportSourceOnClose(bool isApplied) = 0;
 
   CalendarIntegrationAssist m_assist;
@@ -76,7 +76,7 @@ class CalendarIntegrationGroup : public View, public OutlookAccountAuthDelegate 
 
  private:
   void initIntegratinLabel();
-  void alignHeading();
+  void alignTitle();
   void initInputTextFields();
   void initDetectButton();
   void initApplyButton();

@@ -66,13 +66,6 @@ void expectUnavailable() {
 
 }  // namespace
 
-TEST(FaultyKeychain, IsAnEmptyKeychainWithoutItsFault) {
-  const ServiceProcess service("none");
-  SecretServiceKeychain keychain(kDeadline);
-  EXPECT_EQ(keychain.read(kAnyItem).status, KZKeychainBackend::Status::NotFound);
-  EXPECT_EQ(keychain.remove(kAnyItem), KZKeychainBackend::Status::NotFound);
-}
-
 TEST(FaultyKeychain, DelaysByTheDeadlineAtMostAndNeverPrompts) {
   for (const char* fault : {"silent", "locked", "absent", "slow", "dies"}) {
     SCOPED_TRACE(fault);
