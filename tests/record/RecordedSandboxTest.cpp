@@ -13,7 +13,6 @@
 #include "companion/app/DemoUser.h"
 #include "companion/app/Recording.h"
 #include "companion/app/Sandbox.h"
-#include "companion/format/ControlFinder.h"
 #include "companion/runtime/PreferencesWindow.h"
 #include "companion/session/EventPump.h"
 #include "companion/session/UserInput.h"
@@ -21,6 +20,7 @@
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
+#include "tests/kit/Input.h"
 #include "tests/record/PlayedRecord.h"
 
 namespace {
@@ -81,32 +81,23 @@ class RecordedSandbox : public testing::TestWithParam<Account> {
     QNetworkAccessManager browser;
     browser.setRedirectPolicy(QNetworkRequest::ManualRedirectPolicy);
     QNetworkReply* answer = browser.post(request, form.toString(QUrl::FullyEncoded).toLatin1());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return answer->isFinished(); }, 8000));
+    EXPECT_TRUE(kit::waitUntil([&] { return answer->isFinished(); }));
     const QUrl callback = answer->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
     QNetworkReply* page = browser.get(QNetworkRequest(callback));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return page->isFinished(); }, 8000));
+    EXPECT_TRUE(kit::waitUntil([&] { return page->isFinished(); }));
     return callback;
   }
 
-  static QWidget* control(const char* name) {
-    return ControlFinder(contentViewOf(*findPreferencesWindow())).find(name).control;
-  }
-  static bool awaitUsable(const char* name) {
-    return QTest::qWaitFor(
-        [name] {
-          const QWidget* found = control(name);
-          return found && found->isVisible() && found->isEnabled();
-        },
-        8000);
-  }
   void click(const char* name) {
-    ASSERT_TRUE(awaitUsable(name)) << name;
-    EXPECT_TRUE(m_user.click(control(name), {}).isNull()) << name;
+    QWidget* control = kit::usable(*findPreferencesWindow(), name);
+    ASSERT_TRUE(control);
+    EXPECT_TRUE(m_user.click(control, {}).isNull()) << name;
     eventpump::settle();
   }
   void type(const char* name, const char* text) {
-    ASSERT_TRUE(awaitUsable(name)) << name;
-    EXPECT_TRUE(m_user.type(qobject_cast<QLineEdit*>(control(name)), text).isNull()) << name;
+    auto* field = kit::usable<QLineEdit>(*findPreferencesWindow(), name);
+    ASSERT_TRUE(field);
+    EXPECT_TRUE(m_user.type(field, text).isNull()) << name;
   }
   void detect() {
     click("m_outlookRadioBtn");
@@ -119,11 +110,11 @@ class RecordedSandbox : public testing::TestWithParam<Account> {
     type("m_usernameInputTxt", GetParam().user);
     type("m_passwordInputTxt", GetParam().password);
     click("m_applyBtn");
-    EXPECT_TRUE(QTest::qWaitFor([this] { return record().contains("\"sent\":27,"); }, 8000));
+    EXPECT_TRUE(kit::waitUntil([this] { return record().contains("\"sent\":27,"); }));
     return {GetParam().password};
   }
   QStringList signIn() {
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !m_opened.isEmpty(); }, 8000));
+    EXPECT_TRUE(kit::waitUntil([this] { return !m_opened.isEmpty(); }));
     QWidget* dialog = dialogOfClass("ADSignInDialog");
     if (!dialog) return {};
     QTest::keyClick(dialog->windowHandle(), Qt::Key_Q);

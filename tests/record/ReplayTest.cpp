@@ -76,7 +76,7 @@ TEST(RecordCheck, NamesTheFirstDifference) {
   EXPECT_EQ(record.check(QStringList{"{\"command\": \"none\"}"}).status, 2);
 }
 
-// The plug-in tells the constant itself from an equal text, and so must whoever plays the record.
+// To the plug-in a constant and an equal text are different, and so they must be when the record is played.
 TEST(Record, KeepsTheIdentityOfConstants) {
   const PlayedRecord record({R"({"command": 20, "content": {"kproximityCommand": "kstartDetectVD"}})",
                              R"({"command": 20, "content": {"kproximityCommand": "@kstartDetectVD"}})",
