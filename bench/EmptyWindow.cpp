@@ -2,7 +2,7 @@
 #include <QWidget>
 #include <cstdio>
 
-#include "companion/runtime/FrameWatch.h"
+#include "bench/FrameWatch.h"
 
 // What any Qt program pays to get a window of the companion's size onto the screen.
 int main(int argc, char** argv) {

@@ -5,7 +5,7 @@
 #include "bench/BenchHost.h"
 #include "bench/PlainWindow.h"
 #include "bench/Rounds.h"
-#include "companion/runtime/FrameWatch.h"
+#include "bench/FrameWatch.h"
 #include "companion/runtime/PluginHost.h"
 #include "companion/runtime/PreferencesWindow.h"
 #include "host/KZFoundation/KZCommands.h"

@@ -3,7 +3,7 @@
 #include <QString>
 #include <optional>
 
-#include "companion/runtime/FrameWatch.h"
+#include "bench/FrameWatch.h"
 #include "companion/runtime/PluginHost.h"
 
 class Window;

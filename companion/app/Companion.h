@@ -40,6 +40,7 @@ class Companion final : public QObject {
   // Both windows, over those of other programs.
   void comeToFront();
 
+  PluginHost* host() { return &m_host; }
   CompanionWindow* window() { return &m_window; }
 
  private:

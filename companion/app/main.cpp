@@ -10,7 +10,7 @@
 
 #include "companion/app/Appearance.h"
 #include "companion/app/Companion.h"
-#include "companion/app/DemoTour.h"
+#include "companion/app/Demonstration.h"
 #include "companion/runtime/Application.h"
 #include "companion/runtime/SingleInstance.h"
 #include "host/KZUtility/KZKeyChainHandle.h"
@@ -43,17 +43,17 @@ QString stateFolderOf(const CompanionOptions& options) {
       .filePath("brenn-mivra-meetings");
 }
 
-int playDemo(CompanionWindow* window, const CompanionOptions& options) {
+int playDemo(Companion* companion, const CompanionOptions& options) {
   QTemporaryDir fresh(QDir(QDir::tempPath()).filePath("brenn-mivra-demo-XXXXXX"));
   fresh.setAutoRemove(false);
   if (!options.outFolder.isEmpty()) fresh.remove();
   const QString folder = options.outFolder.isEmpty() ? fresh.path() : QDir(options.outFolder).absolutePath();
   std::printf("%s: a demonstration plays offscreen; its pictures are\n",
               options.isDemoAsked ? "As asked" : "There is no display");
-  const QStringList paths = DemoTour(window, folder).play();
+  const QStringList paths = playDemonstration(companion->host(), companion->window(), folder);
   for (const QString& path : paths) std::printf("%s\n", qPrintable(path));
   if (!paths.isEmpty()) return 0;
-  complain(QStringLiteral("no picture could be written to %1").arg(folder));
+  complain(QStringLiteral("the pictures could not be written to %1").arg(folder));
   return 1;
 }
 
@@ -102,7 +102,7 @@ int runFirst(const CompanionOptions& options, const SingleInstance& instance) {
     complain(companion.errorText());
     return kPluginFailed;
   }
-  if (options.isDemo) return playDemo(companion.window(), options);
+  if (options.isDemo) return playDemo(&companion, options);
   QObject::connect(&instance, &SingleInstance::asked, &companion, &Companion::comeToFront);
   companion.start(options.isGuest ? demouser::Variant::Guest : demouser::Variant::SignedIn);
   if (!options.saysWhenShown) return QApplication::exec();

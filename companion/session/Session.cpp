@@ -4,6 +4,7 @@
 #include <QJsonDocument>
 #include <array>
 #include <cstdio>
+#include <utility>
 
 #include "companion/session/EventPump.h"
 
@@ -56,7 +57,7 @@ void printLine(const Line& line) {
   std::fflush(stdout);
 }
 
-Session::Session(PluginHost* host, const Options& options) : m_options(options), m_context{host} {
+Session::Session(PluginHost* host, Options options) : m_options(std::move(options)), m_context{host} {
   m_observer = host->addObserver([this](const PluginEvent& event, PluginHost::Phase phase) {
     if (phase == PluginHost::Phase::Begin) print(event);
   });
@@ -69,7 +70,7 @@ void Session::print(const PluginEvent& event) const {
   const bool isWrite =
       std::holds_alternative<StoreChange>(event) || std::holds_alternative<KeychainChange>(event);
   if (isOwn || (isTrace && !m_options.isPrintingTrace) || (isWrite && !m_options.isPrintingWrites)) return;
-  if (const Line line = eventLine(event); !line.isEmpty()) printLine(line);
+  if (const Line line = eventLine(event); !line.isEmpty()) m_options.print(line);
 }
 
 bool Session::play(QIODevice* script) {
@@ -84,10 +85,10 @@ bool Session::play(QIODevice* script) {
     if (!result.failure.isEmpty()) {
       // The error is the last line: nothing that the plug-in still does is printed.
       m_observer.reset();
-      printLine({{"error", result.failure}, {"line", number}});
+      m_options.print({{"error", result.failure}, {"line", number}});
       return false;
     }
-    if (!result.line.isEmpty()) printLine(result.line);
+    if (!result.line.isEmpty()) m_options.print(result.line);
     eventpump::settle();
   }
 }

@@ -2,6 +2,7 @@
 
 #include <QIODevice>
 #include <chrono>
+#include <functional>
 
 #include "companion/session/Steps.h"
 
@@ -11,14 +12,15 @@ void printLine(const Line& line);
 // Plays a script against a plug-in and prints what comes back. Main thread only.
 class Session final {
  public:
-  // Events that are printed only where they are asked for.
   struct Options {
+    // Events that are printed only where they are asked for.
     bool isPrintingTrace = false;
     bool isPrintingWrites = false;
+    std::function<void(const Line&)> print = printLine;  // on the thread of the event
   };
 
   // The host is not owned. Its plug-in is loaded before anything is played; what the loading does is printed.
-  Session(PluginHost* host, const Options& options);
+  Session(PluginHost* host, Options options);
 
   // False when a step could not be read or played: that is printed, and nothing after it.
   [[nodiscard]] bool play(QIODevice* script);

@@ -1,4 +1,4 @@
-#include "companion/runtime/FrameWatch.h"
+#include "bench/FrameWatch.h"
 
 #include <QApplication>
 #include <QEventLoop>
