@@ -64,7 +64,7 @@ TEST(Companion, PlaysItsDemonstrationWithoutADisplay) {
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) environment.remove(name);
   companion.setProcessEnvironment(environment);
-  companion.start(COMPANION, {"--plugin", FAKE_PLUGIN, "--out", folder.path()});
+  companion.start(COMPANION, {"--plugin", PREFERENCES, "--out", folder.path()});
   ASSERT_TRUE(companion.waitForFinished(60'000));
   EXPECT_EQ(companion.exitCode(), 0) << companion.readAllStandardError().toStdString();
   QStringList lines = QString::fromUtf8(companion.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
