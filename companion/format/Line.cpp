@@ -1,18 +1,10 @@
 #include "companion/format/Line.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 
 #include "companion/format/ValueCodec.h"
 
 namespace {
-
-// QJsonDocument takes objects and arrays only, so the value travels in an array whose brackets are cut off.
-QByteArray valueText(const QJsonValue& value) {
-  const QByteArray array = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
-  return array.mid(1, array.size() - 2);
-}
 
 struct EventLine {
   Line operator()(const CommandToHost& sent) const {
@@ -47,7 +39,8 @@ struct EventLine {
 QByteArray lineText(const Line& line) {
   QByteArray text;
   for (const auto& [key, value] : line)
-    text += (text.isEmpty() ? "{" : ",") + valueText(key) + ':' + valueText(value);
+    text +=
+        (text.isEmpty() ? "{" : ",") + valuecodec::compactText(key) + ':' + valuecodec::compactText(value);
   return text + '}';
 }
 

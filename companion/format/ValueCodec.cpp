@@ -2,6 +2,7 @@
 
 #include <QDateTime>
 #include <QJsonArray>
+#include <QJsonDocument>
 #include <QJsonObject>
 
 #include "host/KZFoundation/KZConstantRegistry.h"
@@ -93,6 +94,12 @@ QJsonValue encode(const QVariant& value, Form form) {
 
 QJsonValue encodeContent(const Content& content, Form form) {
   return content ? encode(*content, form) : QJsonValue::Null;
+}
+
+// QJsonDocument takes objects and arrays only, so the value is put in an array whose brackets are cut off.
+QByteArray compactText(const QJsonValue& value) {
+  const QByteArray array = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
+  return array.mid(1, array.size() - 2);
 }
 
 }  // namespace valuecodec

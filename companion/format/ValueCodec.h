@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QJsonValue>
 #include <QString>
 #include <QVariant>
@@ -22,5 +23,7 @@ enum class Form { Printed, Exact };
 
 QJsonValue encode(const QVariant& value, Form form = Form::Printed);
 QJsonValue encodeContent(const Content& content, Form form = Form::Printed);  // null where there is none
+
+QByteArray compactText(const QJsonValue& value);  // as JSON
 
 }  // namespace valuecodec

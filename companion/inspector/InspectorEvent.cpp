@@ -1,21 +1,19 @@
 #include "companion/inspector/InspectorEvent.h"
 
 #include <QDateTime>
-#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QSet>
 #include <algorithm>
 
 #include "companion/format/ValueCodec.h"
-#include "companion/inspector/ValueDifference.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 
 namespace {
 
 using Group = InspectorEvent::Group;
-using Form = InspectorEvent::Form;
 
-constexpr qsizetype kLongestName = 200;
+constexpr qsizetype kLongestTitle = 200;
 constexpr qsizetype kLongestContent = InspectorEvent::mostBytes / qsizetype{sizeof(QChar)};
 // Content that is nested deeply would grow a thousand times.
 constexpr qsizetype kLongestIndented = 8 * kLongestContent;
@@ -28,43 +26,29 @@ QString cutTo(qsizetype longest, const QString& text) {
   return text.left(kept) + mark;
 }
 
-QString maskedText(const QString& text) {
-  return kzMaskSecrets({{QString(), text}}).value(QString()).toString();
+QVariant masked(const QVariant& value, const QString& key = {}) {
+  return kzMaskSecrets({{key, value}}).value(key);
 }
 
-QString jsonText(const Content& content) {
-  if (!content) return QStringLiteral("none");
-  const QJsonObject object = valuecodec::encode(kzMaskSecrets(*content)).toObject();
-  return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
+QString jsonText(const QVariant& value) {
+  return QString::fromUtf8(valuecodec::compactText(valuecodec::encode(value)));
 }
 
-InspectorEvent jsonEvent(Group group, const char* kind, const QString& name, const Content& content) {
-  return {.group = group,
-          .kind = QString::fromLatin1(kind),
-          .name = name,
-          .form = Form::Json,
-          .content = jsonText(content)};
+InspectorEvent textEvent(Group group, const char* kind, const QString& title, const QString& text) {
+  return {group, QString::fromLatin1(kind), title, masked(text).toString()};
 }
 
-InspectorEvent textEvent(Group group, const char* kind, const QString& name, const QString& text) {
-  return {.group = group, .kind = QString::fromLatin1(kind), .name = name, .content = maskedText(text)};
+InspectorEvent jsonEvent(Group group, const char* kind, const QString& title, const Content& content) {
+  return {group, QString::fromLatin1(kind), title, jsonText(content ? masked(*content) : QVariant())};
+}
+
+QString numbered(quint64 number, const char* name) {
+  return QStringLiteral("%1 %2").arg(number).arg(QLatin1String(name));
 }
 
 InspectorEvent commandEvent(const char* kind, KZCommand command, const Content& content) {
   const auto number = static_cast<quint64>(command);
-  InspectorEvent event =
-      jsonEvent(Group::Commands, kind, QString::fromLatin1(kzCommandName(number)), content);
-  event.number = number;
-  return event;
-}
-
-InspectorEvent notificationEvent(KZNotify index, const Content& content) {
-  const auto table = kzNotifyTable();
-  const auto row = std::ranges::find(table, index, &KZNotifyRow::index);
-  InspectorEvent event = jsonEvent(Group::Notifications, "Notification",
-                                   row == table.end() ? QString() : QString::fromLatin1(row->name), content);
-  event.number = static_cast<quint64>(index);
-  return event;
+  return jsonEvent(Group::Commands, kind, numbered(number, kzCommandName(number)), content);
 }
 
 InspectorEvent telemetryEvent(const Content& content) {
@@ -75,112 +59,118 @@ InspectorEvent telemetryEvent(const Content& content) {
                    values.isEmpty() ? content : Content(values));
 }
 
-InspectorEvent roomEvent(const PersonalRoomChange& room) {
-  Dictionary given;
-  if (!room.joinUrl.isNull()) given.insert(QStringLiteral("join"), room.joinUrl);
-  if (!room.sipUrl.isNull()) given.insert(QStringLiteral("sip"), room.sipUrl);
-  return jsonEvent(Group::Notifications, "Personal room", QStringLiteral("setPMRJoinUrl:sipUrl:"), given);
+// One line for each value inside, "path: JSON". Masked values are not nested without end.
+QStringList linesOf(const QString& path, const QVariant& value) {
+  QStringList lines;
+  if (value.typeId() == QMetaType::QVariantMap) {
+    for (const auto& [key, inner] : value.toMap().asKeyValueRange())
+      lines += linesOf(path + '.' + key, inner);
+  } else if (value.typeId() == QMetaType::QVariantList) {
+    int place = 0;
+    for (const QVariant& inner : value.toList())
+      lines += linesOf(QStringLiteral("%1[%2]").arg(path).arg(place++), inner);
+  }
+  if (lines.isEmpty() && value.isValid()) lines.append(path + ": " + jsonText(value));
+  return lines;
 }
 
-InspectorEvent fromPlugin(InspectorEvent event) {
-  event.isFromPlugin = true;
-  return event;
+QStringList linesOnlyIn(const QStringList& lines, const QStringList& others, const QString& mark) {
+  const QSet<QString> known(others.begin(), others.end());
+  QStringList marked;
+  for (const QString& line : lines) {
+    if (!known.contains(line)) marked.append(mark + line);
+  }
+  return marked;
 }
 
-InspectorEvent storeEvent(const StoreChange& change) {
-  return {.group = Group::Store,
-          .kind = QStringLiteral("Store write"),
-          .name = change.key,
-          .form = Form::Difference,
-          .content = valueDifference(change.key, change.before, change.after).join(u'\n')};
+QString differenceOf(const StoreChange& change) {
+  const QStringList before = linesOf(change.key, masked(change.before, change.key));
+  const QStringList after = linesOf(change.key, masked(change.after, change.key));
+  const QStringList lines = linesOnlyIn(before, after, "- ") + linesOnlyIn(after, before, "+ ");
+  return lines.isEmpty() ? QStringLiteral("Only masked values differ.") : lines.join(u'\n');
 }
 
-InspectorEvent unboundedEvent(const PluginEvent& event) {
-  return std::visit(
-      Overloaded{[](const PluginLoad& load) {
-                   return textEvent(Group::Traces, "Trace", QStringLiteral("load"), load.path);
-                 },
-                 [](const CommandToPlugin& triggered) {
-                   return commandEvent("Command to plug-in", triggered.command, triggered.content);
-                 },
-                 [](const CommandToHost& sent) {
-                   if (sent.command == KZCommand::KZCmdWriteTelemetry) return telemetryEvent(sent.content);
-                   return fromPlugin(commandEvent("Command to host", sent.command, sent.content));
-                 },
-                 [](const NotificationToPlugin& notified) {
-                   return notificationEvent(notified.index, notified.content);
-                 },
-                 [](const PersonalRoomChange& room) { return roomEvent(room); },
-                 [](const CredentialRequest& request) {
-                   return jsonEvent(Group::SignIn, "Challenge", request.name, request.userInfo);
-                 },
-                 [](const CredentialResponse& response) {
-                   return fromPlugin(jsonEvent(Group::SignIn, "Answer", response.name, response.userInfo));
-                 },
-                 [](const AddressRequest& request) {
-                   return fromPlugin(
-                       textEvent(Group::SignIn, "Address", QStringLiteral("openURL"), request.address));
-                 },
-                 [](const WarningShown& warning) {
-                   return textEvent(Group::Warnings, "Warning", maskedText(warning.title), warning.message);
-                 },
-                 [](const StoreChange& change) { return storeEvent(change); },
-                 [](const KeychainChange& change) {
-                   const bool isWritten = change.kind == KeychainChange::Kind::Written;
-                   return textEvent(Group::Store, "Keychain", change.account,
-                                    isWritten ? QStringLiteral("written") : QStringLiteral("removed"));
-                 },
-                 // Secrets are masked where the trace is written.
-                 [](const KZTraceRecord& trace) -> InspectorEvent {
-                   return {.level = trace.level, .name = trace.method, .content = trace.text};
-                 }},
-      event);
-}
+struct EventDescription {
+  InspectorEvent operator()(const PluginLoad& load) const {
+    return textEvent(Group::Traces, "Trace", QStringLiteral("load"), load.path);
+  }
+  InspectorEvent operator()(const CommandToPlugin& triggered) const {
+    return commandEvent("Command to plug-in", triggered.command, triggered.content);
+  }
+  InspectorEvent operator()(const CommandToHost& sent) const {
+    if (sent.command == KZCommand::KZCmdWriteTelemetry) return telemetryEvent(sent.content);
+    return commandEvent("Command to host", sent.command, sent.content);
+  }
+  InspectorEvent operator()(const NotificationToPlugin& notified) const {
+    const auto table = kzNotifyTable();
+    const auto row = std::ranges::find(table, notified.index, &KZNotifyRow::index);
+    const QString title = numbered(static_cast<quint64>(notified.index), row == table.end() ? "" : row->name);
+    return jsonEvent(Group::Notifications, "Notification", title, notified.content);
+  }
+  InspectorEvent operator()(const PersonalRoomChange& room) const {
+    const Dictionary given = {{"join", room.joinUrl}, {"sip", room.sipUrl}};
+    return jsonEvent(Group::Notifications, "Personal room", QStringLiteral("setPMRJoinUrl:sipUrl:"), given);
+  }
+  InspectorEvent operator()(const CredentialRequest& request) const {
+    return jsonEvent(Group::SignIn, "Challenge", request.name, request.userInfo);
+  }
+  InspectorEvent operator()(const CredentialResponse& response) const {
+    return jsonEvent(Group::SignIn, "Answer", response.name, response.userInfo);
+  }
+  InspectorEvent operator()(const AddressRequest& request) const {
+    return textEvent(Group::SignIn, "Address", QStringLiteral("openURL"), request.address);
+  }
+  InspectorEvent operator()(const WarningShown& warning) const {
+    return textEvent(Group::Warnings, "Warning", masked(warning.title).toString(), warning.message);
+  }
+  InspectorEvent operator()(const StoreChange& change) const {
+    return {Group::Store, QStringLiteral("Store write"), change.key, differenceOf(change)};
+  }
+  InspectorEvent operator()(const KeychainChange& change) const {
+    const bool isWritten = change.kind == KeychainChange::Kind::Written;
+    return textEvent(Group::Store, "Keychain", change.account, isWritten ? "written" : "removed");
+  }
+  // Secrets are masked where the trace is written.
+  InspectorEvent operator()(const KZTraceRecord& trace) const {
+    QString kind = QStringLiteral("Trace");
+    if (trace.level != KZTraceLevel::Info)
+      kind += QStringLiteral(" (%1)").arg(QLatin1String(kzTraceLevelName(trace.level)));
+    InspectorEvent event = {Group::Traces, kind, trace.method, trace.text};
+    event.isError = trace.level == KZTraceLevel::Error;
+    return event;
+  }
+};
 
 }  // namespace
 
 InspectorEvent InspectorEvent::of(const PluginEvent& event) {
-  InspectorEvent bounded = unboundedEvent(event);
+  InspectorEvent bounded = std::visit(EventDescription(), event);
+  bounded.isFromPlugin = std::holds_alternative<CommandToHost>(event) ||
+                         std::holds_alternative<CredentialResponse>(event) ||
+                         std::holds_alternative<AddressRequest>(event);
   bounded.time = QDateTime::currentMSecsSinceEpoch();
-  bounded.name = cutTo(kLongestName, bounded.name);
+  bounded.title = cutTo(kLongestTitle, bounded.title);
   bounded.content = cutTo(kLongestContent, bounded.content);
   return bounded;
 }
 
 qsizetype InspectorEvent::bytes() const {
-  return qsizetype{sizeof(InspectorEvent)} + (name.size() + content.size()) * qsizetype{sizeof(QChar)};
-}
-
-QString InspectorEvent::title() const {
-  return number == 0 ? name : QStringLiteral("%1 %2").arg(number).arg(name);
-}
-
-QString InspectorEvent::kindTitle() const {
-  if (level == KZTraceLevel::Info) return kind;
-  return QStringLiteral("%1 (%2)").arg(kind, QLatin1String(kzTraceLevelName(level)));
+  return qsizetype{sizeof(InspectorEvent)} + (title.size() + content.size()) * qsizetype{sizeof(QChar)};
 }
 
 QString InspectorEvent::wholeContent() const {
-  const QJsonDocument json = form == Form::Json ? QJsonDocument::fromJson(content.toUtf8()) : QJsonDocument();
+  const QJsonDocument json = QJsonDocument::fromJson(content.toUtf8());
   const QByteArray indented = json.toJson();
   return json.isNull() || indented.size() > kLongestIndented ? content
                                                              : QString::fromUtf8(indented).trimmed();
 }
 
 QByteArray InspectorEvent::exportedLine() const {
-  QJsonObject line{{"time", QDateTime::fromMSecsSinceEpoch(time, Qt::UTC).toString(Qt::ISODateWithMs)},
-                   {"kind", kind},
-                   {"name", name}};
-  if (number != 0) line.insert("number", static_cast<qint64>(number));
-  if (group == Group::Traces) line.insert("level", kzTraceLevelName(level));
   // Content that was cut is no JSON any more.
-  const QJsonDocument json = form == Form::Json ? QJsonDocument::fromJson(content.toUtf8()) : QJsonDocument();
-  if (form == Form::Difference) {
-    line.insert("difference", QJsonArray::fromStringList(content.split(u'\n', Qt::SkipEmptyParts)));
-  } else if (json.isObject()) {
-    line.insert("content", json.object());
-  } else {
-    line.insert("text", content);
-  }
+  const QJsonDocument json = QJsonDocument::fromJson(content.toUtf8());
+  const QJsonObject line{{"time", QDateTime::fromMSecsSinceEpoch(time, Qt::UTC).toString(Qt::ISODateWithMs)},
+                         {"kind", kind},
+                         {"name", title},
+                         {"content", json.isObject() ? QJsonValue(json.object()) : QJsonValue(content)}};
   return QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n';
 }

@@ -10,28 +10,20 @@
 struct InspectorEvent {
   // What a reader shows and hides together.
   enum class Group { Commands, Notifications, SignIn, Warnings, Store, Telemetry, Traces };
-  // Compact JSON ("none" where there is no content), text, or the lines of a difference, which begin with "-"
-  // or "+".
-  enum class Form { Json, Text, Difference };
   static constexpr qsizetype mostBytes = 64 * 1024;  // of the content
 
   static InspectorEvent of(const PluginEvent& event);
 
   qsizetype bytes() const;
-  QString title() const;         // number and name
-  QString kindTitle() const;     // with a trace's level
   QString wholeContent() const;  // JSON in lines, unless that makes it much longer
-  // A JSON object with "time" (ISO 8601, UTC), "kind", "name", and what applies of "number", "level",
-  // "content" (JSON), "difference" (lines) and "text".
+  // A JSON object with "time" (ISO 8601, UTC), "kind", "name" and "content", which is an object or a text.
   QByteArray exportedLine() const;
 
-  Group group = Group::Traces;
-  QString kind = QStringLiteral("Trace");
+  Group group;
+  QString kind;     // with the level of a trace that is a warning or an error
+  QString title;    // number and name
+  QString content;  // compact JSON, a text, or the lines of a difference: "- path: old" and "+ path: new"
   bool isFromPlugin = false;
-  KZTraceLevel level = KZTraceLevel::Info;  // of a trace
-  quint64 number = 0;                       // of a command or notification
-  qint64 time = 0;                          // milliseconds since 1970
-  QString name = {};
-  Form form = Form::Text;
-  QString content = {};
+  bool isError = false;
+  qint64 time = 0;  // milliseconds since 1970
 };

@@ -4,7 +4,7 @@
 #include <QDateTime>
 #include <QMutexLocker>
 #include <QStringList>
-#include <iterator>
+#include <algorithm>
 #include <utility>
 
 #include "platform/Look.h"
@@ -14,16 +14,15 @@ namespace {
 using Group = InspectorEvent::Group;
 
 // Dropping some at a time spares the lists that show the log from moving all their rows at every event.
-constexpr qsizetype kRoomEvents = InspectorLog::mostEvents / 40;
-constexpr qsizetype kRoomBytes = InspectorLog::mostBytes / 40;
+constexpr qsizetype kKeptEvents = InspectorLog::mostEvents / 40 * 39;
+constexpr qsizetype kKeptBytes = InspectorLog::mostBytes / 40 * 39;
 constexpr qsizetype kLongestCell = 300;  // more is never in sight
 
 // What passes between host and plug-in stands out from the traces between.
 QColor colorOf(const InspectorEvent& event) {
   const QPalette palette = QApplication::palette();
   const LookScheme scheme = lookSchemeFor(palette);
-  if (event.group == Group::Warnings || event.level == KZTraceLevel::Error)
-    return lookColor(SystemColor::Red, scheme);
+  if (event.group == Group::Warnings || event.isError) return lookColor(SystemColor::Red, scheme);
   if (event.group == Group::Traces || event.group == Group::Telemetry)
     return palette.color(QPalette::PlaceholderText);
   return event.isFromPlugin ? lookColor(SystemColor::Blue, scheme) : palette.color(QPalette::Text);
@@ -44,9 +43,9 @@ QString columnText(const InspectorEvent& event, int column, qsizetype longest) {
     case InspectorLog::TimeColumn:
       return QDateTime::fromMSecsSinceEpoch(event.time).toString(QStringLiteral("HH:mm:ss.zzz"));
     case InspectorLog::KindColumn:
-      return event.kindTitle();
+      return event.kind;
     case InspectorLog::NameColumn:
-      return onOneLine(event.title());
+      return onOneLine(event.title);
     default:
       return onOneLine(event.content.left(longest));
   }
@@ -54,77 +53,61 @@ QString columnText(const InspectorEvent& event, int column, qsizetype longest) {
 
 }  // namespace
 
-void InspectorLog::Bounded::append(Event event) {
-  bytes += event->bytes();
-  events.push_back(std::move(event));
-}
-
-qsizetype InspectorLog::Bounded::excess(qsizetype count, qsizetype byteCount) const {
-  qsizetype dropped = 0;
-  qsizetype rest = bytes;
-  while (dropped < qsizetype(events.size()) &&
-         (qsizetype(events.size()) - dropped > count || rest > byteCount))
-    rest -= events[static_cast<size_t>(dropped++)]->bytes();
-  return dropped;
-}
-
-void InspectorLog::Bounded::dropFirst(qsizetype count) {
-  for (; count > 0; --count) {
-    bytes -= events.front()->bytes();
-    events.pop_front();
-  }
-}
-
 void InspectorLog::record(const PluginEvent& event) {
   auto recorded = std::make_shared<const InspectorEvent>(InspectorEvent::of(event));
   const QMutexLocker lock(&m_mutex);
-  m_waiting.append(std::move(recorded));
-  m_waiting.dropFirst(m_waiting.excess(mostEvents, mostBytes));
-  if (!std::exchange(m_isTakeInQueued, true))
-    QMetaObject::invokeMethod(this, &InspectorLog::takeIn, Qt::QueuedConnection);
+  m_bytes += recorded->bytes();
+  m_latest.push_back(std::move(recorded));
+  const bool isFull = qsizetype(m_latest.size()) > mostEvents || m_bytes > mostBytes;
+  while (isFull && (qsizetype(m_latest.size()) > kKeptEvents || m_bytes > kKeptBytes)) {
+    m_bytes -= m_latest.front()->bytes();
+    m_latest.pop_front();
+    ++m_firstLatest;
+  }
+  if (!std::exchange(m_isUpdateQueued, true))
+    QMetaObject::invokeMethod(this, &InspectorLog::updateRows, Qt::QueuedConnection);
 }
 
 void InspectorLog::clear() {
+  beginResetModel();
+  m_rows.clear();
   {
     const QMutexLocker lock(&m_mutex);
-    m_waiting = {};
+    m_firstLatest += qsizetype(m_latest.size());
+    m_latest.clear();
+    m_bytes = 0;
+    m_firstRow = m_firstLatest;
   }
-  beginResetModel();
-  m_kept = {};
   endResetModel();
   if (m_flow == Flow::Paused) Q_EMIT waiting(0);
 }
 
 void InspectorLog::setFlow(Flow flow) {
   m_flow = flow;
-  takeIn();
+  updateRows();
 }
 
-void InspectorLog::takeIn() {
-  Bounded fresh;
-  qsizetype waitingCount = 0;
-  {
-    const QMutexLocker lock(&m_mutex);
-    m_isTakeInQueued = false;
-    waitingCount = qsizetype(m_waiting.events.size());
-    if (m_flow == Flow::Live) fresh = std::exchange(m_waiting, {});
+void InspectorLog::updateRows() {
+  QMutexLocker lock(&m_mutex);
+  m_isUpdateQueued = false;
+  const qsizetype firstLatest = m_firstLatest;
+  const qsizetype shown = std::max<qsizetype>(m_firstRow + rowCount() - firstLatest, 0);
+  const auto freshCount = static_cast<int>(qsizetype(m_latest.size()) - shown);
+  std::deque<Event> fresh;
+  if (m_flow == Flow::Live) fresh.assign(m_latest.begin() + shown, m_latest.end());
+  lock.unlock();
+  if (m_flow == Flow::Paused) return Q_EMIT waiting(freshCount);
+  const auto goneCount = static_cast<int>(std::min<qsizetype>(firstLatest - m_firstRow, rowCount()));
+  if (goneCount > 0) {
+    beginRemoveRows({}, 0, goneCount - 1);
+    m_rows.erase(m_rows.begin(), m_rows.begin() + goneCount);
+    endRemoveRows();
   }
-  if (m_flow == Flow::Paused) return Q_EMIT waiting(waitingCount);
-  if (fresh.events.empty()) return;
-  makeRoomFor(fresh);
-  beginInsertRows({}, rowCount(), rowCount() + static_cast<int>(fresh.events.size()) - 1);
-  for (Event& event : fresh.events) m_kept.append(std::move(event));
+  m_firstRow = firstLatest;
+  if (freshCount == 0) return;
+  beginInsertRows({}, rowCount(), rowCount() + freshCount - 1);
+  m_rows.insert(m_rows.end(), fresh.begin(), fresh.end());
   endInsertRows();
-}
-
-void InspectorLog::makeRoomFor(const Bounded& fresh) {
-  const qsizetype count = mostEvents - qsizetype(fresh.events.size());
-  const qsizetype bytes = mostBytes - fresh.bytes;
-  if (m_kept.excess(count, bytes) == 0) return;
-  const qsizetype dropped = m_kept.excess(count - kRoomEvents, bytes - kRoomBytes);
-  beginRemoveRows({}, 0, static_cast<int>(dropped) - 1);
-  m_kept.dropFirst(dropped);
-  endRemoveRows();
 }
 
 QString InspectorLog::lineOf(const InspectorEvent& event) {
@@ -134,7 +117,7 @@ QString InspectorLog::lineOf(const InspectorEvent& event) {
 }
 
 int InspectorLog::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(m_kept.events.size());
+  return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
 }
 
 int InspectorLog::columnCount(const QModelIndex& parent) const {
@@ -149,9 +132,7 @@ QVariant InspectorLog::data(const QModelIndex& index, int role) const {
 }
 
 QVariant InspectorLog::headerData(int section, Qt::Orientation orientation, int role) const {
-  static const QStringList titles = {QStringLiteral("Time"), QStringLiteral("Kind"), QStringLiteral("Name"),
-                                     QStringLiteral("Content")};
-  if (orientation != Qt::Horizontal) return {};
-  if (role == Qt::TextAlignmentRole) return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
-  return role == Qt::DisplayRole ? titles.value(section) : QVariant();
+  static const QStringList titles = {"Time", "Kind", "Name", "Content"};
+  const bool isTitle = orientation == Qt::Horizontal && role == Qt::DisplayRole;
+  return isTitle ? titles.value(section) : QVariant();
 }

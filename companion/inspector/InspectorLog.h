@@ -8,7 +8,7 @@
 #include "companion/inspector/InspectorEvent.h"
 
 // The latest events in the order in which they happened, bounded by number and by bytes; the oldest go first.
-// Paused it keeps its rows; new events wait, within the same bounds. Main thread only, but for `record`.
+// Paused it keeps its rows, while new events are kept without rows. Main thread only, but for `record`.
 class InspectorLog final : public QAbstractTableModel {
   Q_OBJECT
 
@@ -21,15 +21,15 @@ class InspectorLog final : public QAbstractTableModel {
 
   using QAbstractTableModel::QAbstractTableModel;
 
-  // Any thread. The event is in the log once the main thread's loop has turned.
+  // Any thread. The event has a row once the main thread's loop has turned.
   void record(const PluginEvent& recorded);
   void clear();
   void setFlow(Flow flow);
   Flow flow() const { return m_flow; }
 
-  const std::deque<Event>& events() const { return m_kept.events; }
-  const Event& eventAt(int row) const { return m_kept.events[static_cast<size_t>(row)]; }
-  // One line, columns parted by tabs.
+  const std::deque<Event>& events() const { return m_rows; }
+  const Event& eventAt(int row) const { return m_rows[static_cast<size_t>(row)]; }
+  // One line, with tabs between the columns.
   static QString lineOf(const InspectorEvent& event);
 
   int rowCount(const QModelIndex& parent = {}) const override;
@@ -41,21 +41,15 @@ class InspectorLog final : public QAbstractTableModel {
   void waiting(qsizetype count);  // so many events wait for the end of the pause
 
  private:
-  struct Bounded {
-    std::deque<Event> events;
-    qsizetype bytes = 0;
+  void updateRows();
 
-    void append(Event event);
-    qsizetype excess(qsizetype count, qsizetype byteCount) const;  // so many of the first are too many
-    void dropFirst(qsizetype count);
-  };
-
-  void takeIn();
-  void makeRoomFor(const Bounded& fresh);
-
-  Bounded m_kept;
   Flow m_flow = Flow::Live;
-  QMutex m_mutex;
-  Bounded m_waiting;              // guarded
-  bool m_isTakeInQueued = false;  // guarded
+  std::deque<Event> m_rows;
+  qsizetype m_firstRow = 0;  // the number of events before the first row, since the beginning
+
+  QMutex m_mutex;  // guards what follows
+  std::deque<Event> m_latest;
+  qsizetype m_firstLatest = 0;  // the number of events that are not kept any more
+  qsizetype m_bytes = 0;        // of the latest
+  bool m_isUpdateQueued = false;
 };

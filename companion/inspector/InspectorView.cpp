@@ -3,24 +3,27 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QFileDialog>
+#include <QFontDatabase>
 #include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSaveFile>
+#include <QScrollBar>
+#include <QShortcut>
 #include <QSplitter>
+#include <QTableView>
+#include <algorithm>
+#include <numeric>
 
-#include "companion/inspector/InspectorDetails.h"
 #include "companion/inspector/InspectorFilter.h"
-#include "companion/inspector/InspectorTable.h"
 #include "companion/runtime/SaveDialog.h"
 
 namespace {
 
 using Group = InspectorEvent::Group;
-
-const QString kAllEvents = QStringLiteral("All events (*.jsonl)");
-const QString kShownEvents = QStringLiteral("Events that are shown (*.jsonl)");
 
 struct GroupBox {
   Group group;
@@ -40,23 +43,44 @@ constexpr GroupBox kGroupBoxes[] = {
 
 // JSON Lines, readable by the owner alone; replaces the file as a whole or not at all. The reason when that
 // failed, else null.
-[[nodiscard]] QString writeEvents(const QString& path, const std::deque<InspectorLog::Event>& events) {
+[[nodiscard]] QString writeEvents(const QString& path, const InspectorFilter& events) {
   QSaveFile file(path);
   if (!file.open(QIODevice::WriteOnly)) return file.errorString();
   if (!file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner)) return file.errorString();
-  for (const InspectorLog::Event& event : events) {
-    if (file.write(event->exportedLine()) < 0) return file.errorString();
+  for (int row = 0; row < events.rowCount(); ++row) {
+    if (file.write(events.eventAt(row)->exportedLine()) < 0) return file.errorString();
   }
   return file.commit() ? QString() : file.errorString();
+}
+
+template <typename Receiver>
+QPushButton* createButton(const char* title, const char* toolTip, Receiver* receiver,
+                          void (Receiver::*action)()) {
+  auto* button = new QPushButton(QString::fromUtf8(title));
+  button->setToolTip(QString::fromUtf8(toolTip));
+  QObject::connect(button, &QPushButton::clicked, receiver, action);
+  return button;
+}
+
+QPlainTextEdit* createDetails() {
+  constexpr int kPixels = 12;
+  QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  font.setPixelSize(kPixels);
+  auto* details = new QPlainTextEdit;
+  details->setReadOnly(true);
+  details->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  details->setTabChangesFocus(true);
+  details->setFont(font);
+  details->setMinimumWidth(200);
+  details->setPlaceholderText(QStringLiteral("Choose a row to see its whole content."));
+  details->setAccessibleName(QStringLiteral("Whole content"));
+  return details;
 }
 
 }  // namespace
 
 InspectorView::InspectorView(InspectorLog* log)
-    : m_log(log),
-      m_filter(new InspectorFilter(log)),
-      m_table(new InspectorTable(m_filter)),
-      m_details(new InspectorDetails) {
+    : m_log(log), m_filter(new InspectorFilter(log)), m_table(new QTableView), m_details(createDetails()) {
   m_filter->setParent(this);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
@@ -64,11 +88,54 @@ InspectorView::InspectorView(InspectorLog* log)
   column->addWidget(createBoxes());
   column->addWidget(createBar());
   column->addWidget(createLists(), 1);
+  setUpTable();
   connect(log, &InspectorLog::waiting, this, &InspectorView::showWaiting);
-  connect(log, &InspectorLog::modelReset, m_details, [this] { m_details->show(nullptr); });
-  connect(m_table, &InspectorTable::chosen, m_details,
-          [this](int row) { m_details->show(m_filter->eventAt(row)); });
-  connect(m_table, &InspectorTable::copyWanted, this, &InspectorView::copy);
+  connect(log, &InspectorLog::modelReset, m_details, &QPlainTextEdit::clear);
+}
+
+void InspectorView::setUpTable() {
+  constexpr int kRowGap = 6;
+  keepPlace();
+  m_table->setModel(m_filter);
+  m_table->setSelectionBehavior(QTableView::SelectRows);
+  m_table->setShowGrid(false);
+  m_table->setWordWrap(false);
+  m_table->setTabKeyNavigation(false);
+  m_table->setHorizontalScrollMode(QTableView::ScrollPerPixel);
+  m_table->setAccessibleName(QStringLiteral("Events"));
+  m_table->verticalHeader()->hide();
+  m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + kRowGap);
+  m_table->horizontalHeader()->setHighlightSections(false);
+  m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  m_table->horizontalHeader()->setStretchLastSection(true);
+  m_table->setColumnWidth(InspectorLog::TimeColumn, 96);
+  m_table->setColumnWidth(InspectorLog::KindColumn, 142);
+  m_table->setColumnWidth(InspectorLog::NameColumn, 220);
+  connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+          &InspectorView::showDetails);
+  auto* shortcut = new QShortcut(QKeySequence::Copy, m_table, nullptr, nullptr, Qt::WidgetShortcut);
+  connect(shortcut, &QShortcut::activated, this, &InspectorView::copy);
+}
+
+// The list follows its end unless the reader has scrolled away from it; then what is read stays where it is
+// when rows above it go. Call it before the list gets its model, which would choose a neighbour of a row that
+// goes.
+void InspectorView::keepPlace() {
+  QScrollBar* bar = m_table->verticalScrollBar();
+  connect(bar, &QScrollBar::valueChanged, this, [this, bar](int row) { m_isAtEnd = row == bar->maximum(); });
+  connect(bar, &QScrollBar::rangeChanged, this, [this, bar] {
+    if (m_isAtEnd) bar->setValue(bar->maximum());
+  });
+  connect(m_filter, &QAbstractItemModel::rowsAboutToBeRemoved, this,
+          [this](const QModelIndex&, int first, int last) {
+            const int current = m_table->currentIndex().row();
+            if (current >= first && current <= last) m_table->selectionModel()->clearCurrentIndex();
+          });
+  connect(m_filter, &QAbstractItemModel::rowsRemoved, this,
+          [this, bar](const QModelIndex&, int first, int last) {
+            if (!m_isAtEnd) bar->setValue(bar->value() - (last - first + 1));
+          });
 }
 
 QWidget* InspectorView::createBoxes() {
@@ -100,13 +167,15 @@ QWidget* InspectorView::createBar() {
   text->setAccessibleName(QStringLiteral("Filter by name or content"));
   text->setClearButtonEnabled(true);
   connect(text, &QLineEdit::textChanged, m_filter, &InspectorFilter::setText);
-  m_pause = createButton("Pause", "Keeps the list as it is while you read", &InspectorView::togglePause);
+  m_pause =
+      createButton("Pause", "Keeps the list as it is while you read", this, &InspectorView::togglePause);
   row->addWidget(text, 1);
   row->addWidget(m_pause);
-  row->addWidget(
-      createButton("Copy", "Copies the selected rows, or all rows that are shown", &InspectorView::copy));
-  row->addWidget(createButton("Clear", "Forgets all events", &InspectorView::clear));
-  row->addWidget(createButton("Export…", "Writes the events to a file", &InspectorView::askForFile));
+  row->addWidget(createButton("Copy", "Copies the selected rows, or all rows that are shown", this,
+                              &InspectorView::copy));
+  row->addWidget(createButton("Clear", "Forgets all events", m_log, &InspectorLog::clear));
+  row->addWidget(createButton("Export…", "Writes the events that are shown to a file", this,
+                              &InspectorView::askForFile));
   return bar;
 }
 
@@ -118,17 +187,8 @@ QWidget* InspectorView::createLists() {
   lists->addWidget(m_details);
   lists->setStretchFactor(0, 3);
   lists->setStretchFactor(1, 2);
-  m_details->setMinimumWidth(200);
   lists->setSizes({590, 262});
   return lists;
-}
-
-QPushButton* InspectorView::createButton(const QString& title, const QString& toolTip,
-                                         void (InspectorView::*action)()) {
-  auto* button = new QPushButton(title);
-  button->setToolTip(toolTip);
-  connect(button, &QPushButton::clicked, this, action);
-  return button;
 }
 
 void InspectorView::togglePause() {
@@ -141,32 +201,28 @@ void InspectorView::showWaiting(qsizetype count) {
   m_pause->setText(count == 0 ? QStringLiteral("Continue") : QStringLiteral("Continue (%1 new)").arg(count));
 }
 
-std::deque<InspectorLog::Event> InspectorView::shownEvents() const {
-  std::deque<InspectorLog::Event> events;
-  for (int row = 0; row < m_filter->rowCount(); ++row) events.push_back(m_filter->eventAt(row));
-  return events;
-}
-
-QString InspectorView::textToCopy() const {
-  std::deque<InspectorLog::Event> events;
-  for (const int row : m_table->selectedRows()) events.push_back(m_filter->eventAt(row));
-  if (events.empty()) events = shownEvents();
-  QString text;
-  for (const InspectorLog::Event& event : events) text += InspectorLog::lineOf(*event) + u'\n';
-  return text;
+void InspectorView::showDetails(const QModelIndex& current) {
+  if (!current.isValid()) return;
+  const InspectorEvent& event = *m_filter->eventAt(current.row());
+  m_details->setPlainText(event.title + "\n\n" + event.wholeContent());
 }
 
 void InspectorView::copy() {
-  QGuiApplication::clipboard()->setText(textToCopy());
+  QList<int> rows;
+  for (const QModelIndex& index : m_table->selectionModel()->selectedRows()) rows.append(index.row());
+  std::ranges::sort(rows);
+  if (rows.isEmpty()) {
+    rows.resize(m_filter->rowCount());
+    std::iota(rows.begin(), rows.end(), 0);
+  }
+  QString text;
+  for (const int row : rows) text += InspectorLog::lineOf(*m_filter->eventAt(row)) + u'\n';
+  QGuiApplication::clipboard()->setText(text);
   Q_EMIT noticed(QStringLiteral("The events are copied, without passwords and tokens."));
 }
 
-void InspectorView::clear() {
-  m_log->clear();
-}
-
-void InspectorView::exportTo(const QString& path, Scope scope) {
-  const QString reason = writeEvents(path, scope == Scope::All ? m_log->events() : shownEvents());
+void InspectorView::exportTo(const QString& path) {
+  const QString reason = writeEvents(path, *m_filter);
   if (reason.isEmpty()) {
     Q_EMIT noticed(QStringLiteral("The events are in %1, without passwords and tokens.").arg(path));
   } else {
@@ -177,9 +233,7 @@ void InspectorView::exportTo(const QString& path, Scope scope) {
 
 void InspectorView::askForFile() {
   QFileDialog* dialog = createSaveDialog(this, QStringLiteral("Export events"), QStringLiteral("inspector"));
-  dialog->setNameFilters({kShownEvents, kAllEvents});
-  connect(dialog, &QFileDialog::fileSelected, this, [this, dialog](const QString& path) {
-    exportTo(path, dialog->selectedNameFilter() == kAllEvents ? Scope::All : Scope::Shown);
-  });
+  dialog->setNameFilter(QStringLiteral("Events (*.jsonl)"));
+  connect(dialog, &QFileDialog::fileSelected, this, &InspectorView::exportTo);
   dialog->open();
 }

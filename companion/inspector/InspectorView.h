@@ -4,11 +4,10 @@
 
 #include "companion/inspector/InspectorLog.h"
 
-class InspectorDetails;
 class InspectorFilter;
-class InspectorTable;
-class QLineEdit;
+class QPlainTextEdit;
 class QPushButton;
+class QTableView;
 
 // The live list: filtered by kinds and text, one event in whole beside it; can be paused, copied, cleared and
 // exported.
@@ -16,32 +15,29 @@ class InspectorView final : public QWidget {
   Q_OBJECT
 
  public:
-  enum class Scope { Shown, All };
-
   explicit InspectorView(InspectorLog* log);  // not owned; must outlive the view
 
-  // The selected rows as lines, or every row that is shown when none is selected.
-  QString textToCopy() const;
-  void exportTo(const QString& path, Scope scope);
+  void exportTo(const QString& path);  // every row that is shown
 
  Q_SIGNALS:
   void noticed(const QString& text);  // for the user
 
  private:
+  void setUpTable();
+  void keepPlace();
   QWidget* createBoxes();
   QWidget* createBar();
   QWidget* createLists();
-  QPushButton* createButton(const QString& title, const QString& toolTip, void (InspectorView::*action)());
   void togglePause();
   void showWaiting(qsizetype count);
-  std::deque<InspectorLog::Event> shownEvents() const;
+  void showDetails(const QModelIndex& current);
   void copy();
-  void clear();
   void askForFile();
 
   InspectorLog* m_log;
   InspectorFilter* m_filter;
+  QTableView* m_table;
+  QPlainTextEdit* m_details;
   QPushButton* m_pause = nullptr;
-  InspectorTable* m_table;
-  InspectorDetails* m_details;
+  bool m_isAtEnd = true;  // the list follows its end
 };

@@ -79,7 +79,7 @@ class CompanionExchangeTest : public testing::Test {
     QStringList shown;
     for (const auto& event : log.events()) {
       if (event->kind != "Notification") continue;
-      shown.append(event->title() + u' ' + event->content);
+      shown.append(event->title + u' ' + event->content);
     }
     return shown;
   }

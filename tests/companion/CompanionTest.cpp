@@ -18,7 +18,7 @@ namespace {
 QStringList namesIn(const InspectorLog& log, const QString& kind) {
   QStringList names;
   for (const auto& event : log.events()) {
-    if (event->kind == kind) names.append(event->title());
+    if (event->kind.startsWith(kind)) names.append(event->title);
   }
   return names;
 }
