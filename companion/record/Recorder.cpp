@@ -32,10 +32,8 @@ Line stepOf(const PluginEvent& event, const void* hostPoster) {
                    return numberedStep("notify", static_cast<qint64>(notified.index), notified.content);
                  },
                  [](const PersonalRoomChange& room) -> Line {
-                   Dictionary given;
-                   if (!room.joinUrl.isNull()) given.insert(QStringLiteral("join"), room.joinUrl);
-                   if (!room.sipUrl.isNull()) given.insert(QStringLiteral("sip"), room.sipUrl);
-                   return {{"personalRoom", valuecodec::encodeContent(given)}};
+                   return {{"personalRoom",
+                            valuecodec::encode(Dictionary{{"join", room.joinUrl}, {"sip", room.sipUrl}})}};
                  },
                  [](const CredentialRequest& request) { return postStep(request.name, request.userInfo); },
                  [hostPoster](const CredentialResponse& response) {

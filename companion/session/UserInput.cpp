@@ -22,8 +22,6 @@ namespace {
 
 // A field lays its whole text out for each key: what follows comes in one piece, as from an input method.
 constexpr qsizetype kKeyByKeyLimit = 2000;
-// More than what makes a double click of two clicks.
-constexpr int kTimeBetweenMouseEventsMs = 1000;
 
 constexpr std::pair<Qt::KeyboardModifier, Qt::Key> kModifierKeys[] = {
     {Qt::ShiftModifier, Qt::Key_Shift},
@@ -59,17 +57,9 @@ void whileHolding(Qt::KeyboardModifiers modifiers, const WindowPointer& window,
 }
 
 void sendClick(const WindowPointer& window, const QPoint& place, Qt::KeyboardModifiers modifiers) {
-  const auto send = [&](QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons pressed) {
-    static int timestamp = 0;
-    timestamp += kTimeBetweenMouseEventsMs;
-    if (!window) return;
-    qt_handleMouseEvent(window, place, window->mapToGlobal(place), pressed, button, type, modifiers,
-                        timestamp);
-  };
   whileHolding(modifiers, window, [&] {
-    send(QEvent::MouseMove, Qt::NoButton, Qt::NoButton);
-    send(QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
-    send(QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
+    QTest::mouseMove(window, place);
+    QTest::mouseClick(window, Qt::LeftButton, modifiers, place);
   });
 }
 

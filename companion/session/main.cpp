@@ -73,17 +73,18 @@ std::optional<CommandLine> readCommandLine(const QStringList& arguments) {
       .isCheck = parser.isSet("check")};
 }
 
-// The record that is made while a script is played: written to a file, compared with an earlier one, or both.
+// The record that is made while a script is played: written to a file, kept to be compared, or both.
 struct Record {
   RecordFile file = {};
-  std::optional<RecordCheck> check = {};
   bool isWritten = false;  // up to now
+  bool isKept = false;
+  QByteArray kept = {};
 
-  bool isWanted() const { return isWritten || check; }
+  bool isWanted() const { return isWritten || isKept; }
 
   // Takes the next line. False when no more are wanted.
   bool take(const QByteArray& line) {
-    if (check) check->compare(line);
+    if (isKept) kept += line + '\n';
     if (isWritten && !file.write(line)) {
       complain(QStringLiteral("the record ends early: %1").arg(file.errorText()));
       isWritten = false;
@@ -116,7 +117,7 @@ int playScript(const CommandLine& commandLine, QIODevice* script, Record* record
   return session.play(script) ? kPlayed : kUnusable;
 }
 
-void printDifference(const RecordCheck::Difference& difference) {
+void printDifference(const RecordDifference& difference) {
   const QJsonValue line = difference.line > 0 ? QJsonValue(difference.line) : QJsonValue::Null;
   printLine({{"different",
               QJsonObject{{"line", line}, {"expected", difference.expected}, {"got", difference.got}}}});
@@ -129,13 +130,10 @@ int runSession(const CommandLine& commandLine) {
     return kUnusable;
   }
   Record record;
+  record.isKept = commandLine.isCheck;
+  // What is expected is read before anything is played: the new record may take the file's place.
   QBuffer checked;
-  if (commandLine.isCheck) {
-    // What is expected is read before anything is played: the new record may take the file's place.
-    checked.setData(file.readAll());
-    checked.open(QIODevice::ReadOnly);
-    record.check.emplace(checked.data());
-  }
+  if (commandLine.isCheck) checked.setData(file.readAll());
   if (!commandLine.recordPath.isEmpty()) {
     record.isWritten = record.file.open(commandLine.recordPath);
     if (!record.isWritten) {
@@ -145,10 +143,11 @@ int runSession(const CommandLine& commandLine) {
     }
   }
   QIODevice* script = &file;
-  if (commandLine.isCheck) script = &checked;
+  if (commandLine.isCheck && checked.open(QIODevice::ReadOnly)) script = &checked;
   const int status = playScript(commandLine, script, &record);
   if (status != kPlayed) return status;
-  if (const auto difference = record.check ? record.check->difference() : std::nullopt) {
+  const auto difference = firstDifference(checked.data(), record.kept);
+  if (difference) {
     printDifference(*difference);
     return kDifferent;
   }
