@@ -1,5 +1,6 @@
 #include "companion/record/HostStateTracker.h"
 
+#include <QJsonArray>
 #include <QLocale>
 #include <utility>
 
@@ -7,16 +8,15 @@
 
 namespace {
 
-const QString kLanguage = QStringLiteral("language");
-const QString kHost = QStringLiteral("host");
-const QString kStore = QStringLiteral("store");
-const QString kKeychain = QStringLiteral("keychain");
-const QString kTokens = QStringLiteral("tokens");
-
 QJsonObject readCredential() {
   const QJsonObject keychain = hoststate::keychain();
   return {{"username", keychain.value(QLatin1String("outlookUsername"))},
           {"password", keychain.value(QLatin1String("outlookPassword"))}};
+}
+
+QJsonObject readTokens() {
+  const QJsonArray items = hoststate::tokens();
+  return items.isEmpty() ? QJsonObject() : QJsonObject{{"items", items}};
 }
 
 // The values that differ; null for those that are gone. What is absent is as good as null.
@@ -42,28 +42,26 @@ Line stepOf(const QString& part, const QJsonObject& values) {
 }  // namespace
 
 QJsonObject HostStateTracker::present() const {
-  const bool isKeychainRead = m_keychain == Keychain::ReadOnce && m_accepted.contains(kKeychain);
-  return {{kLanguage, QLocale().name()},
-          {kHost, hoststate::host()},
-          {kStore, hoststate::store(valuecodec::Form::Exact)},
-          {kKeychain, isKeychainRead ? m_accepted.value(kKeychain) : readCredential()},
-          {kTokens, isKeychainRead ? m_accepted.value(kTokens) : hoststate::tokens()}};
+  const bool isKeychainRead =
+      m_keychain == Keychain::ReadOnce && m_accepted.contains(QLatin1String("keychain"));
+  return {{"language", QJsonObject{{"to", QLocale().name()}}},
+          {"host", hoststate::host()},
+          {"store", hoststate::store(valuecodec::Form::Exact)},
+          {"keychain", isKeychainRead ? m_accepted.value(QLatin1String("keychain")) : readCredential()},
+          {"tokens", isKeychainRead ? m_accepted.value(QLatin1String("tokens")) : readTokens()}};
 }
 
 QList<Line> HostStateTracker::changes() {
   const QJsonObject before = std::exchange(m_accepted, present());
-  const auto changed = [&](const QString& part) {
-    return changedValues(before.value(part).toObject(), m_accepted.value(part).toObject());
-  };
   QList<Line> steps;
-  if (before.value(kLanguage) != m_accepted.value(kLanguage))
-    steps.append({{"set", kLanguage}, {"to", m_accepted.value(kLanguage)}});
-  if (const QJsonObject host = changed(kHost); !host.isEmpty()) steps.append(stepOf(kHost, host));
-  if (const QJsonObject store = changed(kStore); !store.isEmpty())
-    steps.append({{"set", kStore}, {"values", store}});
-  if (const QJsonObject credential = changed(kKeychain); !credential.isEmpty())
-    steps.append(stepOf(kKeychain, credential));
-  if (before.value(kTokens).toArray() != m_accepted.value(kTokens).toArray())
-    steps.append({{"set", kTokens}, {"items", hoststate::tokens(valuecodec::Form::Exact)}});
+  for (const char* part : {"language", "host", "store", "keychain", "tokens"}) {
+    const QLatin1String name(part);
+    QJsonObject changed = changedValues(before.value(name).toObject(), m_accepted.value(name).toObject());
+    if (changed.isEmpty()) continue;
+    if (name == QLatin1String("store")) changed = {{"values", changed}};
+    // The time of expiry is said anew, from now on.
+    if (name == QLatin1String("tokens")) changed = {{"items", hoststate::tokens(valuecodec::Form::Exact)}};
+    steps.append(stepOf(name, changed));
+  }
   return steps;
 }

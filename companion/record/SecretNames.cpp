@@ -30,6 +30,24 @@ quint64 beginningOf(QStringView text) {
   return beginning;
 }
 
+bool isData(const QVariant& value) {
+  return value.typeId() == QMetaType::QVariantMap && value.toMap().keys() == QStringList{kDataKey};
+}
+
+// The value with everything replaced that is no dictionary and no list.
+QVariant withLeaves(const QVariant& value, const std::function<QVariant(const QVariant&)>& replacement) {
+  if (value.typeId() == QMetaType::QVariantMap && !isData(value)) {
+    Dictionary replaced = value.toMap();
+    for (QVariant& inner : replaced) inner = withLeaves(inner, replacement);
+    return replaced;
+  }
+  if (value.typeId() != QMetaType::QVariantList && value.typeId() != QMetaType::QStringList)
+    return replacement(value);
+  QVariantList replaced = value.toList();
+  for (QVariant& inner : replaced) inner = withLeaves(inner, replacement);
+  return replaced;
+}
+
 }  // namespace
 
 QString SecretNames::nameOf(const QString& secret) {
@@ -52,25 +70,20 @@ QString SecretNames::nameOf(const QString& secret) {
 }
 
 QJsonValue SecretNames::withoutSecrets(const QString& member, const QJsonValue& value) {
-  const auto replacement = [this](const QVariant& secret) { return named(secret); };
-  const QVariant open = kzReplaceSecrets({{member, value.toVariant()}}, replacement).value(member);
+  const auto named = [this](const QVariant& secret) {
+    return withLeaves(secret, [this](const QVariant& leaf) { return this->named(leaf); });
+  };
+  const auto withoutKnown = [this](const QVariant& leaf) {
+    return leaf.typeId() == QMetaType::QString ? this->withoutKnown(leaf.toString()) : leaf;
+  };
+  const QVariant open = kzReplaceSecrets({{member, value.toVariant()}}, named).value(member);
   const bool isContent = value.isObject() || value.isArray() || member == QLatin1String("opened");
-  return QJsonValue::fromVariant(isContent ? withoutKnown(open) : open);
+  return QJsonValue::fromVariant(isContent ? withLeaves(open, withoutKnown) : open);
 }
 
 QVariant SecretNames::named(const QVariant& secret) {
   if (isMissing(secret) || secret.typeId() == QMetaType::Bool) return secret;
-  if (secret.typeId() == QMetaType::QVariantMap) {
-    Dictionary names = secret.toMap();
-    if (names.size() == 1 && names.contains(kDataKey)) return namedData(names.value(kDataKey).toString());
-    for (QVariant& value : names) value = named(value);
-    return names;
-  }
-  if (secret.typeId() == QMetaType::QVariantList) {
-    QVariantList names = secret.toList();
-    for (QVariant& value : names) value = named(value);
-    return names;
-  }
+  if (isData(secret)) return namedData(secret.toMap().value(kDataKey).toString());
   const QString text = secret.toString();
   if (isConstant(text)) return secret;
   // A credential is a user name, a colon and a password: the user name stays where the password is known.
@@ -83,26 +96,6 @@ QVariant SecretNames::named(const QVariant& secret) {
 QVariant SecretNames::namedData(const QString& base64) {
   const QString bytes = QString::fromLatin1(QByteArray::fromBase64(base64.toLatin1()));
   return Dictionary{{kDataKey, QString::fromLatin1(nameOf(bytes).toLatin1().toBase64())}};
-}
-
-QVariant SecretNames::withoutKnown(const QVariant& value) const {
-  switch (value.typeId()) {
-    case QMetaType::QString:
-      return withoutKnown(value.toString());
-    case QMetaType::QVariantMap: {
-      Dictionary open = value.toMap();
-      for (QVariant& inner : open) inner = withoutKnown(inner);
-      return open;
-    }
-    case QMetaType::QVariantList:
-    case QMetaType::QStringList: {
-      QVariantList open = value.toList();
-      for (QVariant& inner : open) inner = withoutKnown(inner);
-      return open;
-    }
-    default:
-      return value;
-  }
 }
 
 QString SecretNames::withoutKnown(const QString& text) const {

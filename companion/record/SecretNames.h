@@ -22,7 +22,6 @@ class SecretNames final {
  private:
   QVariant named(const QVariant& secret);
   QVariant namedData(const QString& base64);
-  QVariant withoutKnown(const QVariant& value) const;
   QString withoutKnown(const QString& text) const;
 
   QHash<QString, QString> m_names;             // by secret
