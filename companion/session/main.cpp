@@ -25,25 +25,13 @@ void complain(const QString& text) {
   std::fprintf(stderr, "prefs-session: %s\n", qPrintable(text));
 }
 
-struct CommandLine {
-  QString stateFolder;  // empty: a fresh one
-  KZKeyChainHandle::Storage keychain;
-  Session::Options printed;
-  QString pluginPath;
-  QString scriptPath;  // "-": standard input
-  QString recordPath;  // empty: nothing is recorded
-  bool isCheck;
-};
-
-// Nothing when it cannot be followed. Ends the program where help is asked for.
-std::optional<CommandLine> readCommandLine(const QStringList& arguments) {
-  QCommandLineParser parser;
-  parser.setApplicationDescription(
+void addOptions(QCommandLineParser* options) {
+  options->setApplicationDescription(
       "Loads the preferences plug-in, plays one step a line, and prints what came back, one JSON object a "
       "line.\n"
       "Windows are drawn offscreen unless QT_QPA_PLATFORM says otherwise.");
-  parser.addHelpOption();
-  parser.addOptions(
+  options->addHelpOption();
+  options->addOptions(
       {{"state", "Where the settings store lives; left out, a fresh folder.", "DIR"},
        {"keychain", "Where secrets are kept: memory (the default) or system.", "KIND", "memory"},
        {"trace", "Print trace lines too."},
@@ -51,26 +39,7 @@ std::optional<CommandLine> readCommandLine(const QStringList& arguments) {
        {"record", "Write what is played and what comes out as a record.", "RECORD"},
        {"check", "Compare what comes out with what the script, a record, says came out."},
        {"plugin", "The plug-in to load.", "FILE", defaultPluginPath()}});
-  parser.addPositionalArgument("FILE", "The script, \"-\" or left out: standard input.", "[FILE | -]");
-  parser.process(arguments);
-  const QString keychain = parser.value("keychain");
-  if (keychain != "memory" && keychain != "system") {
-    complain(QStringLiteral("--keychain is memory or system, not %1").arg(keychain));
-    return {};
-  }
-  if (parser.positionalArguments().size() > 1) {
-    complain(QStringLiteral("one script at a time"));
-    return {};
-  }
-  using Storage = KZKeyChainHandle::Storage;
-  return CommandLine{
-      .stateFolder = parser.value("state"),
-      .keychain = keychain == "system" ? Storage::System : Storage::Memory,
-      .printed = {.isPrintingTrace = parser.isSet("trace"), .isPrintingWrites = parser.isSet("writes")},
-      .pluginPath = parser.value("plugin"),
-      .scriptPath = parser.positionalArguments().value(0, "-"),
-      .recordPath = parser.value("record"),
-      .isCheck = parser.isSet("check")};
+  options->addPositionalArgument("FILE", "The script, \"-\" or left out: standard input.", "[FILE | -]");
 }
 
 // The record that is made while a script is played: written to a file, kept to be compared, or both.
@@ -101,16 +70,17 @@ bool openScript(const QString& path, QFile* script) {
 
 // What to exit with. What the plug-in does while it is unloaded belongs to no step: it is neither printed nor
 // recorded.
-int playScript(const CommandLine& commandLine, QIODevice* script, Record* record) {
+int playScript(const QCommandLineParser& options, QIODevice* script, Record* record) {
   PluginHost host;
-  Session session(&host, commandLine.printed);
+  Session session(&host,
+                  {.isPrintingTrace = options.isSet("trace"), .isPrintingWrites = options.isSet("writes")});
   std::optional<Recorder> recorder;
   if (record->isWanted()) {
     recorder.emplace(
         &host, [record](const QByteArray& line) { return record->take(line); },
         Recorder::Options{.clock = [&session] { return session.waited(); }, .hostPoster = session.poster()});
   }
-  if (!host.load(commandLine.pluginPath)) {
+  if (!host.load(options.value("plugin"))) {
     complain(host.errorText());
     return kPluginFailed;
   }
@@ -123,35 +93,35 @@ void printDifference(const RecordDifference& difference) {
               QJsonObject{{"line", line}, {"expected", difference.expected}, {"got", difference.got}}}});
 }
 
-int runSession(const CommandLine& commandLine) {
+int runSession(const QCommandLineParser& options) {
   QFile file;
-  if (!openScript(commandLine.scriptPath, &file)) {
-    complain(QStringLiteral("cannot read %1: %2").arg(commandLine.scriptPath, file.errorString()));
+  const QString path = options.positionalArguments().value(0, "-");
+  if (!openScript(path, &file)) {
+    complain(QStringLiteral("cannot read %1: %2").arg(path, file.errorString()));
     return kUnusable;
   }
   Record record;
-  record.isKept = commandLine.isCheck;
+  record.isKept = options.isSet("check");
   // What is expected is read before anything is played: the new record may take the file's place.
   QBuffer checked;
-  if (commandLine.isCheck) checked.setData(file.readAll());
-  if (!commandLine.recordPath.isEmpty()) {
-    record.isWritten = record.file.open(commandLine.recordPath);
+  if (record.isKept) checked.setData(file.readAll());
+  const QString recordPath = options.value("record");
+  if (!recordPath.isEmpty()) {
+    record.isWritten = record.file.open(recordPath);
     if (!record.isWritten) {
-      complain(
-          QStringLiteral("cannot record to %1: %2").arg(commandLine.recordPath, record.file.errorText()));
+      complain(QStringLiteral("cannot record to %1: %2").arg(recordPath, record.file.errorText()));
       return kUnusable;
     }
   }
   QIODevice* script = &file;
-  if (commandLine.isCheck && checked.open(QIODevice::ReadOnly)) script = &checked;
-  const int status = playScript(commandLine, script, &record);
+  if (record.isKept && checked.open(QIODevice::ReadOnly)) script = &checked;
+  const int status = playScript(options, script, &record);
   if (status != kPlayed) return status;
-  const auto difference = firstDifference(checked.data(), record.kept);
-  if (difference) {
+  if (const auto difference = firstDifference(checked.data(), record.kept)) {
     printDifference(*difference);
     return kDifferent;
   }
-  return commandLine.recordPath.isEmpty() || record.isWritten ? kPlayed : kUnusable;
+  return recordPath.isEmpty() || record.isWritten ? kPlayed : kUnusable;
 }
 
 }  // namespace
@@ -162,14 +132,25 @@ int main(int argc, char** argv) {
   Application::setQuitOnLastWindowClosed(false);
   Application::setApplicationName("prefs-session");
 
-  const auto commandLine = readCommandLine(Application::commandLine(argc, argv));
-  if (!commandLine) return kUnusable;
+  QCommandLineParser options;
+  addOptions(&options);
+  options.process(Application::commandLine(argc, argv));
+  const QString keychain = options.value("keychain");
+  if (keychain != "memory" && keychain != "system") {
+    complain(QStringLiteral("--keychain is memory or system, not %1").arg(keychain));
+    return kUnusable;
+  }
+  if (options.positionalArguments().size() > 1) {
+    complain(QStringLiteral("one script at a time"));
+    return kUnusable;
+  }
   const QTemporaryDir freshFolder;
-  const QString folder = commandLine->stateFolder.isEmpty() ? freshFolder.path() : commandLine->stateFolder;
+  const QString folder = options.value("state").isEmpty() ? freshFolder.path() : options.value("state");
   if (!KZPlistFileHandle::sharedInstance().open(folder)) {
     complain(QStringLiteral("%1 is used by another program").arg(folder));
     return kUnusable;
   }
-  KZKeyChainHandle::sharedInstance().useStorage(commandLine->keychain);
-  return runSession(*commandLine);
+  using Storage = KZKeyChainHandle::Storage;
+  KZKeyChainHandle::sharedInstance().useStorage(keychain == "system" ? Storage::System : Storage::Memory);
+  return runSession(options);
 }
