@@ -20,7 +20,7 @@ void print(const QJsonObject& object, QJsonDocument::JsonFormat format) {
 
 }  // namespace
 
-// Runs the sandbox until it is ended. The first line on standard output describes it.
+// Runs the sandbox until it is terminated. The first line on standard output describes it.
 int main(int argc, char** argv) {
   QCoreApplication application(argc, argv);
   QCommandLineParser parser;
