@@ -18,7 +18,7 @@ constexpr int kSecondsOfADay = 86'400;
 constexpr int kClicksOfADay = kSecondsOfADay / 4;  // each is written to the disk
 constexpr int kMostGrowth = 1024 * 1024;           // bytes
 
-// What is allocated and not freed, whatever the allocator keeps.
+// The bytes allocated and not freed, without the allocator's own cache.
 qint64 bytesInUse() {
   const struct mallinfo2 info = ::mallinfo2();
   return static_cast<qint64>(info.uordblks) + static_cast<qint64>(info.hblkhd);
@@ -30,7 +30,7 @@ QPushButton* buttonOf(const QWidget& window, const QString& title) {
   return found == buttons.end() ? nullptr : *found;
 }
 
-// How much more is in use at the end than when every list that is bounded should be full.
+// The growth of memory from the point at which every bounded list should be full to the end.
 qint64 growthOfADay(int events, const std::function<void()>& event) {
   qint64 early = 0;
   for (int number = 1; number <= events; ++number) {

@@ -25,7 +25,7 @@ struct FaultNoticeTest : testing::Test {
   FaultNotice* notice = new FaultNotice(&window);
 };
 
-TEST_F(FaultNoticeTest, TellsOfAFullDiskUntilAWriteSucceeds) {
+TEST_F(FaultNoticeTest, ShowsAFullDiskUntilAWriteSucceeds) {
   const StoreFolder folder;
   EXPECT_FALSE(notice->isVisibleTo(&window));
   {
@@ -56,13 +56,13 @@ TEST_F(FaultNoticeTest, NamesThePlaceToMend) {
     folder.reopen();
     StoreFolder::store().setSiteName("any");
     EXPECT_TRUE(says(row.what)) << qPrintable(notice->text());
-    // Also a window that is made later tells.
+    // A notice created later shows it too.
     EXPECT_EQ(FaultNotice(&window).text(), notice->text());
     ASSERT_EQ(::chmod(folder.folder().toUtf8().constData(), 0700), 0);
   }
 }
 
-TEST_F(FaultNoticeTest, TellsWhereDamagedSettingsAreInTheRunThatFoundThem) {
+TEST_F(FaultNoticeTest, ShowsWhereDamagedSettingsAreInTheRunThatFoundThem) {
   const StoreFolder folder;
   folder.openWith("damaged");
   const FaultNotice found(&window);
@@ -73,7 +73,7 @@ TEST_F(FaultNoticeTest, TellsWhereDamagedSettingsAreInTheRunThatFoundThem) {
   EXPECT_FALSE(FaultNotice(&window).isVisibleTo(&window));
 }
 
-TEST_F(FaultNoticeTest, TellsOfALostKeychainWhicheverThreadFindsOut) {
+TEST_F(FaultNoticeTest, ShowsAFailedKeychainFromAnyThread) {
   const QByteArray before = qgetenv("DBUS_SESSION_BUS_ADDRESS");
   qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent/bus");
   KZKeyChainHandle& keychain = KZKeyChainHandle::sharedInstance();
