@@ -7,48 +7,61 @@ MAKEFLAGS += --no-print-directory
 JOBS ?= $(shell nproc)
 BUILD ?= build
 SANITIZE_BUILD ?= build-sanitize
-TEST_JOBS ?= $(JOBS)
+# Tests wait more than they compute.
+TEST_JOBS ?= $(shell expr 2 \* $(JOBS))
 
-.PHONY: run build test lint sanitize bench pictures host-guide package clean packages
+CONFIGURE = cmake -S . -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo
+NINJA = ninja -C $(BUILD) -j $(JOBS)
 
-run: packages
-	@tools/build.sh $(BUILD) $(JOBS) companion
+.PHONY: run build test lint sanitize bench pictures documents package clean packages
+
+run: $(BUILD)/build.ninja
+	@$(NINJA) companion
 	$(BUILD)/bin/companion
 
-build: packages
-	@tools/build.sh $(BUILD) $(JOBS)
+build: $(BUILD)/build.ninja
+	@$(NINJA)
 
 test: build
 	@tools/run-tests.sh $(BUILD) $(TEST_JOBS)
 
-lint: packages
-	@tools/lint.sh $(JOBS)
+lint: $(BUILD)/build.ninja
+	@$(NINJA) build.ninja >/dev/null
+	@tools/lint.sh $(BUILD) $(JOBS)
 
-sanitize: packages
-	@tools/build.sh $(SANITIZE_BUILD) $(JOBS) -DKZ_SANITIZE=ON
+sanitize: $(SANITIZE_BUILD)/build.ninja
+	@ninja -C $(SANITIZE_BUILD) -j $(JOBS)
 	@tools/run-tests.sh $(SANITIZE_BUILD) $(TEST_JOBS)
 
-bench: packages
-	@tools/build.sh $(BUILD) $(JOBS) bench/all bounds_tests
+bench: $(BUILD)/build.ninja
+	@$(NINJA) bench/all bounds_tests
 	$(BUILD)/bin/benchmarks
 	$(BUILD)/bin/prefs-bench --window
 	$(BUILD)/bin/prefs-bench --window --fade
 	$(BUILD)/tests/bounds_tests --gtest_brief=1
 
-# The pictures of the documents, from runs of the programs.
+# The pictures of windows in the documents, from runs of the programs.
 pictures: build
 	@tools/draw-pictures.sh $(BUILD)
 
-# The tables of docs/host-guide.md, from the code's own.
-host-guide: build
-	@tools/host-guide.py $(BUILD)/bin/host-guide-tables
+# The tables, flows and layers in the documents, from the code and runs of the programs.
+documents: $(BUILD)/build.ninja
+	@$(NINJA) print-commands prefs-session kz-sandbox KZPreference
+	@tools/documents.py $(BUILD)/bin
 
 # A Debian package of the plug-in, its programs and the host SDK.
 package: build
 	@cd $(BUILD) && cpack -G DEB
 
 clean:
-	rm -rf $(BUILD) $(SANITIZE_BUILD) build-lint
+	rm -rf $(BUILD) $(SANITIZE_BUILD)
 
 packages:
 	@tools/install-packages.sh
+
+# Once; ninja itself configures again when a CMake file changed.
+$(BUILD)/build.ninja: | packages
+	@$(CONFIGURE) -B $(BUILD)
+
+$(SANITIZE_BUILD)/build.ninja: | packages
+	@$(CONFIGURE) -B $(SANITIZE_BUILD) -DKZ_SANITIZE=ON

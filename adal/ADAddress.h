@@ -1,9 +1,24 @@
 #pragma once
 
+#include <QByteArray>
+#include <QByteArrayView>
+#include <QList>
+#include <QString>
 #include <QUrl>
+#include <optional>
+#include <utility>
 
 // Whether secrets may be sent there: https, or plain http to the loopback address.
 bool isAllowedAddress(const QUrl& address);
 
 // A redirect address that a listener of ours can answer: plain http to the loopback address.
 bool isLoopbackRedirect(const QUrl& address);
+
+// Names and values of a form or a query, in order.
+using ADParameters = QList<std::pair<QString, QString>>;
+
+QByteArray encodedParameters(const ADParameters& parameters);
+ADParameters decodedParameters(QByteArrayView encoded);
+
+// Nothing when the name is missing or is there twice, which only a forged answer has.
+std::optional<QString> onlyValue(const ADParameters& parameters, const QString& name);

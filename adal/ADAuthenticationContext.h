@@ -6,8 +6,7 @@
 
 #include "adal/ADALExport.h"
 #include "adal/ADAuthenticationResult.h"
-#include "adal/ADPromptBehavior.h"
-#include "adal/ADUserIdentifier.h"
+#include "adal/ADRequest.h"
 
 enum class ADAuthorityValidation { Off };
 

@@ -5,7 +5,6 @@
 #include <QMutexLocker>
 #include <utility>
 
-#include "adal/ADClock.h"
 #include "adal/ADTokenCache.h"
 
 struct ADAuthenticationSettings::Private {
@@ -38,9 +37,6 @@ void ADAuthenticationSettings::setDefaultStorageDelegate(ADTokenCacheDelegate* d
   ADTokenCache::defaultCache().setDelegate(delegate);
 }
 
-void ADAuthenticationSettings::setClock(Clock clock) {
-  setADClock(std::move(clock));
-}
 void ADAuthenticationSettings::setBrowserOpener(BrowserOpener opener) {
   d->assign(d->opener, std::move(opener));
 }
@@ -49,10 +45,6 @@ void ADAuthenticationSettings::setTextLookUp(TextLookUp lookUp) {
 }
 void ADAuthenticationSettings::setLimits(const ADRequestLimits& limits) {
   d->assign(d->limits, limits);
-}
-
-QDateTime ADAuthenticationSettings::now() const {
-  return adNow();
 }
 
 bool ADAuthenticationSettings::openBrowser(const QUrl& address) const {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QDateTime>
 #include <QString>
 #include <QUrl>
 #include <chrono>
@@ -18,11 +17,10 @@ struct ADRequestLimits {
   qint64 answerBytes = 1024 * 1024;
 };
 
-// What the host decides for the whole library. Set up on the main thread before the first request; reading is
-// for any thread.
+// What the host decides for the whole library. Set up on the main thread before the first request, read from
+// any thread.
 class ADAL_EXPORT ADAuthenticationSettings final {
  public:
-  using Clock = std::function<QDateTime()>;
   using BrowserOpener = std::function<bool(const QUrl&)>;  // false: nothing opened it
   using TextLookUp = std::function<QString(const char*)>;  // the text in the user's language
 
@@ -31,13 +29,11 @@ class ADAL_EXPORT ADAuthenticationSettings final {
   // Keeps the default token cache. Not owned.
   void setDefaultStorageDelegate(ADTokenCacheDelegate* delegate);
 
-  // An empty function restores the default: the system's clock, the desktop's browser, the English text.
-  void setClock(Clock clock);
+  // An empty function restores the default: the desktop's browser, the English text.
   void setBrowserOpener(BrowserOpener opener);
   void setTextLookUp(TextLookUp lookUp);
   void setLimits(const ADRequestLimits& limits);
 
-  QDateTime now() const;
   bool openBrowser(const QUrl& address) const;
   QString text(const char* english) const;
   ADRequestLimits limits() const;

@@ -5,21 +5,21 @@
 #include <functional>
 #include <optional>
 
+#include "adal/ADAddress.h"
 #include "adal/ADError.h"
-#include "adal/ADParameters.h"
-#include "adal/ADPromptBehavior.h"
+#include "adal/ADRequest.h"
 
 class ADWebClient;
 struct ADWebAnswer;
 
-// How one generation of authorities is told what a token is for.
+// How one generation of authorities expects to be asked.
 struct ADProtocolGeneration {
   const char* resourceParameter;  // the parameter that names the resource
   const char* scopes;             // always asked for, as far as the authority knows them
   const char* alwaysPrompt;       // shows the sign-in page in any case, and still gets a refresh token
 };
 
-// Where an authority is asked, and what it understands.
+// An authority's addresses, and the parameters that it expects.
 struct ADEndpoints {
   QUrl authorization;
   QUrl token;
@@ -36,7 +36,7 @@ struct ADEndpointsOrError {
   std::optional<ADError> error;
 };
 
-// Reads the authority's OpenID configuration document; where it has none, its usual paths hold.
+// Reads the authority's OpenID configuration document; without one, the usual paths are assumed.
 void findEndpoints(ADWebClient& web, const QString& authority,
                    const std::function<void(const ADEndpointsOrError&)>& done);
 

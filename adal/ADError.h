@@ -10,10 +10,10 @@ enum class ADErrorCode {
   CacheFormat,        // stored data that this version cannot read
   CacheBusy,          // the cache was asked from inside its own storage delegate
   Network,            // refused, broken, too slow
-  ServerAnswer,       // the authority answered something that is no answer
+  ServerAnswer,       // the authority's answer cannot be used
   InvalidGrant,       // the code or refresh token is not accepted any more
-  InvalidScope,       // the grant does not reach as far as what was asked for
-  Refused,            // the authority said no: access_denied and its relatives
+  InvalidScope,       // the grant does not cover the scopes that were asked for
+  Refused,            // the authority refused: access_denied and the like
   UserCancelled,
   TimedOut,  // the browser never came back
 };

@@ -46,7 +46,7 @@ std::optional<ADError> ADLoopbackListener::listen(const QUrl& redirectUri) {
   const QHostAddress named(redirectUri.host());
   const QHostAddress address = named.protocol() == QAbstractSocket::IPv6Protocol ? QHostAddress::LocalHostIPv6
                                                                                  : QHostAddress::LocalHost;
-  // A proxy of the application's has no business on the loopback address.
+  // The application's proxy must not stand before the loopback address.
   m_server.setProxy(QNetworkProxy::NoProxy);
   if (!m_server.listen(address, static_cast<quint16>(redirectUri.port(0)))) {
     return ADError{ADErrorCode::Network, QStringLiteral("the callback port cannot be opened")};

@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "adal/ADAuthenticationSettings.h"
 #include "adal/ADLogger.h"
 #include "adal/ADTokenCache.h"
 
@@ -45,7 +44,7 @@ void ADRefresh::redeem(const QString& refreshToken) {
   form += m_endpoints.resourceParameters(m_request.resource);
   if (!m_namesScopes) form.removeIf([](const auto& field) { return field.first == QLatin1String("scope"); });
   m_web.post(m_endpoints.token, form, [this](const ADWebAnswer& answer) {
-    onAnswer(tokenAnswer(answer, m_request.clientId, ADAuthenticationSettings::sharedInstance().now()));
+    onAnswer(tokenAnswer(answer, m_request.clientId, adNow()));
   });
 }
 
@@ -75,7 +74,7 @@ void ADRefresh::onAnswer(const ADTokenAnswerOrError& answer) {
 }
 
 std::optional<ADTokenCacheItem> ADRefresh::successor() const {
-  // Of a token that was not stored nobody knows whose it was; another user's must not stand in for it.
+  // The user of a token that was not stored is unknown, and another user's token must not be tried.
   if (!m_holder) return {};
   const QList<ADTokenCacheItem> items = ADTokenCache::defaultCache().allItems().items;
   const auto found = std::find_if(items.begin(), items.end(), [this](const ADTokenCacheItem& item) {

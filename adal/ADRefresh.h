@@ -6,15 +6,9 @@
 
 #include "adal/ADAuthenticationResult.h"
 #include "adal/ADEndpoints.h"
+#include "adal/ADRequest.h"
 #include "adal/ADTokenAnswer.h"
 #include "adal/ADWebClient.h"
-
-struct ADRefreshRequest {
-  QString authority;
-  QString refreshToken;
-  QString resource;
-  QString clientId;
-};
 
 // Redeems one refresh token. Destroying it gives up unanswered. No failure touches the stored tokens.
 class ADRefresh final : public QObject {

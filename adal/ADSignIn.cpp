@@ -1,16 +1,31 @@
 #include "adal/ADSignIn.h"
 
 #include <QApplication>
+#include <QCryptographicHash>
+#include <QRandomGenerator>
 #include <QThread>
+#include <array>
 #include <utility>
 
 #include "adal/ADAddress.h"
 #include "adal/ADAuthenticationSettings.h"
 #include "adal/ADLogger.h"
-#include "adal/ADProofKey.h"
 #include "adal/ADTokenAnswer.h"
 
 namespace {
+
+constexpr QByteArray::Base64Options urlSafe = QByteArray::Base64UrlEncoding | QByteArray::OmitTrailingEquals;
+
+// 43 random characters of the URL-safe alphabet, for a state or a verifier.
+QByteArray randomText() {
+  std::array<quint32, 8> random{};
+  QRandomGenerator::system()->fillRange(random.data(), static_cast<qsizetype>(random.size()));
+  return QByteArray(reinterpret_cast<const char*>(random.data()), sizeof random).toBase64(urlSafe);
+}
+
+QByteArray challengeFor(const QByteArray& verifier) {
+  return QCryptographicHash::hash(verifier, QCryptographicHash::Sha256).toBase64(urlSafe);
+}
 
 QList<std::weak_ptr<ADSignIn>>& runningSignIns() {
   static auto* const signIns = new QList<std::weak_ptr<ADSignIn>>;
@@ -21,7 +36,7 @@ bool canShowDialogs() {
   return qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr;
 }
 
-// A dialog or a socket may be what is calling.
+// The dialog or the listener may be the caller.
 template <typename T>
 void releaseLater(std::unique_ptr<T>& object) {
   if (object) object.release()->deleteLater();
@@ -44,11 +59,11 @@ std::shared_ptr<ADSignIn> ADSignIn::forRequest(const ADSignInRequest& request) {
 }
 
 ADSignIn::ADSignIn(const ADSignInRequest& request)
-    : m_request(request), m_state(unguessableText()), m_verifier(unguessableText()) {
+    : m_request(request), m_state(randomText()), m_verifier(randomText()) {
   Q_ASSERT(QThread::currentThread() == QCoreApplication::instance()->thread());
   m_deadline.setSingleShot(true);
   connect(&m_deadline, &QTimer::timeout, this, [this] { fail({ADErrorCode::TimedOut, {}}); });
-  // Windows and sockets must not outlive the application object, whoever still holds this.
+  // Windows and sockets must not outlive the application object; this object may.
   connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, &ADSignIn::stopWaiting);
 }
 
@@ -90,7 +105,7 @@ void ADSignIn::openPage(const ADEndpoints& endpoints) {
     return;
   }
   if (!isLoopback && !canShowDialogs()) {
-    fail({ADErrorCode::InvalidArgument, QStringLiteral("nobody can be asked for the code")});
+    fail({ADErrorCode::InvalidArgument, QStringLiteral("no dialog can ask for the code")});
     return;
   }
   m_deadline.start(ADAuthenticationSettings::sharedInstance().limits().signIn);
@@ -114,7 +129,7 @@ QUrl ADSignIn::pageAddress() const {
       {QStringLiteral("client_id"), m_request.clientId},
       {QStringLiteral("redirect_uri"), m_redirectUri.toString(QUrl::FullyEncoded)},
       {QStringLiteral("state"), QString::fromLatin1(m_state)},
-      {QStringLiteral("code_challenge"), QString::fromLatin1(proofKeyChallenge(m_verifier))},
+      {QStringLiteral("code_challenge"), QString::fromLatin1(challengeFor(m_verifier))},
       {QStringLiteral("code_challenge_method"), QStringLiteral("S256")},
   };
   parameters += m_endpoints.resourceParameters(m_request.resource);
@@ -191,8 +206,7 @@ void ADSignIn::redeem(const QString& code) {
                    {QStringLiteral("code_verifier"), QString::fromLatin1(m_verifier)}} +
       m_endpoints.resourceParameters(m_request.resource);
   m_web.post(m_endpoints.token, form, [this](const ADWebAnswer& answer) {
-    const ADTokenAnswerOrError granted =
-        tokenAnswer(answer, m_request.clientId, ADAuthenticationSettings::sharedInstance().now());
+    const ADTokenAnswerOrError granted = tokenAnswer(answer, m_request.clientId, adNow());
     if (granted.error) {
       fail(*granted.error);
     } else if (granted.answer.userId.isEmpty()) {

@@ -8,25 +8,11 @@
 #include "adal/ADAuthenticationResult.h"
 #include "adal/ADEndpoints.h"
 #include "adal/ADLoopbackListener.h"
-#include "adal/ADPromptBehavior.h"
+#include "adal/ADRequest.h"
 #include "adal/ADSignInDialog.h"
-#include "adal/ADUserIdentifier.h"
 #include "adal/ADWebClient.h"
 
-struct ADSignInRequest {
-  QString authority;
-  QString resource;
-  QString clientId;
-  QUrl redirectUri;
-  ADPromptBehavior promptBehavior = ADPromptBehavior::Always;
-  ADUserIdentifier userIdentifier;
-  QString extraQueryParameters;
-  QString claims;
-
-  bool operator==(const ADSignInRequest&) const = default;
-};
-
-// One sign-in in the browser, shared by everybody who asked for the same. Without anybody left it ends
+// One sign-in in the browser, shared by requests that are equal. When all of their owners have left, it ends
 // unanswered: the port is closed, the dialog is gone. Main thread only.
 class ADSignIn final : public QObject, public std::enable_shared_from_this<ADSignIn> {
  public:
@@ -36,7 +22,7 @@ class ADSignIn final : public QObject, public std::enable_shared_from_this<ADSig
   explicit ADSignIn(const ADSignInRequest& request);
   ~ADSignIn() override;
 
-  // Asks to be told how it ends; `owner` is for taking that back.
+  // `completion` is called when it ends, unless `owner` has left before.
   void join(const void* owner, ADAuthenticationCallback completion);
   void leave(const void* owner);
 

@@ -23,7 +23,7 @@ struct ADTokenAnswerOrError {
   std::optional<ADError> error;
 };
 
-// Whose and what for the tokens of an answer are.
+// What the tokens of an answer are stored for.
 struct ADTokenTarget {
   QString userId;
   QString authority;
@@ -31,8 +31,8 @@ struct ADTokenTarget {
   QString clientId;
 };
 
-// An id_token that names no user, or is for another client, is an error. Its signature is not looked at: it
-// came straight from the token endpoint over a protected connection, which is as good.
+// An id_token that names no user, or is for another client, is an error. Its signature is not checked: it
+// comes straight from the token endpoint, which the connection has authenticated.
 ADTokenAnswerOrError tokenAnswer(const ADWebAnswer& answer, const QString& clientId, const QDateTime& now);
 
 // The items to store for an answer, the refresh token's first, the access token's last. Every refresh token

@@ -5,7 +5,6 @@
 #include <algorithm>
 
 #include "adal/ADTokenCacheDelegate.h"
-#include "adal/ADTokenCacheFormat.h"
 
 namespace {
 
@@ -24,7 +23,7 @@ ADTokenCache::ADTokenCache() = default;
 ADTokenCache::~ADTokenCache() = default;
 
 ADTokenCache& ADTokenCache::defaultCache() {
-  // Never destroyed: delegates and workers may use it until the very end.
+  // Never destroyed: delegates and threads may use it until the process ends.
   static ADTokenCache* const cache = new ADTokenCache;
   return *cache;
 }
@@ -63,15 +62,6 @@ ADTokenCache::Failure ADTokenCache::replaceAllItems(const QList<ADTokenCacheItem
   return write([&] { m_items = items; });
 }
 
-ADTokenCache::Failure ADTokenCache::removeItem(const ADTokenCacheItem& item) {
-  const QMutexLocker lock(&m_mutex);
-  const auto isIt = [&](const ADTokenCacheItem& other) { return item.isSameEntry(other); };
-  const Items current = allItems();
-  if (current.error) return current.error;
-  if (std::none_of(current.items.begin(), current.items.end(), isIt)) return {};
-  return write([&] { m_items.removeIf(isIt); });
-}
-
 ADTokenCache::Failure ADTokenCache::write(const std::function<void()>& change) {
   const QMutexLocker lock(&m_mutex);
   if (m_insideDelegate) return cacheBusy();
@@ -96,7 +86,7 @@ ADTokenCache::Failure ADTokenCache::deserialize(const std::optional<QByteArray>&
     m_serialized = {};
     return {};
   }
-  // The storage is read before every access, and has hardly ever changed.
+  // The storage is read before every access and seldom differs.
   if (!m_serialized.isNull() && isSameData(*data, m_serialized)) return {};
   std::optional<QList<ADTokenCacheItem>> items = deserializedTokens(*data);
   if (!items) return ADError{ADErrorCode::CacheFormat, QStringLiteral("not written by this version")};

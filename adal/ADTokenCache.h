@@ -28,7 +28,7 @@ class ADAL_EXPORT ADTokenCache final {
   // The process's cache, kept by the settings' default storage delegate. Lives as long as the process.
   static ADTokenCache& defaultCache();
 
-  // Not owned; nothing stops the storing elsewhere.
+  // Not owned; null ends the storing elsewhere.
   void setDelegate(ADTokenCacheDelegate* delegate);
 
   // A snapshot; costs no copy of the items. Fails only from inside the storage delegate.
@@ -38,15 +38,13 @@ class ADAL_EXPORT ADTokenCache final {
   // that an old refresh token is never gone before its successor is there.
   [[nodiscard]] Failure addOrUpdateItems(const QList<ADTokenCacheItem>& items);
   [[nodiscard]] Failure replaceAllItems(const QList<ADTokenCacheItem>& items);
-  // Removing what is not there writes nothing.
-  [[nodiscard]] Failure removeItem(const ADTokenCacheItem& item);
 
   QByteArray serialize();
   // Nothing empties the cache. Data that cannot be read is a failure and leaves the cache as it was.
   [[nodiscard]] Failure deserialize(const std::optional<QByteArray>& data);
 
-  // Runs while no other thread uses the cache. Whoever needs both this lock and a lock of its own takes this
-  // one first, as the calls of the storage delegate do.
+  // Runs while no other thread uses the cache. Code that takes a lock of its own as well takes this one
+  // first, as the calls of the storage delegate do.
   void exclusively(const std::function<void()>& action);
 
  private:

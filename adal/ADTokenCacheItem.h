@@ -1,9 +1,17 @@
 #pragma once
 
+#include <QByteArray>
 #include <QDateTime>
+#include <QList>
 #include <QString>
+#include <optional>
 
 #include "adal/ADALExport.h"
+
+// The clock by which tokens expire; null is the system's. Any thread.
+using ADClock = QDateTime (*)();
+ADAL_EXPORT void setADClock(ADClock clock);
+ADAL_EXPORT QDateTime adNow();
 
 struct ADUserInformation {
   QString userId;
@@ -24,7 +32,7 @@ struct ADAL_EXPORT ADTokenCacheItem {
 
   bool isMultiResourceRefreshToken() const { return multiResource; }
 
-  // At the settings' clock. A token without an expiry time counts as expired.
+  // A token without an expiry time counts as expired.
   bool isExpired() const;
 
   // Whether storing one of the two replaces the other: same user, authority, client and kind, and
@@ -33,3 +41,9 @@ struct ADAL_EXPORT ADTokenCacheItem {
 
   bool operator==(const ADTokenCacheItem&) const = default;
 };
+
+// The stored form of a token cache: a mark, a version, the items, a check sum over everything before it.
+QByteArray serializedTokens(const QList<ADTokenCacheItem>& items);
+
+// Nothing for data that is cut off, damaged, of another version or not ours.
+[[nodiscard]] std::optional<QList<ADTokenCacheItem>> deserializedTokens(const QByteArray& data);

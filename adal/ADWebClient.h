@@ -8,8 +8,8 @@
 #include <functional>
 #include <optional>
 
+#include "adal/ADAddress.h"
 #include "adal/ADError.h"
-#include "adal/ADParameters.h"
 
 class QNetworkReply;
 class QNetworkRequest;

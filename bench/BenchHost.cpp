@@ -23,7 +23,7 @@ std::unique_ptr<State> state;
 
 bool start() {
   state = std::make_unique<State>();
-  KZPlistFileHandle::sharedInstance().open(state->folder.path());
+  if (!KZPlistFileHandle::sharedInstance().open(state->folder.path())) return false;
   muteKZTrace();
   const auto begin = std::chrono::steady_clock::now();
   const bool isLoaded = state->host.load(defaultPluginPath());

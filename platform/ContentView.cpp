@@ -1,6 +1,5 @@
 #include "platform/ContentView.h"
 
-#include <QScrollBar>
 #include <cmath>
 
 #include "platform/Look.h"
@@ -10,9 +9,7 @@ ContentView::ContentView(QWidget* window) : QScrollArea(window) {
   setFocusPolicy(Qt::NoFocus);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  setStyle(lookStyle());
-  horizontalScrollBar()->setStyle(lookStyle());
-  verticalScrollBar()->setStyle(lookStyle());
+  setLookStyle(this);
 
   auto* subview = new QWidget;
   subview->setObjectName(QStringLiteral("contentSubview"));

@@ -1,7 +1,6 @@
 #include "platform/FrameLayout.h"
 
 #include <QEvent>
-#include <QKeyEvent>
 #include <QPointer>
 #include <QScreen>
 #include <QVariant>
@@ -14,7 +13,6 @@
 namespace {
 
 constexpr char kFrameProperty[] = "platformFrame";
-constexpr char kNextKeyViewProperty[] = "platformNextKeyView";
 
 struct Placement {
   Frame frame;
@@ -52,13 +50,13 @@ double screenHeight(const QWidget* window) {
   return window->screen()->geometry().bottom() + 1.0;
 }
 
-// A window whose upper left corner stays is never moved: with a window manager that would shift it by its
-// decoration.
+// A window is moved only when its upper left corner changes, because a window manager may add its
+// decoration's size to every move.
 void setWindowGeometry(QWidget* window, const Frame& frame) {
   const QPoint corner(qRound(frame.x), qRound(screenHeight(window) - frame.maxY()));
   const QPoint shift = corner - window->geometry().topLeft();
   const QSize size = roundedSize(frame);
-  // The user does not size a window; a view that has no parent yet must be free to change.
+  // The user cannot resize a window; a view without a parent must stay resizable.
   if (qobject_cast<Window*>(window)) {
     window->setFixedSize(size);
   } else {
@@ -130,33 +128,6 @@ class Placer final : public QObject {
   QList<QPointer<QWidget>> m_children;
 };
 
-// Sends Tab to the view that was named as the next one.
-class KeyViewLink final : public QObject {
- public:
-  explicit KeyViewLink(QWidget* from) : QObject(from) { from->installEventFilter(this); }
-
- protected:
-  bool eventFilter(QObject* watched, QEvent* event) override {
-    if (event->type() != QEvent::KeyPress) return false;
-    const auto* key = static_cast<QKeyEvent*>(event);
-    if (key->key() != Qt::Key_Tab || key->modifiers() != Qt::NoModifier) return false;
-    QWidget* next = nextKeyViewOf(static_cast<QWidget*>(watched));
-    if (!next || !next->isVisible() || !next->isEnabled()) return false;
-    next->setFocus(Qt::TabFocusReason);
-    return true;
-  }
-};
-
-// Giving a style is dear, and a group brings parts that have it already.
-void giveStyle(QWidget* view) {
-  if (view->style() != lookStyle()) view->setStyle(lookStyle());
-}
-
-void dressInStyle(QWidget* view) {
-  giveStyle(view);
-  for (QWidget* part : view->findChildren<QWidget*>()) giveStyle(part);
-}
-
 }  // namespace
 
 Q_DECLARE_METATYPE(Placement)
@@ -166,7 +137,7 @@ void addSubview(QWidget* parent, QWidget* child, const Frame& frame, VerticalAnc
   const bool isHidden = child->testAttribute(Qt::WA_WState_ExplicitShowHide) && child->isHidden();
   if (child->parentWidget() != parent) {
     child->setParent(parent);
-    dressInStyle(child);
+    setLookStyle(child);
   }
   keep(child, {.frame = frame, .anchor = anchor});
   placer.add(child);
@@ -190,7 +161,7 @@ void setFrame(QWidget* view, const Frame& frame) {
   } else {
     view->setGeometry(geometryIn(view->parentWidget(), frame));
   }
-  // A hidden view hears of its new size only when it is shown.
+  // A hidden view gets its resize event only when it is shown.
   if (Placer* placer = Placer::of(view)) placer->place();
 }
 
@@ -203,7 +174,7 @@ Frame frameOf(const QWidget* view) {
   const bool isAsPlaced = placement && geometry.size() == roundedSize(placement->frame);
   const Size size =
       isAsPlaced ? placement->frame.size() : Size{double(geometry.width()), double(geometry.height())};
-  // The upper left corner is what the screen knows exactly.
+  // Of a window only the upper left corner is exact: its size was rounded up.
   return {.x = double(geometry.x()),
           .y = parentHeight - geometry.y() - size.height,
           .width = size.width,
@@ -213,13 +184,4 @@ Frame frameOf(const QWidget* view) {
 QList<QWidget*> subviewsOf(const QWidget* parent) {
   const Placer* placer = Placer::of(parent);
   return placer ? placer->children() : QList<QWidget*>();
-}
-
-void setNextKeyView(QWidget* from, QWidget* to) {
-  if (!from->property(kNextKeyViewProperty).isValid()) new KeyViewLink(from);
-  from->setProperty(kNextKeyViewProperty, QVariant::fromValue(QPointer<QWidget>(to)));
-}
-
-QWidget* nextKeyViewOf(const QWidget* view) {
-  return view->property(kNextKeyViewProperty).value<QPointer<QWidget>>();
 }

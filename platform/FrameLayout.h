@@ -5,14 +5,14 @@
 #include "platform/Frame.h"
 #include "platform/PlatformExport.h"
 
-// The one place where y is turned: every view keeps its exact frame in points, y up, and is placed from it.
-// The frame stays when the parent's height changes, so the view moves on the screen. Main thread only.
+// Every view keeps its exact frame in points, y up, and is placed from it; no other unit converts y. The
+// frame stays when the parent's height changes, so the view moves on the screen. Main thread only.
 
 // Keeps the view's frame, or moves it with the parent's upper edge, when the parent's height changes.
 enum class VerticalAnchor { Bottom, Top };
 
-// Makes the child (owned by the parent from now on) a subview in front of the others, dressed in the look's
-// style. It shows unless it was hidden explicitly.
+// Makes the child, owned by the parent from now on, a subview in front of the others, with the look's style.
+// It shows unless it was hidden explicitly.
 PLATFORM_EXPORT void addSubview(QWidget* parent, QWidget* child, const Frame& frame,
                                 VerticalAnchor anchor = VerticalAnchor::Bottom);
 
@@ -28,8 +28,3 @@ PLATFORM_EXPORT Frame frameOf(const QWidget* view);
 
 // What `addSubview` added and is still there, in that order.
 PLATFORM_EXPORT QList<QWidget*> subviewsOf(const QWidget* parent);
-
-// Tab in `from` goes to `to` while `to` can take it, whatever the window's chain says; else to the chain's
-// next.
-PLATFORM_EXPORT void setNextKeyView(QWidget* from, QWidget* to);
-PLATFORM_EXPORT QWidget* nextKeyViewOf(const QWidget* view);  // nullptr when none was set

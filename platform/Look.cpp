@@ -11,31 +11,36 @@
 namespace {
 
 // Keeps one window's palette in step with the application's.
-class WindowDresser final : public QObject {
+class PaletteFollower final : public QObject {
  public:
-  explicit WindowDresser(QWidget* window) : QObject(window), m_window(window) {
+  explicit PaletteFollower(QWidget* window) : QObject(window), m_window(window) {
     window->installEventFilter(this);
-    dress();
+    update();
   }
 
  protected:
   bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::PaletteChange) dress();
+    if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::PaletteChange) update();
     return false;
   }
 
  private:
-  void dress() {
+  void update() {
     const QPalette& palette = lookPalette(lookSchemeFor(QGuiApplication::palette()));
-    if (m_isDressing || m_window->palette() == palette) return;
-    m_isDressing = true;
+    if (m_isUpdating || m_window->palette() == palette) return;
+    m_isUpdating = true;
     m_window->setPalette(palette);
-    m_isDressing = false;
+    m_isUpdating = false;
   }
 
   QWidget* m_window;
-  bool m_isDressing = false;
+  bool m_isUpdating = false;
 };
+
+// Setting a style is slow even when it changes nothing.
+void setOneStyle(QWidget* view) {
+  if (view->style() != lookStyle()) view->setStyle(lookStyle());
+}
 
 }  // namespace
 
@@ -48,8 +53,13 @@ QStyle* lookStyle() {
   return style;
 }
 
-void dressWindow(QWidget* window) {
-  window->setStyle(lookStyle());
+void setLookStyle(QWidget* view) {
+  setOneStyle(view);
+  for (QWidget* part : view->findChildren<QWidget*>()) setOneStyle(part);
+}
+
+void setWindowLook(QWidget* window) {
+  setLookStyle(window);
   window->setFont(fontFor(FontRole::System, systemFontSize));
-  new WindowDresser(window);
+  new PaletteFollower(window);
 }

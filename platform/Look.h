@@ -12,5 +12,8 @@ class QWidget;
 // One style object for the process, owned by the application object.
 PLATFORM_EXPORT QStyle* lookStyle();
 
-// Gives a top-level window the look's palette and keeps it in step with the application's.
-PLATFORM_EXPORT void dressWindow(QWidget* window);
+// Gives the view and all views in it the look's style.
+void setLookStyle(QWidget* view);
+
+// Gives a top-level window the look, and a palette that follows the application's.
+void setWindowLook(QWidget* window);

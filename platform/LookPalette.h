@@ -7,6 +7,7 @@
 
 // The colours of our own windows. Main thread only.
 
+// In the order of the tables in LookPalette.cpp.
 enum class LookScheme { Light, Dark, HighContrastLight, HighContrastDark };
 
 // Colours that carry a meaning; drawn legibly in every scheme.
@@ -18,3 +19,29 @@ enum class SystemColor { Text, Red, Blue };
 PLATFORM_EXPORT LookScheme lookSchemeFor(const QPalette& palette);
 PLATFORM_EXPORT const QPalette& lookPalette(LookScheme scheme);
 PLATFORM_EXPORT QColor lookColor(SystemColor color, LookScheme scheme);
+
+// What the style draws with beyond the palette's roles.
+struct LookColors {
+  QColor faceTop;  // of push buttons and pop-ups
+  QColor faceBottom;
+  QColor facePressed;
+  QColor border;
+  QColor borderHover;
+  QColor disabledBorder;
+  QColor toolbar;
+  QColor toolbarLine;
+  QColor tile;  // of the selected toolbar item
+  QColor tileHover;
+  QColor tilePressed;
+  QColor tileBorder;
+  QColor toolbarText;
+  QColor accentPressed;
+  QColor glyph;  // on the accent
+  QColor disabledGlyph;
+  QColor scrollThumb;
+  QColor scrollThumbHover;
+  QColor menu;
+  qreal focusWidth = 2;
+};
+
+PLATFORM_EXPORT const LookColors& lookColorsFor(LookScheme scheme);

@@ -50,10 +50,7 @@ void drawPush(const QStyleOptionButton& option, QPainter* painter) {
   } else if (states.isPressed) {
     drawLookBox(painter, rect, kPushRadius, colors.facePressed, colors.borderHover);
   } else {
-    QLinearGradient face(rect.topLeft(), rect.bottomLeft());
-    face.setColorAt(0, colors.faceTop);
-    face.setColorAt(1, colors.faceBottom);
-    const QBrush fill = states.isEnabled ? QBrush(face) : option.palette.window();
+    const QBrush fill = states.isEnabled ? lookFace(colors, rect) : option.palette.window();
     drawLookBox(painter, rect, kPushRadius, fill, lookBorderOf(colors, states));
   }
   if (states.isFocused) {
@@ -93,12 +90,9 @@ void drawIndicator(const QStyleOption& option, bool isRadio, QPainter* painter) 
   const QColor mark = states.isEnabled ? colors.glyph : colors.disabledGlyph;
   if (!isRadio) return drawLookCheckMark(painter, box, mark);
   const qreal dot = box.width() * 0.2;
-  painter->save();
-  painter->setRenderHint(QPainter::Antialiasing);
-  painter->setPen(Qt::NoPen);
-  painter->setBrush(mark);
-  painter->drawEllipse(box.center(), dot, dot);
-  painter->restore();
+  QRectF circle(0, 0, 2 * dot, 2 * dot);
+  circle.moveCenter(box.center());
+  drawLookBox(painter, circle, dot, mark, Qt::transparent, 0);
 }
 
 void drawChoice(const QStyleOptionButton& option, bool isRadio, QPainter* painter, const QWidget* widget) {

@@ -34,14 +34,25 @@ void drawLookFocus(QPainter* painter, const QStyleOption& option, const QRectF& 
               lookColorsOf(option).focusWidth);
 }
 
+QBrush lookFace(const LookColors& colors, const QRectF& rect) {
+  QLinearGradient face(rect.topLeft(), rect.bottomLeft());
+  face.setColorAt(0, colors.faceTop);
+  face.setColorAt(1, colors.faceBottom);
+  return face;
+}
+
+void drawLookLine(QPainter* painter, const QPolygonF& points, const QColor& color, qreal width) {
+  painter->save();
+  painter->setRenderHint(QPainter::Antialiasing);
+  painter->setPen(QPen(color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter->setBrush(Qt::NoBrush);
+  painter->drawPolyline(points);
+  painter->restore();
+}
+
 void drawLookCheckMark(QPainter* painter, const QRectF& box, const QColor& color) {
   const auto at = [&box](qreal x, qreal y) {
     return QPointF(box.left() + box.width() * x, box.top() + box.height() * y);
   };
-  painter->save();
-  painter->setRenderHint(QPainter::Antialiasing);
-  painter->setPen(QPen(color, box.width() / 8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  painter->setBrush(Qt::NoBrush);
-  painter->drawPolyline(QPolygonF{{at(0.25, 0.53), at(0.43, 0.71), at(0.75, 0.30)}});
-  painter->restore();
+  drawLookLine(painter, {{at(0.25, 0.53), at(0.43, 0.71), at(0.75, 0.30)}}, color, box.width() / 8);
 }

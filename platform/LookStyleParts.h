@@ -3,7 +3,7 @@
 #include <QPainter>
 #include <QStyleOption>
 
-#include "platform/LookColors.h"
+#include "platform/LookPalette.h"
 
 class QWidget;
 
@@ -24,6 +24,10 @@ const QColor& lookBorderOf(const LookColors& colors, const LookStates& states);
 void drawLookBox(QPainter* painter, const QRectF& rect, qreal radius, const QBrush& fill,
                  const QColor& border, qreal borderWidth = 1);
 void drawLookFocus(QPainter* painter, const QStyleOption& option, const QRectF& rect, qreal radius);
+// The gradient of push buttons and pop-ups.
+QBrush lookFace(const LookColors& colors, const QRectF& rect);
+// A smooth line with round ends.
+void drawLookLine(QPainter* painter, const QPolygonF& points, const QColor& color, qreal width);
 void drawLookCheckMark(QPainter* painter, const QRectF& box, const QColor& color);
 
 namespace lookButtons {

@@ -22,14 +22,12 @@ QRect popUpTile(const QStyleOption& option) {
 
 void drawChevrons(QPainter* painter, const QRect& tile, const QColor& color) {
   const QPointF middle = QRectF(tile).center();
-  painter->save();
-  painter->setRenderHint(QPainter::Antialiasing);
-  painter->setPen(QPen(color, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   for (const qreal up : {-1.0, 1.0}) {
-    painter->drawPolyline(QPolygonF{
-        {middle + QPointF(-2.5, up * 1.9), middle + QPointF(0, up * 4.3), middle + QPointF(2.5, up * 1.9)}});
+    drawLookLine(
+        painter,
+        {{middle + QPointF(-2.5, up * 1.9), middle + QPointF(0, up * 4.3), middle + QPointF(2.5, up * 1.9)}},
+        color, 1.4);
   }
-  painter->restore();
 }
 
 }  // namespace
@@ -52,14 +50,11 @@ void draw(const QStyleOptionComboBox& option, QPainter* painter) {
   // A taller control leaves a point above and below, which the focus ring takes.
   const qreal spare = option.rect.height() > kPopUpHeight ? 1 : 0;
   const QRectF rect = QRectF(option.rect).adjusted(0, spare, 0, -spare);
-  QLinearGradient face(rect.topLeft(), rect.bottomLeft());
-  face.setColorAt(0, colors.faceTop);
-  face.setColorAt(1, colors.faceBottom);
   const bool isOpen = states.isEnabled && (option.state & QStyle::State_On);
   const bool isDown = states.isPressed || isOpen;
   const QBrush fill = !states.isEnabled ? option.palette.window()
                       : isDown          ? QBrush(colors.facePressed)
-                                        : QBrush(face);
+                                        : lookFace(colors, rect);
   drawLookBox(painter, rect, kPopUpRadius, fill, lookBorderOf(colors, states));
 
   const QRect tile = popUpTile(option);

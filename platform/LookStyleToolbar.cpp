@@ -67,16 +67,12 @@ void drawExtension(const QStyleOption& option, QPainter* painter) {
                 colors.tileBorder);
   }
   if (states.isFocused) drawLookFocus(painter, option, tile, kTileRadius);
-  painter->save();
-  painter->setRenderHint(QPainter::Antialiasing);
-  painter->setPen(QPen(colors.toolbarText, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   const qreal forward = option.direction == Qt::RightToLeft ? -1 : 1;
   for (const qreal x : {-3.0, 2.0}) {
     const QPointF tip = QRectF(tile).center() + QPointF(forward * (x + 2), 0);
-    painter->drawPolyline(
-        QPolygonF{{tip + QPointF(-3 * forward, -3.5), tip, tip + QPointF(-3 * forward, 3.5)}});
+    drawLookLine(painter, {{tip + QPointF(-3 * forward, -3.5), tip, tip + QPointF(-3 * forward, 3.5)}},
+                 colors.toolbarText, 1.5);
   }
-  painter->restore();
 }
 
 }  // namespace lookToolbar

@@ -5,6 +5,8 @@
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
 
+#include "platform/Look.h"
+
 PopUpButton::PopUpButton(const QStringList& items) {
   addItems(items);
   connect(this, &QComboBox::activated, this, [this] {
@@ -24,27 +26,25 @@ QString PopUpButton::title() const {
   return currentIndex() < 0 ? m_foreignTitle : currentText();
 }
 
-// The list is a window of its own, which inherits neither style nor palette, and is dear to make: it is
-// dressed when it is wanted.
+// The list is a window of its own, which inherits neither style nor palette. Making it is slow, so it gets
+// them when it is shown first.
 void PopUpButton::showPopup() {
   m_hasList = true;
   view()->setFont(font());
   QWidget* list = view()->window();
-  for (QWidget* part : list->findChildren<QWidget*>())
-    if (part->style() != style()) part->setStyle(style());
-  if (list->style() != style()) list->setStyle(style());
+  setLookStyle(list);
   list->setPalette(palette());
   view()->setPalette(palette());
   QComboBox::showPopup();
 }
 
-// The base would make the list only to dress it.
+// The base class would make the list only to pass these changes on.
 void PopUpButton::changeEvent(QEvent* event) {
   const QEvent::Type type = event->type();
-  const bool isDress =
+  const bool isForList =
       type == QEvent::FontChange || type == QEvent::StyleChange || type == QEvent::PaletteChange;
   // NOLINTNEXTLINE(bugprone-parent-virtual-call): the base is left out on purpose.
-  if (isDress && !m_hasList) return QWidget::changeEvent(event);
+  if (isForList && !m_hasList) return QWidget::changeEvent(event);
   QComboBox::changeEvent(event);
 }
 

@@ -5,13 +5,6 @@
 #include <QPainter>
 #include <QToolTip>
 
-namespace {
-
-// A text of which this much is drawn is cut anyway; the rest would only cost time.
-constexpr int kDrawnCharacters = 4000;
-
-}  // namespace
-
 StaticText::StaticText(const QString& text, FontRole role, double size, Qt::Alignment alignment) {
   setTextFormat(Qt::PlainText);
   setMargin(0);
@@ -32,7 +25,7 @@ void StaticText::paintEvent(QPaintEvent*) {
                                               : lookColor(m_color, lookSchemeFor(palette())));
   const QRect visible = visiblePart();
   const QString shown =
-      fontMetrics().elidedText(text().left(kDrawnCharacters), Qt::ElideRight, visible.width());
+      fontMetrics().elidedText(text().left(mostDrawnCharacters), Qt::ElideRight, visible.width());
   drawTextLine(&painter, visible, alignment(), shown);
 }
 
@@ -46,7 +39,7 @@ QRect StaticText::visiblePart() const {
 
 bool StaticText::event(QEvent* event) {
   if (event->type() == QEvent::ToolTip && toolTip().isEmpty()) {
-    const QString whole = text().left(kDrawnCharacters);
+    const QString whole = text().left(mostDrawnCharacters);
     const auto* help = static_cast<QHelpEvent*>(event);
     if (fontMetrics().horizontalAdvance(whole) > visiblePart().width()) {
       QToolTip::showText(help->globalPos(), whole.toHtmlEscaped(), this);

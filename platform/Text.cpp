@@ -1,6 +1,5 @@
 #include "platform/Text.h"
 
-#include <QCache>
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QHash>
@@ -16,8 +15,8 @@ FontKind fontKind(FontRole role, double size) {
   return {static_cast<int>(role), qRound(size)};
 }
 
-// Panes ask for the same fonts and measure the same texts several times, and shaping a text is dear: what was
-// found is kept until the application's font changes. Main thread only.
+// Panes ask for the same fonts and measure the same texts several times, and shaping a text is slow: the
+// results are kept until the application's font changes. Main thread only.
 class FontTable {
  public:
   static FontTable& current() {
@@ -31,15 +30,15 @@ class FontTable {
 
   double width(const QString& text, FontKind kind) {
     const std::pair key(text, kind);
-    if (const double* known = m_widths.object(key)) return *known;
-    const double width = QFontMetricsF(font(kind)).horizontalAdvance(text);
-    m_widths.insert(key, new double(width), std::max<qsizetype>(text.size(), kSmallestCost));
-    return width;
+    if (const auto known = m_widths.constFind(key); known != m_widths.cend()) return *known;
+    if (m_widths.size() >= kMostTexts || m_characters >= kMostCharacters) forgetWidths();
+    m_characters += text.size();
+    return *m_widths.insert(key, QFontMetricsF(font(kind)).horizontalAdvance(text));
   }
 
  private:
-  static constexpr qsizetype kRememberedCharacters = 4'000'000;
-  static constexpr qsizetype kSmallestCost = 100;
+  static constexpr qsizetype kMostTexts = 2000;
+  static constexpr qsizetype kMostCharacters = 4'000'000;
 
   struct Entry {
     QFont font;
@@ -49,7 +48,12 @@ class FontTable {
   void startWith(const QFont& base) {
     m_base = base;
     m_entries.clear();
+    forgetWidths();
+  }
+
+  void forgetWidths() {
     m_widths.clear();
+    m_characters = 0;
   }
 
   const Entry& entry(FontKind kind) {
@@ -58,7 +62,7 @@ class FontTable {
     return *found;
   }
 
-  // The application's own family comes last, so that no name is ever replaced silently.
+  // The application's own family is used where Inter is missing.
   Entry made(FontKind kind) const {
     QFont font = m_base;
     font.setFamilies({QStringLiteral("Inter"), m_base.family()});
@@ -69,7 +73,8 @@ class FontTable {
 
   QFont m_base;
   QHash<FontKind, Entry> m_entries;
-  QCache<std::pair<QString, FontKind>, double> m_widths{kRememberedCharacters};
+  QHash<std::pair<QString, FontKind>, double> m_widths;
+  qsizetype m_characters = 0;  // in m_widths
 };
 
 }  // namespace

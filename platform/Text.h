@@ -9,7 +9,7 @@
 
 class QPainter;
 
-// Texts are measured in the very fonts that they are drawn in.
+// Texts are measured in the fonts that they are drawn in.
 enum class FontRole { Label, System, BoldSystem };
 
 inline constexpr double systemFontSize = 13;  // the platform's default size, in points
@@ -19,7 +19,10 @@ PLATFORM_EXPORT QFont fontFor(FontRole role, double size);
 // Width as measured, height rounded up. An empty text has no width.
 PLATFORM_EXPORT Size sizeOfText(const QString& text, FontRole role, double size);
 
-// One line in the painter's font and pen, in the middle of the box. Another font that stands in for
-// characters which the painter's lacks does not move the line.
+// No screen shows more of one line; drawing the rest would only take time.
+inline constexpr qsizetype mostDrawnCharacters = 4000;
+
+// One line in the painter's font and pen, in the middle of the box. A fallback font for characters that the
+// painter's font lacks does not move the line.
 PLATFORM_EXPORT void drawTextLine(QPainter* painter, const QRectF& box, Qt::Alignment alignment,
                                   const QString& text);

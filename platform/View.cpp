@@ -6,13 +6,6 @@
 
 #include "platform/FrameLayout.h"
 
-namespace {
-
-// No screen shows more of one line.
-constexpr qsizetype kPaintedCharacters = 4000;
-
-}  // namespace
-
 View::View(const Frame& frame) {
   setFrame(this, frame);
 }
@@ -42,12 +35,12 @@ void View::paintEvent(QPaintEvent* event) {
   for (const DrawnText& drawn : texts) {
     painter.setFont(fontFor(drawn.role, drawn.size));
     const QRectF box(drawn.frame.x, height - drawn.frame.maxY(), drawn.frame.width, drawn.frame.height);
-    drawTextLine(&painter, box, drawn.alignment, drawn.text.left(kPaintedCharacters));
+    drawTextLine(&painter, box, drawn.alignment, drawn.text.left(mostDrawnCharacters));
   }
 }
 
 void View::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
-  // A window that comes back from being minimised was never hidden by us.
+  // A window that is restored after minimising was never hidden by us.
   if (!event->spontaneous()) viewDidUnhide();
 }

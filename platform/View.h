@@ -24,7 +24,7 @@ class PLATFORM_EXPORT View : public QWidget {
   explicit View(const Frame& frame);
   ~View() override;
 
-  // What the view paints by itself, from bottom to top of the drawing order; screen readers hear it too.
+  // What the view paints by itself, from bottom to top of the drawing order; screen readers read it too.
   virtual QList<DrawnText> drawnTexts() const;
 
  protected:

@@ -44,7 +44,7 @@ void WindowController::keyDown(QKeyEvent* event) {
 Window::Window() {
   setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                  Qt::WindowCloseButtonHint);
-  dressWindow(this);
+  setWindowLook(this);
 }
 
 bool Window::event(QEvent* event) {

@@ -10,7 +10,7 @@
 class QKeyEvent;
 class Window;
 
-// Owns a window and hears what happens to it. Main thread only.
+// Owns a window and handles its events. Main thread only.
 class PLATFORM_EXPORT WindowController : public QObject {
   Q_OBJECT
 

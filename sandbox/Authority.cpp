@@ -6,7 +6,7 @@
 #include <QJsonObject>
 #include <QUuid>
 
-#include "sandbox/Answers.h"
+#include "sandbox/Responses.h"
 
 namespace sandbox {
 
@@ -26,11 +26,11 @@ QString newSecret(const char* kind) {
 }
 
 HttpResponse refused(const char* error) {
-  return jsonAnswer({{"error", QLatin1String(error)}}, 400);
+  return jsonResponse({{"error", QLatin1String(error)}}, 400);
 }
 
 HttpResponse html(const QString& content, int status = 200) {
-  return pageAnswer(QStringLiteral("Sandbox"), content, status);
+  return pageResponse(QStringLiteral("Sandbox"), content, status);
 }
 
 bool provesKey(const QString& verifier, const QString& challenge) {
@@ -66,11 +66,11 @@ HttpResponse Authority::configuration() const {
   if (!m_hasConfiguration) return html("<p>nothing here</p>", 404);
   QJsonArray scopes{"openid"};
   if (m_generation == Generation::Scope) scopes.append("offline_access");
-  return jsonAnswer({{"issuer", address()},
-                     {"authorization_endpoint", address() + "/oauth2/authorize"},
-                     {"token_endpoint", address() + "/oauth2/token"},
-                     {"scopes_supported", scopes},
-                     {"code_challenge_methods_supported", QJsonArray{"S256"}}});
+  return jsonResponse({{"issuer", address()},
+                       {"authorization_endpoint", address() + "/oauth2/authorize"},
+                       {"token_endpoint", address() + "/oauth2/token"},
+                       {"scopes_supported", scopes},
+                       {"code_challenge_methods_supported", QJsonArray{"S256"}}});
 }
 
 HttpResponse Authority::page(const HttpRequest& request) {
@@ -94,9 +94,9 @@ HttpResponse Authority::consentPage(const QUrlQuery& query) const {
     fields += QStringLiteral("<input type=\"hidden\" name=\"%1\" value=\"%2\">")
                   .arg(name.toHtmlEscaped(), value.toHtmlEscaped());
   }
-  const QString who = valueOf(query, "login_hint").toHtmlEscaped();
+  const QString email = valueOf(query, "login_hint").toHtmlEscaped();
   return html("<h1>Sandbox sign-in</h1><form method=\"post\">" + fields +
-              "<p><label>Email <input name=\"user\" value=\"" + who +
+              "<p><label>Email <input name=\"user\" value=\"" + email +
               "\"></label></p><p><button name=\"answer\" value=\"yes\">Sign in</button> "
               "<button name=\"answer\" value=\"no\">Refuse</button></p></form>");
 }
@@ -119,7 +119,7 @@ HttpResponse Authority::answerPage(const QUrlQuery& query, bool isGiven) {
   }
   answer.addQueryItem("state", valueOf(query, "state"));
   redirect.setQuery(answer);
-  return leadTo(QString::fromLatin1(redirect.toEncoded()));
+  return redirectTo(QString::fromLatin1(redirect.toEncoded()));
 }
 
 HttpResponse Authority::token(const HttpRequest& request) {
@@ -130,18 +130,18 @@ HttpResponse Authority::token(const HttpRequest& request) {
     case Fault::Silent:
       return delivered({}, Delivery::Silent);
     case Fault::Slow:
-      return delivered(jsonAnswer({{"access_token", "never-complete"}}), Delivery::Drip);
+      return delivered(jsonResponse({{"access_token", "never-complete"}}), Delivery::Drip);
     case Fault::CutOff:
-      return delivered(jsonAnswer({{"access_token", "cut-off"}}), Delivery::CutOff);
+      return delivered(jsonResponse({{"access_token", "cut-off"}}), Delivery::CutOff);
     case Fault::Flood:
-      return floodAnswer();
+      return delivered({}, Delivery::Flood);
     case Fault::ServerError:
-      return jsonAnswer({{"error", "server_error"}, {"error_description", valueOf(form, "refresh_token")}},
-                        500);
+      return jsonResponse({{"error", "server_error"}, {"error_description", valueOf(form, "refresh_token")}},
+                          500);
     case Fault::Html:
       return html("<p>Out to lunch</p>");
     case Fault::RedirectElsewhere:
-      return leadTo(QString::fromLatin1(m_elsewhere.toEncoded()), 307);
+      return redirectTo(QString::fromLatin1(m_elsewhere.toEncoded()), 307);
     case Fault::InvalidGrant:
       return refused("invalid_grant");
     default:
@@ -187,7 +187,7 @@ HttpResponse Authority::granted(const QString& clientId) {
   if (m_generation == Generation::Resource) answer.insert("expires_in", QString::number(m_lifetime));
   if (m_fault == Fault::NoExpiry) answer.remove("expires_in");
   if (m_fault == Fault::NoAccessToken) answer.remove("access_token");
-  return jsonAnswer(answer);
+  return jsonResponse(answer);
 }
 
 QString Authority::idToken(const QString& clientId) const {

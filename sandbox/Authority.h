@@ -13,7 +13,7 @@
 namespace sandbox {
 
 // A sign-in authority: the authorization code flow with proof keys, refresh tokens that are good once, and
-// faults on demand. Keeps everything in memory. Not for anything but trying out.
+// faults on demand. Keeps everything in memory. Only for trying things out.
 class Authority final {
  public:
   enum class Generation { Resource, Scope };
@@ -46,7 +46,7 @@ class Authority final {
   void setGeneration(Generation generation) { m_generation = generation; }
   void setHasConfiguration(bool has) { m_hasConfiguration = has; }
   void setConsent(Consent consent) { m_consent = consent; }
-  // What an id_token says of the user.
+  // The claims about the user in an id_token.
   void setUserClaims(const QJsonObject& claims) { m_userClaims = claims; }
   void setLifetime(int seconds) { m_lifetime = seconds; }
   void setFault(Fault fault, const QUrl& elsewhere = QUrl());
@@ -56,7 +56,7 @@ class Authority final {
 
   bool isGranted(const QString& accessToken) const { return m_accessTokens.contains(accessToken); }
 
-  // What was asked, oldest first.
+  // The requests, oldest first.
   const QList<QUrlQuery>& pageRequests() const { return m_pageRequests; }
   const QList<QUrlQuery>& tokenRequests() const { return m_tokenRequests; }
 

@@ -1,14 +1,35 @@
 #include "sandbox/Certificates.h"
 
+#include <sys/mman.h>
+#include <QCoreApplication>
+#include <QFile>
 #include <QProcess>
 #include <QSslCertificate>
 #include <QSslKey>
 
-#include "sandbox/MemoryFile.h"
-
 namespace sandbox {
 
 namespace {
+
+// A file that is in no folder and goes with its process. Programs that this process starts can read it.
+class MemoryFile final {
+ public:
+  explicit MemoryFile(const QByteArray& content) {
+    const int descriptor = ::memfd_create("sandbox", MFD_CLOEXEC);
+    if (descriptor < 0) return;
+    const bool isOpen = m_file.open(descriptor, QIODevice::WriteOnly, QFile::AutoCloseHandle);
+    if (isOpen && (m_file.write(content) != content.size() || !m_file.flush())) m_file.close();
+  }
+
+  // Empty when there is no such file.
+  QString path() const {
+    if (!m_file.isOpen()) return {};
+    return QStringLiteral("/proc/%1/fd/%2").arg(QCoreApplication::applicationPid()).arg(m_file.handle());
+  }
+
+ private:
+  QFile m_file;
+};
 
 // A new key and its certificate, PEM; empty when the program is missing or failed.
 QByteArray newCertificate(const QStringList& request) {

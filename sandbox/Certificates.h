@@ -8,8 +8,8 @@
 
 namespace sandbox {
 
-// An authority of certificates that lives as long as this object, made with the openssl program. Its key and
-// those of its servers are in memory alone, so that not even a killed sandbox leaves one behind.
+// A certificate authority that lives as long as this object, made with the openssl program. Its key and those
+// of its servers are only in memory, so that not even a killed sandbox leaves one behind.
 class Certificates final {
  public:
   Certificates();

@@ -6,7 +6,10 @@
 #include <QString>
 #include <QUrlQuery>
 #include <chrono>
+#include <optional>
 #include <utility>
+
+class QTcpSocket;
 
 namespace sandbox {
 
@@ -14,26 +17,32 @@ struct HttpRequest {
   QByteArray method;
   QString path;
   QUrlQuery query;
-  QHash<QByteArray, QByteArray> headers;  // names in small letters
+  QHash<QByteArray, QByteArray> headers;  // names in lower case
   QByteArray body;
+  bool isEncrypted = false;
 
-  // The name that was asked for, without a port.
+  // Nothing while the request is not complete.
+  static std::optional<HttpRequest> parse(const QByteArray& data);
+
+  // The name in the Host header, without a port.
   QString host() const;
   QUrlQuery form() const;
 };
 
 struct HttpResponse {
-  // How the answer goes out: as it should, or as a bad server or network would send it.
-  enum class Delivery { Whole, Silent, HangUp, Drip, Paced, CutOff, Flood };
+  // How the response is sent: correctly, or as a bad server or network would send it. A flood sends a hundred
+  // megabytes.
+  enum class Delivery { Whole, Silent, HangUp, Drip, CutOff, Flood };
 
   int status = 200;
   QByteArray contentType = "application/json";
   QByteArray body = {};
   QList<std::pair<QByteArray, QByteArray>> headers = {};
   Delivery delivery = Delivery::Whole;
-  qint64 floodBytes = 0;              // how much a flood sends
-  std::chrono::milliseconds pace{0};  // how long the body of a paced answer takes
   std::chrono::milliseconds delay{0};
 };
+
+// Sends the response after its delay. Whatever takes time ends with the socket.
+void deliver(QTcpSocket* socket, const HttpResponse& response);
 
 }  // namespace sandbox

@@ -9,36 +9,35 @@
 
 #include "sandbox/HttpMessage.h"
 
-class QTcpSocket;
-
 namespace sandbox {
 
-// A small HTTP server on the loopback address; one request a connection. Lives on the thread that made it.
+// A small HTTP server on the loopback address; one request per connection. Lives on the thread that made it.
 class HttpServer final {
  public:
   using Handler = std::function<HttpResponse(const HttpRequest&)>;
 
   HttpServer();
-  // Speaks TLS with the certificate and key that are in there.
+  // Speaks TLS with the certificate and key in the configuration.
   explicit HttpServer(const QSslConfiguration& tls);
   ~HttpServer();
   Q_DISABLE_COPY_MOVE(HttpServer)
 
   [[nodiscard]] bool listen(quint16 port = 0);
   QUrl url() const;
+  int port() const { return m_server->serverPort(); }
 
-  // Whoever asks for this very path is answered by the handler; the last one set counts.
+  // Answers requests for exactly this path; a later handler replaces an earlier one.
   void handle(const QString& path, const Handler& handler);
-  // For every other path.
+  // For every other path; without one they are not found.
   void handleOthers(const Handler& handler) { m_othersHandler = handler; }
 
  private:
-  void watch();
+  explicit HttpServer(std::unique_ptr<QTcpServer> server);
   void accept();
   void read(QTcpSocket* socket);
-  HttpResponse respond(const HttpRequest& request) const;
+  bool isEncrypted() const;
 
-  std::unique_ptr<QTcpServer> m_server;
+  const std::unique_ptr<QTcpServer> m_server;
   QHash<QString, Handler> m_handlers;
   Handler m_othersHandler;
 };

@@ -7,25 +7,38 @@
 #include <array>
 #include <cstdio>
 
-#include "sandbox/ExchangeService.h"
-#include "sandbox/HttpServer.h"
-#include "sandbox/MeetingSite.h"
-#include "sandbox/OnlineAuthorities.h"
+#include "sandbox/Cases.h"
+#include "sandbox/OnlineServices.h"
+#include "sandbox/Sandbox.h"
 
-// Runs the sandbox until it is ended. The first line on standard output says where it is.
+namespace {
+
+void print(const QJsonObject& object, QJsonDocument::JsonFormat format) {
+  std::printf("%s\n", QJsonDocument(object).toJson(format).trimmed().constData());
+  std::fflush(stdout);
+}
+
+}  // namespace
+
+// Runs the sandbox until it is ended. The first line on standard output describes it.
 int main(int argc, char** argv) {
   QCoreApplication application(argc, argv);
   QCommandLineParser parser;
   parser.setApplicationDescription(
-      "A small meeting service, update service, Exchange and sign-in authority on the loopback address, for "
-      "trying things out.");
+      "A small meeting service, Exchange and sign-in authority on the loopback address, for trying things "
+      "out.");
   parser.addHelpOption();
   parser.addOptions({{"port", "Listen at this port (default: a free one).", "number", "0"},
-                     {"lifetime", "How long an access token is good, in seconds.", "seconds", "3600"},
+                     {"lifetime", "How long an access token is valid, in seconds.", "seconds", "3600"},
                      {"scopes", "Take scopes in place of a resource."},
                      {"give", "Sign everybody in without asking."},
-                     {"until-input-ends", "End when standard input does, for a parent that may die."}});
+                     {"until-input-ends", "End when standard input does, for a parent that may die."},
+                     {"describe", "Print the accounts and sites to try, and start nothing."}});
   parser.process(application);
+  if (parser.isSet("describe")) {
+    print(sandbox::describeCases(), QJsonDocument::Indented);
+    return 0;
+  }
 
   sandbox::HttpServer server;
   if (!server.listen(parser.value("port").toUShort())) {
@@ -38,19 +51,15 @@ int main(int argc, char** argv) {
       {.consent = parser.isSet("give") ? Authority::Consent::Give : Authority::Consent::AskUser,
        .generation = parser.isSet("scopes") ? Authority::Generation::Scope : Authority::Generation::Resource,
        .lifetime = parser.value("lifetime").toInt()});
-  sandbox::ExchangeService exchange(
-      server.url().toString(), [&authorities](const QString& token) { return authorities.isGranted(token); });
-  sandbox::MeetingSite site;
-  QJsonObject where{{"authority", authorities.faultless().address()}};
-  if (exchange.listen() && site.listen()) {
-    where.insert("exchange", exchange.describe());
-    where.insert("site", site.describe());
-  } else {
-    std::fputs("No Exchange and no meeting site is played: the openssl program made no certificates.\n",
-               stderr);
+  sandbox::Sandbox played(server.url().toString(),
+                          [&authorities](const QString& token) { return authorities.isGranted(token); });
+  const bool isPlayed = played.listen();
+  if (!isPlayed) {
+    std::fputs("Only the authority is played: the openssl program made no certificates.\n", stderr);
   }
-  std::printf("%s\n", QJsonDocument(where).toJson(QJsonDocument::Compact).constData());
-  std::fflush(stdout);
+  QJsonObject description = isPlayed ? played.describe() : QJsonObject();
+  description.insert("authority", authorities.faultless().address());
+  print(description, QJsonDocument::Compact);
 
   QSocketNotifier input(STDIN_FILENO, QSocketNotifier::Read);
   input.setEnabled(parser.isSet("until-input-ends"));

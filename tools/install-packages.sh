@@ -7,7 +7,7 @@ packages=(
   g++ cmake ninja-build make pkg-config ccache
   # libraries
   qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev
-  libplist-dev libsecret-1-dev libgtest-dev libbenchmark-dev
+  libsecret-1-dev libgtest-dev libbenchmark-dev
   # pictures and fonts (the second has the Japanese and Chinese letters)
   librsvg2-bin fonts-inter fonts-noto-cjk fontconfig
   # a keychain for the tests, on a bus of its own
@@ -20,25 +20,12 @@ packages=(
   clang-format clang-tidy python3 git
 )
 
-is_installed() {
-  [[ $(dpkg-query -W -f '${db:Status-Abbrev}\n' "$1" 2>/dev/null) == *"ii"* ]]
-}
-
-# One query for all packages is the quick way; it fails as soon as one of them is unknown to dpkg.
-if states=$(dpkg-query -W -f '${db:Status-Abbrev}\n' "${packages[@]}" 2>/dev/null) &&
-  ! grep -qv '^ii' <<<"$states"; then
-  exit 0
-fi
-
-missing=()
-for package in "${packages[@]}"; do
-  is_installed "$package" || missing+=("$package")
-done
+installed=$(dpkg-query -W -f '${db:Status-Abbrev} ${Package}\n' "${packages[@]}" 2>/dev/null | sed -n 's/^ii *//p' || true)
+mapfile -t missing < <(printf '%s\n' "${packages[@]}" | grep -vxF "$installed")
+((${#missing[@]})) || exit 0
 
 as_root=()
-if ((EUID != 0)); then
-  as_root=(sudo)
-fi
+((EUID == 0)) || as_root=(sudo)
 echo "Installing: ${missing[*]}"
 "${as_root[@]}" apt-get update -q
 "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}" </dev/null

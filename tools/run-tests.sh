@@ -1,10 +1,7 @@
 #!/usr/bin/env bash
 # run-tests.sh FOLDER JOBS: all tests of that build folder; each brings its own services and works without a display.
 set -euo pipefail
-cd "$(dirname "$0")/.."
 
-suppressions=$PWD/tools
 export ASAN_OPTIONS=detect_leaks=1:strict_string_checks=1:detect_stack_use_after_return=1
-export LSAN_OPTIONS=suppressions=$suppressions/lsan.supp:print_suppressions=0
-export UBSAN_OPTIONS=print_stacktrace=1:suppressions=$suppressions/ubsan.supp
+export UBSAN_OPTIONS=print_stacktrace=1
 ctest --test-dir "$1" --output-on-failure --parallel "$2" --no-tests=error

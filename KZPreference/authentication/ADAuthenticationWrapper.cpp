@@ -1,9 +1,10 @@
 #include "KZPreference/authentication/ADAuthenticationWrapper.h"
 
+#include <QPointer>
 #include <QUrl>
+#include <atomic>
+#include <utility>
 
-#include "KZPreference/authentication/OneShotCompletion.h"
-#include "KZPreference/contract/ExchangeResolveResultReceiving.h"
 #include "KZPreference/contract/PreferenceActionDelegateProtocol.h"
 #include "adal/ADAuthenticationContext.h"
 #include "adal/ADAuthenticationSettings.h"
@@ -63,7 +64,7 @@ void ADAuthenticationWrapper::refreshTokenWithParams(const Dictionary& params, c
   m_isRefreshing = true;
   m_extraInfo = extraInfo;
   const TokenParameters wanted(params);
-  // Without a context the refresh stays open until the next completion closes it.
+  // Without a context the refresh stays outstanding until the next completion.
   ADAuthenticationContext* const context = createContext(wanted.authority, Q_FUNC_INFO);
   if (context == nullptr) return;
   context->acquireTokenWithRefreshToken(wanted.refreshToken, wanted.resource, wanted.clientId,
@@ -86,10 +87,25 @@ ADAuthenticationContext* ADAuthenticationWrapper::createContext(const QString& a
 
 ADAuthenticationCallback ADAuthenticationWrapper::completionFor(const ADAuthenticationContext* context,
                                                                 const char* method) {
-  return oneShotCompletion(&m_home, method, [this, context](const ADAuthenticationResult& result) {
+  return oneShotCompletion(&m_receiver, method, [this, context](const ADAuthenticationResult& result) {
     std::erase_if(m_contexts, [context](const auto& kept) { return kept.get() == context; });
     onTokenAcquired(result);
   });
+}
+
+ADAuthenticationCallback ADAuthenticationWrapper::oneShotCompletion(QObject* receiver, const char* method,
+                                                                    ADAuthenticationCallback deliver) {
+  const auto fBlockHit = std::make_shared<std::atomic_bool>(false);
+  return [fBlockHit, method, receiver = QPointer(receiver),
+          deliver = std::move(deliver)](const ADAuthenticationResult& result) {
+    if (fBlockHit->exchange(true)) {
+      MVRNSErrorFuncTraceIMPL("KZPreference", method, "fBlockHit is YES");
+      return;
+    }
+    if (receiver == nullptr) return;
+    QMetaObject::invokeMethod(
+        receiver, [deliver, result] { deliver(result); }, Qt::QueuedConnection);
+  };
 }
 
 void ADAuthenticationWrapper::onTokenAcquired(const ADAuthenticationResult& result) {

@@ -9,37 +9,50 @@
 #include "host/KZFoundation/Dictionary.h"
 
 class ADAuthenticationContext;
-class ExchangeResolveResultReceiving;
 class PreferenceActionDelegateProtocol;
 
+// Receives the result of resolving an Exchange account. Main thread only.
+class ExchangeResolveResultReceiving {
+ public:
+  virtual ~ExchangeResolveResultReceiving() = default;
+
+  virtual void onExchangeResolveDone(const Dictionary& result) = 0;
+};
+
 // Gets tokens for an online Exchange account: by signing the user in, or by redeeming a stored refresh token.
-// Main thread only. Destroying it gives up whatever is under way.
+// Destroying it cancels its requests. Main thread only.
 class ADAuthenticationWrapper final {
  public:
-  // Not owned; told of credentials and of refreshed tokens.
+  // Not owned; receives credentials and refreshed tokens.
   explicit ADAuthenticationWrapper(PreferenceActionDelegateProtocol* actionDelegate);
   ~ADAuthenticationWrapper();
   Q_DISABLE_COPY_MOVE(ADAuthenticationWrapper)
 
-  // Not owned; told when a sign-in fails. Nothing: nobody is told.
+  // Not owned; receives failed sign-ins. With nullptr they are dropped.
   void setExchangeResolveResultReceiver(ExchangeResolveResultReceiving* receiver);
 
-  // Keys: authority, resource, clientId, redirectUri, email; for a refresh also refreshToken. Without any, or
-  // with an authority that cannot be used, nothing happens and nobody is told.
+  // Keys: authority, resource, clientId, redirectUri, email; for a refresh also refreshToken. Empty
+  // parameters, or an authority that cannot be used, start nothing and report nothing.
   void startWithParams(const Dictionary& params);
-  // The answer repeats the extra info.
+  // The result contains the extra info.
   void refreshTokenWithParams(const Dictionary& params, const Dictionary& extraInfo);
 
-  // Whether this is reported as a sign-in or as a refresh is decided now, not when the request was made.
+  // Reported as a refresh if one is outstanding now, whatever the request was.
   void onTokenAcquired(const ADAuthenticationResult& result);
 
   Dictionary generateExchResolvingFailedResult(const ADAuthenticationResult& result) const;
+
+  // A callback for any thread. It delivers its first result in the receiver's thread, later and not from
+  // within the call; it traces and drops the others, and all results once the receiver is destroyed. Copies
+  // count as one.
+  static ADAuthenticationCallback oneShotCompletion(QObject* receiver, const char* method,
+                                                    ADAuthenticationCallback deliver);
 
  private:
   void onTokenAcquiringSuccessed(const ADAuthenticationResult& result);
   void onTokenAcquiringFailed(const ADAuthenticationResult& result);
 
-  // Null, with a trace, for an authority that cannot be used. Kept until the request is answered.
+  // nullptr, with a trace, for an authority that cannot be used. Kept until its request is complete.
   ADAuthenticationContext* createContext(const QString& authority, const char* method);
   ADAuthenticationCallback completionFor(const ADAuthenticationContext* context, const char* method);
 
@@ -48,6 +61,6 @@ class ADAuthenticationWrapper final {
   bool m_isRefreshing = false;
   Dictionary m_extraInfo;
 
-  QObject m_home;  // where completions arrive
+  QObject m_receiver;  // of completions
   std::vector<std::unique_ptr<ADAuthenticationContext>> m_contexts;
 };

@@ -78,7 +78,7 @@ void ADMivraCacheDelegate::didWriteCache(ADTokenCache& cache) {
 
 void ADMivraCacheDelegate::fill(ADTokenCache& cache) {
   const ADTokenCache::Failure failure = cache.deserialize(_data);
-  // The cache keeps what it had, and the item in the keychain stays until a token is written.
+  // The cache keeps its items, and the keychain its data until a token is written.
   if (failure) MVRNSErrorFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "error:%@", failure->text());
 }
 
@@ -102,7 +102,7 @@ qint32 ADMivraCacheDelegate::writeToKeychain() {
 bool ADMivraCacheDelegate::clearCacheWithError(OSStatusError* error) {
   bool isCleared = false;
   ADTokenCache& cache = ADTokenCache::defaultCache();
-  // The cache's lock first, as in every call that comes from the cache.
+  // The cache's lock before our own, the order in which the cache calls us.
   cache.exclusively([&] {
     const QMutexLocker lock(&m_monitor);
     if (cache.deserialize(std::nullopt)) return;

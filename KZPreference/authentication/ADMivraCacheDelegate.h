@@ -9,10 +9,10 @@
 
 #include "adal/ADTokenCacheDelegate.h"
 
-// Where the host may put the token cache as a file; nothing here uses it by itself.
+// Where a host may keep the token cache in a file; the plug-in does not.
 const QString& defaultSavePath();
 
-// What the keychain answered instead of doing it.
+// Why the keychain failed.
 struct OSStatusError {
   QString domain;
   qint32 code = 0;
@@ -22,7 +22,7 @@ struct OSStatusError {
 // change. Any thread.
 class ADMivraCacheDelegate final : public ADTokenCacheDelegate {
  public:
-  // To be called once when the component's code is loaded, before any token request.
+  // Call once when the plug-in is loaded, before any token request.
   static void load();
   static ADMivraCacheDelegate& sharedInstance();
   ~ADMivraCacheDelegate() override;
@@ -32,7 +32,7 @@ class ADMivraCacheDelegate final : public ADTokenCacheDelegate {
   void willWriteCache(ADTokenCache& cache) override;
   void didWriteCache(ADTokenCache& cache) override;
 
-  // The keychain's status: 0, or why it has nothing for us.
+  // The keychain's status; 0 for success.
   qint32 readFromKeychain();
   qint32 writeToKeychain();
 

@@ -1,6 +1,9 @@
 #pragma once
 
-struct ADTokenCacheItem;
+#include "adal/ADTokenCacheItem.h"
 
 // Whether the access token is expired or will be within ten minutes. At exactly ten minutes it is still good.
-bool isExpiredWithPrejudge(const ADTokenCacheItem& item);
+inline bool isExpiredWithPrejudge(const ADTokenCacheItem& item) {
+  constexpr int marginSeconds = 600;
+  return item.isExpired() || item.expiresOn.addSecs(-marginSeconds) < adNow();
+}

@@ -8,7 +8,7 @@
 class ADTokenRefreshDelegate;
 struct ADTokenCacheItem;
 
-// How the application is registered with the sign-in authority; for the host.
+// The application's registration with the sign-in authority, for the host.
 extern Q_DECL_EXPORT const QString appRegistration_clientId;
 extern Q_DECL_EXPORT const QString appRegistration_redirectUri;
 
@@ -18,11 +18,11 @@ class ADTokenCacheWrapper final {
   static ADTokenCacheWrapper& sharedInstance();
   Q_DISABLE_COPY_MOVE(ADTokenCacheWrapper)
 
-  // Not owned; nobody is told anything yet.
+  // Not owned, and not called yet.
   void setRefreshTokenDelegate(ADTokenRefreshDelegate* delegate);
 
-  // The user's access token, whether it must be refreshed, and if so with what. Letter case does not count.
-  // Empty unless both an access token and a refresh token are there.
+  // The user's access token, whether it must be refreshed, and if so the parameters for that. Ignores letter
+  // case. Empty unless the cache has both an access token and a refresh token of the user.
   Dictionary getAccessTokenByEmail(const QString& email, const QString& username);
 
   Dictionary getTokenFromAccessTokenCache(const ADTokenCacheItem& accessTokenItem,

@@ -3,6 +3,8 @@
 #include <QTimer>
 #include <chrono>
 
+#include "KZPreference/authentication/MainThreadInvoker.h"
+#include "KZPreference/contract/PreferenceActionDelegateProtocol.h"
 #include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/KZTrace.h"
 
@@ -11,7 +13,7 @@ namespace {
 const QString kRequiredNotification = QStringLiteral("HTTPAuthenticationRequired");
 const QString kDatasourceNotification = QStringLiteral("HTTPAuthenticationDatasource");
 
-// Time for the empty answer to be posted and for the group to show its own failure first.
+// So that the empty answer is posted, and the group shows the failure, first.
 constexpr std::chrono::milliseconds kFailureDelay{100};
 
 enum class AuthRequiring { Discovery = 1, MeetingListing = 2 };
@@ -24,15 +26,17 @@ bool isRequiring(const KZNotification& notification, AuthRequiring kind) {
 }  // namespace
 
 OLAccountAuthenticator::OLAccountAuthenticator(PreferenceActionDelegateProtocol* prefsDelegate)
-    : m_prefsDelegate(prefsDelegate) {
+    : m_prefsDelegate(prefsDelegate), m_mainThread(std::make_shared<MainThreadInvoker>()) {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "delegate:%@", prefsDelegate);
   m_registration = KZNotificationCenter::defaultCenter().addObserver(
-      kRequiredNotification, [this, entrance = m_gate.entrance()](const KZNotification& notification) {
-        entrance->pass([this, notification] { requireCredential(notification); });
+      kRequiredNotification, [this, mainThread = m_mainThread](const KZNotification& notification) {
+        mainThread->invoke([this, notification] { requireCredential(notification); });
       });
 }
 
-OLAccountAuthenticator::~OLAccountAuthenticator() = default;
+OLAccountAuthenticator::~OLAccountAuthenticator() {
+  m_mainThread->close();
+}
 
 void OLAccountAuthenticator::setAuthDelegate(OutlookAccountAuthDelegate* delegate) {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "delegate:%@", delegate);

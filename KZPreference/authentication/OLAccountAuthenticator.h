@@ -1,20 +1,36 @@
 #pragma once
 
-#include "KZPreference/authentication/MainThreadGate.h"
-#include "KZPreference/contract/OutlookAccountAuthDelegate.h"
-#include "KZPreference/contract/PreferenceActionDelegateProtocol.h"
+#include <QObject>
+#include <memory>
+
+#include "host/KZFoundation/Dictionary.h"
 #include "host/KZFoundation/KZNotificationCenter.h"
 
-// Answers the Exchange client's credential challenges: from whoever is collecting a credential, or from the
-// keychain when meetings are listed. A refused credential is reported and never sent again. Challenges may be
-// posted from any thread and are answered before their post returns; all else on the main thread.
+class MainThreadInvoker;
+class PreferenceActionDelegateProtocol;
+
+// Asks the user for an Exchange credential. Main thread only.
+class OutlookAccountAuthDelegate {
+ public:
+  virtual ~OutlookAccountAuthDelegate() = default;
+
+  // What the user has typed so far.
+  virtual QString username() const = 0;
+  virtual QString password() const = 0;
+  // The server refused the last credential.
+  virtual void onAuthFailure(const Dictionary& result) = 0;
+};
+
+// Answers the Exchange client's credential challenges: during discovery from the auth delegate, when meetings
+// are listed from the keychain. A refused credential is reported and never sent again. Challenges may be
+// posted on any thread and are answered before the post returns; everything else is main thread only.
 class OLAccountAuthenticator {
  public:
   explicit OLAccountAuthenticator(PreferenceActionDelegateProtocol* prefsDelegate);  // not owned
   ~OLAccountAuthenticator();
   Q_DISABLE_COPY_MOVE(OLAccountAuthenticator)
 
-  // Not owned; nullptr when the collector goes.
+  // Not owned; nullptr before it is destroyed.
   void setAuthDelegate(OutlookAccountAuthDelegate* delegate);
 
  private:
@@ -29,7 +45,7 @@ class OLAccountAuthenticator {
 
   OutlookAccountAuthDelegate* m_authDelegate = nullptr;
   PreferenceActionDelegateProtocol* m_prefsDelegate;
-  QObject m_delayed;  // ends what is scheduled when this object goes
-  MainThreadGate m_gate;
+  QObject m_delayed;  // context of the delayed report, which is dropped with this object
+  std::shared_ptr<MainThreadInvoker> m_mainThread;
   KZNotificationCenter::Token m_registration;
 };

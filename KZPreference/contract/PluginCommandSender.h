@@ -3,11 +3,11 @@
 #include "host/KZFoundation/Dictionary.h"
 #include "host/KZFoundation/KZCommands.h"
 
-// The way out to the host. Main thread only.
+// Sends the plug-in's commands to the host. Main thread only.
 class PluginCommandSender {
  public:
   virtual ~PluginCommandSender() = default;
 
-  // The host's answer; 0 while there is no host.
+  // The host's result; 0 while there is no host.
   virtual quint64 sendPluginCommand(KZCommand command, const Content& content) = 0;
 };

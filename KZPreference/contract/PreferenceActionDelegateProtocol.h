@@ -2,15 +2,21 @@
 
 #include "host/KZFoundation/Dictionary.h"
 
-class CalendarPreferenceReceiver;
+// Shows the stored calendar settings. Main thread only.
+class CalendarPreferenceReceiver {
+ public:
+  virtual ~CalendarPreferenceReceiver() = default;
 
-// What panes, calendar groups and authenticators report to the core. Nothing is checked: values are stored
-// and sent as they come. Main thread only.
+  virtual void setCalendarPreference(const Dictionary& preference) = 0;
+};
+
+// The actions that panes and authenticators report to the core. Values are stored and sent unchecked. Main
+// thread only.
 class PreferenceActionDelegateProtocol {
  public:
   virtual ~PreferenceActionDelegateProtocol() = default;
 
-  // The open Meetings pane of either variant, not owned; nullptr when it goes.
+  // The open Meetings pane of each variant, not owned; nullptr before it is destroyed.
   virtual void setPrefMeetingView(CalendarPreferenceReceiver* view) = 0;
   virtual void setNonSignInPrefMeetingView(CalendarPreferenceReceiver* view) = 0;
 

@@ -1,14 +1,11 @@
 #include "KZPreference/core/KZPreference.h"
 
 #include <QUrl>
-#include <algorithm>
-#include <array>
-#include <span>
 
 #include "KZPreference/authentication/ADAuthenticationWrapper.h"
 #include "KZPreference/authentication/OLAccountAuthenticator.h"
-#include "KZPreference/contract/PreferenceTelemetry.h"
 #include "KZPreference/core/PreferenceActionDelegate.h"
+#include "KZPreference/layout/PreferenceTelemetry.h"
 #include "KZPreference/windows/SignInPreferenceWindowController.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZFoundation/KZConstants.h"
@@ -21,28 +18,6 @@
 
 using enum KZCommand;
 using enum KZNotify;
-
-struct KZPreference::HandlerTables {
-  static constexpr auto commands = std::to_array<CommandHandler>({
-      {KZCmdInitGuestPreference, &KZPreference::initGuestPreference},
-      {KZCmdShowPreference, &KZPreference::showAppPreference},
-      {KZCmdDestroyPreference, &KZPreference::destroyAppPreference},
-      {KZCmdCheckForUpdates, &KZPreference::onHandleCheckForUpdates},
-      {KZCmdCheckForUpdatesAutomatically, &KZPreference::onHandleCheckForUpdatesAutomatically},
-      {KZCmdJoinByNumber, &KZPreference::onHandleJoinByNumber},
-      {KZCmdRequireChangeCalendarIntegration, &KZPreference::onChangeCalenderIntegrationRequiring},
-      {KZCmdProximity, &KZPreference::onProximityCommand},
-      {KZCmdGetExchOnlineToken, &KZPreference::onGetExchonlineToken},
-  });
-  static constexpr auto notifications = std::to_array<NotifyHandler>({
-      {KZNotifyGetPreferenceDone, &KZPreference::onGetPreferenceDone},
-      {KZNotifyCheckForUpdatesDone, &KZPreference::onCheckForUpdatesDone},
-      {KZNotifyRefreshPreferenceDone, &KZPreference::onRefreshPreferenceDone},
-      {KZNotifyResolveExchangeDone, &KZPreference::onResolveExchangeDone},
-      {KZNotifyO365LoginRequesting, &KZPreference::onO365LoginRequesting},
-      {KZNotifyExchangeResolvingNeedCredential, &KZPreference::onExchangeResolvingNeedCredential},
-  });
-};
 
 KZPreference::KZPreference(KZPluginCoreMgr* core) : KZPluginMgr(core) {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
@@ -64,21 +39,69 @@ KZPreference::~KZPreference() {
 }
 
 quint64 KZPreference::onHandleOtherPluginsTriggerCommand(quint64 command, const Content& content) {
-  const auto* handler =
-      std::ranges::find(HandlerTables::commands, static_cast<KZCommand>(command), &CommandHandler::number);
-  if (handler == HandlerTables::commands.end()) return 0;
-  Request request{.content = content, .actionFrom = TelemetryValue_ActionFrom_Outlook};
-  const QString actionFrom = textValue(request.dictionary(), TelemetryKey_ActionFrom);
-  if (isEqualText(actionFrom, TelemetryValue_ActionFrom_APP)) request.actionFrom = actionFrom;
-  (this->*handler->handle)(request);
+  const Dictionary dictionary = content.value_or(Dictionary());
+  const bool isFromApp =
+      isEqualText(textValue(dictionary, TelemetryKey_ActionFrom), TelemetryValue_ActionFrom_APP);
+  const QString& actionFrom = isFromApp ? TelemetryValue_ActionFrom_APP : TelemetryValue_ActionFrom_Outlook;
+  switch (static_cast<KZCommand>(command)) {
+    case KZCmdInitGuestPreference:
+      initGuestPreference();
+      break;
+    case KZCmdShowPreference:
+      showAppPreference(content);
+      break;
+    case KZCmdDestroyPreference:
+      destroyAppPreference();
+      break;
+    case KZCmdCheckForUpdates:
+      onHandleCheckForUpdates(actionFrom);
+      break;
+    case KZCmdCheckForUpdatesAutomatically:
+      onHandleCheckForUpdatesAutomatically();
+      break;
+    case KZCmdJoinByNumber:
+      onHandleJoinByNumber(actionFrom);
+      break;
+    case KZCmdRequireChangeCalendarIntegration:
+      onChangeCalenderIntegrationRequiring(content);
+      break;
+    case KZCmdProximity:
+      // The object counts, not its text: only the host's own constant means this command.
+      if (textValue(dictionary, kproximityCommand).constData() == kstartDetectVD.constData())
+        onEnableProximityAutoDetect();
+      break;
+    case KZCmdGetExchOnlineToken:
+      onGetExchonlineToken(content);
+      break;
+    default:  // sent to the host only, or unknown
+      break;
+  }
   return 0;
 }
 
+// Without a default, so that a new notification does not compile until it has a handler.
 quint64 KZPreference::onHandleServicesNotification(const KZEventIdentify& event, const Content& content) {
-  const auto* handler =
-      std::ranges::find(HandlerTables::notifications, static_cast<KZNotify>(event.m_componentEventIndex),
-                        &NotifyHandler::index);
-  if (handler != HandlerTables::notifications.end()) (this->*handler->handle)(content.value_or(Dictionary()));
+  const Dictionary dictionary = content.value_or(Dictionary());
+  switch (static_cast<KZNotify>(event.m_componentEventIndex)) {
+    case KZNotifyGetPreferenceDone:
+      onGetPreferenceDone(dictionary);
+      break;
+    case KZNotifyCheckForUpdatesDone:
+      onCheckForUpdatesDone(dictionary);
+      break;
+    case KZNotifyRefreshPreferenceDone:
+      onRefreshPreferenceDone(dictionary);
+      break;
+    case KZNotifyResolveExchangeDone:
+      onResolveExchangeDone(dictionary);
+      break;
+    case KZNotifyO365LoginRequesting:
+      onO365LoginRequesting(dictionary);
+      break;
+    case KZNotifyExchangeResolvingNeedCredential:
+      onExchangeResolvingNeedCredential(dictionary);
+      break;
+  }
   return 0;
 }
 
@@ -94,12 +117,12 @@ void KZPreference::writeTelemetryData(const QString& featureName, const QString&
 
 // Check for updates, join by number
 
-void KZPreference::onHandleCheckForUpdates(const Request& request) {
-  checkForUpdates(UpdateCheck::ByUser, Q_FUNC_INFO, request.actionFrom);
+void KZPreference::onHandleCheckForUpdates(const QString& actionFrom) {
+  checkForUpdates(UpdateCheck::ByUser, Q_FUNC_INFO, actionFrom);
 }
 
-void KZPreference::onHandleCheckForUpdatesAutomatically(const Request& request) {
-  checkForUpdates(UpdateCheck::Automatic, Q_FUNC_INFO, request.actionFrom);
+void KZPreference::onHandleCheckForUpdatesAutomatically() {
+  checkForUpdates(UpdateCheck::Automatic, Q_FUNC_INFO, QString());
 }
 
 void KZPreference::checkForUpdates(UpdateCheck kind, const char* method, const QString& actionFrom) {
@@ -126,32 +149,14 @@ void KZPreference::checkForUpdates(UpdateCheck kind, const char* method, const Q
   if (isByUser) writeTelemetryData(TelemetryValue_FeatureName_Click_CheckForUpdates, actionFrom);
 }
 
-void KZPreference::onHandleJoinByNumber(const Request& request) {
+void KZPreference::onHandleJoinByNumber(const QString& actionFrom) {
   constexpr int requireJoinByNumber = 2;
   sendPluginCommand(KZCmdRequireLink, Dictionary{{QRT_Require_Link_Action_Type, requireJoinByNumber}});
-  writeTelemetryData(TelemetryValue_FeatureName_Click_JoinByNumber, request.actionFrom);
+  writeTelemetryData(TelemetryValue_FeatureName_Click_JoinByNumber, actionFrom);
 }
 
 void KZPreference::joinByNumber() {
   const QVariant link = KZUtility::sharedInstance().getKZMemCacheData(kPreferences_JoinByNumberLink);
   if (link.metaType() != QMetaType::fromType<QString>()) return;
   KZWorkspace::sharedWorkspace().openURL(QUrl(link.toString()));
-}
-
-// Calendar and proximity requests
-
-void KZPreference::onChangeCalenderIntegrationRequiring(const Request& request) {
-  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "Content:%@", request.content);
-  ensuredWindowController().requireToChangeCalendarIntegration(request.dictionary());
-}
-
-void KZPreference::onProximityCommand(const Request& request) {
-  // The object counts, not its text: only the host's own constant means this command.
-  const QString command = textValue(request.dictionary(), kproximityCommand);
-  if (command.constData() == kstartDetectVD.constData()) onEnableProximityAutoDetect();
-}
-
-void KZPreference::onEnableProximityAutoDetect() {
-  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
-  ensuredWindowController().requireEnableProximityAutoDetect();
 }

@@ -16,61 +16,43 @@ class OLAccountAuthenticator;
 class PreferenceActionDelegate;
 class PreferenceWindowController;
 
-// The plug-in's principal object: dispatches the host's commands and notifications, owns the window's
-// controller and everything behind it, and sends the plug-in's commands. Main thread only.
+// The plug-in's principal object: dispatches the host's commands and notifications, owns the window
+// controller and all it needs, and sends the plug-in's commands. Main thread only.
 class KZPreference final : public KZPluginMgr, public PluginCommandSender {
  public:
   explicit KZPreference(KZPluginCoreMgr* core);
   ~KZPreference() override;
 
-  // Unknown numbers are dropped; both always answer 0.
+  // Numbers without a handler are ignored; both always return 0.
   quint64 onHandleOtherPluginsTriggerCommand(quint64 command, const Content& content) override;
   quint64 onHandleServicesNotification(const KZEventIdentify& event, const Content& content) override;
 
   quint64 sendPluginCommand(KZCommand command, const Content& content) override;
 
-  // The meeting that a content's host information names, when it has a window here; null otherwise.
+  // The legacy windows, which belong to the host. The plug-in creates none of them.
+
+  // The meeting key in the content's host information, when that meeting has a window; null otherwise.
   QString hasHostInfo(const Dictionary& content) const;
   static QString getBrennOI(const Dictionary& content);
   static QString paserMeetingKey(const QString& xml);
-
-  // The host's own windows, from before this plug-in had one.
   void releasePreferenceHostInfoWindowController(const QString& meetingKey);
   void releasePreferenceWindowController();
   void onHandleClosePreferenceWindow();
   void onHandleShowPreferenceWindow(const Dictionary& content, const QString& actionFrom);
-
   void showPreferenceWindow();
   void showPreferenceWindowWithData(const Dictionary& data);
 
  private:
-  struct Request {
-    Content content;
-    QString actionFrom;
-
-    Dictionary dictionary() const { return content.value_or(Dictionary()); }
-  };
-  struct CommandHandler {
-    KZCommand number;
-    void (KZPreference::*handle)(const Request& request);
-  };
-  struct NotifyHandler {
-    KZNotify index;
-    void (KZPreference::*handle)(const Dictionary& content);
-  };
-  struct HandlerTables;
-  friend struct HandlerTables;
-
   // Commands.
-  void initGuestPreference(const Request& request);
-  void showAppPreference(const Request& request);
-  void destroyAppPreference(const Request& request);
-  void onHandleCheckForUpdates(const Request& request);
-  void onHandleCheckForUpdatesAutomatically(const Request& request);
-  void onHandleJoinByNumber(const Request& request);
-  void onChangeCalenderIntegrationRequiring(const Request& request);
-  void onProximityCommand(const Request& request);
-  void onGetExchonlineToken(const Request& request);
+  void initGuestPreference();
+  void showAppPreference(const Content& content);
+  void destroyAppPreference();
+  void onHandleCheckForUpdates(const QString& actionFrom);
+  void onHandleCheckForUpdatesAutomatically();
+  void onHandleJoinByNumber(const QString& actionFrom);
+  void onChangeCalenderIntegrationRequiring(const Content& content);
+  void onEnableProximityAutoDetect();
+  void onGetExchonlineToken(const Content& content);
 
   // Notifications.
   void onGetPreferenceDone(const Dictionary& content);
@@ -83,18 +65,17 @@ class KZPreference final : public KZPluginMgr, public PluginCommandSender {
   enum class UpdateCheck { ByUser, Automatic };
   void checkForUpdates(UpdateCheck kind, const char* method, const QString& actionFrom);
   void joinByNumber();
-  void onEnableProximityAutoDetect();
 
-  void showPreferences(const Dictionary& content);
   void installWindowController(std::unique_ptr<PreferenceWindowController> controller);
   PreferenceWindowController& ensuredWindowController();
 
   static bool isActionFailed(const Dictionary& content);
+  static Dictionary dictionaryFromJson(const QString& text);  // empty when it is no object
   void showErrorMessage(const Dictionary& content);
   void savePreferenceInfo(const Dictionary& record);
   void writeTelemetryData(const QString& featureName, const QString& actionFrom);
 
-  // Destroyed from the last to the first: what is used by others stands before them.
+  // In this order because they are destroyed in reverse, users before what they use.
   std::unique_ptr<ADAuthenticationWrapper> m_ADAuthWrapper;
   std::unique_ptr<PreferenceActionDelegate> m_preferenceActionDelegate;
   std::unique_ptr<OLAccountAuthenticator> m_olaccountAuthenticator;

@@ -5,7 +5,8 @@
 
 namespace {
 
-// Plain, so that it is not destroyed after the application object when the host forgets to shut down.
+// A plain pointer: a static object would be destroyed after the application object where a host does not shut
+// down.
 KZPreferenceCore* m_pKZPreferenceCore = nullptr;
 
 }  // namespace

@@ -2,12 +2,12 @@
 
 #include "host/KZFoundation/KZPluginCoreMgr.h"
 
-// The plug-in's one object that the host addresses first: makes the principal object, relays to it, and
-// carries what the plug-in sends. The first use must be on the main thread, as every other.
+// The object through which host and plug-in talk: creates the principal object, passes the host's calls on to
+// it, and sends the plug-in's commands. Main thread only.
 class KZPreferenceCore final : public KZPluginCoreMgr {
  public:
   static KZPreferenceCore& sharedInstance();
-  // Destroys the singleton with everything behind it; before the application object goes.
+  // Destroys the singleton and the plug-in's other objects. Call before the application object is destroyed.
   static void shutDown();
 
   ~KZPreferenceCore() override;

@@ -4,7 +4,7 @@
 #include "KZPreference/authentication/ADTokenCacheWrapper.h"
 #include "KZPreference/authentication/AdalMivraLogDelegate.h"
 #include "KZPreference/core/KZPreferenceCore.h"
-#include "KZPreference/layout/Localization.h"
+#include "KZPreference/layout/Resources.h"
 #include "adal/ADAuthenticationSettings.h"
 
 PluginEntry::PluginEntry() {

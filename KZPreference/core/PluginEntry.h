@@ -5,8 +5,8 @@
 #include "host/KZFoundation/KZPluginCoreMgr.h"
 #include "host/KZFoundation/KZTokenLookup.h"
 
-// What the loader hands to the host. Loading it wires the token cache to the keychain and the sign-in
-// library's log to the trace.
+// The plug-in as the loader gives it to the host. Loading it connects the token cache with the keychain and
+// the sign-in library's log with the trace.
 class PluginEntry final : public QObject, public KZPluginFactory, public KZTokenLookup {
   Q_OBJECT
   Q_PLUGIN_METADATA(IID "example.brenn-mivra.KZPluginFactory/1")

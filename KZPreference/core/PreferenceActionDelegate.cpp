@@ -1,6 +1,5 @@
 #include "KZPreference/core/PreferenceActionDelegate.h"
 
-#include "KZPreference/contract/CalendarPreferenceReceiver.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 #include "host/KZUtility/KZTrace.h"
@@ -77,7 +76,7 @@ void PreferenceActionDelegate::cancelApplyOutlookAccount(const Dictionary& accou
 
 void PreferenceActionDelegate::notifyListExchMeetingAuthFailure() {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
-  // The host reads the store again when it hears of this.
+  // Before the command: the host reads the store when it gets it.
   setExchOnpremiseCredInvalid();
   m_preference->sendPluginCommand(KZCmdListExchMeetingAuthFailure, Dictionary());
 }
@@ -121,7 +120,7 @@ void PreferenceActionDelegate::setCalendarIntegrationSource(const QString& sourc
   const bool hasDays = calendar.contains(kKZCalendarIntegrationDays);
   calendar.insert(kKZCalendarIntegrationSource, source);
   if (!hasDays) calendar.insert(kKZCalendarIntegrationDays, kKZCalendarIntegrationDaysDefault);
-  // The panes change before the store does.
+  // The panes are updated before the store.
   if (m_prefMeetingView) m_prefMeetingView->setCalendarPreference(calendar);
   if (m_nonSignInPrefMeetingView) m_nonSignInPrefMeetingView->setCalendarPreference(calendar);
   settings().setCalendarIntegration(calendar);

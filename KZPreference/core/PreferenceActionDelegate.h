@@ -3,8 +3,8 @@
 #include "KZPreference/contract/PluginCommandSender.h"
 #include "KZPreference/contract/PreferenceActionDelegateProtocol.h"
 
-// The single receiver of the user's actions: each is written to the store, sent to the host, or passed on to
-// the open Meetings pane. Nothing is checked. Main thread only.
+// Carries out the actions of panes and authenticators: each is written to the store, sent to the host, or
+// passed on to the open Meetings pane. Main thread only.
 class PreferenceActionDelegate final : public PreferenceActionDelegateProtocol {
  public:
   explicit PreferenceActionDelegate(PluginCommandSender* preference);  // not owned

@@ -5,55 +5,57 @@
 
 namespace {
 
-// What is typed is passed on whole; the toolkit's own limit of 32,767 would cut it silently.
+// A long text is sent whole; the toolkit would cut it silently at 32,767 characters.
 constexpr int kFieldCharacters = 1 << 24;
+
+template <typename Control>
+Control* addNamed(QWidget* view, const char* name, const Frame& frame, Control* control) {
+  control->setObjectName(QLatin1String(name));
+  addSubview(view, control, frame);
+  return control;
+}
 
 }  // namespace
 
-StaticText* addStaticText(QWidget* view, const StaticTextSpec& spec) {
-  auto* text = new StaticText(spec.text, spec.role, spec.size, spec.alignment);
-  text->setObjectName(spec.name);
-  addSubview(view, text, spec.frame);
-  return text;
+StaticText* addLabel(QWidget* view, const char* name, const Frame& frame, const QString& text,
+                     Qt::Alignment alignment) {
+  return addNamed(view, name, frame, new StaticText(text, FontRole::Label, labelFontSize, alignment));
 }
 
-QCheckBox* addCheckbox(QWidget* view, const QString& name, const Frame& frame, const QString& title) {
+StaticText* addTitle(QWidget* view, const char* name, const Frame& frame, const QString& text,
+                     Qt::Alignment alignment) {
+  return addNamed(view, name, frame,
+                  new StaticText(text, FontRole::BoldSystem, boldLabelFontSize, alignment));
+}
+
+QCheckBox* addCheckbox(QWidget* view, const char* name, const Frame& frame, const QString& title) {
   auto* checkbox = new QCheckBox(title);
-  checkbox->setObjectName(name);
   checkbox->setFont(fontFor(FontRole::System, systemFontSize));
-  addSubview(view, checkbox, frame);
-  return checkbox;
+  return addNamed(view, name, frame, checkbox);
 }
 
-PopUpButton* addPopUpButton(QWidget* view, const QString& name, const Frame& frame,
-                            const QStringList& items) {
+PopUpButton* addPopUpButton(QWidget* view, const char* name, const Frame& frame, const QStringList& items) {
   auto* button = new PopUpButton(items);
-  button->setObjectName(name);
   button->setFont(fontFor(FontRole::System, labelFontSize));
-  addSubview(view, button, frame);
-  return button;
+  return addNamed(view, name, frame, button);
 }
 
-BRNHyperlinkTextField* addLink(QWidget* view, const QString& name, const Frame& frame, const QString& text) {
+BRNHyperlinkTextField* addLink(QWidget* view, const char* name, const Frame& frame, const QString& text) {
   auto* link = new BRNHyperlinkTextField;
-  link->setObjectName(name);
   link->setFont(fontFor(FontRole::Label, labelFontSize));
   link->setUnderlineStyle(1);
   link->setNoClickColor(BRNHyperlinkTextField::NoClickColor::Blue);
   link->setStringValue(text);
-  addSubview(view, link, frame);
-  return link;
+  return addNamed(view, name, frame, link);
 }
 
-QLineEdit* addTextField(QWidget* view, const QString& name, const Frame& frame, Echo echo) {
+QLineEdit* addTextField(QWidget* view, const char* name, const Frame& frame, Echo echo) {
   auto* field = new QLineEdit;
-  field->setObjectName(name);
   field->setFont(fontFor(FontRole::System, labelFontSize));
   field->setMaxLength(kFieldCharacters);
   if (echo == Echo::Secret) {
     field->setEchoMode(QLineEdit::Password);
     field->setInputMethodHints(Qt::ImhHiddenText | Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase);
   }
-  addSubview(view, field, frame);
-  return field;
+  return addNamed(view, name, frame, field);
 }

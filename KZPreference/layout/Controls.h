@@ -9,21 +9,16 @@
 #include "platform/PopUpButton.h"
 #include "platform/StaticText.h"
 
-// The controls that panes are made of: each is added to the view at its frame under its name.
+// The controls of the panes. Each is added to the view at the frame, and can be found by its name.
 
-struct StaticTextSpec {
-  QString name;
-  Frame frame;
-  QString text;
-  FontRole role = FontRole::Label;
-  double size = 0;
-  Qt::Alignment alignment = Qt::AlignLeft;
-};
-
-StaticText* addStaticText(QWidget* view, const StaticTextSpec& spec);
-QCheckBox* addCheckbox(QWidget* view, const QString& name, const Frame& frame, const QString& title);
-PopUpButton* addPopUpButton(QWidget* view, const QString& name, const Frame& frame, const QStringList& items);
-BRNHyperlinkTextField* addLink(QWidget* view, const QString& name, const Frame& frame, const QString& text);
+StaticText* addLabel(QWidget* view, const char* name, const Frame& frame, const QString& text,
+                     Qt::Alignment alignment = Qt::AlignLeft);
+// The bold title of a group.
+StaticText* addTitle(QWidget* view, const char* name, const Frame& frame, const QString& text,
+                     Qt::Alignment alignment = Qt::AlignLeft);
+QCheckBox* addCheckbox(QWidget* view, const char* name, const Frame& frame, const QString& title);
+PopUpButton* addPopUpButton(QWidget* view, const char* name, const Frame& frame, const QStringList& items);
+BRNHyperlinkTextField* addLink(QWidget* view, const char* name, const Frame& frame, const QString& text);
 
 enum class Echo { Plain, Secret };
-QLineEdit* addTextField(QWidget* view, const QString& name, const Frame& frame, Echo echo = Echo::Plain);
+QLineEdit* addTextField(QWidget* view, const char* name, const Frame& frame, Echo echo = Echo::Plain);

@@ -1,9 +1,10 @@
 #pragma once
 
 #include <QString>
-#include <QtGlobal>
 
-// The metrics that all panes share, in points, and the text-width rule.
+#include "platform/Text.h"
+
+// The metrics that all panes share, in points, and how their texts are measured.
 inline constexpr qint32 defaultPrefsViewWidth = 320;
 inline constexpr qint32 marginAtLeftEdge = 32;
 inline constexpr qint32 marginAtRightEdge = 32;
@@ -24,12 +25,24 @@ inline constexpr qint32 checkboxButtonHeight = 16;
 inline constexpr qint32 boldLabelFontSize = 16;
 inline constexpr qint32 labelFontSize = 13;
 
-// Room that a measured text gets when it becomes a control's or a column's width.
+// Added to a text's width where it becomes a control's or a column's width.
 inline constexpr double textPad = 4.0;
 
-// The width of the text in the label font at 13 points, with the pad.
-double commonLabelWidth(const QString& text);
+// Without the pad, in the fonts of labels, of titles, and of buttons and fields.
+inline Size labelTextSize(const QString& text) {
+  return sizeOfText(text, FontRole::Label, labelFontSize);
+}
+inline double labelTextWidth(const QString& text) {
+  return labelTextSize(text).width;
+}
+inline Size titleTextSize(const QString& text) {
+  return sizeOfText(text, FontRole::BoldSystem, boldLabelFontSize);
+}
+inline double systemTextWidth(const QString& text) {
+  return sizeOfText(text, FontRole::System, labelFontSize).width;
+}
 
-// Widths without the pad, in the three fonts of the panes.
-double labelTextWidth(const QString& text);
-double systemTextWidth(const QString& text);
+// In the label font, with the pad.
+inline double commonLabelWidth(const QString& text) {
+  return labelTextWidth(text) + textPad;
+}

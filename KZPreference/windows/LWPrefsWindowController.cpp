@@ -8,8 +8,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include "KZPreference/layout/Localization.h"
-#include "KZPreference/layout/PaneImages.h"
+#include "KZPreference/layout/Resources.h"
 #include "host/KZUtility/KZTrace.h"
 #include "platform/ContentView.h"
 #include "platform/FrameLayout.h"
@@ -38,7 +37,7 @@ LWPrefsWindowController::LWPrefsWindowController() : m_viewAnimation(new ViewAni
 }
 
 LWPrefsWindowController::~LWPrefsWindowController() {
-  // A pane that was never taken into the window has no other owner.
+  // A pane that was never shown has no parent to delete it.
   for (const QPointer<View>& view : std::as_const(m_toolbarViews))
     if (view && !view->parent()) delete view;
 }
@@ -143,7 +142,8 @@ void LWPrefsWindowController::addView(View* view, const QString& label, const QI
   addToolbarItemForIdentifier(label, label, image, &LWPrefsWindowController::toggleActivePreferenceView);
   m_toolbarItems.value(label)->setCheckable(true);
   if (!m_contentSubview) return;
-  // The window's palette and fonts reach the pane once, before it is measured or drawn.
+  // Adding it to the window once gives the pane the window's palette and fonts before it is measured or
+  // drawn.
   addSubview(m_contentSubview, view, frameOf(view), VerticalAnchor::Top);
   removeFromSuperview(view);
 }

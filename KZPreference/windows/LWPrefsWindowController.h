@@ -16,9 +16,9 @@ class ViewAnimation;
 
 enum class Animate { No, Yes };
 
-// A window with a toolbar of panes, of which it shows one. A switch keeps the window's upper edge in place
-// and, with `crossFade`, blends the panes. Subclasses fill the toolbar in `setupToolbar`, which the first
-// showing calls. Main thread only.
+// A window that shows one of the panes in its toolbar. A switch keeps the window's upper edge in place and,
+// with `crossFade`, blends the panes. Subclasses add their panes in `setupToolbar`, which the first
+// `showWindow` calls. Main thread only.
 class LWPrefsWindowController : public WindowController {
   Q_OBJECT
   Q_PROPERTY(bool crossFade READ crossFade WRITE setCrossFade)
@@ -30,7 +30,7 @@ class LWPrefsWindowController : public WindowController {
   LWPrefsWindowController();
   ~LWPrefsWindowController() override;
 
-  // The one instance of the first class that asked for it.
+  // The one instance, of the class of the first call.
   template <typename Controller = LWPrefsWindowController>
   static LWPrefsWindowController& sharedPrefsWindowController() {
     if (!s_shared) s_shared = std::make_unique<Controller>();
@@ -43,15 +43,15 @@ class LWPrefsWindowController : public WindowController {
   bool shiftSlowsAnimation() const { return m_shiftSlowsAnimation; }
   void setShiftSlowsAnimation(bool isOn) { m_shiftSlowsAnimation = isOn; }
 
-  // Shows nothing when there is no pane. A window that exists already keeps its pane and its place.
+  // Shows nothing when there is no pane. A window that exists already keeps its pane and its position.
   void showWindow() override;
 
-  // An item replaces one of the same identifier, with a warning trace.
+  // Replaces an item with the same identifier, with a warning trace.
   void addToolbarItemForIdentifier(const QString& identifier, const QString& label, const QIcon& image,
                                    ToolbarAction action);
   void addFlexibleSpacer();
-  // The pane's identifier is its label. A missing view is ignored; the view is owned from here on. Without an
-  // image, "preference_" and the label in lower case name one.
+  // Takes ownership; a null view is ignored. The label is also the pane's identifier. Without an image, the
+  // one named "preference_" and the label in lower case is used.
   void addView(View* view, const QString& label);
   void addView(View* view, const QString& label, const QIcon& image);
 

@@ -4,7 +4,7 @@
 
 class NonSignInPrefAccountView;
 
-// The guest's window. Calendar options, and requests for a calendar other than Outlook, are not for guests.
+// The guest's window. It ignores calendar options and requests for a calendar other than Outlook.
 class NonSignInPreferenceWindowController final : public PreferenceWindowController {
   Q_OBJECT
 

@@ -2,9 +2,8 @@
 
 #include <algorithm>
 
-#include "KZPreference/layout/Localization.h"
-#include "KZPreference/layout/PaneImages.h"
 #include "KZPreference/layout/PrefsViewDefine.h"
+#include "KZPreference/layout/Resources.h"
 #include "KZPreference/panes/meetings/MeetingsPane.h"
 #include "KZPreference/panes/notifications/PrefNotificationView.h"
 #include "KZPreference/panes/videodevices/PrefProximityView.h"

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "KZPreference/contract/ExchangeResolveResultReceiving.h"
-#include "KZPreference/contract/KZCalendarIntegrationOption.h"
+#include "KZPreference/authentication/ADAuthenticationWrapper.h"
 #include "KZPreference/contract/PreferenceActionDelegateProtocol.h"
 #include "KZPreference/windows/LWPrefsWindowController.h"
 
@@ -9,15 +8,16 @@ class MeetingsPane;
 class OLAccountAuthenticator;
 class PrefNotificationView;
 class PrefProximityView;
+struct KZCalendarIntegrationOption;
 
-// The window with the five panes. A variant says which General, Account and Meetings panes they are. Results
-// from the host go to the Meetings pane; before the first showing there are no panes, and they are dropped.
+// The window with the five panes. A variant creates its own General, Account and Meetings panes. Results from
+// the host go to the Meetings pane; until the window is first shown there are no panes, and they are dropped.
 // Main thread only.
 class PreferenceWindowController : public LWPrefsWindowController, public ExchangeResolveResultReceiving {
   Q_OBJECT
 
  public:
-  // Not owned; the Meetings pane's calendar group is its auth delegate once it exists.
+  // Not owned. Its auth delegate is the Meetings pane's calendar group, once that exists.
   void setOLAccountAuthenticator(OLAccountAuthenticator* authenticator);
 
   void requireToChangeCalendarIntegration(const Dictionary& requireInfo);
@@ -25,9 +25,9 @@ class PreferenceWindowController : public LWPrefsWindowController, public Exchan
   void onExchangeResolveDone(const Dictionary& result) override;
   void gotoAccountView();
   void requireEnableProximityAutoDetect();
-  // Ends every tie to others, so that the controller may be destroyed later.
+  // Detaches the controller from the delegate and the authenticator; it is destroyed later.
   void retire();
-  // Do nothing in a variant that has nothing to do.
+  // These do nothing unless a variant overrides them.
   virtual void refreshPreference();
   virtual void setCalendarIntergrationOption(const KZCalendarIntegrationOption& option);
 
@@ -43,9 +43,9 @@ class PreferenceWindowController : public LWPrefsWindowController, public Exchan
   virtual PaneSizes paneSizes() const = 0;
   virtual View* createGeneralView(const Frame& frame) = 0;
   virtual View* createAccountView(const Frame& frame) = 0;
-  // The pane with everything that only this variant gives it.
+  // With the settings that only this variant passes to it.
   virtual MeetingsPane* createMeetingView(const Frame& frame) = 0;
-  virtual void registerMeetingView(MeetingsPane* view) = 0;  // nullptr: forget it
+  virtual void registerMeetingView(MeetingsPane* view) = 0;  // nullptr to unregister
   // The host asks for a calendar source that is not Outlook.
   virtual void requireOtherCalendarSource();
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "KZPreference/panes/meetings/CalendarIntegrationSubView.h"
 #include "KZPreference/windows/PreferenceWindowController.h"
 
 // The signed-in user's window.
@@ -10,7 +11,7 @@ class SignInPreferenceWindowController final : public PreferenceWindowController
   explicit SignInPreferenceWindowController(PreferenceActionDelegateProtocol* delegate);  // not owned
   ~SignInPreferenceWindowController() override;
 
-  // Reaches the Meetings pane when the panes are made; later it is only kept.
+  // Passed to the Meetings pane when the panes are created; not after that.
   void setCalendarIntergrationOption(const KZCalendarIntegrationOption& option) override;
 
  protected:

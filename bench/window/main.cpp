@@ -42,7 +42,7 @@ void printLine(const char* format, Values... values) {
 int benchWindow(WallClock::time_point start, FrameWatch::Clock::time_point toolkitReady,
                 WindowBench::Fade fade, const QString& plugin) {
   const QTemporaryDir state;
-  KZPlistFileHandle::sharedInstance().open(state.path());
+  (void)KZPlistFileHandle::sharedInstance().open(state.path());  // nobody else knows this folder
   muteKZTrace();
   WindowBench bench(fade);
   const auto painted = bench.open(plugin);

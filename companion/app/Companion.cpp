@@ -10,10 +10,8 @@
 #include <QWindow>
 #include <chrono>
 
-#include "companion/app/LazyPage.h"
 #include "companion/app/MeetingsView.h"
 #include "companion/app/TelemetryView.h"
-#include "companion/exchange/StandardExchange.h"
 #include "companion/inspector/InspectorView.h"
 #include "companion/runtime/SaveDialog.h"
 #include "host/KZUtility/KZKeyChainHandle.h"
@@ -50,14 +48,12 @@ CompanionServices::Settings serviceSettings(const CompanionOptions& options,
   if (!options.stateFolder.isEmpty()) {
     arguments = {QStringLiteral("--state"), QFileInfo(options.stateFolder).absoluteFilePath()};
   }
-  return {
-      .reach = options.reach,
-      .exchange = exchange,
-      .record = demouser::record(),
-      .dataFolder = ownFolder(options, QStandardPaths::GenericDataLocation, QStringLiteral("telemetry")),
-      .packageFolder = ownFolder(options, QStandardPaths::GenericCacheLocation, QStringLiteral("updates")),
-      .autostart =
-          AutostartEntry(AutostartEntry::userFolder(), QCoreApplication::applicationFilePath(), arguments)};
+  return {.reach = options.reach,
+          .exchange = exchange,
+          .record = demouser::record(),
+          .dataFolder = ownFolder(options, QStandardPaths::GenericDataLocation, QStringLiteral("telemetry")),
+          .autostart = AutostartEntry(AutostartEntry::userFolder(), QCoreApplication::applicationFilePath(),
+                                      arguments)};
 }
 
 }  // namespace
@@ -82,11 +78,11 @@ Companion::~Companion() {
 }
 
 void Companion::createPages() {
-  m_window.addPage(QStringLiteral("Meetings"), new MeetingsView(&m_services->meetings()));
-  m_window.addPage(QStringLiteral("Try out"), new LazyPage([this] { return createTryOut(); }));
-  m_window.addPage(QStringLiteral("Inspector"), new LazyPage([this] { return createInspector(); }));
+  m_window.addPage(QStringLiteral("Meetings"), [this] { return new MeetingsView(&m_services->meetings()); });
+  m_window.addPage(QStringLiteral("Try out"), [this] { return createTryOut(); });
+  m_window.addPage(QStringLiteral("Inspector"), [this] { return createInspector(); });
   m_window.addPage(QStringLiteral("Telemetry"),
-                   new LazyPage([this] { return new TelemetryView(&m_services->telemetry()); }));
+                   [this] { return new TelemetryView(&m_services->telemetry()); });
 }
 
 QWidget* Companion::createInspector() {
@@ -98,26 +94,27 @@ QWidget* Companion::createInspector() {
 QWidget* Companion::createTryOut() {
   m_tryOut = new TryOutView;
   connect(m_tryOut, &TryOutView::siteChosen, &m_window, &CompanionWindow::useSite);
+  connect(m_tryOut, &TryOutView::copied, &m_window,
+          [this](const QString& text) { m_window.showNotice(QStringLiteral("Copied: %1").arg(text)); });
   offer(m_offered);
   return m_tryOut;
 }
 
-void Companion::offer(const Offered& offered) {
-  m_offered = offered;
+void Companion::offer(const SandboxDescription& sandbox) {
+  m_offered = sandbox;
   if (!m_tryOut) return;
-  m_tryOut->setAccounts(offered.accounts);
-  m_tryOut->setSites(offered.sites);
+  m_tryOut->setAccounts(sandbox.accounts);
+  m_tryOut->setSites(sandbox.sites);
 }
 
 void Companion::connectSandbox() {
-  connect(&m_sandbox, &Sandbox::ready, this, [this](const QJsonObject& exchange, const QJsonObject& site) {
-    m_exchange->useSandbox(exchange);
-    m_services->useSandbox(site, exchange);
-    offer({sandboxAccounts(exchange), sandboxSites(site)});
+  connect(&m_sandbox, &Sandbox::ready, this, [this](const SandboxDescription& description) {
+    m_services->network().useSandbox(description);
+    offer(description);
   });
   connect(&m_sandbox, &Sandbox::failed, this, [this](const QString& reason) {
-    m_exchange->loseSandbox(reason);
-    m_services->loseSandbox();
+    m_services->network().loseSandbox(reason);
+    m_window.showNotice(reason);
     offer({});
   });
 }
@@ -164,11 +161,11 @@ bool Companion::loadPlugin(const QString& path) {
 }
 
 void Companion::createServices() {
-  const ExchangeConfiguration configuration = standardExchangeConfiguration(m_options.clientId, kSignedInUri);
-  m_exchange = std::make_unique<CompanionExchange>(&m_host, m_options.reach, configuration);
-  m_services = std::make_unique<CompanionServices>(&m_host, serviceSettings(m_options, configuration));
-  connect(m_exchange.get(), &CompanionExchange::noticed, &m_window, &CompanionWindow::showNotice);
-  connect(m_services.get(), &CompanionServices::noticed, &m_window, &CompanionWindow::showNotice);
+  m_services = std::make_unique<CompanionServices>(
+      &m_host, serviceSettings(m_options, productionExchange(m_options.clientId, kSignedInUri)));
+  m_exchange = std::make_unique<CompanionExchange>(&m_host, &m_services->network());
+  connect(m_exchange.get(), &CompanionExchange::message, &m_window, &CompanionWindow::showNotice);
+  connect(m_services.get(), &CompanionServices::message, &m_window, &CompanionWindow::showNotice);
   m_window.useServices(m_services.get());
 }
 

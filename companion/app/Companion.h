@@ -43,17 +43,11 @@ class Companion final : public QObject {
   CompanionWindow* window() { return &m_window; }
 
  private:
-  // What the sandbox has to try.
-  struct Offered {
-    QList<SandboxAccount> accounts;
-    QList<SandboxSite> sites;
-  };
-
   void createPages();
   void createServices();
   QWidget* createTryOut();
   QWidget* createInspector();
-  void offer(const Offered& offered);
+  void offer(const SandboxDescription& sandbox);
   void connectSandbox();
   void connectRecording();
   void toggleRecording();
@@ -66,7 +60,7 @@ class Companion final : public QObject {
   std::unique_ptr<CompanionServices> m_services;  // the pages use them to their end
   CompanionWindow m_window;
   const CompanionOptions m_options;
-  Offered m_offered;
+  SandboxDescription m_offered;
   TryOutView* m_tryOut = nullptr;  // the window's, once somebody looks
   std::unique_ptr<CompanionExchange> m_exchange;
   Sandbox m_sandbox;

@@ -30,7 +30,7 @@ CompanionOptions CompanionOptions::read(const QStringList& arguments) {
   options.saysWhenShown = parser.isSet("first-frame");
   const bool isOffscreen = QGuiApplication::platformName() == "offscreen";
   options.isDemo = options.isDemoAsked || (isOffscreen && !options.saysWhenShown);
-  if (parser.isSet("network")) options.reach = CompanionExchange::Reach::Network;
+  if (parser.isSet("network")) options.reach = NetworkReach::Network;
   options.appearance = parser.value("appearance");
   options.language = parser.value("language");
   options.clientId = parser.value("client-id");

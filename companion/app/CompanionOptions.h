@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-#include "companion/app/CompanionExchange.h"
+#include "companion/network/NetworkConfiguration.h"
 
 // What the command line asks for.
 struct CompanionOptions {
@@ -11,7 +11,7 @@ struct CompanionOptions {
   bool isDemoAsked = false;
   bool isGuest = false;
   bool saysWhenShown = false;
-  CompanionExchange::Reach reach = CompanionExchange::Reach::Sandbox;
+  NetworkReach reach = NetworkReach::Sandbox;
   QString appearance;
   QString language;  // empty: the desktop's
   QString clientId;

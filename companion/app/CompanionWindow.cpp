@@ -8,10 +8,10 @@
 #include <QRadioButton>
 #include <QStackedWidget>
 #include <QTabBar>
+#include <utility>
 
 #include "companion/app/FaultNotice.h"
 #include "companion/app/SiteDialog.h"
-#include "companion/app/UpdateBar.h"
 #include "companion/runtime/PluginHost.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZFoundation/KZCommands.h"
@@ -48,9 +48,7 @@ CompanionWindow::CompanionWindow(PluginHost* host) : m_host(host) {
 
 void CompanionWindow::useServices(CompanionServices* services) {
   m_services = services;
-  auto* column = static_cast<QVBoxLayout*>(layout());
-  m_updates = new UpdateBar(&services->updates());
-  column->insertWidget(column->indexOf(m_notice), m_updates);
+  connect(&services->updates(), &UpdateService::offerChanged, this, &CompanionWindow::showUpdate);
   connect(&services->site(), &SiteService::siteWanted, this, &CompanionWindow::openSiteDialog);
 }
 
@@ -86,16 +84,19 @@ QWidget* CompanionWindow::createPages() {
   return box;
 }
 
-void CompanionWindow::addPage(const QString& title, QWidget* page) {
-  m_pages->addWidget(page);
+void CompanionWindow::addPage(const QString& title, const PageMaker& make) {
+  auto* place = new QWidget;
+  auto* column = new QVBoxLayout(place);
+  column->setContentsMargins(0, 0, 0, 0);
+  m_pages->addWidget(place);
+  m_pageMakers.append(make);
   m_tabs->addTab(title);
-  m_updates->comeLastInTabOrder();
 }
 
 void CompanionWindow::showPage(int index) {
+  const PageMaker make = std::exchange(m_pageMakers[index], {});
+  if (make) m_pages->widget(index)->layout()->addWidget(make());
   m_pages->setCurrentIndex(index);
-  // A page that is made when it is shown first comes after what was there.
-  m_updates->comeLastInTabOrder();
 }
 
 QWidget* CompanionWindow::createSwitch() {
@@ -122,6 +123,9 @@ QWidget* CompanionWindow::createButtons() {
   row->addWidget(preferences);
   row->addWidget(createButton("Account", "Command 2 with the Account pane", &CompanionWindow::showAccount));
   row->addWidget(createButton("Check for updates", "Command 8", &CompanionWindow::checkForUpdates));
+  m_updateButton = createButton(QString(), "Opens its page in the browser", &CompanionWindow::openUpdatePage);
+  m_updateButton->hide();
+  row->addWidget(m_updateButton);
   row->addWidget(createButton("Join by number", "Command 10", &CompanionWindow::joinByNumber));
   row->addWidget(createButton("Close", "Command 3", &CompanionWindow::closePreferences));
   row->addStretch(1);
@@ -178,6 +182,16 @@ void CompanionWindow::showAccount() {
 
 void CompanionWindow::checkForUpdates() {
   m_services->updates().check();
+}
+
+void CompanionWindow::openUpdatePage() {
+  m_services->updates().openPage();
+}
+
+void CompanionWindow::showUpdate() {
+  const QString version = m_services->updates().offeredVersion();
+  m_updateButton->setText(QStringLiteral("Get version %1").arg(version));
+  m_updateButton->setVisible(!version.isEmpty());
 }
 
 void CompanionWindow::joinByNumber() {

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QList>
 #include <QPointer>
 #include <QWidget>
+#include <functional>
 
 #include "companion/app/DemoUser.h"
 #include "companion/services/CompanionServices.h"
@@ -13,7 +15,6 @@ class QTabBar;
 class QPushButton;
 class QRadioButton;
 class SiteDialog;
-class UpdateBar;
 
 // The companion's own window: who is there, what a host can ask of its plug-in, and what crosses the host.
 class CompanionWindow final : public QWidget {
@@ -33,8 +34,10 @@ class CompanionWindow final : public QWidget {
   void startOver();
   void showRecording(bool isRunning);
   void showNotice(const QString& text);
-  // The window takes the page; the first one is in front. After useServices.
-  void addPage(const QString& title, QWidget* page);
+  // The page is made when it is first shown, so that what nobody looks at costs the start nothing; the
+  // window takes it. The first page is in front. After useServices.
+  using PageMaker = std::function<QWidget*()>;
+  void addPage(const QString& title, const PageMaker& make);
   // Asks the site, and belongs to it from then on.
   void useSite(const QString& site);
 
@@ -54,6 +57,8 @@ class CompanionWindow final : public QWidget {
   void showPage(int index);
   void showAccount();
   void checkForUpdates();
+  void openUpdatePage();
+  void showUpdate();
   void joinByNumber();
   void closePreferences();
   SiteDialog* openSiteDialog();
@@ -65,9 +70,10 @@ class CompanionWindow final : public QWidget {
   QRadioButton* m_guest = nullptr;
   QTabBar* m_tabs = nullptr;
   QStackedWidget* m_pages = nullptr;
+  QList<PageMaker> m_pageMakers;  // empty where the page is made
   QLabel* m_identity = nullptr;
   QLabel* m_notice = nullptr;
-  UpdateBar* m_updates = nullptr;
+  QPushButton* m_updateButton = nullptr;
   QPushButton* m_recordButton = nullptr;
   QPointer<SiteDialog> m_siteDialog;
 };

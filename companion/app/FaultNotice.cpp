@@ -60,7 +60,7 @@ FaultNotice::FaultNotice(QWidget* parent) : QLabel(parent) {
   setForegroundRole(QPalette::ToolTipText);
   connect(&KZPlistFileHandle::sharedInstance(), &KZPlistFileHandle::saveProblemChanged, this,
           &FaultNotice::renew);
-  connect(&KZKeyChainHandle::sharedInstance(), &KZKeyChainHandle::lost, this, &FaultNotice::renew);
+  connect(&KZKeyChainHandle::sharedInstance(), &KZKeyChainHandle::failed, this, &FaultNotice::renew);
   renew();
 }
 
@@ -81,7 +81,7 @@ void FaultNotice::renew() {
     notices.append(noticeOfSaving(store.saveProblem(), store.filePath()));
   }
   if (!store.setAsidePath().isNull()) notices.append(noticeOfSetAside(store.setAsidePath()));
-  if (KZKeyChainHandle::sharedInstance().isLost()) notices.append(noticeOfSecrets());
+  if (KZKeyChainHandle::sharedInstance().hasFailed()) notices.append(noticeOfSecrets());
   setText(notices.join(u'\n'));
   setVisible(!notices.isEmpty());
 }

@@ -5,9 +5,9 @@
 #include <QLabel>
 #include <QLocale>
 #include <QPushButton>
-#include <QTableWidget>
 #include <chrono>
 
+#include "companion/app/ListTable.h"
 #include "companion/services/MeetingAccount.h"
 #include "companion/services/NextMeetings.h"
 
@@ -15,7 +15,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-enum MeetingColumn { StartColumn, SubjectColumn, NoteColumn, MeetingColumnCount };
+enum MeetingColumn { StartColumn, SubjectColumn, NoteColumn };
 
 QString startText(const QDateTime& start) {
   const QDateTime local = start.toLocalTime();
@@ -42,7 +42,8 @@ MeetingsView::MeetingsView(NextMeetings* meetings)
     : m_meetings(meetings),
       m_text(new QLabel),
       m_refresh(new QPushButton(QStringLiteral("Refresh"))),
-      m_table(new QTableWidget(0, MeetingColumnCount)) {
+      m_table(createListTable(QStringLiteral("Next meetings"),
+                              {QStringLiteral("Start"), QStringLiteral("Meeting"), QStringLiteral("Note")})) {
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(8);
@@ -56,31 +57,15 @@ MeetingsView::MeetingsView(NextMeetings* meetings)
   m_text->setObjectName(QStringLiteral("meetingsText"));
   m_text->setTextFormat(Qt::PlainText);
   m_text->setWordWrap(true);
-  setUpTable();
+  m_table->setColumnWidth(StartColumn, 160);
+  m_table->setColumnWidth(NoteColumn, 160);
+  m_table->horizontalHeader()->setSectionResizeMode(SubjectColumn, QHeaderView::Stretch);
   // Only the words for a time go out of date; nobody is asked.
   m_minute.setInterval(1min);
   connect(&m_minute, &QTimer::timeout, this, &MeetingsView::showMeetings);
   connect(m_refresh, &QPushButton::clicked, meetings, &NextMeetings::refresh);
   connect(meetings, &NextMeetings::changed, this, &MeetingsView::showMeetings);
   showMeetings();
-}
-
-void MeetingsView::setUpTable() {
-  m_table->setHorizontalHeaderLabels(
-      {QStringLiteral("Start"), QStringLiteral("Meeting"), QStringLiteral("Note")});
-  m_table->setAccessibleName(QStringLiteral("Next meetings"));
-  m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-  m_table->setSelectionMode(QAbstractItemView::SingleSelection);
-  m_table->setTabKeyNavigation(false);
-  m_table->setShowGrid(false);
-  m_table->verticalHeader()->hide();
-  m_table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
-  m_table->horizontalHeader()->setHighlightSections(false);
-  m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-  m_table->setColumnWidth(StartColumn, 160);
-  m_table->setColumnWidth(NoteColumn, 160);
-  m_table->horizontalHeader()->setSectionResizeMode(SubjectColumn, QHeaderView::Stretch);
 }
 
 void MeetingsView::showMeetings() {
@@ -93,16 +78,16 @@ void MeetingsView::showMeetings() {
                                                  : m_meetings->text());
   }
   const int announced = announcedMinutes();
-  m_table->setRowCount(static_cast<int>(meetings.size()));
+  QList<QStringList> rows;
+  for (const ExchangeMeeting& meeting : meetings) {
+    rows.append({startText(meeting.start), meeting.subject, noteText(meeting.start, announced)});
+  }
+  setListRows(m_table, rows);
   for (int row = 0; row < m_table->rowCount(); ++row) {
-    const ExchangeMeeting& meeting = meetings.at(row);
-    const QString texts[] = {startText(meeting.start), meeting.subject, noteText(meeting.start, announced)};
     QFont itemFont = m_table->font();
-    itemFont.setBold(!texts[NoteColumn].isNull());
-    for (int column = 0; column < MeetingColumnCount; ++column) {
-      auto* item = new QTableWidgetItem(texts[column]);
-      item->setFont(itemFont);
-      m_table->setItem(row, column, item);
+    itemFont.setBold(!rows.at(row).at(NoteColumn).isEmpty());
+    for (int column = 0; column < m_table->columnCount(); ++column) {
+      m_table->item(row, column)->setFont(itemFont);
     }
   }
   m_table->setVisible(!meetings.isEmpty());

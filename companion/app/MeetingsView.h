@@ -20,7 +20,6 @@ class MeetingsView final : public QWidget {
   void hideEvent(QHideEvent* event) override;
 
  private:
-  void setUpTable();
   void showMeetings();
 
   NextMeetings* m_meetings;

@@ -1,7 +1,6 @@
 #include "companion/app/Sandbox.h"
 
 #include <QCoreApplication>
-#include <QJsonDocument>
 #include <QStandardPaths>
 #include <chrono>
 
@@ -16,9 +15,9 @@ constexpr int kEndMilliseconds = 1000;
 
 Sandbox::Sandbox() {
   m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-  m_patience.setSingleShot(true);
-  m_patience.setInterval(kStartTime);
-  connect(&m_patience, &QTimer::timeout, this,
+  m_startLimit.setSingleShot(true);
+  m_startLimit.setInterval(kStartTime);
+  connect(&m_startLimit, &QTimer::timeout, this,
           [this] { fail(QStringLiteral("The sandbox does not answer.")); });
   connect(&m_process, &QProcess::readyReadStandardOutput, this, &Sandbox::readFirstLine);
   connect(&m_process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
@@ -45,21 +44,20 @@ void Sandbox::start(const QString& path) {
   if (path.isEmpty()) {
     return fail(QStringLiteral("The sandbox is not running: kz-sandbox is not beside this program."));
   }
-  m_patience.start();
+  m_startLimit.start();
   m_process.start(path, {QStringLiteral("--until-input-ends")});
 }
 
 void Sandbox::readFirstLine() {
-  if (!m_patience.isActive() || !m_process.canReadLine()) return;
-  m_patience.stop();
-  const QJsonObject where = QJsonDocument::fromJson(m_process.readLine()).object();
-  const QJsonObject exchange = where.value(QLatin1String("exchange")).toObject();
-  if (!exchange.isEmpty()) return Q_EMIT ready(exchange, where.value(QLatin1String("site")).toObject());
+  if (!m_startLimit.isActive() || !m_process.canReadLine()) return;
+  m_startLimit.stop();
+  const SandboxDescription description = SandboxDescription::fromJson(m_process.readLine());
+  if (!description.isEmpty()) return Q_EMIT ready(description);
   fail(QStringLiteral("The sandbox plays nothing: the openssl program may be missing."));
 }
 
 void Sandbox::fail(const QString& reason) {
-  m_patience.stop();
+  m_startLimit.stop();
   m_process.disconnect(this);
   m_process.closeWriteChannel();
   Q_EMIT failed(reason);

@@ -1,9 +1,10 @@
 #pragma once
 
-#include <QJsonObject>
 #include <QObject>
 #include <QProcess>
 #include <QTimer>
+
+#include "companion/exchange/SandboxDescription.h"
 
 // The program kz-sandbox as a child. It ends with this object, and also when this process dies otherwise.
 // Main thread only.
@@ -22,8 +23,7 @@ class Sandbox final : public QObject {
   qint64 processId() const { return m_process.processId(); }
 
  Q_SIGNALS:
-  // The Exchange that it plays, for withSandbox, and its meeting sites, for sandboxSites.
-  void ready(const QJsonObject& exchange, const QJsonObject& site);
+  void ready(const SandboxDescription& description);
   void failed(const QString& reason);  // a sentence for the user; once, also after ready
 
  private:
@@ -31,5 +31,5 @@ class Sandbox final : public QObject {
   void fail(const QString& reason);
 
   QProcess m_process;
-  QTimer m_patience;
+  QTimer m_startLimit;
 };

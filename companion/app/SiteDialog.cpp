@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "companion/network/WebAddress.h"
 #include "companion/services/SiteService.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 
@@ -78,12 +79,12 @@ void SiteDialog::askChosen() {
   forgetFailure();
   m_change->setEnabled(false);
   m_text->setText(QStringLiteral("Asking the site."));
-  m_service->lookUp(site(), [this](const SiteService::Answer& answer) {
-    if (!answer.site) return showFailure(answer.failure);
+  m_service->lookUp(site(), [this](const SiteService::Result& result) {
+    if (!result.site) return showFailure(result.failure);
     // The dialog may be gone with the last line of this.
     SiteService* const service = m_service;
     accept();
-    service->adopt(*answer.site);
+    service->adopt(*result.site);
   });
 }
 

@@ -6,13 +6,11 @@
 #include <QLabel>
 #include <QLocale>
 #include <QPushButton>
-#include <QTableWidget>
 
+#include "companion/app/ListTable.h"
 #include "companion/services/TelemetryService.h"
 
 namespace {
-
-enum TelemetryColumn { TimeColumn, FeatureColumn, DetailsColumn, TelemetryColumnCount };
 
 constexpr int kShownRecords = 1000;
 
@@ -23,7 +21,9 @@ TelemetryView::TelemetryView(TelemetryService* telemetry)
       m_isOn(new QCheckBox(QStringLiteral("Keep what I choose"))),
       m_delete(new QPushButton(QStringLiteral("Delete all"))),
       m_text(new QLabel),
-      m_table(new QTableWidget(0, TelemetryColumnCount)) {
+      m_table(
+          createListTable(QStringLiteral("Telemetry records"),
+                          {QStringLiteral("Time"), QStringLiteral("Choice"), QStringLiteral("Details")})) {
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(8);
@@ -34,7 +34,9 @@ TelemetryView::TelemetryView(TelemetryService* telemetry)
   m_text->setTextFormat(Qt::PlainText);
   m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
   m_text->setWordWrap(true);
-  setUpTable();
+  m_table->setColumnWidth(0, 150);
+  m_table->setColumnWidth(1, 300);
+  m_table->horizontalHeader()->setStretchLastSection(true);
   m_soon.setSingleShot(true);
   m_soon.setInterval(0);
   connect(&m_soon, &QTimer::timeout, this, &TelemetryView::showRecords);
@@ -51,23 +53,6 @@ QWidget* TelemetryView::createBar() {
   connect(m_isOn, &QCheckBox::clicked, m_telemetry, &TelemetryService::setOn);
   connect(m_delete, &QPushButton::clicked, m_telemetry, &TelemetryService::deleteAll);
   return bar;
-}
-
-void TelemetryView::setUpTable() {
-  m_table->setHorizontalHeaderLabels(
-      {QStringLiteral("Time"), QStringLiteral("Choice"), QStringLiteral("Details")});
-  m_table->setAccessibleName(QStringLiteral("Telemetry records"));
-  m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-  m_table->setTabKeyNavigation(false);
-  m_table->setShowGrid(false);
-  m_table->verticalHeader()->hide();
-  m_table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
-  m_table->horizontalHeader()->setHighlightSections(false);
-  m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-  m_table->setColumnWidth(TimeColumn, 150);
-  m_table->setColumnWidth(FeatureColumn, 300);
-  m_table->horizontalHeader()->setStretchLastSection(true);
 }
 
 void TelemetryView::showSoon() {
@@ -89,15 +74,12 @@ void TelemetryView::showRecords() {
     m_text->setText(
         QStringLiteral("Nothing is written. What was kept before lies in %1.").arg(m_telemetry->path()));
   }
-  m_table->setRowCount(static_cast<int>(records.size()));
-  for (int row = 0; row < m_table->rowCount(); ++row) {
-    const TelemetryRecord& record = records.at(row);
+  QList<QStringList> rows;
+  for (const TelemetryRecord& record : records) {
     const QString time = QLocale().toString(record.time.toLocalTime(), QLocale::ShortFormat);
-    const QString texts[] = {time, record.feature, record.details};
-    for (int column = 0; column < TelemetryColumnCount; ++column) {
-      m_table->setItem(row, column, new QTableWidgetItem(texts[column]));
-    }
+    rows.append({time, record.feature, record.details});
   }
+  setListRows(m_table, rows);
 }
 
 void TelemetryView::showEvent(QShowEvent* event) {

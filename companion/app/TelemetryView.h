@@ -21,7 +21,6 @@ class TelemetryView final : public QWidget {
 
  private:
   QWidget* createBar();
-  void setUpTable();
   void showSoon();
   void showRecords();
 

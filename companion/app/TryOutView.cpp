@@ -1,120 +1,107 @@
 #include "companion/app/TryOutView.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
-#include <QScrollArea>
+#include <QPushButton>
+#include <QTableWidget>
 #include <QVBoxLayout>
 
-#include "companion/app/CopiedNote.h"
-#include "companion/app/CopyTable.h"
-#include "companion/app/WalkThrough.h"
-#include "platform/Text.h"
+#include "companion/app/ListTable.h"
 
 namespace {
 
-constexpr int kSectionGap = 18;
-constexpr int kScrollBarGap = 14;
-
-QLabel* wrappedLabel(const QString& text) {
+QLabel* createPlainLabel(const QString& text = {}) {
   auto* label = new QLabel(text);
   label->setTextFormat(Qt::PlainText);
   label->setWordWrap(true);
   return label;
 }
 
+QTableWidget* createWrappingTable(const QString& name, const QStringList& headings) {
+  QTableWidget* table = createListTable(name, headings);
+  table->setSelectionBehavior(QAbstractItemView::SelectItems);
+  table->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+  table->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  table->horizontalHeader()->setStretchLastSection(true);
+  return table;
+}
+
 }  // namespace
 
 TryOutView::TryOutView()
-    : m_scroll(new QScrollArea),
-      m_accounts(new CopyTable(QStringLiteral("Accounts to try"),
-                               {QStringLiteral("Address"), QStringLiteral("User name"),
-                                QStringLiteral("Password"), QStringLiteral("What happens")})),
-      m_sites(new CopyTable(QStringLiteral("Sites to try"),
-                            {QStringLiteral("Site"), QStringLiteral("What happens")})),
-      m_note(new CopiedNote(this)) {
+    : m_introduction(createPlainLabel()),
+      m_accounts(createWrappingTable(QStringLiteral("Accounts to try"),
+                                     {QStringLiteral("Address"), QStringLiteral("User name"),
+                                      QStringLiteral("Password"), QStringLiteral("What it shows")})),
+      m_sites(createWrappingTable(QStringLiteral("Sites to try"),
+                                  {QStringLiteral("Site"), QStringLiteral("What it shows")})) {
+  auto* copy = new QPushButton(QStringLiteral("Copy"));
+  copy->setToolTip(QStringLiteral("Copies the selected address, user name or password"));
+  auto* use = new QPushButton(QStringLiteral("Use this site"));
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
-  column->addWidget(m_scroll);
-  m_scroll->setWidgetResizable(true);
-  m_scroll->setFrameShape(QFrame::NoFrame);
-  m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  m_scroll->setWidget(createContents());
-  for (CopyTable* const table : {m_accounts, m_sites}) {
-    connect(table, &CopyTable::copied, m_note, &CopiedNote::tell);
-    connect(table, &QTableWidget::currentCellChanged, this, [this, table] { showCurrentCell(table); });
-  }
-  connect(m_sites, &CopyTable::buttonPressed, this, &TryOutView::siteChosen);
-  showWhatIsThere();
+  column->setSpacing(8);
+  column->addWidget(m_introduction);
+  column->addWidget(createBar(QStringLiteral("Accounts, for Microsoft Outlook in Meetings:"), copy));
+  column->addWidget(m_accounts, 3);
+  column->addWidget(createBar(QStringLiteral("Sites, the meeting service to belong to:"), use));
+  column->addWidget(m_sites, 2);
+  connect(copy, &QPushButton::clicked, this, &TryOutView::copySelected);
+  connect(use, &QPushButton::clicked, this, &TryOutView::useSelectedSite);
+  connect(m_accounts, &QTableWidget::itemActivated, this, &TryOutView::copySelected);
+  connect(m_sites, &QTableWidget::itemActivated, this, &TryOutView::useSelectedSite);
+  showIntroduction();
 }
 
-QWidget* TryOutView::createContents() {
-  auto* contents = new QWidget;
-  auto* column = new QVBoxLayout(contents);
-  column->setContentsMargins(0, 0, kScrollBarGap, 0);
-  column->setSpacing(kSectionGap);
-  m_nothing = wrappedLabel(QStringLiteral(
-      "The sandbox is not running. While it runs, this page lists accounts and sites to try."));
-  column->addWidget(m_nothing);
-  auto* steps = new WalkThrough;
-  connect(steps, &WalkThrough::copied, m_note, &CopiedNote::tell);
-  connect(steps, &WalkThrough::siteChosen, this, &TryOutView::siteChosen);
-  m_accountSections = {
-      addSection(
-          column, QStringLiteral("In two minutes"),
-          QStringLiteral("Everything here is played by a sandbox on this machine; no network is needed. "
-                         "Press an address to copy it, and a site to use it."),
-          steps),
-      addSection(column, QStringLiteral("Accounts"),
-                 QStringLiteral("For Microsoft Outlook in Meetings. A double click or Return copies a cell."),
-                 m_accounts)};
-  m_siteSection = addSection(column, QStringLiteral("Sites"),
-                             QStringLiteral("The meeting service that the application belongs to."), m_sites);
-  column->addStretch(1);
-  return contents;
+QWidget* TryOutView::createBar(const QString& text, QWidget* button) {
+  auto* bar = new QWidget;
+  auto* row = new QHBoxLayout(bar);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->addWidget(createPlainLabel(text), 1);
+  row->addWidget(button);
+  return bar;
 }
 
-QWidget* TryOutView::addSection(QVBoxLayout* column, const QString& title, const QString& text,
-                                QWidget* content) {
-  auto* section = new QWidget;
-  auto* parts = new QVBoxLayout(section);
-  parts->setContentsMargins(0, 0, 0, 0);
-  parts->setSpacing(6);
-  auto* heading = new QLabel(title);
-  heading->setFont(fontFor(FontRole::BoldSystem, systemFontSize));
-  parts->addWidget(heading);
-  parts->addWidget(wrappedLabel(text));
-  parts->addWidget(content);
-  column->addWidget(section);
-  return section;
-}
-
-void TryOutView::setAccounts(const QList<SandboxAccount>& accounts) {
+void TryOutView::setAccounts(const QList<SandboxDescription::Account>& accounts) {
   QList<QStringList> rows;
-  for (const SandboxAccount& account : accounts) {
+  for (const SandboxDescription::Account& account : accounts) {
     rows.append({account.email, account.username, account.password, account.meaning});
   }
-  m_accounts->setRows(rows);
-  showWhatIsThere();
+  setListRows(m_accounts, rows);
+  m_accounts->setCurrentCell(0, 0);
+  showIntroduction();
 }
 
-void TryOutView::setSites(const QList<SandboxSite>& sites) {
+void TryOutView::setSites(const QList<SandboxDescription::Site>& sites) {
   QList<QStringList> rows;
-  for (const SandboxSite& site : sites) rows.append({site.site, site.meaning});
-  m_sites->setRows(rows);
-  m_sites->addButtons(QStringLiteral("Use this site"), QStringLiteral("Use %1"));
-  showWhatIsThere();
+  for (const SandboxDescription::Site& site : sites) rows.append({site.site, site.meaning});
+  setListRows(m_sites, rows);
+  m_sites->setCurrentCell(0, 0);
+  showIntroduction();
 }
 
-void TryOutView::showWhatIsThere() {
-  const bool hasAccounts = m_accounts->rowCount() > 0;
-  const bool hasSites = m_sites->rowCount() > 0;
-  m_nothing->setVisible(!hasAccounts && !hasSites);
-  for (QWidget* const section : m_accountSections) section->setVisible(hasAccounts);
-  m_siteSection->setVisible(hasSites);
+void TryOutView::showIntroduction() {
+  const bool isEmpty = m_accounts->rowCount() == 0 && m_sites->rowCount() == 0;
+  m_introduction->setText(
+      isEmpty
+          ? QStringLiteral("The sandbox is not running. While it runs, this page lists accounts and sites "
+                           "to try.")
+          : QStringLiteral("All of these are played by a sandbox on this computer. Copy an address, open "
+                           "Preferences, choose Microsoft Outlook in Meetings, paste it and press Return."));
 }
 
-void TryOutView::showCurrentCell(const CopyTable* table) {
-  const QTableWidgetItem* const item = table->currentItem();
-  if (item == nullptr) return;
-  const QPoint center = table->viewport()->mapTo(m_scroll->widget(), table->visualItemRect(item).center());
-  m_scroll->ensureVisible(0, center.y());
+void TryOutView::copySelected() {
+  const QTableWidgetItem* item = m_accounts->currentItem();
+  if (!item || item->text().isEmpty()) return;
+  QGuiApplication::clipboard()->setText(item->text());
+  Q_EMIT copied(item->text());
+}
+
+void TryOutView::useSelectedSite() {
+  const int row = m_sites->currentRow();
+  if (row >= 0) Q_EMIT siteChosen(m_sites->item(row, 0)->text());
 }

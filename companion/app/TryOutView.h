@@ -3,40 +3,34 @@
 #include <QList>
 #include <QWidget>
 
-#include "companion/app/SandboxSites.h"
-#include "companion/exchange/SandboxExchange.h"
+#include "companion/exchange/SandboxDescription.h"
 
-class CopiedNote;
-class CopyTable;
 class QLabel;
-class QScrollArea;
+class QTableWidget;
 class QVBoxLayout;
 
-// What the sandbox offers to try: a walk-through, its accounts and its sites. With neither it says why it is
-// empty. Main thread only.
+// What the sandbox offers to try: its accounts and its sites, with what each shows. Main thread only.
 class TryOutView final : public QWidget {
   Q_OBJECT
 
  public:
   TryOutView();
 
-  void setAccounts(const QList<SandboxAccount>& accounts);
-  void setSites(const QList<SandboxSite>& sites);
+  // Empty lists while there is no sandbox.
+  void setAccounts(const QList<SandboxDescription::Account>& accounts);
+  void setSites(const QList<SandboxDescription::Site>& sites);
 
  Q_SIGNALS:
+  void copied(const QString& text);
   void siteChosen(const QString& site);
 
  private:
-  QWidget* createContents();
-  QWidget* addSection(QVBoxLayout* column, const QString& title, const QString& text, QWidget* content);
-  void showCurrentCell(const CopyTable* table);
-  void showWhatIsThere();
+  QWidget* createBar(const QString& text, QWidget* button);
+  void copySelected();
+  void useSelectedSite();
+  void showIntroduction();
 
-  QScrollArea* m_scroll;
-  CopyTable* m_accounts;
-  CopyTable* m_sites;
-  CopiedNote* m_note;
-  QLabel* m_nothing = nullptr;
-  QList<QWidget*> m_accountSections;
-  QWidget* m_siteSection = nullptr;
+  QLabel* m_introduction;
+  QTableWidget* m_accounts;
+  QTableWidget* m_sites;
 };

@@ -1,8 +1,12 @@
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QLocale>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QThread>
+#include <chrono>
 #include <cstdio>
+#include <optional>
 
 #include "companion/app/Appearance.h"
 #include "companion/app/Companion.h"
@@ -17,6 +21,8 @@ namespace {
 constexpr int kAlreadyRunning = 1;
 constexpr int kUnusable = 2;
 constexpr int kPluginFailed = 3;
+constexpr std::chrono::milliseconds kAnswerPatience = std::chrono::seconds(5);
+constexpr std::chrono::milliseconds kBetweenAttempts(20);
 
 void complain(const QString& text) {
   std::fprintf(stderr, "companion: %s\n", qPrintable(text));
@@ -51,12 +57,23 @@ int playDemo(CompanionWindow* window, const CompanionOptions& options) {
   return 1;
 }
 
-// The exit status for one that is not the first.
-int leaveToTheFirst(SingleInstance::Claim claim) {
-  if (claim == SingleInstance::Claim::Asked) {
-    std::printf("Brenn Mivra Meetings is running already; it shows its Preferences.\n");
-    return 0;
-  }
+// Opens the state folder. When another companion has it, that one comes to the front, and this one's exit
+// status is returned.
+std::optional<int> openOrAskFirst(SingleInstance* instance, const QString& folder) {
+  const QDeadlineTimer deadline(kAnswerPatience);
+  do {
+    // Before the lock: a companion whose folder was removed and made again, or cannot be locked, answers too.
+    if (instance->askFirst(std::chrono::milliseconds(deadline.remainingTime()))) {
+      std::printf("Brenn Mivra Meetings is running already; it shows its Preferences.\n");
+      return 0;
+    }
+    if (KZPlistFileHandle::sharedInstance().open(folder)) {
+      instance->listen();
+      return std::nullopt;
+    }
+    // The first one is only starting, or about to end.
+    QThread::msleep(kBetweenAttempts.count());
+  } while (!deadline.hasExpired());
   complain(
       QStringLiteral("Brenn Mivra Meetings is running already, but it does not answer. End it, or name "
                      "another folder with --state."));
@@ -72,7 +89,6 @@ void sayWhenShown(const char* line) {
 }
 
 int runFirst(const CompanionOptions& options, const SingleInstance& instance) {
-  KZPlistFileHandle::sharedInstance().open(stateFolderOf(options));
   KZKeyChainHandle::sharedInstance().useStorage(options.isDemo ? KZKeyChainHandle::Storage::Memory
                                                                : KZKeyChainHandle::Storage::System);
   Companion companion(options);
@@ -97,10 +113,10 @@ int runFirst(const CompanionOptions& options, const SingleInstance& instance) {
 int runCompanion(CompanionOptions options) {
   const QTemporaryDir demoState;
   if (options.isDemo && options.stateFolder.isEmpty()) options.stateFolder = demoState.path();
-  SingleInstance instance(stateFolderOf(options));
-  const SingleInstance::Claim claim = instance.claim();
-  if (claim != SingleInstance::Claim::First) return leaveToTheFirst(claim);
-  return runFirst(options, instance);
+  const QString folder = stateFolderOf(options);
+  SingleInstance instance(folder);
+  const std::optional<int> status = openOrAskFirst(&instance, folder);
+  return status ? *status : runFirst(options, instance);
 }
 
 }  // namespace

@@ -2,25 +2,26 @@
 
 #include <utility>
 
-#include "companion/exchange/HttpFailure.h"
+#include "companion/network/WebAddress.h"
 #include "host/KZUtility/KZTrace.h"
 
 namespace {
 
-using Outcome = AutodiscoverOutcome;
-
-bool isRedirect(const HttpAnswer& answer) {
-  const bool isMoved = answer.status == 301 || answer.status == 302 || answer.status == 303 ||
-                       answer.status == 307 || answer.status == 308;
-  return isMoved && answer.location.isValid();
-}
-
-// A query may hold something that opens a door.
+// A query may hold a secret.
 QString traceable(const QUrl& address) {
   return address.toString(QUrl::RemoveUserInfo | QUrl::RemoveQuery | QUrl::RemoveFragment);
 }
 
 }  // namespace
+
+void AutodiscoverAttempt::start(Mode mode, const QUrl& address, Done done) {
+  m_done = std::move(done);
+  m_address = address;
+  if (mode == Mode::Unauthorized) return visit(address);
+  if (mode == Mode::Authorized) return isUsable(address) ? authorizedPost(address) : void();
+  m_visited.insert(address);
+  call({.address = address}, [this](const HttpResponse& response) { readProbe(response); });
+}
 
 void AutodiscoverAttempt::stop() {
   m_done = {};
@@ -28,63 +29,50 @@ void AutodiscoverAttempt::stop() {
   m_context.consent.forget(this);
 }
 
-void AutodiscoverAttempt::askAuthorized(const QUrl& address) {
-  m_address = address;
-  if (isFit(address)) authorizedPost(address);
-}
-
-void AutodiscoverAttempt::probe(const QUrl& address) {
-  m_address = address;
-  m_visited.insert(address);
+void AutodiscoverAttempt::call(const HttpRequest& request, HttpCall::Done done) {
   m_call = std::make_unique<HttpCall>(m_context.network, m_context.configuration.network);
-  m_call->start({.address = address}, [this](const HttpAnswer& answer) { readProbe(answer); });
+  m_call->start(request, std::move(done));
 }
 
-void AutodiscoverAttempt::readProbe(const HttpAnswer& answer) {
-  // That nothing is there tells nothing: most servers are not found this way.
-  if (answer.trouble != HttpAnswer::Trouble::None || !isRedirect(answer)) return fail(Kind::HostUnknown);
-  if (!isFit(answer.location)) return;
-  m_context.consent.ask(answer.location, RedirectConsent::Question::Always, this,
-                        [this, address = answer.location](bool isAllowed) {
-                          if (isAllowed) return visit(address);
-                          m_address = address;
-                          fail(Kind::Declined);
-                        });
+void AutodiscoverAttempt::readProbe(const HttpResponse& response) {
+  // No failure of its own counts: most servers are not found this way.
+  if (response.redirect.isEmpty()) return fail(FailureKind::HostUnknown);
+  if (!isUsable(response.redirect)) return;
+  ifAllowed(response.redirect, Question::Always, [this, target = response.redirect] { visit(target); });
 }
 
-bool AutodiscoverAttempt::isFit(const QUrl& address) {
-  const bool isSecure = address.isValid() && address.scheme() == QLatin1String("https") &&
-                        !address.host().isEmpty() && address.userInfo().isEmpty();
-  if (!isSecure) {
-    fail(Kind::Unencrypted);
+bool AutodiscoverAttempt::isUsable(const QUrl& address) {
+  if (!isSafeStep(m_address, address)) {
+    fail(FailureKind::Unsafe);
     return false;
   }
   if (m_visited.contains(address) || m_visited.size() > m_context.configuration.limits.hops) {
-    fail(Kind::TooManyRedirects);
+    fail(FailureKind::TooManyRedirects);
     return false;
   }
   return true;
 }
 
+void AutodiscoverAttempt::ifAllowed(const QUrl& target, Question question,
+                                    const std::function<void()>& next) {
+  m_context.consent.ask(target, question, this, [this, target, next](bool isAllowed) {
+    m_address = target;
+    isAllowed ? next() : fail(FailureKind::Declined);
+  });
+}
+
 void AutodiscoverAttempt::visit(const QUrl& address) {
-  if (m_visited.isEmpty()) m_address = address;
-  if (!isFit(address)) return;
+  if (!isUsable(address)) return;
   if (!m_context.isOnline) {
-    const auto online = onlineServiceOf(m_context.configuration.onlineServices, address.host());
-    if (online) return finish({.kind = Outcome::Kind::Online, .online = online});
+    if (const auto online = m_context.configuration.onlineServiceOf(address.host())) return finish(*online);
   }
-  m_context.consent.ask(address, RedirectConsent::Question::UnlessTrusted, this,
-                        [this, address](bool isAllowed) {
-                          m_address = address;
-                          if (!isAllowed) return fail(Kind::Declined);
-                          post(address, {});
-                        });
+  ifAllowed(address, Question::UnlessTrusted, [this, address] { post(address, {}); });
 }
 
 void AutodiscoverAttempt::authorizedPost(const QUrl& address) {
-  if (!m_context.consent.isTrusted(address.host())) return fail(Kind::Declined);
+  if (!m_context.consent.isTrusted(address.host())) return fail(FailureKind::Declined);
   const Authorization authorization = m_context.authorize();
-  // The challenge runs through others' code, which may have ended all this.
+  // The challenge runs through the plug-in's code, which may have stopped this attempt.
   if (!m_done) return;
   if (authorization.header.isEmpty()) return fail(authorization.missing);
   post(address, authorization.header);
@@ -95,67 +83,63 @@ void AutodiscoverAttempt::post(const QUrl& address, const QByteArray& authorizat
                          !authorization.isEmpty());
   m_address = address;
   m_visited.insert(address);
-  m_call = std::make_unique<HttpCall>(m_context.network, m_context.configuration.network);
-  m_call->start({.address = address, .body = autodiscoverRequest(m_email), .authorization = authorization},
-                [this, isAuthorized = !authorization.isEmpty()](const HttpAnswer& answer) {
-                  read(answer, isAuthorized);
-                });
+  call({.address = address, .body = autodiscoverRequest(m_email), .authorization = authorization},
+       [this, isAuthorized = !authorization.isEmpty()](const HttpResponse& response) {
+         read(response, isAuthorized);
+       });
 }
 
-void AutodiscoverAttempt::read(const HttpAnswer& answer, bool isAuthorized) {
-  if (answer.trouble != HttpAnswer::Trouble::None) return fail(failureOf(answer));
-  if (answer.status == 401) return readChallenge(answer, isAuthorized);
-  if (isRedirect(answer)) return visit(answer.location);
-  if (answer.status != 200) return fail(failureOf(answer));
-  readBody(answer.body);
+void AutodiscoverAttempt::read(const HttpResponse& response, bool isAuthorized) {
+  if (response.failure.kind == FailureKind::NotFound) return fail(FailureKind::NoExchange);
+  if (response.failure) return finish(response.failure);
+  if (response.isChallenge) return readChallenge(response, isAuthorized);
+  if (!response.redirect.isEmpty()) return visit(response.redirect);
+  readBody(response.body);
 }
 
-void AutodiscoverAttempt::readChallenge(const HttpAnswer& answer, bool isAuthorized) {
-  if (isAuthorized) return finish({.kind = Outcome::Kind::Refused});
+void AutodiscoverAttempt::readChallenge(const HttpResponse& response, bool isAuthorized) {
+  if (isAuthorized)
+    return fail(m_context.isOnline ? FailureKind::TokenRefused : FailureKind::CredentialRefused);
   const QByteArray supported = m_context.isOnline ? "bearer" : "basic";
-  if (!offeredSchemes(answer.challenge).contains(supported)) return fail(Kind::UnsupportedSignIn);
-  if (!m_context.authorize) return finish({.kind = Outcome::Kind::Challenge});
+  if (!response.challengeSchemes.contains(supported)) return fail(FailureKind::UnsupportedSignIn);
+  if (!m_context.authorize) return finish(CredentialNeeded());
   authorizedPost(m_address);
 }
 
 void AutodiscoverAttempt::readBody(const QByteArray& body) {
-  const AutodiscoverAnswer answer = readAutodiscoverAnswer(body);
-  switch (answer.kind) {
-    case AutodiscoverAnswer::Kind::Unreadable:
-      return fail(Kind::BadAnswer);
-    case AutodiscoverAnswer::Kind::Error:
-      return answer.errorText.isEmpty() ? fail(Kind::NotFound) : fail(Kind::ServerSays, answer.errorText);
-    case AutodiscoverAnswer::Kind::OtherEmail:
-      return finish({.kind = Outcome::Kind::OtherEmail, .otherEmail = answer.otherEmail});
-    case AutodiscoverAnswer::Kind::OtherUrl:
-      return visit(answer.otherUrl);
-    case AutodiscoverAnswer::Kind::Services:
-      return acceptServices(answer.services);
+  const AutodiscoverResponse response = readAutodiscoverResponse(body);
+  switch (response.kind) {
+    case AutodiscoverResponse::Kind::Unreadable:
+      return fail(FailureKind::BadResponse);
+    case AutodiscoverResponse::Kind::Error:
+      return response.errorText.isEmpty() ? fail(FailureKind::NoExchange)
+                                          : fail(FailureKind::ServerMessage, response.errorText);
+    case AutodiscoverResponse::Kind::OtherEmail:
+      return finish(OtherEmail{response.otherEmail});
+    case AutodiscoverResponse::Kind::OtherUrl:
+      return visit(response.otherUrl);
+    case AutodiscoverResponse::Kind::Services:
+      return acceptServices(response.services);
   }
 }
 
 void AutodiscoverAttempt::acceptServices(const ExchangeServices& services) {
-  // Meetings are asked for here, later and with the saved credential.
+  // Meetings are requested from this address later, with the saved credential.
   const QUrl used = services.externalUrl.isEmpty() ? services.internalUrl : services.externalUrl;
-  if (used.isEmpty()) return fail(Kind::BadAnswer);
-  const auto online = onlineServiceOf(m_context.configuration.onlineServices, used.host());
-  if (online && !m_context.isOnline) return finish({.kind = Outcome::Kind::Online, .online = online});
-  m_context.consent.ask(used, RedirectConsent::Question::UnlessTrusted, this,
-                        [this, services, used](bool isAllowed) {
-                          if (isAllowed)
-                            return finish({.kind = Outcome::Kind::Services, .services = services});
-                          m_address = used;
-                          fail(Kind::Declined);
-                        });
+  if (used.isEmpty()) return fail(FailureKind::BadResponse);
+  if (!isSafeStep(m_address, used)) return fail(FailureKind::Unsafe);
+  if (!m_context.isOnline) {
+    if (const auto online = m_context.configuration.onlineServiceOf(used.host())) return finish(*online);
+  }
+  ifAllowed(used, Question::UnlessTrusted, [this, services] { finish(services); });
 }
 
-void AutodiscoverAttempt::fail(Kind kind, const QString& serverText) {
-  finish({.failure = {.kind = kind, .host = m_address.host(), .serverText = serverText}});
+void AutodiscoverAttempt::fail(FailureKind kind, const QString& detail) {
+  finish(NetworkFailure{.kind = kind, .host = m_address.host(), .detail = detail});
 }
 
-void AutodiscoverAttempt::finish(AutodiscoverOutcome outcome) {
-  outcome.address = m_address;
+void AutodiscoverAttempt::finish(const AutodiscoverOutcome& outcome) {
   const Done done = std::exchange(m_done, {});
   m_call.reset();
-  if (done) done(outcome);
+  if (done) done(m_address, outcome);
 }

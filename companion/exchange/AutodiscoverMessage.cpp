@@ -1,73 +1,64 @@
 #include "companion/exchange/AutodiscoverMessage.h"
 
 #include <QXmlStreamWriter>
+#include <utility>
 
 #include "companion/exchange/BoundedXml.h"
+#include "companion/network/WebAddress.h"
 
 namespace {
 
 constexpr int kLongestErrorText = 200;
 
-QUrl secureUrl(const QString& text) {
-  const QUrl url(text, QUrl::StrictMode);
-  const bool isSecure =
-      url.scheme() == QLatin1String("https") && !url.host().isEmpty() && url.userInfo().isEmpty();
-  return isSecure ? url : QUrl();
-}
-
-class AnswerReader final {
+// Collects what the elements of a response say.
+class ResponseReader final {
  public:
-  void start(const QStringList& path) {
-    if (endsWithNames(path, {u"Account", u"Protocol"})) m_type = m_webService = QString();
-  }
-
-  void end(const QStringList& path, const QString& text) {
-    if (endsWithNames(path, {u"Account", u"Protocol"})) return addProtocol();
-    if (endsWithNames(path, {u"Account", u"Protocol", u"Type"})) m_type = text;
-    if (endsWithNames(path, {u"Account", u"Protocol", u"EwsUrl"})) m_webService = text;
-    if (endsWithNames(path, {u"Account", u"Action"})) m_action = text;
-    if (endsWithNames(path, {u"Account", u"RedirectAddr"}) ||
-        endsWithNames(path, {u"Account", u"redirectAddr"})) {
-      m_answer.otherEmail = text;
+  void read(const QString& path, const QString& text) {
+    if (path.endsWith(QLatin1String("/Account/Protocol"))) addProtocol();
+    if (path.endsWith(QLatin1String("/Account/Protocol/Type"))) m_type = text;
+    if (path.endsWith(QLatin1String("/Account/Protocol/EwsUrl"))) m_webService = text;
+    if (path.endsWith(QLatin1String("/Account/Action"))) m_action = text.toLower();
+    // The protocol's documents write these both with a capital and a small letter.
+    if (path.endsWith(QLatin1String("/Account/redirectAddr"), Qt::CaseInsensitive))
+      m_response.otherEmail = text;
+    if (path.endsWith(QLatin1String("/Account/redirectUrl"), Qt::CaseInsensitive)) {
+      m_response.otherUrl = QUrl(text, QUrl::StrictMode);
     }
-    if (endsWithNames(path, {u"Account", u"RedirectUrl"}) ||
-        endsWithNames(path, {u"Account", u"redirectUrl"})) {
-      m_answer.otherUrl = QUrl(text, QUrl::StrictMode);
-    }
-    if (endsWithNames(path, {u"Response", u"Error"})) m_hasError = true;
-    if (endsWithNames(path, {u"Error", u"Message"})) {
-      m_answer.errorText = text.simplified().left(kLongestErrorText);
+    if (path.endsWith(QLatin1String("/Response/Error"))) m_hasError = true;
+    if (path.endsWith(QLatin1String("/Error/Message"))) {
+      m_response.errorText = text.simplified().left(kLongestErrorText);
     }
   }
 
-  AutodiscoverAnswer answer() {
-    m_answer.kind = kind();
-    return m_answer;
+  AutodiscoverResponse response() {
+    m_response.kind = kind();
+    return m_response;
   }
 
  private:
-  using Kind = AutodiscoverAnswer::Kind;
+  using Kind = AutodiscoverResponse::Kind;
 
   void addProtocol() {
-    const QUrl url = secureUrl(m_webService);
-    if (m_type == QLatin1String("EXCH")) m_answer.services.internalUrl = url;
-    if (m_type == QLatin1String("EXPR")) m_answer.services.externalUrl = url;
-    // Says the same in the newer form; the older one goes first where both are there.
-    if (m_type == QLatin1String("EXHTTP") && m_answer.services.externalUrl.isEmpty()) {
-      m_answer.services.externalUrl = url;
+    const QUrl found(std::exchange(m_webService, {}), QUrl::StrictMode);
+    const QUrl address = isSafeAddress(found) ? found : QUrl();
+    const QString type = std::exchange(m_type, {});
+    if (type == QLatin1String("EXCH")) m_response.services.internalUrl = address;
+    if (type == QLatin1String("EXPR")) m_response.services.externalUrl = address;
+    // The newer form of EXPR, which goes first where both are there.
+    if (type == QLatin1String("EXHTTP") && m_response.services.externalUrl.isEmpty()) {
+      m_response.services.externalUrl = address;
     }
   }
 
   Kind kind() const {
     if (m_hasError) return Kind::Error;
-    const bool isElsewhere = m_action.compare(QLatin1String("redirectAddr"), Qt::CaseInsensitive) == 0;
-    if (isElsewhere) return m_answer.otherEmail.isEmpty() ? Kind::Unreadable : Kind::OtherEmail;
-    const bool isAtOtherUrl = m_action.compare(QLatin1String("redirectUrl"), Qt::CaseInsensitive) == 0;
-    if (isAtOtherUrl) return m_answer.otherUrl.isValid() ? Kind::OtherUrl : Kind::Unreadable;
+    if (m_action == QLatin1String("redirectaddr") && !m_response.otherEmail.isEmpty())
+      return Kind::OtherEmail;
+    if (m_action == QLatin1String("redirecturl") && m_response.otherUrl.isValid()) return Kind::OtherUrl;
     return m_action == QLatin1String("settings") ? Kind::Services : Kind::Unreadable;
   }
 
-  AutodiscoverAnswer m_answer;
+  AutodiscoverResponse m_response;
   QString m_action;
   QString m_type;  // of the protocol that is being read
   QString m_webService;
@@ -92,10 +83,9 @@ QByteArray autodiscoverRequest(const QString& email) {
   return xml;
 }
 
-AutodiscoverAnswer readAutodiscoverAnswer(const QByteArray& xml) {
-  AnswerReader reader;
-  const bool isRead = walkBoundedXml(
-      xml, [&reader](const QStringList& path) { reader.start(path); },
-      [&reader](const QStringList& path, const QString& text) { reader.end(path, text); });
-  return isRead ? reader.answer() : AutodiscoverAnswer();
+AutodiscoverResponse readAutodiscoverResponse(const QByteArray& xml) {
+  ResponseReader reader;
+  const bool isRead =
+      walkBoundedXml(xml, [&reader](const QString& path, const QString& text) { reader.read(path, text); });
+  return isRead ? reader.response() : AutodiscoverResponse();
 }

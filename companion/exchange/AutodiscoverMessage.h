@@ -4,23 +4,24 @@
 #include <QString>
 #include <QUrl>
 
-// What a discovered Exchange says of itself.
+// Where the web service of a discovered Exchange is.
 struct ExchangeServices {
-  QUrl externalUrl;  // empty where it says none
+  QUrl externalUrl;  // empty where the server gives none
   QUrl internalUrl;
 };
 
-struct AutodiscoverAnswer {
+struct AutodiscoverResponse {
   enum class Kind { Unreadable, Services, OtherEmail, OtherUrl, Error };
 
   Kind kind = Kind::Unreadable;
   ExchangeServices services;
   QString otherEmail;
-  QUrl otherUrl;
+  QUrl otherUrl;      // not checked
   QString errorText;  // the server's own, one line, at most 200 characters
 };
 
 QByteArray autodiscoverRequest(const QString& email);
 
-// Anything that is not an answer of the protocol is Unreadable. Only https addresses are taken over.
-AutodiscoverAnswer readAutodiscoverAnswer(const QByteArray& xml);
+// Anything that is not a response of the protocol is Unreadable. Of the services only safe addresses are
+// taken over.
+AutodiscoverResponse readAutodiscoverResponse(const QByteArray& xml);

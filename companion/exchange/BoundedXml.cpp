@@ -1,17 +1,16 @@
 #include "companion/exchange/BoundedXml.h"
 
 #include <QXmlStreamReader>
-#include <algorithm>
 
 namespace {
 
-constexpr qsizetype kDeepestLevel = 64;
+constexpr int kDeepestLevel = 64;
 
 }  // namespace
 
-bool walkBoundedXml(const QByteArray& xml, const XmlElementStart& start, const XmlElementEnd& end) {
+bool walkBoundedXml(const QByteArray& xml, const XmlElementEnd& end) {
   QXmlStreamReader reader(xml);
-  QStringList path;
+  QString path;
   QString text;
   while (!reader.atEnd()) {
     switch (reader.readNext()) {
@@ -19,17 +18,17 @@ bool walkBoundedXml(const QByteArray& xml, const XmlElementStart& start, const X
       case QXmlStreamReader::EntityReference:
         return false;
       case QXmlStreamReader::StartElement:
-        if (path.size() >= kDeepestLevel) return false;
-        path.append(reader.name().toString());
+        if (path.count(QLatin1Char('/')) >= kDeepestLevel) return false;
+        path += QLatin1Char('/');
+        path += reader.name();
         text.clear();
-        start(path);
         break;
       case QXmlStreamReader::Characters:
         text += reader.text();
         break;
       case QXmlStreamReader::EndElement:
         end(path, text.trimmed());
-        path.removeLast();
+        path.truncate(path.lastIndexOf(QLatin1Char('/')));
         text.clear();
         break;
       default:
@@ -37,10 +36,4 @@ bool walkBoundedXml(const QByteArray& xml, const XmlElementStart& start, const X
     }
   }
   return !reader.hasError();
-}
-
-bool endsWithNames(const QStringList& path, std::initializer_list<QStringView> names) {
-  const auto size = static_cast<qsizetype>(names.size());
-  if (path.size() < size) return false;
-  return std::equal(names.begin(), names.end(), path.end() - size);
 }

@@ -31,7 +31,7 @@ void reportRefusedCredential(CredentialPurpose purpose) {
 }
 
 QByteArray basicAuthorization(const OfferedCredential& credential) {
-  // The first colon ends the user name, so that a name which holds one cannot be told from its password.
+  // The first colon ends the user name, so a name with a colon would lose its end to the password.
   if (credential.username.contains(QLatin1Char(':'))) return {};
   return "Basic " + (credential.username + QLatin1Char(':') + credential.password).toUtf8().toBase64();
 }

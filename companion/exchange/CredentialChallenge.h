@@ -3,7 +3,8 @@
 #include <QByteArray>
 #include <QString>
 
-// The challenge that goes through the process when an Exchange server asks who is there.
+// What the credential is for that an Exchange server asks for. The challenge goes through the process's
+// notification centre; the plug-in answers it.
 enum class CredentialPurpose { Discovery = 1, MeetingListing = 2 };
 
 struct OfferedCredential {
@@ -13,12 +14,12 @@ struct OfferedCredential {
   bool isEmpty() const { return username.isEmpty() || password.isEmpty(); }
 };
 
-// Posts the challenge and returns what was answered before the post came back; empty when nobody answered.
+// Posts the challenge and returns the answer, which comes before the post returns; empty without an answer.
 // Main thread only.
 OfferedCredential askForCredential(CredentialPurpose purpose);
 
-// Says that what was offered last was refused. Whatever is answered is not used.
+// Reports that the credential that was offered last was refused. The answer is not used.
 void reportRefusedCredential(CredentialPurpose purpose);
 
-// For the Authorization header; empty where the user name cannot be sent in it.
+// The Authorization header; empty where the user name cannot be sent in it.
 QByteArray basicAuthorization(const OfferedCredential& credential);

@@ -5,7 +5,6 @@
 #include <QObject>
 #include <QSet>
 #include <QTimer>
-#include <functional>
 
 #include "companion/exchange/AutodiscoverAttempt.h"
 
@@ -15,8 +14,8 @@ struct DiscoveredExchange {
   bool isOnline = false;
 };
 
-// One discovery, from an email to its services. Says each thing at most once but for noticed; stopped or
-// deleted it says nothing more.
+// One discovery, from an email to its services. Emits each signal at most once, except progressed; none after
+// it is stopped or deleted.
 class DiscoveryRun final : public QObject {
   Q_OBJECT
 
@@ -25,8 +24,9 @@ class DiscoveryRun final : public QObject {
   ~DiscoveryRun() override { stop(); }
 
   void start();
-  // The credential is now to be had by a challenge.
+  // After credentialNeeded: it is now the answer to a challenge.
   void goOnWithCredential();
+  // After tokenNeeded.
   void goOnWithToken(const QString& username, const QString& token);
   bool isAwaitingCredential() const { return m_state == State::AwaitingCredential; }
   bool isAwaitingToken() const { return m_state == State::AwaitingToken; }
@@ -36,19 +36,16 @@ class DiscoveryRun final : public QObject {
   void credentialNeeded();
   void tokenNeeded(const OnlineService& service, const QString& email);
   void found(const DiscoveredExchange& exchange);
-  void refused(const QString& message);  // the password
-  void failed(const QString& message);
-  void noticed(const QString& text);  // how it goes on, for the user
+  void failed(const NetworkFailure& failure);
+  void progressed(const QString& text);  // a sentence for the user
 
  private:
-  enum class State { Probing, AwaitingCredential, Authorizing, AwaitingToken, ResolvingOnline, Over };
+  enum class State { Searching, AwaitingCredential, AwaitingToken, Over };
 
+  // An address, or where it is empty the look-up of the domain's service records.
   struct Candidate {
-    enum class Kind { Ask, AskAuthorized, Probe, LookUp };
-
-    Kind kind = Kind::Ask;
+    AutodiscoverAttempt::Mode mode = AutodiscoverAttempt::Mode::Unauthorized;
     QUrl address = {};
-    QString serviceName = {};
   };
 
   struct Running {
@@ -56,29 +53,27 @@ class DiscoveryRun final : public QObject {
     Candidate candidate;
   };
 
-  static Candidate lookUpOf(const QString& domain);
   void startRace();
   void startNext();
-  void startCandidate(const Candidate& candidate);
-  void lookUpServices(const QString& name);
-  void onServices(const QList<ServiceRecord>& records);
-  void onOutcome(const AutodiscoverAttempt* attempt, const AutodiscoverOutcome& outcome);
-  void onFailure(const DiscoveryFailure& failure);
-  void onChallenge(const QUrl& address);
-  void onOtherEmail(const QUrl& address, const QString& email);
-  void onOnline(const OnlineService& service);
-  void onServicesFound(const ExchangeServices& services);
-  void onRefused(const QUrl& address);
+  void startAttempt(const Candidate& candidate);
+  void lookUpServices();
+  void onServiceRecords(const QList<ServiceRecord>& records);
+  void onOutcome(const AutodiscoverAttempt* attempt, const QUrl& address, const AutodiscoverOutcome& outcome);
+  void handle(const NetworkFailure& failure, const QUrl& address);
+  void handle(const ExchangeServices& services, const QUrl& address);
+  void handle(const CredentialNeeded& needed, const QUrl& address);
+  void handle(const OtherEmail& other, const QUrl& address);
+  void handle(const OnlineService& service, const QUrl& address);
   void moveTo(const QString& email, const QString& domain);
   Authorization basicCredential();
-  void fail(const DiscoveryFailure& failure);
+  void fail(const NetworkFailure& failure);
   void stopAttempts();
 
   const ExchangeConfiguration m_configuration;
   QNetworkAccessManager m_network;
   RedirectConsent m_consent;
   DiscoveryContext m_context;
-  State m_state = State::Probing;
+  State m_state = State::Searching;
   QString m_email;
   QString m_domain;
   QString m_username;
@@ -88,5 +83,5 @@ class DiscoveryRun final : public QObject {
   QList<Running> m_running;
   QObject* m_lookup = nullptr;  // lives while service records are awaited
   QTimer m_stagger;
-  DiscoveryFailure m_worst;
+  NetworkFailure m_worst;  // of the failures so far, what is reported if nothing is found
 };

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QList>
-#include <QObject>
 #include <QString>
 #include <QStringList>
 #include <QUrl>
@@ -9,30 +8,18 @@
 #include <functional>
 #include <optional>
 
+#include "companion/exchange/ServiceRecords.h"
 #include "companion/network/NetworkConfiguration.h"
 
 // Where one online service answers and where its users sign in.
 struct OnlineService {
   QStringList hostSuffixes;  // a host is the service's when it is one of these or lies below one
-  QUrl autodiscover;         // asked with a token
+  QUrl autodiscover;         // requested with a token
   QString authority;
   QString resource;
   QString clientId;
   QString redirectUri;
 };
-
-// A service record of the domain name system.
-struct ServiceRecord {
-  QString target;
-  quint16 port = 0;
-  quint16 priority = 0;
-  quint16 weight = 0;
-};
-
-using ServicesFound = std::function<void(const QList<ServiceRecord>&)>;
-// Calls back at most once, with nothing where there is none or the lookup failed, and never after `asker` is
-// gone.
-using ServiceLookup = std::function<void(const QString& name, QObject* asker, ServicesFound found)>;
 
 // How the user is asked whether an address outside the mail domain may be used. One question at a time; the
 // answer may come at any later moment, or never.
@@ -49,12 +36,16 @@ struct ExchangeLimits {
 };
 
 struct ExchangeConfiguration {
-  NetworkConfiguration network;
-  ExchangeLimits limits;
-  QList<OnlineService> onlineServices;
-  ServiceLookup services;
-  RedirectPrompt prompt;
+  NetworkConfiguration network = {};
+  ExchangeLimits limits = {};
+  QList<OnlineService> onlineServices = {};
+  ServiceLookup services = {};
+  RedirectPrompt prompt = {};
+
+  // The service that owns the host; nothing for any other host.
+  std::optional<OnlineService> onlineServiceOf(const QString& host) const;
 };
 
-// The service that owns the host; nothing for any other host.
-std::optional<OnlineService> onlineServiceOf(const QList<OnlineService>& services, const QString& host);
+// The internet: its name servers, the system's certificates, and the public online services. The two texts
+// are the registration of the application that signs in.
+ExchangeConfiguration productionExchange(const QString& clientId, const QString& redirectUri);

@@ -17,24 +17,23 @@ ExchangeDiscovery::~ExchangeDiscovery() {
 }
 
 void ExchangeDiscovery::start(const Dictionary& content) {
-  end();
+  dropRun();
   m_email = textValue(content, QRT_ExchangeDiscover_Email).trimmed();
   m_run = new DiscoveryRun(m_configuration, m_email);
   m_run->setParent(this);
   connect(m_run, &DiscoveryRun::credentialNeeded, this, &ExchangeDiscovery::askForPassword);
   connect(m_run, &DiscoveryRun::tokenNeeded, this, &ExchangeDiscovery::askForSignIn);
   connect(m_run, &DiscoveryRun::found, this, &ExchangeDiscovery::reportFound);
-  connect(m_run, &DiscoveryRun::refused, this, &ExchangeDiscovery::reportRefusal);
-  connect(m_run, &DiscoveryRun::failed, this, &ExchangeDiscovery::reportFailure);
-  connect(m_run, &DiscoveryRun::noticed, this, &ExchangeDiscovery::noticed);
-  // Whoever sends the command is not to be answered before it has returned.
+  connect(m_run, &DiscoveryRun::failed, this, &ExchangeDiscovery::fail);
+  connect(m_run, &DiscoveryRun::progressed, this, &ExchangeDiscovery::message);
+  // The command returns before its answer comes.
   QMetaObject::invokeMethod(m_run, &DiscoveryRun::start, Qt::QueuedConnection);
 }
 
 void ExchangeDiscovery::cancel() {
   if (m_run == nullptr) return;
-  Q_EMIT noticed(QStringLiteral("The search for an Exchange service was given up"));
-  end();
+  dropRun();
+  Q_EMIT message(QStringLiteral("The search for an Exchange service was given up."));
 }
 
 void ExchangeDiscovery::sinkCredential(const Dictionary& content) {
@@ -45,12 +44,12 @@ void ExchangeDiscovery::sinkCredential(const Dictionary& content) {
     return m_run->goOnWithToken(textValue(content, QRT_CredentialUsername),
                                 textValue(content, QRT_CredentialContent));
   }
-  MVRNSWarningFuncTraceIMPL("Exchange", Q_FUNC_INFO, "nobody waits for a credential of type %@", type);
+  MVRNSWarningFuncTraceIMPL("Exchange", Q_FUNC_INFO, "no discovery waits for a credential of type %@", type);
 }
 
 void ExchangeDiscovery::notifyAuthFailure() {
   // The refusal has ended the discovery already; one that runs by now is another.
-  Q_EMIT noticed(QStringLiteral("Detect again to enter another user name or password"));
+  Q_EMIT message(QStringLiteral("Detect again to enter another user name or password."));
 }
 
 void ExchangeDiscovery::askForPassword() {
@@ -80,28 +79,20 @@ void ExchangeDiscovery::reportFound(const DiscoveredExchange& exchange) {
   for (const auto& [key, text] : texts) {
     if (!text.isEmpty()) account.insert(key, text);
   }
-  end();
+  dropRun();
   Q_EMIT notified(KZNotify::KZNotifyResolveExchangeDone,
                   {{kKZResult, kKZSuccess}, {QRT_ExchangeDiscover_Exchange, account}});
 }
 
-void ExchangeDiscovery::reportFailure(const QString& message) {
-  end();
-  Q_EMIT notified(KZNotify::KZNotifyResolveExchangeDone,
-                  {{kKZResult, kKZFail}, {kKZErrorHandleData, Dictionary{{kKZErrorMessage, message}}}});
-}
-
-void ExchangeDiscovery::reportRefusal(const QString& message) {
-  end();
-  Q_EMIT noticed(message);
-  // Whoever offered the credential tells the user, and us with command 22.
-  reportRefusedCredential(CredentialPurpose::Discovery);
-}
-
-void ExchangeDiscovery::end() {
+void ExchangeDiscovery::fail(const NetworkFailure& failure) {
   if (m_run == nullptr) return;
   dropRun();
-  Q_EMIT ended();
+  if (failure.kind != FailureKind::CredentialRefused) {
+    return Q_EMIT notified(KZNotify::KZNotifyResolveExchangeDone, failure.result());
+  }
+  Q_EMIT message(failure.message());
+  // The challenge's answerer shows it in the pane, and sends command 22.
+  reportRefusedCredential(CredentialPurpose::Discovery);
 }
 
 void ExchangeDiscovery::dropRun() {
@@ -109,6 +100,6 @@ void ExchangeDiscovery::dropRun() {
   DiscoveryRun* const run = std::exchange(m_run, nullptr);
   run->disconnect(this);
   run->stop();
-  // It may be the one that is speaking.
+  // A signal of its own may have led here.
   run->deleteLater();
 }

@@ -4,6 +4,7 @@
 #include <QString>
 
 #include "companion/exchange/ExchangeConfiguration.h"
+#include "companion/network/NetworkFailure.h"
 #include "host/KZFoundation/Dictionary.h"
 #include "host/KZFoundation/KZCommands.h"
 
@@ -11,7 +12,7 @@ class DiscoveryRun;
 struct DiscoveredExchange;
 
 // Finds the Exchange service of an email as a host does for its plug-in: commands in, notifications out. One
-// discovery at a time; a new one ends the one before it unanswered. Main thread only.
+// discovery at a time; a new one ends the one before it without a result. Main thread only.
 class ExchangeDiscovery final : public QObject {
   Q_OBJECT
 
@@ -19,13 +20,17 @@ class ExchangeDiscovery final : public QObject {
   explicit ExchangeDiscovery(ExchangeConfiguration configuration);
   ~ExchangeDiscovery() override;
 
+  // For later discoveries; the current one goes on as it started.
+  void setConfiguration(const ExchangeConfiguration& configuration) { m_configuration = configuration; }
   bool isRunning() const { return m_run != nullptr; }
+  // Ends the current discovery with that failure; does nothing without one.
+  void fail(const NetworkFailure& failure);
 
   // Command 15.
   void start(const Dictionary& content);
   // Command 16.
   void cancel();
-  // Command 27. A credential that nobody waits for is dropped.
+  // Command 27. A credential that no discovery waits for is dropped.
   void sinkCredential(const Dictionary& content);
   // Command 22.
   void notifyAuthFailure();
@@ -33,21 +38,16 @@ class ExchangeDiscovery final : public QObject {
  Q_SIGNALS:
   // For the plug-in.
   void notified(KZNotify index, const Dictionary& content);
-  // For the user: how it goes on, in a sentence without its full stop.
-  void noticed(const QString& text);
-  // A discovery is over: dialogs about it are to be closed. Its result, if it has one, follows at once.
-  void ended();
+  // A sentence for the user.
+  void message(const QString& text);
 
  private:
   void askForPassword();
   void askForSignIn(const OnlineService& service, const QString& email);
   void reportFound(const DiscoveredExchange& exchange);
-  void reportFailure(const QString& message);
-  void reportRefusal(const QString& message);
-  void end();
   void dropRun();
 
-  const ExchangeConfiguration m_configuration;
+  ExchangeConfiguration m_configuration;
   DiscoveryRun* m_run = nullptr;
   QString m_email;
 };

@@ -10,8 +10,8 @@
 #include "companion/network/HttpCall.h"
 #include "host/KZFoundation/Dictionary.h"
 
-// The next meetings of an applied Exchange account. One question at a time; a new one ends the one before it
-// unanswered. Main thread only.
+// Requests the next meetings of an applied Exchange account, once. Deleting it ends the request without a
+// result. Main thread only.
 class ExchangeMeetings final : public QObject {
   Q_OBJECT
 
@@ -20,20 +20,19 @@ class ExchangeMeetings final : public QObject {
       : m_configuration(std::move(configuration)) {}
 
   // `exchange` is the account as discovery reported it. `token` is for an online account; the credential of
-  // any other is asked for by a challenge. `days` is how far ahead to look.
+  // any other comes by a challenge. `days` is how far ahead to look.
   void list(const Dictionary& exchange, const QString& token, int days);
-  void cancel() { m_call.reset(); }
 
  Q_SIGNALS:
   void listed(const QList<ExchangeMeeting>& meetings);  // the next first
   void failed(const QString& message);                  // for the user
 
  private:
-  void ask(const QByteArray& authorization);
-  void read(const HttpAnswer& answer, bool isAuthorized);
-  void readChallenge(const HttpAnswer& answer, bool isAuthorized);
-  void askWithSavedCredential();
-  void fail(const QString& pattern);
+  void request(const QByteArray& authorization);
+  void read(const HttpResponse& response, bool isAuthorized);
+  void readChallenge(const HttpResponse& response, bool isAuthorized);
+  void requestWithSavedCredential();
+  void fail(FailureKind kind);
 
   const ExchangeConfiguration m_configuration;
   QNetworkAccessManager m_network;
@@ -42,3 +41,6 @@ class ExchangeMeetings final : public QObject {
   int m_days = 0;
   bool m_isOnline = false;
 };
+
+// Where the account's meetings are; empty where it has no address that a credential may be sent to.
+QUrl meetingAddress(const Dictionary& exchange);

@@ -2,6 +2,7 @@
 
 #include <QXmlStreamWriter>
 #include <algorithm>
+#include <utility>
 
 #include "companion/exchange/BoundedXml.h"
 
@@ -30,24 +31,22 @@ void writeShape(QXmlStreamWriter& writer) {
   writer.writeEndElement();
 }
 
+// Collects the meetings of a response.
 class MeetingReader final {
  public:
-  void start(const QStringList& path) {
-    if (endsWithNames(path, {u"CalendarItem"})) m_meeting = {};
-  }
-
-  void end(const QStringList& path, const QString& text) {
-    if (endsWithNames(path, {u"ResponseCode"})) m_isAnswered = text == QLatin1String("NoError");
-    if (endsWithNames(path, {u"CalendarItem", u"Subject"})) m_meeting.subject = text.left(kLongestSubject);
-    if (endsWithNames(path, {u"CalendarItem", u"Start"})) {
+  void read(const QString& path, const QString& text) {
+    if (path.endsWith(QLatin1String("/ResponseCode"))) m_isSuccess = text == QLatin1String("NoError");
+    if (path.endsWith(QLatin1String("/CalendarItem/Subject"))) m_meeting.subject = text.left(kLongestSubject);
+    if (path.endsWith(QLatin1String("/CalendarItem/Start"))) {
       m_meeting.start = QDateTime::fromString(text, Qt::ISODate).toUTC();
     }
-    const bool isMeeting = endsWithNames(path, {u"CalendarItem"}) && m_meeting.start.isValid();
-    if (isMeeting && m_meetings.size() < kMostMeetings) m_meetings.append(m_meeting);
+    if (!path.endsWith(QLatin1String("/CalendarItem"))) return;
+    const ExchangeMeeting meeting = std::exchange(m_meeting, {});
+    if (meeting.start.isValid() && m_meetings.size() < kMostMeetings) m_meetings.append(meeting);
   }
 
   std::optional<QList<ExchangeMeeting>> meetings() {
-    if (!m_isAnswered) return {};
+    if (!m_isSuccess) return {};
     std::stable_sort(
         m_meetings.begin(), m_meetings.end(),
         [](const ExchangeMeeting& left, const ExchangeMeeting& right) { return left.start < right.start; });
@@ -57,7 +56,7 @@ class MeetingReader final {
  private:
   ExchangeMeeting m_meeting;  // the one that is being read
   QList<ExchangeMeeting> m_meetings;
-  bool m_isAnswered = false;
+  bool m_isSuccess = false;
 };
 
 }  // namespace
@@ -87,8 +86,7 @@ QByteArray meetingRequest(const QDateTime& from, const QDateTime& to) {
 
 std::optional<QList<ExchangeMeeting>> readMeetings(const QByteArray& xml) {
   MeetingReader reader;
-  const bool isRead = walkBoundedXml(
-      xml, [&reader](const QStringList& path) { reader.start(path); },
-      [&reader](const QStringList& path, const QString& text) { reader.end(path, text); });
+  const bool isRead =
+      walkBoundedXml(xml, [&reader](const QString& path, const QString& text) { reader.read(path, text); });
   return isRead ? reader.meetings() : std::nullopt;
 }

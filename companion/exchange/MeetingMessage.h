@@ -11,9 +11,9 @@ struct ExchangeMeeting {
   QDateTime start;  // in UTC
 };
 
-// Asks the web service for the meetings of that time, the next first.
+// Requests the meetings between two times from the web service, the next first.
 QByteArray meetingRequest(const QDateTime& from, const QDateTime& to);
 
-// At most 100 meetings, by their start; those without a start are left out. Nothing when the answer is no
-// answer of the web service, or says that something failed.
+// At most 100 meetings, by their start; those without a start are left out. Nothing for anything but a
+// successful response of the web service.
 std::optional<QList<ExchangeMeeting>> readMeetings(const QByteArray& xml);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "companion/network/WebAddress.h"
+
 RedirectConsent::~RedirectConsent() {
   m_pending.clear();
   if (m_open != 0 && m_prompt.withdraw) m_prompt.withdraw();
@@ -20,19 +22,19 @@ bool RedirectConsent::isTrusted(const QString& host) const {
                      [&host](const QString& domain) { return isWithinDomain(host, domain); });
 }
 
-void RedirectConsent::ask(const QUrl& target, Question question, QObject* asker, Answer answer) {
+void RedirectConsent::ask(const QUrl& target, Question question, QObject* context, Answer answer) {
   const QString host = target.host();
   const bool isAllowed = question == Question::Always ? m_allowed.contains(host) : isTrusted(host);
   if (isAllowed) return answer(true);
   if (!m_prompt.ask || m_declined.contains(host)) return answer(false);
-  m_pending.append({target, asker, std::move(answer)});
+  m_pending.append({target, context, std::move(answer)});
   if (m_open == 0) openNext();
 }
 
-void RedirectConsent::forget(const QObject* asker) {
+void RedirectConsent::forget(const QObject* context) {
   if (m_pending.isEmpty()) return;
-  const bool isOpenOne = m_open != 0 && m_pending.first().asker == asker;
-  m_pending.removeIf([asker](const Pending& pending) { return pending.asker == asker; });
+  const bool isOpenOne = m_open != 0 && m_pending.first().context == context;
+  m_pending.removeIf([context](const Pending& pending) { return pending.context == context; });
   if (!isOpenOne) return;
   m_open = 0;
   if (m_prompt.withdraw) m_prompt.withdraw();
@@ -55,6 +57,6 @@ void RedirectConsent::settle(bool isAllowed) {
   const Pending pending = m_pending.takeFirst();
   (isAllowed ? m_allowed : m_declined).insert(pending.target.host());
   const QPointer<RedirectConsent> self(this);
-  if (pending.asker != nullptr) pending.answer(isAllowed);
+  if (pending.context != nullptr) pending.answer(isAllowed);
   if (self != nullptr && m_open == 0) openNext();
 }

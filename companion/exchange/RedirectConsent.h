@@ -10,8 +10,8 @@
 
 #include "companion/exchange/ExchangeConfiguration.h"
 
-// Which hosts one discovery may use: those of its mail domain and those that the user allowed. Puts its
-// questions one after the other.
+// The hosts that one discovery may use: those of its mail domain and those that the user allowed. Asks one
+// question at a time.
 class RedirectConsent final : public QObject {
  public:
   using Answer = std::function<void(bool isAllowed)>;
@@ -21,18 +21,19 @@ class RedirectConsent final : public QObject {
   ~RedirectConsent() override;
 
   void trustDomain(const QString& domain) { m_domains.append(domain); }
-  // Nothing else from now on, and nobody is asked.
+  // Nothing else from now on; the user is not asked any more.
   void trustOnly(const QStringList& domains);
   bool isTrusted(const QString& host) const;
 
-  // Answers at once where it is known, else when the user has answered; never after `asker` is gone.
-  void ask(const QUrl& target, Question question, QObject* asker, Answer answer);
-  void forget(const QObject* asker);
+  // Answers at once where it is known, else when the user has answered; never after `context` is gone.
+  void ask(const QUrl& target, Question question, QObject* context, Answer answer);
+  // Drops the questions of that context.
+  void forget(const QObject* context);
 
  private:
   struct Pending {
     QUrl target;
-    QPointer<QObject> asker;
+    QPointer<QObject> context;
     Answer answer;
   };
 

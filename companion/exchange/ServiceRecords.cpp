@@ -9,7 +9,7 @@ namespace {
 
 using Place = QList<ServiceRecord>::const_iterator;
 
-// Each record's chance is its weight's share; one of weight zero is drawn only when the number drawn is zero.
+// The chance of a record is the share of its weight; one of weight zero comes only when zero is drawn.
 Place drawByWeight(Place begin, Place end, QRandomGenerator& random) {
   int sum = 0;
   std::for_each(begin, end, [&sum](const ServiceRecord& record) { sum += record.weight; });
@@ -21,9 +21,9 @@ Place drawByWeight(Place begin, Place end, QRandomGenerator& random) {
 
 }  // namespace
 
-void lookUpServices(const QString& name, QObject* asker, ServicesFound found) {
-  auto* const lookup = new QDnsLookup(QDnsLookup::SRV, name, asker);
-  QObject::connect(lookup, &QDnsLookup::finished, asker, [lookup, found = std::move(found)] {
+void lookUpServices(const QString& name, QObject* context, ServicesFound found) {
+  auto* const lookup = new QDnsLookup(QDnsLookup::SRV, name, context);
+  QObject::connect(lookup, &QDnsLookup::finished, context, [lookup, found = std::move(found)] {
     lookup->deleteLater();
     QList<ServiceRecord> records;
     for (const QDnsServiceRecord& record : lookup->serviceRecords()) {

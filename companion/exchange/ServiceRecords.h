@@ -1,11 +1,26 @@
 #pragma once
 
+#include <QList>
+#include <QObject>
 #include <QRandomGenerator>
+#include <QString>
+#include <functional>
 
-#include "companion/exchange/ExchangeConfiguration.h"
+// A service record of the domain name system.
+struct ServiceRecord {
+  QString target;
+  quint16 port = 0;
+  quint16 priority = 0;
+  quint16 weight = 0;
+};
+
+using ServicesFound = std::function<void(const QList<ServiceRecord>&)>;
+// Calls back at most once, with nothing where there is none or the lookup failed, and never after `context`
+// is gone.
+using ServiceLookup = std::function<void(const QString& name, QObject* context, ServicesFound found)>;
 
 // Asks the domain name system; a ServiceLookup.
-void lookUpServices(const QString& name, QObject* asker, ServicesFound found);
+void lookUpServices(const QString& name, QObject* context, ServicesFound found);
 
 // In the order in which they are to be tried: lowest priority first, within one priority drawn by weight.
 // Records without a target are left out.

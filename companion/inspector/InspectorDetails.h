@@ -16,7 +16,6 @@ class InspectorDetails final : public QWidget {
   InspectorDetails();
 
   void show(const InspectorLog::Event& event);  // nullptr: none
-  const InspectorLog::Event& event() const { return m_event; }
 
  protected:
   void changeEvent(QEvent* event) override;

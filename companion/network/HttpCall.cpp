@@ -1,5 +1,6 @@
 #include "companion/network/HttpCall.h"
 
+#include <QIODevice>
 #include <QNetworkReply>
 #include <QNetworkRequest>
 #include <QRegularExpression>
@@ -8,153 +9,38 @@
 #include <algorithm>
 #include <utility>
 
-#include "companion/network/SingleUseBody.h"
-
 namespace {
 
-using Trouble = HttpAnswer::Trouble;
-
 // Below this, errors are about the connection; above, about what the server said.
-constexpr int kFirstAnswerError = 100;
-constexpr int kGood = 200;
-constexpr qint64 kPieceBytes = 256 * 1024;
+constexpr int kFirstResponseError = 100;
 
-}  // namespace
-
-HttpCall::HttpCall(QNetworkAccessManager& network, const NetworkConfiguration& configuration)
-    : m_network(network), m_configuration(configuration) {
-  m_deadline.setSingleShot(true);
-  connect(&m_deadline, &QTimer::timeout, this, [this] { settle({.trouble = Trouble::TooSlow}); });
-}
-
-HttpCall::~HttpCall() {
-  m_done = {};
-  settle({});
-}
-
-void HttpCall::start(const HttpQuestion& question, Done done) {
-  m_address = question.address;
-  m_done = std::move(done);
-  m_take = question.take;
-  m_bytesLeft = question.takenBytes;
-  const QNetworkRequest request = requestFor(question);
-  m_reply = send(request, question);
-  // The reply stops reading from the socket one byte past the limit.
-  m_reply->setReadBufferSize(m_take ? kPieceBytes : m_configuration.limits.answerBytes + 1);
-  connect(m_reply, &QNetworkReply::sslErrors, this, [this](const QList<QSslError>& errors) {
-    m_isOtherName = std::any_of(errors.begin(), errors.end(), [](const QSslError& error) {
-      return error.error() == QSslError::HostNameMismatch;
-    });
-  });
-  connect(m_reply, &QNetworkReply::readyRead, this, &HttpCall::readPiece);
-  connect(m_reply, &QNetworkReply::finished, this, &HttpCall::readAnswer);
-  // A transfer timeout would start anew with every byte.
-  m_deadline.start(m_configuration.limits.request);
-}
-
-QNetworkReply* HttpCall::send(QNetworkRequest request, const HttpQuestion& question) {
-  if (question.body.isEmpty()) return m_network.get(request);
-  if (question.authorization.isEmpty()) return m_network.post(request, question.body);
-  // A password leaves once: on a connection of its own, and never again when that breaks.
-  m_network.clearConnectionCache();
-  request.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true);
-  request.setHeader(QNetworkRequest::ContentLengthHeader, question.body.size());
-  auto* const body = new SingleUseBody(question.body);
-  QNetworkReply* const reply = m_network.post(request, body);
-  body->setParent(reply);
-  return reply;
-}
-
-QNetworkRequest HttpCall::requestFor(const HttpQuestion& question) const {
-  QUrl address = question.address;
-  QNetworkRequest request;
-  const auto endpoint = m_configuration.endpoint ? m_configuration.endpoint(address) : std::nullopt;
-  if (endpoint) {
-    request.setRawHeader("Host", address.authority(QUrl::FullyEncoded).toLatin1());
-    request.setPeerVerifyName(address.host(QUrl::FullyEncoded));
-    address.setHost(endpoint->address);
-    address.setPort(endpoint->port);
+// The body of a request that can be read once, so that it cannot be sent again without our knowledge.
+class SingleUseBody final : public QIODevice {
+ public:
+  explicit SingleUseBody(QByteArray body) : m_body(std::move(body)) {
+    static_cast<void>(open(QIODevice::ReadOnly | QIODevice::Unbuffered));
   }
-  request.setUrl(address);
-  if (endpoint && !endpoint->certificates.isEmpty()) {
-    QSslConfiguration tls = request.sslConfiguration();
-    tls.setCaCertificates(endpoint->certificates);
-    request.setSslConfiguration(tls);
+
+  bool isSequential() const override { return true; }
+  bool reset() override { return false; }
+  qint64 bytesAvailable() const override { return m_body.size() - m_read; }
+
+ protected:
+  qint64 readData(char* data, qint64 size) override {
+    const qint64 count = std::min(size, m_body.size() - m_read);
+    if (count == 0) return -1;
+    std::copy_n(m_body.constData() + m_read, count, data);
+    m_read += count;
+    return count;
   }
-  request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
-  request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
-  for (const auto attribute :
-       {QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::CookieSaveControlAttribute,
-        QNetworkRequest::AuthenticationReuseAttribute}) {
-    request.setAttribute(attribute, QNetworkRequest::Manual);
-  }
-  if (!question.body.isEmpty()) request.setHeader(QNetworkRequest::ContentTypeHeader, question.contentType);
-  if (!question.authorization.isEmpty()) request.setRawHeader("Authorization", question.authorization);
-  // A packed answer would be unpacked before its size can be seen.
-  request.setRawHeader("Accept-Encoding", "identity");
-  return request;
-}
+  qint64 writeData(const char* /*data*/, qint64 /*size*/) override { return -1; }
 
-bool HttpCall::isTaken() const {
-  return m_take && m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt() == kGood;
-}
+ private:
+  const QByteArray m_body;
+  qint64 m_read = 0;
+};
 
-void HttpCall::readPiece() {
-  const Trouble trouble = takePiece();
-  if (trouble != Trouble::None) return settle({.trouble = trouble});
-  if (isTaken()) m_deadline.start();
-}
-
-Trouble HttpCall::takePiece() {
-  if (!isTaken()) return isTooLong() ? Trouble::TooLong : Trouble::None;
-  const QByteArray piece = m_reply->readAll();
-  m_bytesLeft -= piece.size();
-  if (m_bytesLeft < 0) return Trouble::TooLong;
-  return piece.isEmpty() || m_take(piece) ? Trouble::None : Trouble::NotTaken;
-}
-
-bool HttpCall::isTooLong() const {
-  return m_reply->bytesAvailable() > m_configuration.limits.answerBytes;
-}
-
-void HttpCall::readAnswer() {
-  HttpAnswer answer;
-  answer.trouble = takePiece();
-  if (answer.trouble == Trouble::None) answer.trouble = trouble();
-  if (answer.trouble == Trouble::None) {
-    answer.status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    const QByteArray location = m_reply->rawHeader("Location");
-    if (!location.isEmpty()) answer.location = m_address.resolved(QUrl::fromEncoded(location));
-    answer.challenge = m_reply->rawHeader("WWW-Authenticate");
-    answer.body = m_reply->readAll();
-  }
-  settle(answer);
-}
-
-Trouble HttpCall::trouble() const {
-  const QNetworkReply::NetworkError error = m_reply->error();
-  const int status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-  if (error == QNetworkReply::HostNotFoundError) return Trouble::HostUnknown;
-  if (error == QNetworkReply::SslHandshakeFailedError) {
-    return m_isOtherName ? Trouble::CertificateOfOtherName : Trouble::Certificate;
-  }
-  const bool isWhole = status != 0 && (error == QNetworkReply::NoError || error >= kFirstAnswerError);
-  return isWhole ? Trouble::None : Trouble::Unreachable;
-}
-
-void HttpCall::settle(const HttpAnswer& answer) {
-  m_deadline.stop();
-  if (m_reply != nullptr) {
-    m_reply->disconnect(this);
-    m_reply->abort();
-    m_reply->deleteLater();
-    m_reply = nullptr;
-  }
-  const Done done = std::exchange(m_done, {});
-  if (done) done(answer);
-}
-
-QList<QByteArray> offeredSchemes(const QByteArray& challenge) {
+QList<QByteArray> schemesOf(const QByteArray& challenge) {
   static const QRegularExpression quoted(QStringLiteral("\"(?:[^\"\\\\]|\\\\.)*\""));
   QString plain = QString::fromLatin1(challenge);
   plain.remove(quoted);
@@ -164,4 +50,136 @@ QList<QByteArray> offeredSchemes(const QByteArray& challenge) {
     if (!word.isEmpty() && !word.contains(QLatin1Char('='))) schemes.append(word.toLatin1());
   }
   return schemes;
+}
+
+FailureKind failureOfStatus(int status) {
+  if (status == 200) return FailureKind::None;
+  if (status == 403) return FailureKind::Forbidden;
+  return status >= 500 ? FailureKind::ServerError : FailureKind::NotFound;
+}
+
+}  // namespace
+
+HttpCall::HttpCall(QNetworkAccessManager& network, const NetworkConfiguration& configuration)
+    : m_network(network), m_configuration(configuration) {
+  m_deadline.setSingleShot(true);
+  connect(&m_deadline, &QTimer::timeout, this, [this] { fail(FailureKind::TooSlow); });
+}
+
+HttpCall::~HttpCall() {
+  m_done = {};
+  settle({});
+}
+
+void HttpCall::start(const HttpRequest& request, Done done) {
+  m_address = request.address;
+  m_done = std::move(done);
+  const QString refusal = m_configuration.refusal ? m_configuration.refusal(m_address) : QString();
+  if (!refusal.isEmpty()) {
+    const HttpResponse refused{.failure = {.kind = FailureKind::Explained, .detail = refusal}};
+    QMetaObject::invokeMethod(
+        this, [this, refused] { settle(refused); }, Qt::QueuedConnection);
+    return;
+  }
+  m_reply = send(request);
+  // The reply stops reading from the socket one byte past the limit.
+  m_reply->setReadBufferSize(m_configuration.limits.responseBytes + 1);
+  connect(m_reply, &QNetworkReply::sslErrors, this, [this](const QList<QSslError>& errors) {
+    m_isOtherName = std::any_of(errors.begin(), errors.end(), [](const QSslError& error) {
+      return error.error() == QSslError::HostNameMismatch;
+    });
+  });
+  connect(m_reply, &QNetworkReply::readyRead, this, [this] {
+    if (isTooLong()) fail(FailureKind::BadResponse);
+  });
+  connect(m_reply, &QNetworkReply::finished, this, [this] { settle(response()); });
+  // A transfer timeout would start again with every byte.
+  m_deadline.start(m_configuration.limits.request);
+}
+
+QNetworkReply* HttpCall::send(const HttpRequest& request) {
+  QNetworkRequest networkRequest = networkRequestFor(request);
+  if (request.body.isEmpty()) return m_network.get(networkRequest);
+  if (request.authorization.isEmpty()) return m_network.post(networkRequest, request.body);
+  // A password is sent once: on a connection of its own, and never again when that breaks.
+  m_network.clearConnectionCache();
+  networkRequest.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true);
+  networkRequest.setHeader(QNetworkRequest::ContentLengthHeader, request.body.size());
+  auto* const body = new SingleUseBody(request.body);
+  QNetworkReply* const reply = m_network.post(networkRequest, body);
+  body->setParent(reply);
+  return reply;
+}
+
+QNetworkRequest HttpCall::networkRequestFor(const HttpRequest& request) const {
+  QUrl address = request.address;
+  QNetworkRequest result;
+  const auto endpoint = m_configuration.endpoint ? m_configuration.endpoint(address) : std::nullopt;
+  if (endpoint) {
+    result.setRawHeader("Host", address.authority(QUrl::FullyEncoded).toLatin1());
+    result.setPeerVerifyName(address.host(QUrl::FullyEncoded));
+    address.setHost(endpoint->address);
+    address.setPort(endpoint->port);
+  }
+  result.setUrl(address);
+  if (endpoint && !endpoint->certificates.isEmpty()) {
+    QSslConfiguration tls = result.sslConfiguration();
+    tls.setCaCertificates(endpoint->certificates);
+    result.setSslConfiguration(tls);
+  }
+  result.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
+  result.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
+  for (const auto attribute :
+       {QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::CookieSaveControlAttribute,
+        QNetworkRequest::AuthenticationReuseAttribute}) {
+    result.setAttribute(attribute, QNetworkRequest::Manual);
+  }
+  if (!request.body.isEmpty()) result.setHeader(QNetworkRequest::ContentTypeHeader, request.contentType);
+  if (!request.authorization.isEmpty()) result.setRawHeader("Authorization", request.authorization);
+  // A compressed response would be unpacked before its size can be seen.
+  result.setRawHeader("Accept-Encoding", "identity");
+  return result;
+}
+
+bool HttpCall::isTooLong() const {
+  return m_reply->bytesAvailable() > m_configuration.limits.responseBytes;
+}
+
+HttpResponse HttpCall::response() const {
+  const auto failed = [this](FailureKind kind) {
+    return HttpResponse{.failure = {.kind = kind, .host = m_address.host()}};
+  };
+  if (isTooLong()) return failed(FailureKind::BadResponse);
+  if (const FailureKind kind = connectionFailure(); kind != FailureKind::None) return failed(kind);
+  const int status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+  if (status == 401) {
+    return {.isChallenge = true, .challengeSchemes = schemesOf(m_reply->rawHeader("WWW-Authenticate"))};
+  }
+  const QUrl location = QUrl::fromEncoded(m_reply->rawHeader("Location"));
+  if (status >= 300 && status < 400 && location.isValid()) return {.redirect = m_address.resolved(location)};
+  if (const FailureKind kind = failureOfStatus(status); kind != FailureKind::None) return failed(kind);
+  return {.body = m_reply->readAll()};
+}
+
+FailureKind HttpCall::connectionFailure() const {
+  const QNetworkReply::NetworkError error = m_reply->error();
+  const int status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+  if (error == QNetworkReply::HostNotFoundError) return FailureKind::HostUnknown;
+  if (error == QNetworkReply::SslHandshakeFailedError) {
+    return m_isOtherName ? FailureKind::CertificateOfOtherName : FailureKind::Certificate;
+  }
+  const bool isWhole = status != 0 && (error == QNetworkReply::NoError || error >= kFirstResponseError);
+  return isWhole ? FailureKind::None : FailureKind::Unreachable;
+}
+
+void HttpCall::settle(const HttpResponse& response) {
+  m_deadline.stop();
+  if (m_reply != nullptr) {
+    m_reply->disconnect(this);
+    m_reply->abort();
+    m_reply->deleteLater();
+    m_reply = nullptr;
+  }
+  const Done done = std::exchange(m_done, {});
+  if (done) done(response);
 }

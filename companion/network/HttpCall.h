@@ -9,65 +9,48 @@
 #include <functional>
 
 #include "companion/network/NetworkConfiguration.h"
+#include "companion/network/NetworkFailure.h"
 
 class QNetworkReply;
 class QNetworkRequest;
 
-struct HttpAnswer {
-  enum class Trouble {
-    None,
-    HostUnknown,
-    Unreachable,
-    TooSlow,
-    TooLong,
-    Certificate,
-    CertificateOfOtherName,
-    NotTaken
-  };
-
-  Trouble trouble = Trouble::None;  // with any other, no whole answer came
-  int status = 0;
-  QUrl location = {};         // absolute; empty where the answer sends nowhere
-  QByteArray challenge = {};  // what the server wants to know before it answers
-  QByteArray body = {};       // empty where the question took it piece by piece
-};
-
-struct HttpQuestion {
-  // False ends the call: nothing more is wanted.
-  using Taker = std::function<bool(const QByteArray& piece)>;
-
+struct HttpRequest {
   QUrl address;
-  QByteArray body = {};  // empty: nothing is sent, the address is only read
+  QByteArray body = {};  // empty: the address is only read
   QByteArray contentType = QByteArrayLiteral("text/xml; charset=utf-8");
   QByteArray authorization = {};
-  // Gets the body of a good answer as it comes. It is then bounded by `takenBytes` in place of the answer's
-  // limit, and the limit in time holds between its pieces.
-  Taker take = {};
-  qint64 takenBytes = 0;
+};
+
+// Exactly one of these came: a failure, a challenge, a redirect, or a body (which may be empty).
+struct HttpResponse {
+  NetworkFailure failure = {};
+  bool isChallenge = false;
+  QList<QByteArray> challengeSchemes = {};  // the ways to sign in that it offers, in lower case
+  QUrl redirect = {};                       // absolute
+  QByteArray body = {};
 };
 
 // One request, bounded in time and size. Follows no redirect, keeps no cookies and answers no challenge, so
-// that what is sent stays with the host it was meant for and is sent once. Destroying it ends it unanswered,
-// but not from within `take`.
+// that what is sent stays with the host it was meant for and is sent once. Deleting the call ends it without
+// a response.
 class HttpCall final : public QObject {
  public:
-  using Done = std::function<void(const HttpAnswer&)>;
+  using Done = std::function<void(const HttpResponse&)>;
 
   HttpCall(QNetworkAccessManager& network, const NetworkConfiguration& configuration);
   ~HttpCall() override;
 
-  void start(const HttpQuestion& question, Done done);
+  // Returns before `done` is called.
+  void start(const HttpRequest& request, Done done);
 
  private:
-  QNetworkReply* send(QNetworkRequest request, const HttpQuestion& question);
-  QNetworkRequest requestFor(const HttpQuestion& question) const;
-  bool isTaken() const;
-  void readPiece();
-  HttpAnswer::Trouble takePiece();
+  QNetworkReply* send(const HttpRequest& request);
+  QNetworkRequest networkRequestFor(const HttpRequest& request) const;
   bool isTooLong() const;
-  void readAnswer();
-  HttpAnswer::Trouble trouble() const;
-  void settle(const HttpAnswer& answer);
+  HttpResponse response() const;
+  FailureKind connectionFailure() const;
+  void fail(FailureKind kind) { settle({.failure = {.kind = kind, .host = m_address.host()}}); }
+  void settle(const HttpResponse& response);
 
   QNetworkAccessManager& m_network;
   const NetworkConfiguration& m_configuration;
@@ -75,10 +58,5 @@ class HttpCall final : public QObject {
   QTimer m_deadline;
   QPointer<QNetworkReply> m_reply;
   bool m_isOtherName = false;
-  HttpQuestion::Taker m_take;
-  qint64 m_bytesLeft = 0;
   Done m_done;
 };
-
-// The names of the ways to sign in that a challenge offers, in small letters.
-QList<QByteArray> offeredSchemes(const QByteArray& challenge);

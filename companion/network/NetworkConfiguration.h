@@ -11,7 +11,7 @@
 struct NetworkEndpoint {
   QString address;
   quint16 port = 0;
-  QList<QSslCertificate> certificates = {};  // who vouches for it; empty for those of the system
+  QList<QSslCertificate> certificates = {};  // the authorities to trust; empty for those of the system
 };
 
 // Where a host is to be reached in place of where its name points; nothing for the ordinary way.
@@ -19,16 +19,15 @@ using EndpointFinder = std::function<std::optional<NetworkEndpoint>(const QUrl&)
 
 struct NetworkLimits {
   std::chrono::milliseconds request{10'000};  // one request, from its start to its last byte
-  qint64 answerBytes = 1024 * 1024;
+  qint64 responseBytes = 1024 * 1024;
 };
 
 struct NetworkConfiguration {
-  NetworkLimits limits;
-  EndpointFinder endpoint;
+  NetworkLimits limits = {};
+  EndpointFinder endpoint = {};
+  // Why an address must not be requested, in a sentence; empty where it may be. Unset, every address may.
+  std::function<QString(const QUrl&)> refusal = {};
 };
 
-// Who may be asked at all.
+// Which hosts may be requested at all.
 enum class NetworkReach { Sandbox, Network };
-
-// Whether the host is the domain or lies below it.
-bool isWithinDomain(const QString& host, const QString& domain);

@@ -6,58 +6,41 @@
 
 namespace {
 
-constexpr qsizetype kHops = 10;
+constexpr qsizetype kMostRedirects = 10;
 
 }  // namespace
 
-WebFetch::WebFetch(NetworkConfiguration configuration, Refusal refusal)
-    : m_configuration(std::move(configuration)), m_refusal(std::move(refusal)) {}
-
-WebFetch::~WebFetch() = default;
-
-void WebFetch::start(const HttpQuestion& question, Done done) {
-  cancel();
-  m_question = question;
+void WebFetch::start(const QUrl& address, Done done) {
+  m_visited.clear();
+  m_address = address;
   m_done = std::move(done);
   m_call = std::make_unique<HttpCall>(m_network, m_configuration);
-  // Also what fails at once is told later, like everything else.
+  // What fails at once is also reported later.
   QMetaObject::invokeMethod(
-      m_call.get(), [this, address = question.address] { ask(address); }, Qt::QueuedConnection);
+      m_call.get(), [this, address] { request(address); }, Qt::QueuedConnection);
 }
 
-void WebFetch::cancel() {
-  m_call.reset();
-  m_done = {};
-  m_visited.clear();
-}
-
-void WebFetch::ask(const QUrl& address) {
-  const QUrl before = std::exchange(m_question.address, address);
-  if (!isSafeStep(before, address)) {
-    m_question.address = before;
-    return fail(WebTrouble::Unsafe);
+void WebFetch::request(const QUrl& address) {
+  if (!isSafeStep(m_address, address)) return fail(FailureKind::Unsafe);
+  m_address = address;
+  if (m_visited.contains(address) || m_visited.size() > kMostRedirects) {
+    return fail(FailureKind::TooManyRedirects);
   }
-  const QString refusal = m_refusal ? m_refusal(address) : QString();
-  if (!refusal.isEmpty()) return settle({.failure = refusal, .address = address});
-  if (m_visited.contains(address) || m_visited.size() > kHops) return fail(WebTrouble::TooManyRedirects);
   m_visited.insert(address);
   m_call = std::make_unique<HttpCall>(m_network, m_configuration);
-  m_call->start(m_question, [this](const HttpAnswer& answer) { read(answer); });
+  m_call->start({.address = address}, [this](const HttpResponse& response) { read(response); });
 }
 
-void WebFetch::read(const HttpAnswer& answer) {
-  const WebTrouble trouble = webTroubleOf(answer);
-  if (trouble != WebTrouble::None) return fail(trouble);
-  if (answer.status != 200) return ask(answer.location);
-  settle({.address = m_question.address, .body = answer.body});
+void WebFetch::read(const HttpResponse& response) {
+  if (response.failure) return settle({.failure = response.failure});
+  if (response.isChallenge) return fail(FailureKind::Forbidden);
+  if (!response.redirect.isEmpty()) return request(response.redirect);
+  settle({.body = response.body});
 }
 
-void WebFetch::fail(WebTrouble trouble) {
-  settle({.failure = messageOf(trouble, m_question.address.host()), .address = m_question.address});
-}
-
-void WebFetch::settle(const WebAnswer& answer) {
+void WebFetch::settle(WebPage page) {
+  page.address = m_address;
   const Done done = std::exchange(m_done, {});
-  cancel();
-  if (done) done(answer);
+  m_call.reset();
+  if (done) done(page);
 }

@@ -7,43 +7,35 @@
 #include <memory>
 
 #include "companion/network/HttpCall.h"
-#include "companion/network/WebTrouble.h"
 
-struct WebAnswer {
-  QString failure = {};  // a sentence for the user; empty where the answer is good
-  QUrl address = {};     // where it came from in the end
+struct WebPage {
+  NetworkFailure failure = {};
+  QUrl address = {};  // where it came from in the end
   QByteArray body = {};
 };
 
-// Reads one address and follows where it leads, as long as that is safe and not too far. Not for a question
-// with a body or a credential, which would follow, too. One at a time; a new one, cancel and the end of the
-// object end it unanswered.
+// Reads one address and follows its redirects, as long as that is safe and not too far. One at a time; a new
+// one and the end of the object end it without a result.
 class WebFetch final {
  public:
-  // A sentence that says why the address may not be asked; empty where it may.
-  using Refusal = std::function<QString(const QUrl& address)>;
-  using Done = std::function<void(const WebAnswer&)>;
+  using Done = std::function<void(const WebPage&)>;
 
-  WebFetch(NetworkConfiguration configuration, Refusal refusal);
-  ~WebFetch();
+  explicit WebFetch(NetworkConfiguration configuration) : m_configuration(std::move(configuration)) {}
   Q_DISABLE_COPY_MOVE(WebFetch)
 
-  // Returns before `done` is called.
-  void start(const HttpQuestion& question, Done done);
-  void cancel();
-  bool isRunning() const { return m_call != nullptr; }
+  // Returns before `done` is called, which may delete the object.
+  void start(const QUrl& address, Done done);
 
  private:
-  void ask(const QUrl& address);
-  void read(const HttpAnswer& answer);
-  void fail(WebTrouble trouble);
-  void settle(const WebAnswer& answer);
+  void request(const QUrl& address);
+  void read(const HttpResponse& response);
+  void fail(FailureKind kind) { settle({.failure = {.kind = kind, .host = m_address.host()}}); }
+  void settle(WebPage page);
 
   const NetworkConfiguration m_configuration;
-  const Refusal m_refusal;
   QNetworkAccessManager m_network;
   std::unique_ptr<HttpCall> m_call;
-  HttpQuestion m_question;
+  QUrl m_address;
   QSet<QUrl> m_visited;
   Done m_done;
 };

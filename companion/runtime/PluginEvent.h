@@ -72,10 +72,9 @@ struct KeychainChange {
   Kind kind;
 };
 
-using PluginEvent =
-    std::variant<PluginLoad, CommandToPlugin, CommandToHost, NotificationToPlugin, PersonalRoomChange,
-                 CredentialRequest, CredentialResponse, AddressRequest, WarningShown, StoreChange,
-                 KeychainChange, KZTraceRecord>;
+using PluginEvent = std::variant<PluginLoad, CommandToPlugin, CommandToHost, NotificationToPlugin,
+                                 PersonalRoomChange, CredentialRequest, CredentialResponse, AddressRequest,
+                                 WarningShown, StoreChange, KeychainChange, KZTraceRecord>;
 
 // For std::visit: one function object of several lambdas.
 template <typename... Functions>

@@ -38,43 +38,30 @@ QString devicesNotice(const Content& content) {
                : QStringLiteral("Nearby video devices are not looked for any more.");
 }
 
-QString noticeOf(KZCommand command, const Content& content) {
-  switch (command) {
-    case KZCommand::KZCmdCalendarIntegrationSourceChanged:
-      return sourceNotice();
-    case KZCommand::KZCmdSetVideoDevicePrefs:
-      return devicesNotice(content);
-    case KZCommand::KZCmdListExchMeetingAuthFailure:
-      return refusedPasswordText();
-    case KZCommand::KZCmdExchDiscoverAuthFailure:
-      return QStringLiteral(
-          "Exchange did not accept this user name and password. Check them, then detect the account again.");
-    default:
-      return {};
-  }
-}
-
 }  // namespace
 
 ChangeNotices::ChangeNotices(PluginHost* host) {
-  for (const KZCommand command :
-       {KZCommand::KZCmdPreferenceChanged, KZCommand::KZCmdCalendarIntegrationSourceChanged,
-        KZCommand::KZCmdSetVideoDevicePrefs, KZCommand::KZCmdListExchMeetingAuthFailure,
-        KZCommand::KZCmdExchDiscoverAuthFailure}) {
-    host->handle(command, this, [this, command](const Content& content) { answer(command, content); });
-  }
-}
-
-void ChangeNotices::answer(KZCommand command, const Content& content) {
-  const bool isRecord = command == KZCommand::KZCmdPreferenceChanged;
-  const QString notice = isRecord ? recordNotice(content) : noticeOf(command, content);
-  if (!notice.isEmpty()) Q_EMIT noticed(notice);
+  const auto show = [this](const QString& text) {
+    if (!text.isEmpty()) Q_EMIT message(text);
+  };
+  host->handle(KZCommand::KZCmdPreferenceChanged, this,
+               [this, show](const Content& content) { show(recordNotice(content)); });
+  host->handle(KZCommand::KZCmdCalendarIntegrationSourceChanged, this,
+               [show](const Content&) { show(sourceNotice()); });
+  host->handle(KZCommand::KZCmdSetVideoDevicePrefs, this,
+               [show](const Content& content) { show(devicesNotice(content)); });
+  host->handle(KZCommand::KZCmdListExchMeetingAuthFailure, this,
+               [show](const Content&) { show(refusedPasswordText()); });
+  host->handle(KZCommand::KZCmdExchDiscoverAuthFailure, this, [show](const Content&) {
+    show(QStringLiteral(
+        "Exchange did not accept this user name and password. Check them, then detect the account again."));
+  });
 }
 
 QString ChangeNotices::recordNotice(const Content& content) {
   if (!content) return identityNotice();
   const QString room = textValue(*content, QRT_Preference_PMRUrl);
   const std::optional<QString> before = std::exchange(m_room, room);
-  // A record arrives at every start; what did not change is no news.
+  // A record arrives at every start: only a change is worth a notice.
   return before && *before != room ? roomNotice(room) : QString();
 }

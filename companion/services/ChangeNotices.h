@@ -4,11 +4,10 @@
 #include <optional>
 
 #include "host/KZFoundation/Dictionary.h"
-#include "host/KZFoundation/KZCommands.h"
 
 class PluginHost;
 
-// Says to the user what a change in Preferences means here. Main thread only.
+// Explains to the user what a change in Preferences means here. Main thread only.
 class ChangeNotices final : public QObject {
   Q_OBJECT
 
@@ -16,11 +15,10 @@ class ChangeNotices final : public QObject {
   explicit ChangeNotices(PluginHost* host);  // not owned
 
  Q_SIGNALS:
-  void noticed(const QString& text);
+  void message(const QString& text);
 
  private:
-  void answer(KZCommand command, const Content& content);
   QString recordNotice(const Content& content);
 
-  std::optional<QString> m_room;  // the last one heard of
+  std::optional<QString> m_room;  // of the last record
 };

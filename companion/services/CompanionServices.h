@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QJsonObject>
 #include <QObject>
 #include <QString>
 
@@ -12,17 +11,16 @@
 #include "companion/services/TelemetryService.h"
 #include "companion/services/UpdateService.h"
 
-// Everything that the companion does for the plug-in beside looking for Exchange. Main thread only.
+// Everything that the companion does for the plug-in, except finding an Exchange account. Main thread only.
 class CompanionServices final : public QObject {
   Q_OBJECT
 
  public:
   struct Settings {
     NetworkReach reach = NetworkReach::Sandbox;
-    ExchangeConfiguration exchange;
-    Dictionary record;      // the user's, while no site has given one
-    QString dataFolder;     // for telemetry
-    QString packageFolder;  // for updates
+    ExchangeConfiguration exchange;  // for servers outside the sandbox
+    Dictionary record;               // the user's, while no site has given one
+    QString dataFolder;              // for telemetry
     AutostartEntry autostart;
   };
 
@@ -30,16 +28,15 @@ class CompanionServices final : public QObject {
 
   // After the plug-in is loaded.
   void start();
-  void useSandbox(const QJsonObject& site, const QJsonObject& exchange);
-  void loseSandbox();
 
+  ServiceNetwork& network() { return m_network; }
   SiteService& site() { return m_site; }
   UpdateService& updates() { return m_updates; }
   TelemetryService& telemetry() { return m_telemetry; }
   NextMeetings& meetings() { return m_meetings; }
 
  Q_SIGNALS:
-  void noticed(const QString& text);  // for the user
+  void message(const QString& text);  // for the user
 
  private:
   ServiceNetwork m_network;

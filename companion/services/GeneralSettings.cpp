@@ -15,13 +15,13 @@ GeneralSettings::GeneralSettings(PluginHost* host, const AutostartEntry& autosta
 
 void GeneralSettings::apply() {
   const QString failure = carryOut(KZPlistFileHandle::sharedInstance().launchAtLogin());
-  if (!failure.isEmpty()) Q_EMIT noticed(failure);
+  if (!failure.isEmpty()) Q_EMIT message(failure);
 }
 
 void GeneralSettings::update(const Dictionary& values) {
   if (const auto isWanted = flagValue(values, kLaunchAtLogin)) startAtLogin(*isWanted);
   if (const auto isWanted = flagValue(values, kEnableOutlookKZPluginValue)) {
-    Q_EMIT noticed(*isWanted ? QStringLiteral("Meetings can be scheduled from Microsoft Outlook once it is "
+    Q_EMIT message(*isWanted ? QStringLiteral("Meetings can be scheduled from Microsoft Outlook once it is "
                                               "started again.")
                              : QStringLiteral("Microsoft Outlook schedules no meetings any more once it is "
                                               "started again."));
@@ -30,8 +30,8 @@ void GeneralSettings::update(const Dictionary& values) {
 
 void GeneralSettings::startAtLogin(bool isWanted) {
   const QString failure = carryOut(isWanted);
-  if (!failure.isEmpty()) return Q_EMIT noticed(failure);
-  Q_EMIT noticed(isWanted ? QStringLiteral("Brenn Mivra Meetings starts after your next login.")
+  if (!failure.isEmpty()) return Q_EMIT message(failure);
+  Q_EMIT message(isWanted ? QStringLiteral("Brenn Mivra Meetings starts after your next login.")
                           : QStringLiteral("Brenn Mivra Meetings does not start after login any more."));
 }
 

@@ -20,7 +20,7 @@ class GeneralSettings final : public QObject {
   void apply();
 
  Q_SIGNALS:
-  void noticed(const QString& text);  // for the user
+  void message(const QString& text);  // for the user
 
  private:
   void update(const Dictionary& values);

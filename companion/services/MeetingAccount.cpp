@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "companion/exchange/ExchangeMeetings.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 
@@ -9,18 +10,13 @@ namespace {
 
 constexpr int kMostDays = 31;
 
-// Why nothing is listed from there; null for Outlook.
+// Why no meetings are listed from there; null for Outlook.
 QString otherSourceText(const QString& source) {
   if (source == kKZCalendarIntegrationSourceOutlook) return {};
-  if (source == kKZCalendarIntegrationSourceGoogle) {
+  if (source == kKZCalendarIntegrationSourceGoogle || source == kKZCalendarIntegrationSourceMivRa) {
     return QStringLiteral(
-        "A meeting application would list the meetings of your Google calendar here. This companion reads "
-        "Microsoft Outlook only: choose it in Preferences, Meetings.");
-  }
-  if (source == kKZCalendarIntegrationSourceMivRa) {
-    return QStringLiteral(
-        "A meeting application would list the meetings of your meeting service here. This companion reads "
-        "Microsoft Outlook only: choose it in Preferences, Meetings.");
+        "The meetings of your calendar are not listed here: this companion reads Microsoft Outlook only. "
+        "Choose it in Preferences, Meetings.");
   }
   return QStringLiteral(
       "No calendar is chosen. Choose Microsoft Outlook in Preferences, Meetings, to see your next meetings.");
@@ -42,13 +38,11 @@ MeetingAccount readMeetingAccount() {
   account.exchange = dictionaryValue(calendar, kKZCalendarIntegrationExchange);
   account.isOnline = isSet(account.exchange, kKZCalendarIntegrationIsOnline);
   account.days = std::clamp(textValue(calendar, kKZCalendarIntegrationDays).toInt(), 1, kMostDays);
-  const bool isApplied = account.exchange.contains(kKZCalendarIntegrationExchangeExternalUrl) ||
-                         account.exchange.contains(kKZCalendarIntegrationExchangeInternalUrl);
-  if (!isApplied) {
+  if (meetingAddress(account.exchange).isEmpty()) {
     account.missing =
         QStringLiteral("No account is applied yet. Enter your email address in Preferences, Meetings.");
   } else if (!flagValue(account.exchange, kKZCalendarIntegrationOnpremiseCredValid).value_or(true)) {
-    // Asking again with what was refused could lock the account.
+    // Sending the refused password again could lock the account.
     account.missing = refusedPasswordText();
   }
   return account;

@@ -4,9 +4,9 @@
 
 #include "host/KZFoundation/Dictionary.h"
 
-// Whose meetings are to be listed, as the settings store says.
+// The account to list meetings of, from the settings store.
 struct MeetingAccount {
-  QString missing = {};      // a sentence that says why nothing is listed; empty where something is
+  QString missing = {};      // why nothing is listed, in a sentence; empty where something is
   Dictionary exchange = {};  // the applied account
   bool isOnline = false;
   int days = 0;

@@ -2,9 +2,7 @@
 
 #include <algorithm>
 
-#include "companion/network/NetworkConfiguration.h"
 #include "companion/network/WebAddress.h"
-#include "companion/services/ServiceNetwork.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZUtility.h"
 
@@ -12,7 +10,7 @@ namespace {
 
 constexpr qsizetype kLongestText = 1000;
 
-// Texts are shown to the user: what would break a line or fill the screen is none.
+// The text under the key, which is shown to the user; null where it would break a line or fill the screen.
 QString plainText(const Dictionary& record, const char* key) {
   const QString text = textValue(record, QLatin1String(key));
   const bool isPlain = text.size() <= kLongestText &&
@@ -20,23 +18,21 @@ QString plainText(const Dictionary& record, const char* key) {
   return isPlain && !text.isEmpty() ? text : QString();
 }
 
-// A site may lead to its own pages, or to this machine.
 QUrl ownLink(const Dictionary& links, const char* key, const QString& host) {
   const QUrl link(plainText(links, key), QUrl::StrictMode);
-  const bool isOwn = isLoopback(link) || isWithinDomain(link.host(), host);
-  return isOwn && isSafeAddress(link) ? link : QUrl();
+  return isOwnPage(link, host) ? link : QUrl();
 }
 
-Dictionary preferenceRecord(const Dictionary& said) {
+Dictionary preferenceRecord(const Dictionary& description) {
   Dictionary record;
   const std::pair<QString, const char*> texts[] = {{QRT_Preference_PMRUrl, "pmrUrl"},
                                                    {QRT_Preference_PMRSipUrl, "pmrSipUrl"}};
   for (const auto& [key, name] : texts) {
-    const QString text = plainText(said, name);
+    const QString text = plainText(description, name);
     if (!text.isNull()) record.insert(key, text);
   }
   for (const char* name : {"disableCalendarIntegration", "enableListGoogleCalendarMeeting"}) {
-    const auto flag = flagValue(said, QLatin1String(name));
+    const auto flag = flagValue(description, QLatin1String(name));
     if (flag) record.insert(QLatin1String(name), *flag);
   }
   return record;
@@ -47,17 +43,17 @@ Dictionary preferenceRecord(const Dictionary& said) {
 std::optional<MeetingSite> readMeetingSite(const QString& site, const QByteArray& json) {
   const QVariant value = KZUtility::JSONValueFromString(QString::fromUtf8(json));
   if (value.metaType() != QMetaType::fromType<Dictionary>()) return {};
-  const Dictionary said = value.toMap();
-  const Dictionary links = dictionaryValue(said, QStringLiteral("links"));
+  const Dictionary description = value.toMap();
+  const Dictionary links = dictionaryValue(description, QStringLiteral("links"));
   const QUrl address = siteAddress(site);
   const QString host = address.host();
-  const QString downloads = plainText(said, "downloads");
+  const QString downloads = plainText(description, "downloads");
   return MeetingSite{
       .site = site,
-      .name = plainText(said, "name"),
+      .name = plainText(description, "name"),
       .downloads = isSafeStep(address, QUrl(downloads, QUrl::StrictMode)) ? downloads : QString(),
-      .isOutlookEnabled = flagValue(said, QStringLiteral("outlook")),
+      .isOutlookEnabled = flagValue(description, QStringLiteral("outlook")),
       .meetingSettings = ownLink(links, "meetingSettings", host),
       .joinByNumber = ownLink(links, "joinByNumber", host),
-      .preference = preferenceRecord(dictionaryValue(said, QStringLiteral("preference")))};
+      .preference = preferenceRecord(dictionaryValue(description, QStringLiteral("preference")))};
 }

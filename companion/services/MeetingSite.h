@@ -7,7 +7,7 @@
 
 #include "host/KZFoundation/Dictionary.h"
 
-// What a meeting site says of itself.
+// What a meeting site publishes about itself.
 struct MeetingSite {
   QString site;            // its host name
   QString name = {};       // null where it has none
@@ -18,5 +18,5 @@ struct MeetingSite {
   Dictionary preference = {};  // the user's record, as the plug-in wants it
 };
 
-// Nothing where the text is no such record. What it says beyond its rights is left out.
+// Nothing where the text is no such description. Addresses that the site may not name are left out.
 std::optional<MeetingSite> readMeetingSite(const QString& site, const QByteArray& json);

@@ -1,9 +1,7 @@
 #include "companion/services/NextMeetings.h"
 
 #include <chrono>
-#include <utility>
 
-#include "companion/exchange/SandboxExchange.h"
 #include "companion/runtime/PluginHost.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZConstants.h"
@@ -15,61 +13,35 @@ using namespace std::chrono_literals;
 
 constexpr auto kRefreshTime = 5min;
 
-bool isWithin(const ServiceNetwork& network, const Dictionary& exchange) {
-  for (const QString& key :
-       {kKZCalendarIntegrationExchangeExternalUrl, kKZCalendarIntegrationExchangeInternalUrl}) {
-    const QString address = textValue(exchange, key);
-    if (!address.isEmpty() && !network.mayAsk(QUrl(address))) return false;
-  }
-  return true;
-}
-
 }  // namespace
 
-NextMeetings::NextMeetings(PluginHost* host, ServiceNetwork* network, ExchangeConfiguration exchange)
-    : m_network(network), m_ordinary(std::move(exchange)), m_token(host) {
+NextMeetings::NextMeetings(PluginHost* host, ServiceNetwork* network) : m_network(network), m_token(host) {
   m_soon.setSingleShot(true);
   m_soon.setInterval(0ms);
   m_again.setInterval(kRefreshTime);
-  connect(&m_soon, &QTimer::timeout, this, &NextMeetings::ask);
-  connect(&m_again, &QTimer::timeout, this, &NextMeetings::refreshSoon);
+  connect(&m_soon, &QTimer::timeout, this, &NextMeetings::request);
+  connect(&m_again, &QTimer::timeout, this, &NextMeetings::refresh);
   connect(&m_token, &TokenRequest::failed, this, [this](const QString& reason) { show({}, reason); });
-  // A token goes to the account that it was asked for, whatever the store says meanwhile.
-  connect(&m_token, &TokenRequest::got, this,
-          [this](const QString& token) { m_exchange->list(m_account.exchange, token, m_account.days); });
-  connect(network, &ServiceNetwork::changed, this, &NextMeetings::refreshSoon);
-  useSandbox({});
+  connect(&m_token, &TokenRequest::got, this, &NextMeetings::list);
+  connect(network, &ServiceNetwork::changed, this, &NextMeetings::refresh);
   watchStore();
   watchHost(host);
-}
-
-void NextMeetings::useSandbox(const QJsonObject& description) {
-  m_token.cancel();
-  m_exchange = std::make_unique<ExchangeMeetings>(withSandbox(m_ordinary, description));
-  connect(m_exchange.get(), &ExchangeMeetings::listed, this, [this](const QList<ExchangeMeeting>& meetings) {
-    show(meetings,
-         meetings.isEmpty() ? QStringLiteral("No meetings in the days that you chose.") : QString());
-  });
-  connect(m_exchange.get(), &ExchangeMeetings::failed, this,
-          [this](const QString& reason) { show({}, reason); });
-  refreshSoon();
 }
 
 void NextMeetings::watchStore() {
   connect(&KZPlistFileHandle::sharedInstance(), &KZPlistFileHandle::valueChanged, this,
           [this](const QString& key) {
-            if (key == QLatin1String("calendarIntegration")) refreshSoon();
+            if (key == QLatin1String("calendarIntegration")) refresh();
           });
 }
 
 void NextMeetings::watchHost(PluginHost* host) {
-  host->handle(KZCommand::KZCmdCalendarIntegrationSourceChanged, this,
-               [this](const Content&) { refreshSoon(); });
+  host->handle(KZCommand::KZCmdCalendarIntegrationSourceChanged, this, [this](const Content&) { refresh(); });
   // The same account may have been applied with another password.
   m_observing = host->addObserver([this](const PluginEvent& event, PluginHost::Phase phase) {
     const auto* notified = std::get_if<NotificationToPlugin>(&event);
     const bool isResolved = notified && notified->index == KZNotify::KZNotifyResolveExchangeDone;
-    if (isResolved && phase == PluginHost::Phase::Begin) refreshSoon();
+    if (isResolved && phase == PluginHost::Phase::Begin) refresh();
   });
 }
 
@@ -77,31 +49,39 @@ void NextMeetings::setWatched(bool isWatched) {
   m_isWatched = isWatched;
   if (isWatched) {
     m_again.start();
-    return refreshSoon();
+    return refresh();
   }
   m_again.stop();
   m_soon.stop();
 }
 
-void NextMeetings::refreshSoon() {
+void NextMeetings::refresh() {
   if (m_isWatched) m_soon.start();
 }
 
-void NextMeetings::ask() {
+void NextMeetings::request() {
   m_token.cancel();
-  m_exchange->cancel();
+  m_exchange.reset();
   m_account = readMeetingAccount();
   if (!m_account.missing.isEmpty()) return show({}, m_account.missing);
-  if (!m_network->isReady()) return show({}, m_network->missing());
-  if (!isWithin(*m_network, m_account.exchange)) {
-    return show({},
-                QStringLiteral("This account is outside the sandbox. Detect one of the Accounts to try, or "
-                               "start the companion with --network."));
-  }
+  // The request of a token would already reach an online service.
+  const QString refusal = m_network->refusalOf(meetingAddress(m_account.exchange));
+  if (!refusal.isEmpty()) return show({}, refusal);
   m_isAsking = true;
   Q_EMIT changed();
-  if (m_account.isOnline) return m_token.ask(m_account.exchange);
-  m_exchange->list(m_account.exchange, {}, m_account.days);
+  m_account.isOnline ? m_token.ask(m_account.exchange) : list({});
+}
+
+// The token goes to the account that it was requested for, even if the store has changed since.
+void NextMeetings::list(const QString& token) {
+  m_exchange = std::make_unique<ExchangeMeetings>(m_network->exchange());
+  connect(m_exchange.get(), &ExchangeMeetings::listed, this, [this](const QList<ExchangeMeeting>& meetings) {
+    show(meetings,
+         meetings.isEmpty() ? QStringLiteral("No meetings in the days that you chose.") : QString());
+  });
+  connect(m_exchange.get(), &ExchangeMeetings::failed, this,
+          [this](const QString& reason) { show({}, reason); });
+  m_exchange->list(m_account.exchange, token, m_account.days);
 }
 
 void NextMeetings::show(const QList<ExchangeMeeting>& meetings, const QString& text) {

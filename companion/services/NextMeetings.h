@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QJsonObject>
 #include <QList>
 #include <QObject>
 #include <QString>
@@ -14,40 +13,37 @@
 
 class PluginHost;
 
-// The next meetings of the applied account. Asked while somebody watches: at once when the account changes,
-// and every few minutes. Main thread only.
+// The next meetings of the applied account. Requested while they are on the screen: at once when the account
+// changes, and every few minutes. Main thread only.
 class NextMeetings final : public QObject {
   Q_OBJECT
 
  public:
-  // The two are not owned and must outlive this; `exchange` is how accounts are reached without the sandbox.
-  NextMeetings(PluginHost* host, ServiceNetwork* network, ExchangeConfiguration exchange);
+  // The two are not owned and must outlive this.
+  NextMeetings(PluginHost* host, ServiceNetwork* network);
 
-  // `description` is the "exchange" of what kz-sandbox prints first; empty while it is not running.
-  void useSandbox(const QJsonObject& description);
-
-  // Nobody watches at first.
+  // Whether the meetings are on the screen; at first they are not.
   void setWatched(bool isWatched);
-  void refresh() { refreshSoon(); }
+  // Soon, and only while they are watched.
+  void refresh();
 
   const QList<ExchangeMeeting>& meetings() const { return m_meetings; }
-  const QString& text() const { return m_text; }  // what is missing, or how it stands
+  const QString& text() const { return m_text; }  // why there are none; empty where there are
   bool isAsking() const { return m_isAsking; }
 
  Q_SIGNALS:
   void changed();
 
  private:
-  void refreshSoon();
   void watchStore();
   void watchHost(PluginHost* host);
-  void ask();
+  void request();
+  void list(const QString& token);
   void show(const QList<ExchangeMeeting>& meetings, const QString& text);
 
   ServiceNetwork* m_network;
-  const ExchangeConfiguration m_ordinary;
   TokenRequest m_token;
-  MeetingAccount m_account;  // the one that is asked
+  MeetingAccount m_account;  // of the current request
   std::unique_ptr<ExchangeMeetings> m_exchange;
   std::shared_ptr<const void> m_observing;
   QTimer m_soon;

@@ -2,47 +2,47 @@
 
 #include <utility>
 
-#include "companion/network/SandboxEndpoints.h"
 #include "companion/network/WebAddress.h"
+#include "host/KZUtility/KZWorkspace.h"
 
-ServiceNetwork::ServiceNetwork(NetworkReach reach, NetworkConfiguration configuration)
+ServiceNetwork::ServiceNetwork(NetworkReach reach, ExchangeConfiguration configuration)
     : m_reach(reach),
       m_configuration(std::move(configuration)),
       m_missing(QStringLiteral("The sandbox is still starting. Try again in a moment.")) {}
 
-void ServiceNetwork::useSandbox(const QJsonObject& description) {
-  m_sandbox = description;
+void ServiceNetwork::useSandbox(const SandboxDescription& sandbox) {
+  m_sandbox = sandbox;
   Q_EMIT changed();
 }
 
-void ServiceNetwork::loseSandbox() {
+void ServiceNetwork::loseSandbox(const QString& reason) {
   m_sandbox = {};
-  m_missing = QStringLiteral("The sandbox is not running. Start the companion again.");
+  m_missing = QStringLiteral("%1 Start the companion again.").arg(reason);
   Q_EMIT changed();
 }
 
 QString ServiceNetwork::refusalOf(const QUrl& address) const {
-  if (m_reach == NetworkReach::Network) return {};
-  if (m_sandbox.isEmpty()) return m_missing;
-  const QString domain = m_sandbox.value(QLatin1String("domain")).toString();
-  if (isWithinDomain(address.host(), domain)) return {};
+  if (!isReady()) return m_missing;
+  if (m_reach == NetworkReach::Network || isWithinDomain(address.host(), m_sandbox.domain)) return {};
   return QStringLiteral(
-             "%1 is outside the sandbox and was not asked. Choose the site meetings.%2 in Preferences, or "
+             "%1 is outside the sandbox and was not asked. Use an account or a site of the page Try out, or "
              "start the companion with --network.")
-      .arg(address.host(), domain);
+      .arg(address.host());
+}
+
+ExchangeConfiguration ServiceNetwork::exchange() const {
+  ExchangeConfiguration configuration = m_configuration;
+  // Their users would sign in outside the sandbox.
+  if (m_reach == NetworkReach::Sandbox) configuration.onlineServices.clear();
+  configuration.network.refusal = [this](const QUrl& address) { return refusalOf(address); };
+  return m_sandbox.addedTo(std::move(configuration));
 }
 
 std::unique_ptr<WebFetch> ServiceNetwork::fetch() const {
-  NetworkConfiguration configuration = m_configuration;
-  configuration.endpoint = sandboxEndpoints(m_sandbox, std::move(configuration.endpoint));
-  return std::make_unique<WebFetch>(std::move(configuration),
-                                    [this](const QUrl& address) { return refusalOf(address); });
+  return std::make_unique<WebFetch>(exchange().network);
 }
 
-QUrl siteAddress(const QString& site) {
-  QUrl address(QStringLiteral("https://%1/").arg(site), QUrl::StrictMode);
-  const bool isSite = address.path() == QLatin1String("/") && !address.hasQuery() && !address.hasFragment();
-  if (!isSite || !isSafeAddress(address)) return {};
-  if (isLoopback(address)) address.setScheme(QStringLiteral("http"));
-  return address;
+QString openInBrowser(const QUrl& page) {
+  if (KZWorkspace::sharedWorkspace().openURL(page)) return {};
+  return QStringLiteral("No browser opened %1. Open the address yourself.").arg(page.toDisplayString());
 }

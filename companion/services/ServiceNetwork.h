@@ -1,31 +1,31 @@
 #pragma once
 
-#include <QJsonObject>
 #include <QObject>
 #include <QString>
 #include <memory>
 
+#include "companion/exchange/SandboxDescription.h"
 #include "companion/network/WebFetch.h"
 
-// How the services reach meeting sites, and which of them they may ask. Main thread only.
+// How the companion reaches servers, and which of them it may ask now. Main thread only.
 class ServiceNetwork final : public QObject {
   Q_OBJECT
 
  public:
-  // With NetworkReach::Sandbox nobody outside the sandbox is asked.
-  explicit ServiceNetwork(NetworkReach reach, NetworkConfiguration configuration = {});
+  // With NetworkReach::Sandbox nothing outside the sandbox is asked. `configuration` is for the rest.
+  explicit ServiceNetwork(NetworkReach reach, ExchangeConfiguration configuration = {});
 
-  // `description` is the "site" of what kz-sandbox prints first.
-  void useSandbox(const QJsonObject& description);
-  void loseSandbox();
+  void useSandbox(const SandboxDescription& sandbox);
+  void loseSandbox(const QString& reason);  // a sentence
 
-  // Why nobody may be asked there now, in a sentence; empty where somebody may.
-  QString refusalOf(const QUrl& address) const;
-  bool mayAsk(const QUrl& address) const { return refusalOf(address).isEmpty(); }
+  // Whether anything may be asked. While it is not, `missing` is the reason, in a sentence.
   bool isReady() const { return m_reach == NetworkReach::Network || !m_sandbox.isEmpty(); }
-  const QString& missing() const { return m_missing; }  // why not, in a sentence, while it is not
+  const QString& missing() const { return m_missing; }
+  // Why this address must not be asked, in a sentence; empty where it may be.
+  QString refusalOf(const QUrl& address) const;
 
-  // Reaches what may be asked now; it learns of no later change. Must not outlive this.
+  // Both reach what may be asked now, and must not outlive this.
+  ExchangeConfiguration exchange() const;
   std::unique_ptr<WebFetch> fetch() const;
 
  Q_SIGNALS:
@@ -33,10 +33,10 @@ class ServiceNetwork final : public QObject {
 
  private:
   const NetworkReach m_reach;
-  const NetworkConfiguration m_configuration;
-  QJsonObject m_sandbox;  // empty while it is not running
-  QString m_missing;      // why not
+  const ExchangeConfiguration m_configuration;
+  SandboxDescription m_sandbox;  // empty while it is not running
+  QString m_missing;
 };
 
-// The address of a site: a host name, with a port where it is not the usual one. Empty for what is none.
-QUrl siteAddress(const QString& site);
+// Opens the page in the user's browser. Returns a sentence for the user where no browser opens it, else null.
+[[nodiscard]] QString openInBrowser(const QUrl& page);

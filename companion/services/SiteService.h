@@ -11,44 +11,45 @@
 
 class PluginHost;
 
-// The user's meeting site: what it says of itself and of the user, for the plug-in and for this host. Main
-// thread only.
+// The user's meeting site: what it publishes about itself and the user, for the plug-in and for this host.
+// Main thread only.
 class SiteService final : public QObject {
   Q_OBJECT
 
  public:
-  // What a site said, or a sentence that tells why it said nothing.
-  struct Answer {
+  // What a site published, or a sentence that says why there is nothing.
+  struct Result {
     std::optional<MeetingSite> site = {};
     QString failure = {};
   };
-  using Done = std::function<void(const Answer&)>;
+  using Done = std::function<void(const Result&)>;
 
-  // `standIn` is the user's record while no site has given one. The two are not owned and must outlive this.
-  SiteService(PluginHost* host, ServiceNetwork* network, const Dictionary& standIn);
+  // `fallback` is the user's record while no site has given one. The two are not owned and must outlive this.
+  SiteService(PluginHost* host, ServiceNetwork* network, const Dictionary& fallback);
 
-  // Tells the plug-in, as a host does after a sign-in. While a guest is there nobody's record is told.
+  // Sends the user's record to the plug-in, as a host does after a sign-in. A guest has no record.
   void signIn();
   void signOut() { m_isSignedIn = false; }
 
-  // Asks the stored site in the background.
+  // Reads the stored site's description in the background.
   void refresh();
 
-  // Asks without taking over; answers later. One question at a time, a new one ends the one before.
+  // Requests a site's description without adopting it; calls back later. One at a time, a new one ends the
+  // one before.
   void lookUp(const QString& site, const Done& done);
-  void cancelLookUp() { m_question.reset(); }
+  void cancelLookUp() { m_lookUp.reset(); }
 
-  // The site from now on; the plug-in and the store learn of it.
+  // Makes it the user's site, in the store and for the plug-in.
   void adopt(const MeetingSite& site);
-  // The same for one that does not answer.
+  // The same for a site that does not answer.
   void adoptSilent(const QString& site);
 
   void openMeetingSettings();
   void joinByNumber();
 
  Q_SIGNALS:
-  void noticed(const QString& text);  // for the user
-  void siteWanted();                  // the user wants another one
+  void message(const QString& text);  // for the user
+  void siteWanted();                  // the user wants to change the site
   void refreshed();                   // the stored site has answered, or will not
   void changed();                     // another site, or another download address
 
@@ -56,16 +57,16 @@ class SiteService final : public QObject {
   void openPage(int page);
   void renew(const MeetingSite& site);
   void take(const MeetingSite& site);
-  void tellPlugin(const Dictionary& record);
-  void showRecordAnew();
-  void showAgain();
+  void sendRecord(const Dictionary& record);
+  void moveTo(const MeetingSite& site);
+  void showNewRecord();
   Dictionary record() const;
 
   PluginHost* m_host;
   ServiceNetwork* m_network;
-  const Dictionary m_standIn;
+  const Dictionary m_fallback;
   std::optional<MeetingSite> m_site;
-  std::unique_ptr<WebFetch> m_question;
+  std::unique_ptr<WebFetch> m_lookUp;
   std::unique_ptr<WebFetch> m_refresh;
   bool m_isSignedIn = false;
 };

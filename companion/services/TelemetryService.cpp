@@ -69,7 +69,7 @@ void TelemetryService::keep(const Dictionary& record) {
   const QString reason = m_file.append(lineOf(record));
   // Once until it works again: every click would say it.
   if (!reason.isEmpty() && !m_isFailing) {
-    Q_EMIT noticed(QStringLiteral("Telemetry cannot be kept in %1: %2. Free some space, or switch it off.")
+    Q_EMIT message(QStringLiteral("Telemetry cannot be kept in %1: %2. Free some space, or switch it off.")
                        .arg(path(), reason));
   }
   m_isFailing = !reason.isEmpty();
@@ -84,7 +84,7 @@ QList<TelemetryRecord> TelemetryService::newest(int count) const {
 
 void TelemetryService::deleteAll() {
   if (!m_file.removeAll()) {
-    Q_EMIT noticed(
+    Q_EMIT message(
         QStringLiteral("%1 cannot be deleted. Make its folder writable and try again.").arg(path()));
   }
   Q_EMIT changed();

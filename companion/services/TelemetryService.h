@@ -16,7 +16,7 @@ struct TelemetryRecord {
   QString details;
 };
 
-// Keeps what the plug-in tells of the user's choices, on this machine alone. Main thread only.
+// Keeps the plug-in's telemetry in files on this machine. Main thread only.
 class TelemetryService final : public QObject {
   Q_OBJECT
 
@@ -33,7 +33,7 @@ class TelemetryService final : public QObject {
 
  Q_SIGNALS:
   void changed();
-  void noticed(const QString& text);  // for the user
+  void message(const QString& text);  // for the user
 
  private:
   void keep(const Dictionary& record);

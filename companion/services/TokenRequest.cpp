@@ -4,10 +4,10 @@
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZConstants.h"
 
-TokenRequest::TokenRequest(PluginHost* host, std::chrono::milliseconds patience) : m_host(host) {
-  m_patience.setSingleShot(true);
-  m_patience.setInterval(patience);
-  connect(&m_patience, &QTimer::timeout, this, [this] {
+TokenRequest::TokenRequest(PluginHost* host, std::chrono::milliseconds timeLimit) : m_host(host) {
+  m_deadline.setSingleShot(true);
+  m_deadline.setInterval(timeLimit);
+  connect(&m_deadline, &QTimer::timeout, this, [this] {
     Q_EMIT failed(
         QStringLiteral("The sign-in of %1 was not renewed in time. Refresh, or detect the account again.")
             .arg(m_email));
@@ -18,7 +18,7 @@ TokenRequest::TokenRequest(PluginHost* host, std::chrono::milliseconds patience)
 
 void TokenRequest::ask(const Dictionary& exchange) {
   m_email = textValue(exchange, kKZCalendarIntegrationExchangeEmail);
-  m_patience.start();
+  m_deadline.start();
   m_host->trigger(
       KZCommand::KZCmdGetExchOnlineToken,
       Dictionary{{kKZCalendarIntegration, Dictionary{{kKZCalendarIntegrationExchange, exchange}}}});
@@ -26,14 +26,14 @@ void TokenRequest::ask(const Dictionary& exchange) {
 
 void TokenRequest::cancel() {
   m_email.clear();
-  m_patience.stop();
+  m_deadline.stop();
 }
 
 void TokenRequest::takeToken(const Dictionary& values) {
   if (m_email.isNull()) return;
   const Dictionary calendar = dictionaryValue(values, kKZCalendarIntegration);
   const Dictionary exchange = dictionaryValue(calendar, kKZCalendarIntegrationExchange);
-  // The answer to an earlier question may come late.
+  // The response to an earlier request may come late.
   if (!isEqualText(textValue(exchange, kKZCalendarIntegrationExchangeEmail), m_email)) return;
   if (isSet(values, QStringLiteral("GetTokenFailed"))) {
     return fail(QStringLiteral("The sign-in of %1 could not be renewed. Detect the account again to sign in.")

@@ -16,10 +16,10 @@ class TokenRequest final : public QObject {
 
  public:
   // The host is not owned and must outlive this.
-  explicit TokenRequest(PluginHost* host, std::chrono::milliseconds patience = std::chrono::minutes(1));
+  explicit TokenRequest(PluginHost* host, std::chrono::milliseconds timeLimit = std::chrono::minutes(1));
 
-  // One of the two follows, also from within. A token that comes after the patience has ended, and `failed`
-  // has been told, is still given.
+  // One of the signals follows, possibly before this returns. A token that comes after the time limit, and so
+  // after `failed`, is still reported.
   void ask(const Dictionary& exchange);
   void cancel();
 
@@ -32,6 +32,6 @@ class TokenRequest final : public QObject {
   void fail(const QString& reason);
 
   PluginHost* m_host;
-  QTimer m_patience;
+  QTimer m_deadline;
   QString m_email;  // null while nothing is asked
 };

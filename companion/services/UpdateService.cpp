@@ -1,6 +1,7 @@
 #include "companion/services/UpdateService.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 #include <chrono>
 #include <utility>
 
@@ -9,7 +10,6 @@
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZConstants.h"
-#include "host/KZUtility/KZPlistFileHandle.h"
 #include "host/KZUtility/KZUtility.h"
 
 namespace {
@@ -23,114 +23,104 @@ QUrl manifestAddress(const Dictionary& content) {
   return siteAddress(textValue(content, QRT_LoginResult_site)).resolved(file);
 }
 
+// Dotted numbers alone; null for any other text.
+QVersionNumber readVersion(const QString& text) {
+  static const QRegularExpression dotted(QStringLiteral("\\A[0-9]{1,8}(\\.[0-9]{1,8}){0,5}\\z"));
+  return dotted.match(text).hasMatch() ? QVersionNumber::fromString(text) : QVersionNumber();
+}
+
 void trigger(PluginHost& host, KZCommand command) {
   host.trigger(command, Dictionary{{TelemetryKey_ActionFrom, TelemetryValue_ActionFrom_APP}});
 }
 
 }  // namespace
 
-UpdateService::UpdateService(PluginHost* host, ServiceNetwork* network, const QString& folder)
-    : m_host(host), m_network(network), m_folder(folder) {
-  m_day.setInterval(24h);
-  connect(&m_day, &QTimer::timeout, this,
+std::optional<UpdateManifest> readUpdateManifest(const QUrl& address, const QByteArray& json) {
+  const Dictionary manifest = KZUtility::JSONValueFromString(QString::fromUtf8(json)).toMap();
+  const QVersionNumber version = readVersion(textValue(manifest, QStringLiteral("version")));
+  if (version.isNull()) return {};
+  const QString page = textValue(manifest, QStringLiteral("page"));
+  const QUrl pageAddress = page.isEmpty() ? QUrl() : address.resolved(QUrl(page, QUrl::StrictMode));
+  const bool isOwn = isOwnPage(pageAddress, address.host());
+  return UpdateManifest{.version = version, .page = isOwn ? pageAddress : QUrl()};
+}
+
+UpdateService::UpdateService(PluginHost* host, ServiceNetwork* network) : m_host(host), m_network(network) {
+  m_daily.setInterval(24h);
+  connect(&m_daily, &QTimer::timeout, this,
           [this] { trigger(*m_host, KZCommand::KZCmdCheckForUpdatesAutomatically); });
   host->handle(KZCommand::KZCmdCheckForUpdates, this,
-               [this](const Content& content) { look(Check::Asked, content.value_or(Dictionary())); });
+               [this](const Content& content) { start(Check::Asked, content.value_or(Dictionary())); });
   host->handle(KZCommand::KZCmdCheckForUpdatesAutomatically, this, [this](const Content& content) {
-    if (m_check == Check::None) look(Check::Quiet, content.value_or(Dictionary()));
+    if (m_check == Check::None) start(Check::Quiet, content.value_or(Dictionary()));
   });
 }
 
 void UpdateService::check() {
   if (KZUtility::sharedInstance().isCheckForUpdatesInProgress()) {
-    return Q_EMIT noticed(
-        QStringLiteral("A check for updates is already running. Wait for it, or cancel it."));
+    return Q_EMIT message(QStringLiteral("A check for updates is already running."));
   }
   trigger(*m_host, KZCommand::KZCmdCheckForUpdates);
   if (m_check == Check::Asked) return;
   // Without a site the plug-in asks for nothing and leaves its flag to its host.
   KZUtility::sharedInstance().cleanCheckForUpdatesInProgressFlag();
-  Q_EMIT noticed(
+  Q_EMIT message(
       QStringLiteral("No site is known that could have updates. Choose one in Preferences, Account."));
 }
 
 void UpdateService::checkQuietly() {
-  m_day.start();
+  m_daily.start();
   trigger(*m_host, KZCommand::KZCmdCheckForUpdatesAutomatically);
 }
 
-void UpdateService::look(Check check, const Dictionary& content) {
+void UpdateService::start(Check check, const Dictionary& content) {
   m_check = check;
-  m_look = m_network->fetch();
-  m_look->start({.address = manifestAddress(content)},
-                [this](const WebAnswer& answer) { readManifest(answer); });
-  if (check == Check::Asked) Q_EMIT started();
+  if (check == Check::Asked) Q_EMIT message(QStringLiteral("Checking for updates."));
+  m_fetch = m_network->fetch();
+  m_fetch->start(manifestAddress(content), [this](const WebPage& page) { read(page); });
 }
 
-void UpdateService::readManifest(const WebAnswer& answer) {
-  if (!answer.failure.isEmpty()) return fail(answer.failure);
-  const auto manifest = readUpdateManifest(answer.address, answer.body);
-  if (!manifest) return fail(messageOf(WebTrouble::BadAnswer, answer.address.host()));
-  const QString current = QCoreApplication::applicationVersion();
-  if (manifest->version.normalized() <= readVersion(current).value_or(QVersionNumber()).normalized()) {
-    return succeed(QStringLiteral("Version %1 is the newest one.").arg(current));
+void UpdateService::read(const WebPage& page) {
+  if (page.failure) return fail(page.failure);
+  const auto manifest = readUpdateManifest(page.address, page.body);
+  if (!manifest) return fail({.kind = FailureKind::BadResponse, .host = page.address.host()});
+  const QVersionNumber current = readVersion(QCoreApplication::applicationVersion());
+  const bool isNewer = manifest->version.normalized() > current.normalized();
+  setOffer(isNewer ? manifest : std::nullopt);
+  const bool isAsked = std::exchange(m_check, Check::None) == Check::Asked;
+  if (isAsked) {
+    m_host->notify(KZNotify::KZNotifyCheckForUpdatesDone, Dictionary{{kKZResult, kKZSuccess}});
+    // The plug-in clears it after a failure only.
+    KZUtility::sharedInstance().cleanCheckForUpdatesInProgressFlag();
   }
-  if (m_check == Check::Asked) return download(*manifest);
-  const QString text = QStringLiteral("Version %1 is there.").arg(manifest->version.toString());
-  end();
-  Q_EMIT offered(text);
+  if (isNewer)
+    return Q_EMIT message(QStringLiteral("Version %1 is available.").arg(manifest->version.toString()));
+  if (isAsked) Q_EMIT message(QStringLiteral("You have the newest version."));
 }
 
-void UpdateService::download(const UpdateManifest& manifest) {
-  m_download = std::make_unique<UpdateDownload>(m_network->fetch(), m_folder, manifest);
-  connect(m_download.get(), &UpdateDownload::progressed, this, &UpdateService::progressed);
-  connect(m_download.get(), &UpdateDownload::failed, this, &UpdateService::fail);
-  connect(m_download.get(), &UpdateDownload::finished, this,
-          [this, version = manifest.version.toString()](const QString& path) {
-            succeed(QStringLiteral("Version %1 lies in %2. It is not installed by itself: open it with your "
-                                   "package manager.")
-                        .arg(version, path));
-          });
-  m_download->start();
+void UpdateService::setOffer(const std::optional<UpdateManifest>& manifest) {
+  m_offer = manifest;
+  Q_EMIT offerChanged();
 }
 
-void UpdateService::cancel() {
-  if (m_check == Check::Asked)
-    succeed(QStringLiteral("The update was not fetched. Check again when you want it."));
+QString UpdateService::offeredVersion() const {
+  return m_offer && !m_offer->page.isEmpty() ? m_offer->version.toString() : QString();
+}
+
+void UpdateService::openPage() {
+  const QString failure = m_offer ? openInBrowser(m_offer->page) : QString();
+  if (!failure.isEmpty()) Q_EMIT message(failure);
 }
 
 void UpdateService::abandon() {
-  // What was offered was the other site's, too.
-  if (m_check == Check::None) return Q_EMIT ended();
-  fail(QStringLiteral("The site has changed meanwhile. Check for updates again."));
+  m_fetch.reset();
+  setOffer({});
+  fail({.kind = FailureKind::Explained,
+        .detail = QStringLiteral("The site has changed meanwhile. Check for updates again.")});
 }
 
-void UpdateService::succeed(const QString& text) {
-  const bool isAsked = m_check == Check::Asked;
-  end();
-  if (!isAsked) return;
-  m_host->notify(KZNotify::KZNotifyCheckForUpdatesDone, Dictionary{{kKZResult, kKZSuccess}});
-  // The plug-in clears it after a failure only.
-  KZUtility::sharedInstance().cleanCheckForUpdatesInProgressFlag();
-  Q_EMIT noticed(text);
-}
-
-void UpdateService::fail(const QString& reason) {
-  const bool isAsked = m_check == Check::Asked;
-  end();
-  // A quiet check keeps quiet.
-  if (!isAsked) return;
-  m_host->notify(
-      KZNotify::KZNotifyCheckForUpdatesDone,
-      Dictionary{{kKZResult, kKZFail}, {kKZErrorHandleData, Dictionary{{kKZErrorMessage, reason}}}});
-}
-
-void UpdateService::end() {
-  m_check = Check::None;
-  m_look.reset();
-  if (m_download) {
-    m_download->stop();
-    m_download.release()->deleteLater();
-  }
-  Q_EMIT ended();
+void UpdateService::fail(const NetworkFailure& failure) {
+  // A quiet check reports no failure.
+  if (std::exchange(m_check, Check::None) != Check::Asked) return;
+  m_host->notify(KZNotify::KZNotifyCheckForUpdatesDone, failure.result());
 }

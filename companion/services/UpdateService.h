@@ -3,54 +3,61 @@
 #include <QObject>
 #include <QString>
 #include <QTimer>
+#include <QUrl>
+#include <QVersionNumber>
 #include <memory>
 #include <optional>
 
 #include "companion/services/ServiceNetwork.h"
-#include "companion/services/UpdateDownload.h"
 #include "host/KZFoundation/Dictionary.h"
 
 class PluginHost;
 
-// Looks for newer versions and fetches them; nothing is installed. Main thread only.
+// What a site offers for download.
+struct UpdateManifest {
+  QVersionNumber version;
+  QUrl page = {};  // where the user gets it; empty where the site names none that may be opened
+};
+
+// Nothing where the text is no manifest. `address` is where it was read.
+std::optional<UpdateManifest> readUpdateManifest(const QUrl& address, const QByteArray& json);
+
+// Checks whether a newer version is available, for commands 8 and 9. Main thread only.
 class UpdateService final : public QObject {
   Q_OBJECT
 
  public:
-  // The two are not owned and must outlive this. Packages go to `folder`.
-  UpdateService(PluginHost* host, ServiceNetwork* network, const QString& folder);
+  // The two are not owned and must outlive this.
+  UpdateService(PluginHost* host, ServiceNetwork* network);
 
   // As the user asks for it, through the plug-in.
   void check();
-  // Looks soon and then once a day, and only offers what it finds.
+  // Now and then once a day; reports only a newer version.
   void checkQuietly();
-  // The user wants to go on with something else.
-  void cancel();
-  // Ends what is under way: it would tell of another site.
+  // Ends a check: its result would be of another site.
   void abandon();
 
+  // The newer version that has a page to get it from; empty while there is none.
+  QString offeredVersion() const;
+  // Opens that page in the user's browser.
+  void openPage();
+
  Q_SIGNALS:
-  void noticed(const QString& text);  // for the user
-  void started();
-  void progressed(qint64 bytes, qint64 ofBytes);
-  void offered(const QString& text);  // the user may want to check
-  void ended();                       // nothing is under way or offered
+  void message(const QString& text);  // for the user
+  void offerChanged();
 
  private:
   enum class Check { None, Asked, Quiet };
 
-  void look(Check check, const Dictionary& content);
-  void readManifest(const WebAnswer& answer);
-  void download(const UpdateManifest& manifest);
-  void succeed(const QString& text);
-  void fail(const QString& reason);
-  void end();
+  void start(Check check, const Dictionary& content);
+  void read(const WebPage& page);
+  void setOffer(const std::optional<UpdateManifest>& manifest);
+  void fail(const NetworkFailure& failure);
 
   PluginHost* m_host;
   ServiceNetwork* m_network;
-  const QString m_folder;
-  QTimer m_day;
+  QTimer m_daily;
   Check m_check = Check::None;
-  std::unique_ptr<WebFetch> m_look;
-  std::unique_ptr<UpdateDownload> m_download;
+  std::unique_ptr<WebFetch> m_fetch;
+  std::optional<UpdateManifest> m_offer;
 };

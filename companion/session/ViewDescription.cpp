@@ -10,6 +10,7 @@
 #include "companion/runtime/PreferencesWindow.h"
 #include "companion/session/ControlDescription.h"
 #include "platform/FrameLayout.h"
+#include "platform/KeyView.h"
 #include "platform/View.h"
 #include "platform/ViewAnimation.h"
 #include "platform/WindowController.h"

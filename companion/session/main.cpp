@@ -145,8 +145,11 @@ int main(int argc, char** argv) {
     return kUnusable;
   }
   const QTemporaryDir freshFolder;
-  KZPlistFileHandle::sharedInstance().open(options.stateFolder.isEmpty() ? freshFolder.path()
-                                                                         : options.stateFolder);
+  const QString stateFolder = options.stateFolder.isEmpty() ? freshFolder.path() : options.stateFolder;
+  if (!KZPlistFileHandle::sharedInstance().open(stateFolder)) {
+    complain(QStringLiteral("%1 is used by another program").arg(stateFolder));
+    return kUnusable;
+  }
   KZKeyChainHandle::sharedInstance().useStorage(options.keychain);
   return runSession(options);
 }

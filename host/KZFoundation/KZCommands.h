@@ -42,8 +42,8 @@ enum class KZNotify : quint32 {
 
 enum class KZDirection { ToPlugin, ToHost };
 
-// The vocabulary of the border: dispatch, the names that hosts print, and the host guide's tables come from
-// here. A command that travels both ways has two rows.
+// Every command and notification between host and plug-in, with the name that hosts print and what the host
+// guide's tables say. A command that is sent both ways has two rows.
 struct KZCommandRow {
   KZCommand number;
   const char* name;

@@ -4,8 +4,8 @@
 
 #include "host/KZFoundation/KZHostExport.h"
 
-// Keys and values of the contents that cross the border. The text of each is its own name, except where users
-// see it. Some are compared by identity: pass the constant itself, not a copy of its text.
+// Keys and values of the contents of commands and notifications. The text of each is its own name, except
+// where users see it. Some are compared by identity: pass the constant itself, not a copy of its text.
 
 // Results
 KZ_HOST_EXPORT extern const QString kKZResult;

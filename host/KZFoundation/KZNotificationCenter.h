@@ -11,7 +11,7 @@
 
 struct KZNotification {
   QString name;
-  const void* object = nullptr;  // who posted it; only to be compared
+  const void* object = nullptr;  // the object that posted it; only compared, never used
   Dictionary userInfo;
 };
 

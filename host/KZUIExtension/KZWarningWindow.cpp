@@ -20,8 +20,8 @@ constexpr int kWarningSign = 48;
 constexpr int kWarningTextLeft = kWarningMargin + kWarningSign + 16;
 constexpr int kMessageWidth = 320;
 constexpr int kMostLines = 10;
-constexpr int kLongestMessage = 10'000;  // nobody reads on, and one endless line would take minutes to break
-constexpr int kLongestTitle = 300;       // a title beyond that is a mistake, and would make the window huge
+constexpr int kLongestMessage = 10'000;  // one endless line would take minutes to break
+constexpr int kLongestTitle = 300;       // a longer one would make the window huge
 
 // The message and title look like labels, in the window's own colour.
 void makeMessageFlat(QPlainTextEdit* message) {

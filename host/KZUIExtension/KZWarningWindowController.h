@@ -8,11 +8,12 @@
 
 class QWidget;
 
-// A small window that tells the user of an error, with one button. It never blocks. Main thread only.
+// A small window that shows an error, with one button. It never blocks. Main thread only.
 class KZ_HOST_EXPORT KZWarningWindowController {
  public:
   using Observer = std::function<void(const QString& title, const QString& message)>;
 
+  // The delegate is part of the signature that plug-ins use; the window needs nothing of it.
   explicit KZWarningWindowController(const void* delegate);
   ~KZWarningWindowController();
   Q_DISABLE_COPY_MOVE(KZWarningWindowController)
@@ -21,7 +22,7 @@ class KZ_HOST_EXPORT KZWarningWindowController {
   // is scrolled.
   void showWithTitle(const QString& title, const QString& message);
 
-  // Told of every showing in this process; an empty function ends that.
+  // Called at every showing in this process; an empty function ends that.
   static void setObserver(Observer observer);
 
  private:

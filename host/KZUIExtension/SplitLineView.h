@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPainter>
 #include <QWidget>
 
 #include "host/KZFoundation/KZHostExport.h"
@@ -9,8 +10,10 @@ class KZ_HOST_EXPORT SplitLineView : public QWidget {
   Q_OBJECT
 
  public:
-  SplitLineView();
+  SplitLineView() { setAttribute(Qt::WA_TransparentForMouseEvents); }
 
  protected:
-  void paintEvent(QPaintEvent* event) override;
+  void paintEvent(QPaintEvent*) override {
+    QPainter(this).fillRect(0, (height() - 1) / 2, width(), 1, palette().color(QPalette::Mid));
+  }
 };

@@ -1,11 +1,12 @@
 #include "host/KZUtility/KZKeyChainHandle.h"
 
 #include <QJsonDocument>
+#include <QMap>
+#include <QMutex>
 #include <QMutexLocker>
 
-#include "host/KZUtility/BoundedJson.h"
 #include "host/KZUtility/KZTrace.h"
-#include "host/KZUtility/MemoryKeychain.h"
+#include "host/KZUtility/KZUtility.h"
 #include "host/KZUtility/SecretServiceKeychain.h"
 
 namespace {
@@ -14,28 +15,12 @@ using Item = KZKeychainBackend::Item;
 using Answer = KZKeychainBackend::Answer;
 using Status = KZKeychainBackend::Status;
 
-const QString& keychainService() {
-  static const QString service = QStringLiteral("Brenn Mivra Meetings");
-  return service;
-}
-
-// One item for the pair, so that a name never meets another one's password.
-Item onpremiseItem() {
-  return {keychainService(), QStringLiteral("OutlookAccount(Onpremise)")};
-}
-Item onlineItem() {
-  return {keychainService(), QStringLiteral("OutlookAccount(Online)")};
-}
-
-const QString& usernameKey() {
-  static const QString key = QStringLiteral("username");
-  return key;
-}
-
-const QString& passwordKey() {
-  static const QString key = QStringLiteral("password");
-  return key;
-}
+const QString kService = QStringLiteral("Brenn Mivra Meetings");
+// One item for the pair, so that a name is never stored with the password of another one.
+const Item kOnpremiseItem{kService, QStringLiteral("OutlookAccount(Onpremise)")};
+const Item kOnlineItem{kService, QStringLiteral("OutlookAccount(Online)")};
+const QString kUsername = QStringLiteral("username");
+const QString kPassword = QStringLiteral("password");
 
 }  // namespace
 
@@ -45,63 +30,79 @@ struct KZKeyChainHandle::Private {
   KZKeyChainHandle* const handle;
   QMutex mutex;
   std::shared_ptr<KZKeychainBackend> backend;  // null while everything is in memory
-  bool isLost = false;
-  MemoryKeychain memory;  // besides, what is known of the backend's items
+  bool hasFailed = false;
+  // All secrets without a backend, else what is known of the backend's.
+  QMap<std::pair<QString, QString>, QByteArray> memory;
 
   std::shared_ptr<KZKeychainBackend> currentBackend() {
     const QMutexLocker lock(&mutex);
     return backend;
   }
 
-  void giveUp(const std::shared_ptr<KZKeychainBackend>& lost) {
+  Answer readMemory(const Item& item) {
+    const QMutexLocker lock(&mutex);
+    const auto found = memory.constFind({item.service, item.account});
+    if (found == memory.constEnd()) return {.status = Status::NotFound, .secret = {}};
+    return {.status = Status::Done, .secret = *found};
+  }
+
+  void writeMemory(const Item& item, const QByteArray& secret) {
+    const QMutexLocker lock(&mutex);
+    memory.insert({item.service, item.account}, secret);
+  }
+
+  Status removeFromMemory(const Item& item) {
+    const QMutexLocker lock(&mutex);
+    return memory.remove({item.service, item.account}) > 0 ? Status::Done : Status::NotFound;
+  }
+
+  void giveUp(const std::shared_ptr<KZKeychainBackend>& keychain) {
     {
       const QMutexLocker lock(&mutex);
-      if (backend != lost) return;
+      if (backend != keychain) return;
       backend.reset();
-      isLost = true;
+      hasFailed = true;
     }
     MVRNSWarningFuncTraceIMPL("KZUtility", Q_FUNC_INFO,
                               "the keychain is not available: secrets stay in memory for this run");
-    Q_EMIT handle->lost();
+    Q_EMIT handle->failed();
   }
 
   Answer read(const Item& item) {
     if (const auto keychain = currentBackend()) {
       Answer answer = keychain->read(item);
-      if (answer.status == Status::Done) (void)memory.write(item, answer.secret);
-      if (answer.status == Status::NotFound) (void)memory.remove(item);
+      if (answer.status == Status::Done) writeMemory(item, answer.secret);
+      if (answer.status == Status::NotFound) (void)removeFromMemory(item);
       if (answer.status != Status::Unavailable) return answer;
       giveUp(keychain);
     }
-    return memory.read(item);
+    return readMemory(item);
   }
 
   void write(const Item& item, const QByteArray& secret) {
-    (void)memory.write(item, secret);
+    writeMemory(item, secret);
     const auto keychain = currentBackend();
     if (keychain && keychain->write(item, secret) != Status::Done) giveUp(keychain);
     Q_EMIT handle->itemWritten(item.account);
   }
 
   Status remove(const Item& item) {
-    const Status status = removeFromAll(item);
+    Status status = removeFromMemory(item);
+    if (const auto keychain = currentBackend()) {
+      const Status answer = keychain->remove(item);
+      if (answer == Status::Unavailable) {
+        giveUp(keychain);
+      } else {
+        status = answer;
+      }
+    }
     if (status == Status::Done) Q_EMIT handle->itemRemoved(item.account);
     return status;
-  }
-
-  Status removeFromAll(const Item& item) {
-    const Status inMemory = memory.remove(item);
-    const auto keychain = currentBackend();
-    if (!keychain) return inMemory;
-    const Status status = keychain->remove(item);
-    if (status != Status::Unavailable) return status;
-    giveUp(keychain);
-    return inMemory;
   }
 };
 
 KZKeyChainHandle& KZKeyChainHandle::sharedInstance() {
-  // Never destroyed: a keychain that answers late must find what it answers to.
+  // Never destroyed: a keychain may answer after the application object is gone.
   static KZKeyChainHandle* const handle = new KZKeyChainHandle;
   return *handle;
 }
@@ -116,43 +117,41 @@ void KZKeyChainHandle::useStorage(Storage storage) {
 void KZKeyChainHandle::useBackend(std::shared_ptr<KZKeychainBackend> backend) {
   const QMutexLocker lock(&d->mutex);
   d->backend.swap(backend);
-  d->isLost = false;
+  d->hasFailed = false;
   d->memory.clear();
 }
 
-bool KZKeyChainHandle::isLost() const {
+bool KZKeyChainHandle::hasFailed() const {
   const QMutexLocker lock(&d->mutex);
-  return d->isLost;
+  return d->hasFailed;
 }
 
 void KZKeyChainHandle::getOutlookUsername(QString* username, QString* password) {
-  const Answer answer = d->read(onpremiseItem());
-  const QVariant pair = answer.status == Status::Done
-                            ? boundedJsonValue(QString::fromUtf8(answer.secret)).value_or(QVariant())
-                            : QVariant();
-  *username = textValue(pair.toMap(), usernameKey());
-  *password = textValue(pair.toMap(), passwordKey());
+  const Answer answer = d->read(kOnpremiseItem);
+  const Dictionary pair = KZUtility::JSONValueFromString(QString::fromUtf8(answer.secret)).toMap();
+  *username = textValue(pair, kUsername);
+  *password = textValue(pair, kPassword);
 }
 
 void KZKeyChainHandle::commitOutlookUsername(const QString& username, const QString& password) {
-  QVariantMap pair;
-  if (!username.isNull()) pair.insert(usernameKey(), username);
-  if (!password.isNull()) pair.insert(passwordKey(), password);
+  Dictionary pair;
+  if (!username.isNull()) pair.insert(kUsername, username);
+  if (!password.isNull()) pair.insert(kPassword, password);
   if (pair.isEmpty()) return removeOutlookCredential();
-  d->write(onpremiseItem(), QJsonDocument::fromVariant(pair).toJson(QJsonDocument::Compact));
+  d->write(kOnpremiseItem, QJsonDocument::fromVariant(pair).toJson(QJsonDocument::Compact));
 }
 
 void KZKeyChainHandle::removeOutlookCredential() {
-  (void)d->remove(onpremiseItem());
+  (void)d->remove(kOnpremiseItem);
 }
 
 std::optional<QByteArray> KZKeyChainHandle::getOutlookOnlineData() {
-  Answer answer = d->read(onlineItem());
+  Answer answer = d->read(kOnlineItem);
   return answer.status == Status::Done ? std::optional(std::move(answer.secret)) : std::nullopt;
 }
 
 void KZKeyChainHandle::commitOutlookOnlineData(const QByteArray& data) {
-  d->write(onlineItem(), data);
+  d->write(kOnlineItem, data);
 }
 
 KZKeychainBackend::Answer KZKeyChainHandle::copyGenericPassword(const Item& item) {

@@ -9,9 +9,9 @@
 #include "host/KZFoundation/KZHostExport.h"
 #include "host/KZUtility/KZKeychainBackend.h"
 
-// The host's keychain. Secrets go to the platform's keychain. Once that proves missing, locked or silent,
-// they live in memory until the run ends, with one warning trace, also when the keychain comes back: what it
-// holds then stays as it was, and what this run had read from it before is still known. Never in a file. Any
+// The host's keychain. Secrets are kept in the platform's keychain. Once that is missing, locked or silent,
+// they live in memory until the run ends, with one warning trace, also when the keychain comes back: its
+// items then stay as they were, and what this run has read from it is still known. Never in a file. Any
 // thread.
 class KZ_HOST_EXPORT KZKeyChainHandle : public QObject {
   Q_OBJECT
@@ -21,12 +21,11 @@ class KZ_HOST_EXPORT KZKeyChainHandle : public QObject {
 
   static KZKeyChainHandle& sharedInstance();
 
-  // Memory until the host says otherwise. Choosing again forgets what was in memory, and asks the keychain
-  // anew.
+  // Memory until the host chooses. Choosing again forgets what was in memory, and tries the keychain again.
   void useStorage(Storage storage);
   void useBackend(std::shared_ptr<KZKeychainBackend> backend);  // another keychain than these two
   // Whether the keychain that was chosen last has failed, so that what is committed lasts for this run only.
-  bool isLost() const;
+  bool hasFailed() const;
 
   // The saved on-premise credential; each text is null when absent. Committing two missing texts removes it.
   void getOutlookUsername(QString* username, QString* password);
@@ -42,8 +41,8 @@ class KZ_HOST_EXPORT KZKeyChainHandle : public QObject {
   [[nodiscard]] KZKeychainBackend::Status deleteGenericPassword(const KZKeychainBackend::Item& item);
 
  Q_SIGNALS:
-  // Once for each keychain that fails, on the thread of the call that it failed.
-  void lost();
+  // Once for each keychain that fails, on the thread of the call that failed.
+  void failed();
   // After an item was written or removed, in the keychain or in memory; on the thread of the call.
   void itemWritten(const QString& account);
   void itemRemoved(const QString& account);

@@ -18,8 +18,8 @@ class KZ_HOST_EXPORT KZKeychainBackend {
     QByteArray secret;
   };
 
-  KZKeychainBackend();
-  virtual ~KZKeychainBackend();
+  KZKeychainBackend() = default;
+  virtual ~KZKeychainBackend() = default;
   Q_DISABLE_COPY_MOVE(KZKeychainBackend)
 
   [[nodiscard]] virtual Answer read(const Item& item) = 0;

@@ -43,18 +43,22 @@ KZPlistFileHandle& KZPlistFileHandle::sharedInstance() {
 KZPlistFileHandle::KZPlistFileHandle() = default;
 KZPlistFileHandle::~KZPlistFileHandle() = default;
 
-void KZPlistFileHandle::open(const QString& folder) {
-  m_file = std::make_unique<PropertyListFile>(folder);
+bool KZPlistFileHandle::open(const QString& folder) {
+  close();  // before the lock: the folder may be the same
+  auto file = std::make_unique<PropertyListFile>(folder);
+  if (!file->lock()) return false;
+  m_file = std::move(file);
   m_values = m_file->read();
   m_setAsidePath = m_file->setAsidePath();
-  noteProblem();
+  reportProblem();
+  return true;
 }
 
 void KZPlistFileHandle::close() {
   m_file.reset();
   m_values.clear();
   m_setAsidePath.clear();
-  noteProblem();
+  reportProblem();
 }
 
 QString KZPlistFileHandle::filePath() const {
@@ -65,7 +69,7 @@ KZSaveProblem KZPlistFileHandle::saveProblem() const {
   return m_file ? m_file->problem() : KZSaveProblem::None;
 }
 
-void KZPlistFileHandle::noteProblem() {
+void KZPlistFileHandle::reportProblem() {
   if (m_problem == saveProblem()) return;
   m_problem = saveProblem();
   Q_EMIT saveProblemChanged(m_problem);
@@ -85,10 +89,10 @@ void KZPlistFileHandle::setValue(const QString& key, const QVariant& value) {
   const bool isChanged = !isSameValue(before, after);
   if (isChanged && after.isValid()) m_values.insert(key, after);
   if (isChanged && !after.isValid()) m_values.remove(key);
-  if (m_file) {
-    if (isChanged) m_file->set(key, after);
-    m_file->flush();
-    noteProblem();
+  // An unchanged value is a chance to write what an earlier failure left out.
+  if (m_file && (isChanged || saveProblem() != KZSaveProblem::None)) {
+    m_file->write(m_values);
+    reportProblem();
   }
   if (isChanged) Q_EMIT valueChanged(key, before, after);
 }

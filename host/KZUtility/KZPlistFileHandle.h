@@ -12,23 +12,26 @@ class PropertyListFile;
 
 // The host's settings store: an XML property list, read once and written atomically at every change. A value
 // that cannot be written stays in memory for this run, with an error trace; a file that cannot be read is
-// never overwritten. Keys that nobody here knows survive. Main thread only.
+// never overwritten. Unknown keys survive. Main thread only.
 class KZ_HOST_EXPORT KZPlistFileHandle : public QObject {
   Q_OBJECT
 
  public:
   static KZPlistFileHandle& sharedInstance();
 
-  // Reads the store in that folder, which is made when missing. Before the first call the store is in memory
-  // only.
-  void open(const QString& folder);
+  // Locks that folder, which is made when missing, and reads the store in it; a folder that was open before
+  // is left as by `close`. False when another process has locked the folder: nothing is read or written
+  // there, and the store is in memory only, as before the first call. A folder that cannot be made or locked
+  // for another reason is used without a lock. The lock ends with `close` or with the process, however that
+  // ends.
+  [[nodiscard]] bool open(const QString& folder);
   // Forgets everything and is in memory only again; the file stays.
   void close();
   QString filePath() const;  // null while in memory only
   // None while the file has all that was set, or there is none. What it lacks is written with the next change
   // that succeeds.
   KZSaveProblem saveProblem() const;
-  // Where the file lies that `open` could not read: the settings have started anew. Null when it could.
+  // Where `open` moved a file that it could not read, so that the settings start empty. Null when it could.
   QString setAsidePath() const { return m_setAsidePath; }
 
   // Keys as in the file. A missing value removes the key.
@@ -72,10 +75,10 @@ class KZ_HOST_EXPORT KZPlistFileHandle : public QObject {
   KZPlistFileHandle();
   ~KZPlistFileHandle() override;
 
-  void noteProblem();
+  void reportProblem();
 
   Dictionary m_values;
   std::unique_ptr<PropertyListFile> m_file;
-  KZSaveProblem m_problem = KZSaveProblem::None;  // as last told
+  KZSaveProblem m_problem = KZSaveProblem::None;  // as last emitted
   QString m_setAsidePath;
 };

@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "host/KZFoundation/Dictionary.h"
-#include "host/KZUtility/BoundedJson.h"
+#include "host/KZUtility/KZUtility.h"
 
 namespace {
 
@@ -46,9 +46,8 @@ QVariant replaced(const QVariant& value, int depth, const Replacement& replaceme
 QVariant replacedInText(const QVariant& value, int depth, const Replacement& replacement) {
   const QString text = value.toString();
   if (!namesSecret(text)) return value;
-  const std::optional<QVariant> json = boundedJsonValue(text);
-  const QJsonDocument document =
-      json ? QJsonDocument::fromVariant(replaced(*json, depth + 1, replacement)) : QJsonDocument();
+  const QVariant json = KZUtility::JSONValueFromString(text);
+  const auto document = QJsonDocument::fromVariant(replaced(json, depth + 1, replacement));
   if (document.isNull()) return replacement(value);
   return QString::fromUtf8(document.toJson(QJsonDocument::Compact));
 }

@@ -1,5 +1,9 @@
 #include "host/KZUtility/KZTrace.h"
 
+#include <QDateTime>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QMutex>
 #include <QMutexLocker>
 #include <atomic>
@@ -7,18 +11,16 @@
 #include <memory>
 
 #include "host/KZUtility/KZSecretMask.h"
-#include "host/KZUtility/KZTraceText.h"
 
 namespace {
 
 void writeToStandardError(const KZTraceRecord& record) {
-  static constexpr const char* levels[] = {"info", "warning", "error"};
   // A record stays one line whatever is in its values.
   QString text = record.text;
   text.replace(QLatin1Char('\n'), QLatin1String("\\n")).replace(QLatin1Char('\r'), QLatin1String("\\r"));
   const QByteArray line =
       QStringLiteral("%1 [%2] %3 %4\n")
-          .arg(QLatin1String(levels[static_cast<int>(record.level)]), record.module, record.method, text)
+          .arg(QLatin1String(kzTraceLevelName(record.level)), record.module, record.method, text)
           .toUtf8();
   std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stderr);
 }
@@ -28,8 +30,8 @@ struct TraceState {
   std::shared_ptr<const KZTraceSink> sink = std::make_shared<const KZTraceSink>(writeToStandardError);
 };
 
-// Asked before every record, so it stands outside the state and its guard.
-constinit std::atomic<bool> isTraceHeard = true;
+// Read before every record, so it needs no lock.
+constinit std::atomic<bool> isTraceEnabled = true;
 
 TraceState& traceState() {
   // Never destroyed: objects that outlive the application still trace.
@@ -42,9 +44,79 @@ void replaceSink(std::shared_ptr<const KZTraceSink> sink) {
   {
     const QMutexLocker lock(&state.mutex);
     state.sink.swap(sink);
-    isTraceHeard.store(state.sink != nullptr, std::memory_order_relaxed);
+    isTraceEnabled.store(state.sink != nullptr, std::memory_order_relaxed);
   }
-  // The old sink goes here, unlocked: what it holds may trace.
+  // The old sink is destroyed here, without the lock, because its destructor may trace.
+}
+
+constexpr qsizetype kLongestText = 1000;
+constexpr int kDeepestPrinted = 64;
+
+QString shortened(const QString& text) {
+  if (text.size() <= kLongestText) return text;
+  const qsizetype length = text.at(kLongestText - 1).isHighSurrogate() ? kLongestText - 1 : kLongestText;
+  return QStringLiteral("%1… (%2 characters)").arg(text.left(length)).arg(text.size());
+}
+
+QString objectName(const QVariant& value) {
+  const auto* object = value.value<QObject*>();
+  if (!object) return QStringLiteral("(null)");
+  return QStringLiteral("<%1 0x%2>")
+      .arg(QLatin1String(object->metaObject()->className()))
+      .arg(reinterpret_cast<quintptr>(object), 0, 16);
+}
+
+// The text of a value that is neither a dictionary nor a list.
+QString leafText(const QVariant& value) {
+  if (isMissing(value)) return QStringLiteral("(null)");
+  if (value.metaType() == QMetaType::fromType<QByteArray>()) {
+    return QStringLiteral("<%1 bytes>").arg(value.toByteArray().size());
+  }
+  if (value.metaType().flags().testFlag(QMetaType::PointerToQObject)) return objectName(value);
+  if (value.metaType() == QMetaType::fromType<QDateTime>()) return value.toDateTime().toString(Qt::ISODate);
+  if (!value.canConvert<QString>()) return QStringLiteral("<%1>").arg(QLatin1String(value.typeName()));
+  return shortened(value.toString());
+}
+
+QJsonValue jsonOf(const QVariant& value, int depth) {
+  if (depth > kDeepestPrinted) return QStringLiteral("…");
+  switch (value.metaType().id()) {
+    case QMetaType::Bool:
+      return value.toBool();
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+      return value.toLongLong();
+    case QMetaType::Double:
+      return value.toDouble();
+    case QMetaType::QVariantMap: {
+      QJsonObject object;
+      const Dictionary dictionary = value.toMap();
+      for (auto entry = dictionary.begin(); entry != dictionary.end(); ++entry) {
+        object.insert(shortened(entry.key()), jsonOf(entry.value(), depth + 1));
+      }
+      return object;
+    }
+    case QMetaType::QVariantList:
+    case QMetaType::QStringList: {
+      QJsonArray array;
+      const QVariantList list = value.toList();
+      for (const QVariant& item : list) array.append(jsonOf(item, depth + 1));
+      return array;
+    }
+    default:
+      return leafText(value);
+  }
+}
+
+// One argument as it is printed: secrets masked, long texts shortened.
+QString argumentText(const QVariant& value) {
+  const QVariant masked = kzMaskedValue(value);
+  const QJsonValue json = jsonOf(masked, 0);
+  if (!json.isObject() && !json.isArray()) return leafText(masked);
+  const QJsonDocument document =
+      json.isObject() ? QJsonDocument(json.toObject()) : QJsonDocument(json.toArray());
+  return QString::fromUtf8(document.toJson(QJsonDocument::Compact));
 }
 
 QString formatted(const char* format, const std::vector<kztrace::Argument>& arguments) {
@@ -56,7 +128,7 @@ QString formatted(const char* format, const std::vector<kztrace::Argument>& argu
     const std::size_t directive = text.find('%', begin);
     if (directive == std::string_view::npos) break;
     result += QString::fromUtf8(text.data() + begin, static_cast<qsizetype>(directive - begin));
-    result += kzTraceText(argument.value());
+    result += argumentText(argument.value());
     begin = directive + 2;
   }
   return result + QString::fromUtf8(text.data() + begin);
@@ -71,6 +143,11 @@ void setKZTraceSink(KZTraceSink sink) {
 
 void muteKZTrace() {
   replaceSink(nullptr);
+}
+
+const char* kzTraceLevelName(KZTraceLevel level) {
+  static constexpr const char* names[] = {"info", "warning", "error"};
+  return names[static_cast<int>(level)];
 }
 
 Dictionary kzMaskSecrets(const Dictionary& dictionary) {
@@ -88,8 +165,8 @@ QVariant Argument::objectText(const void* object) {
   return QStringLiteral("<0x%1>").arg(reinterpret_cast<quintptr>(object), 0, 16);
 }
 
-bool isHeard() {
-  return isTraceHeard.load(std::memory_order_relaxed);
+bool isEnabled() {
+  return isTraceEnabled.load(std::memory_order_relaxed);
 }
 
 void write(KZTraceLevel level, const char* module, const char* method, const char* format,
@@ -108,3 +185,27 @@ void write(KZTraceLevel level, const char* module, const char* method, const cha
 }
 
 }  // namespace kztrace
+
+QString kzMethodName(const char* functionInfo) {
+  QByteArray info(functionInfo);
+  // As gcc and clang write it.
+  info.replace("{anonymous}::", "").replace("(anonymous namespace)::", "");
+  // The name ends at the parameters, the first parenthesis that is in no template argument or decltype.
+  qsizetype begin = 0;
+  qsizetype end = 0;
+  for (int depth = 0; end < info.size(); ++end) {
+    const char sign = info[end];
+    if (depth == 0 && QByteArrayView(info).sliced(end).startsWith("operator")) {
+      const bool isCall = QByteArrayView(info).sliced(end).startsWith("operator()");
+      const qsizetype parameters = info.indexOf('(', end + qstrlen(isCall ? "operator()" : "operator"));
+      end = parameters < 0 ? info.size() : parameters;
+      break;
+    }
+    const bool opens = sign == '<' || (sign == '(' && (depth > 0 || end == begin));
+    if (sign == '(' && !opens) break;
+    if (opens) ++depth;
+    if (depth > 0 && (sign == '>' || sign == ')')) --depth;
+    if (depth == 0 && (sign == ' ' || sign == '&' || sign == '*')) begin = end + 1;
+  }
+  return QString::fromUtf8(info.sliced(begin, end - begin));
+}

@@ -32,6 +32,9 @@ KZ_HOST_EXPORT void setKZTraceSink(KZTraceSink sink);
 // Records go nowhere, and nothing is formatted, until a sink is set again.
 KZ_HOST_EXPORT void muteKZTrace();
 
+// "info", "warning" or "error".
+KZ_HOST_EXPORT const char* kzTraceLevelName(KZTraceLevel level);
+
 // The dictionary as the trace would show it: secrets replaced by "***", also in lists, in inner dictionaries
 // and in texts that hold JSON. For hosts that show contents.
 KZ_HOST_EXPORT Dictionary kzMaskSecrets(const Dictionary& dictionary);
@@ -99,7 +102,7 @@ class Format {
 template <typename... Arguments>
 using FormatFor = Format<std::type_identity_t<Arguments>...>;
 
-KZ_HOST_EXPORT bool isHeard();
+KZ_HOST_EXPORT bool isEnabled();
 
 KZ_HOST_EXPORT void write(KZTraceLevel level, const char* module, const char* method, const char* format,
                           const std::vector<Argument>& arguments);
@@ -113,21 +116,21 @@ KZ_HOST_EXPORT QString kzMethodName(const char* functionInfo);
 template <typename... Arguments>
 void MVRNSInfoFuncTraceIMPL(const char* module, const char* method, kztrace::FormatFor<Arguments...> format,
                             const Arguments&... arguments) {
-  if (!kztrace::isHeard()) return;
+  if (!kztrace::isEnabled()) return;
   kztrace::write(KZTraceLevel::Info, module, method, format.text(), {kztrace::Argument(arguments)...});
 }
 
 template <typename... Arguments>
 void MVRNSWarningFuncTraceIMPL(const char* module, const char* method,
                                kztrace::FormatFor<Arguments...> format, const Arguments&... arguments) {
-  if (!kztrace::isHeard()) return;
+  if (!kztrace::isEnabled()) return;
   kztrace::write(KZTraceLevel::Warning, module, method, format.text(), {kztrace::Argument(arguments)...});
 }
 
 template <typename... Arguments>
 void MVRNSErrorFuncTraceIMPL(const char* module, const char* method, kztrace::FormatFor<Arguments...> format,
                              const Arguments&... arguments) {
-  if (!kztrace::isHeard()) return;
+  if (!kztrace::isEnabled()) return;
   kztrace::write(KZTraceLevel::Error, module, method, format.text(), {kztrace::Argument(arguments)...});
 }
 
@@ -135,7 +138,7 @@ void MVRNSErrorFuncTraceIMPL(const char* module, const char* method, kztrace::Fo
 template <typename... Arguments>
 void MVRNSInfoTraceIMPL(const char* module, kztrace::FormatFor<const char*, Arguments...> format,
                         const char* method, const Arguments&... arguments) {
-  if (!kztrace::isHeard()) return;
+  if (!kztrace::isEnabled()) return;
   kztrace::write(KZTraceLevel::Info, module, method, format.text(),
                  {kztrace::Argument(kzMethodName(method)), kztrace::Argument(arguments)...});
 }
@@ -143,7 +146,7 @@ void MVRNSInfoTraceIMPL(const char* module, kztrace::FormatFor<const char*, Argu
 template <typename... Arguments>
 void MVRNSWarningTraceIMPL(const char* module, kztrace::FormatFor<const char*, Arguments...> format,
                            const char* method, const Arguments&... arguments) {
-  if (!kztrace::isHeard()) return;
+  if (!kztrace::isEnabled()) return;
   kztrace::write(KZTraceLevel::Warning, module, method, format.text(),
                  {kztrace::Argument(kzMethodName(method)), kztrace::Argument(arguments)...});
 }

@@ -20,7 +20,9 @@ class KZ_HOST_EXPORT KZUtility {
   QVariant getKZMemCacheData(const QString& key) const;
   void setKZMemCacheData(const QString& key, const QVariant& value);
 
-  // The value of a JSON text; invalid when it is malformed, larger than 4 MiB, or nested deeper than 64.
+  // The value of a JSON text, a scalar too; invalid when it is malformed, larger than 4 MiB, or nested deeper
+  // than 64 levels. A null is an invalid value and never stands under a key; whole numbers are qlonglong. Any
+  // thread.
   static QVariant JSONValueFromString(const QString& text);
 
   // At most 128 characters, cut at the end without splitting a character.

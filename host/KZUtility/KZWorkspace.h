@@ -15,7 +15,7 @@ class KZ_HOST_EXPORT KZWorkspace {
   // False when nothing opened it. An invalid or relative address, or one without a scheme, is refused.
   bool openURL(const QUrl& url);
 
-  // Who opens from now on; an empty function restores the desktop's own opener.
+  // What opens addresses from now on; an empty function restores the desktop's own opener.
   void setOpener(Opener opener) { m_opener = std::move(opener); }
 
  private:

@@ -1,6 +1,8 @@
 #include "host/KZUtility/PropertyListFile.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QDateTime>
@@ -10,6 +12,7 @@
 
 #include "host/KZUtility/AtomicFile.h"
 #include "host/KZUtility/KZTrace.h"
+#include "host/KZUtility/PropertyList.h"
 
 namespace {
 
@@ -38,91 +41,79 @@ KZSaveProblem problemOf(int error) {
 
 }  // namespace
 
-bool PropertyListFile::Stamp::operator==(const Stamp& other) const {
-  return device == other.device && inode == other.inode && size == other.size &&
-         modified.tv_sec == other.modified.tv_sec && modified.tv_nsec == other.modified.tv_nsec;
-}
+PropertyListFile::PropertyListFile(const QString& folder) : m_folder(folder) {}
 
-PropertyListFile::PropertyListFile(const QString& folder) : m_folder(folder), m_document(plist_new_dict()) {}
+PropertyListFile::~PropertyListFile() {
+  if (m_lock >= 0) ::close(m_lock);
+}
 
 QString PropertyListFile::path() const {
   return QDir(m_folder).filePath(kPropertyListName);
 }
 
-Dictionary PropertyListFile::read() {
+// The folder itself: that needs no room on the disk, leaves nothing behind, and ends with the process.
+bool PropertyListFile::lock() {
   makeFolder();
+  m_lock = ::open(QFile::encodeName(m_folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  return m_lock < 0 || ::flock(m_lock, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+}
+
+Dictionary PropertyListFile::read() {
   removeAbandonedFiles(m_folder, kPropertyListName);
-  load();
-  return valueOfPropertyList(m_document.get()).toMap();
+  const QByteArray name = QFile::encodeName(path());
+  struct stat state = {};
+  if (::lstat(name.constData(), &state) != 0) {
+    if (errno != ENOENT) fail(KZSaveProblem::FileUnusable, qt_error_string(errno));
+    return {};
+  }
+  Dictionary values;
+  const bool isOurs = state.st_uid == ::geteuid();
+  const QString reason = !isOurs                   ? QStringLiteral("another user's file")
+                         : !S_ISREG(state.st_mode) ? QStringLiteral("not a regular file")
+                                                   : load(name, &values);
+  if (reason.isNull()) return values;
+  if (isOurs && setAside()) {
+    traceStoreError(path(), reason + QStringLiteral("; it was set aside"));
+  } else {
+    fail(KZSaveProblem::FileUnusable, reason + QStringLiteral("; settings last for this run only"));
+  }
+  return {};
 }
 
-void PropertyListFile::set(const QString& key, const QVariant& value) {
-  m_pending.insert(key, value);
-}
-
-void PropertyListFile::flush() {
-  if (m_pending.isEmpty() || m_problem == KZSaveProblem::FileUnusable) return;
-  // Another process has written: its keys are taken over. When the file is gone, all of ours goes back.
-  const std::optional<Stamp> found = stamp();
-  if (found && found != m_seen) load();
+void PropertyListFile::write(const Dictionary& values) {
   if (m_problem == KZSaveProblem::FileUnusable) return;
-  applyPending();
-  const QByteArray xml = xmlOfPropertyList(m_document.get());
-  if (xml.size() > kLargestPropertyList)
+  const PropertyListXml list = xmlOfPropertyList(values);
+  if (m_isExact && !list.isExact)
+    traceStoreError(path(), QStringLiteral("a value was written without what XML cannot carry"));
+  m_isExact = list.isExact;
+  if (list.xml.size() > kLargestPropertyList)
     return fail(KZSaveProblem::Failed, QStringLiteral("too large to be written"));
   makeFolder();
-  const int error = replaceFile(m_folder, kPropertyListName, xml);
+  const int error = replaceFile(m_folder, kPropertyListName, list.xml);
   if (error != 0) return fail(problemOf(error), qt_error_string(error));
   m_problem = KZSaveProblem::None;
-  m_pending.clear();
-  m_seen = stamp();
 }
 
+// A folder that cannot be made shows at the first write.
 void PropertyListFile::makeFolder() const {
   const QFileInfo folder(m_folder);
   if (folder.exists()) return;
-  // A folder that cannot be made shows at the first write.
   QDir().mkpath(folder.absolutePath());
   QDir().mkdir(m_folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
-std::optional<PropertyListFile::Stamp> PropertyListFile::stamp() const {
-  struct stat state = {};
-  if (::lstat(QFile::encodeName(path()).constData(), &state) != 0) return std::nullopt;
-  return Stamp{state.st_dev, state.st_ino, state.st_size, state.st_mtim};
-}
-
-void PropertyListFile::load() {
-  const QByteArray name = QFile::encodeName(path());
-  struct stat state = {};
-  if (::lstat(name.constData(), &state) != 0) {
-    if (errno == ENOENT) return;
-    return fail(KZSaveProblem::FileUnusable, qt_error_string(errno));
-  }
-  if (!S_ISREG(state.st_mode)) return reject(QStringLiteral("not a regular file"), state.st_uid);
-  if (state.st_uid != ::geteuid()) return reject(QStringLiteral("another user's file"), state.st_uid);
+QString PropertyListFile::load(const QByteArray& name, Dictionary* values) {
   const int descriptor = ::open(name.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
-  const QString reason = descriptor < 0 ? qt_error_string(errno) : loadFrom(descriptor);
-  if (!reason.isNull()) return reject(reason, state.st_uid);
-  m_seen = Stamp{state.st_dev, state.st_ino, state.st_size, state.st_mtim};
-}
-
-QString PropertyListFile::loadFrom(int descriptor) {
+  if (descriptor < 0) return qt_error_string(errno);
   QFile file;
   if (!file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) return file.errorString();
   const QByteArray xml = file.read(kLargestPropertyList + 1);
   if (file.error() != QFileDevice::NoError) return file.errorString();
   if (xml.size() > kLargestPropertyList) return QStringLiteral("too large");
-  PropertyList document = parsedPropertyList(xml);
-  if (!document) return QStringLiteral("damaged");
-  m_document = std::move(document);
+  std::optional<Dictionary> read = parsedPropertyList(xml);
+  if (!read) return QStringLiteral("damaged");
+  *values = *std::move(read);
   return {};
-}
-
-void PropertyListFile::reject(const QString& reason, uid_t owner) {
-  const bool isAside = owner == ::geteuid() && setAside();
-  if (isAside) return traceStoreError(path(), reason + QStringLiteral("; it was set aside"));
-  fail(KZSaveProblem::FileUnusable, reason + QStringLiteral("; settings last for this run only"));
 }
 
 bool PropertyListFile::setAside() {
@@ -130,7 +121,7 @@ bool PropertyListFile::setAside() {
                           QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd'T'HHmmss'Z'"));
   for (int attempt = 0; attempt < kMostSetAside; ++attempt) {
     const QString aside = attempt == 0 ? stamped : stamped + u'-' + QString::number(attempt);
-    // Nothing that was set aside before is lost to a second one of the same second.
+    // A file that was set aside in the same second is not replaced.
     const int status = ::renameat2(AT_FDCWD, QFile::encodeName(path()).constData(), AT_FDCWD,
                                    QFile::encodeName(aside).constData(), RENAME_NOREPLACE);
     if (status == 0) {
@@ -145,18 +136,4 @@ bool PropertyListFile::setAside() {
 void PropertyListFile::fail(KZSaveProblem problem, const QString& reason) {
   m_problem = problem;
   traceStoreError(path(), reason);
-}
-
-void PropertyListFile::applyPending() {
-  bool isExact = true;
-  for (auto entry = m_pending.cbegin(); entry != m_pending.cend(); ++entry) {
-    const QByteArray key = propertyListKey(entry.key(), &isExact);
-    PropertyList node = propertyListOf(entry.value(), &isExact);
-    if (node) {
-      plist_dict_set_item(m_document.get(), key.constData(), node.release());
-    } else {
-      plist_dict_remove_item(m_document.get(), key.constData());
-    }
-  }
-  if (!isExact) traceStoreError(path(), QStringLiteral("a value was written without what XML cannot carry"));
 }

@@ -1,61 +1,41 @@
 #pragma once
 
-#include <sys/stat.h>
-
-#include <QHash>
 #include <QString>
-#include <QVariant>
-#include <optional>
 
 #include "host/KZFoundation/Dictionary.h"
 #include "host/KZUtility/KZSaveProblem.h"
-#include "host/KZUtility/PropertyListConversion.h"
 
-// One XML property list on the disk, as KZPlistFileHandle promises it. What another process wrote meanwhile
-// is kept, but for the keys that are set here.
+// One XML property list on the disk, as KZPlistFileHandle promises it.
 class PropertyListFile final {
  public:
   explicit PropertyListFile(const QString& folder);
+  ~PropertyListFile();
+  Q_DISABLE_COPY_MOVE(PropertyListFile)
 
   QString path() const;
   // As the last reading or writing left it.
   KZSaveProblem problem() const { return m_problem; }
-  // Where the last file that could not be used lies now; null when there was none.
+  // Where the file lies now that could not be read; null when there was none.
   QString setAsidePath() const { return m_setAsidePath; }
 
-  // Once, before anything is set.
+  // Makes the folder when missing and locks it while this object lives. False when another process has it:
+  // then nothing may be read or written.
+  [[nodiscard]] bool lock();
+  // What the file holds. A file that cannot be read is set aside; where that fails, nothing is ever written.
   Dictionary read();
-
-  // An invalid value removes the key. Nothing is written before `flush`.
-  void set(const QString& key, const QVariant& value);
-  // Writes what is not yet on the disk, that of an earlier, failed attempt too.
-  void flush();
+  // Replaces what the file holds.
+  void write(const Dictionary& values);
 
  private:
-  struct Stamp {
-    dev_t device;
-    ino_t inode;
-    off_t size;
-    timespec modified;
-
-    bool operator==(const Stamp& other) const;
-  };
-
   void makeFolder() const;
-  std::optional<Stamp> stamp() const;
-  // Takes over what is on the disk; sets it aside when it cannot be used.
-  void load();
-  QString loadFrom(int descriptor);
-  void reject(const QString& reason, uid_t owner);
+  // Null when it succeeded, else the reason.
+  static QString load(const QByteArray& name, Dictionary* values);
   [[nodiscard]] bool setAside();
-  void applyPending();
   void fail(KZSaveProblem problem, const QString& reason);
 
-  QString m_folder;
+  const QString m_folder;
+  int m_lock = -1;
   QString m_setAsidePath;
   KZSaveProblem m_problem = KZSaveProblem::None;
-  // The whole document, so that what nobody here knows is written back as it was.
-  PropertyList m_document;
-  QHash<QString, QVariant> m_pending;
-  std::optional<Stamp> m_seen;
+  bool m_isExact = true;  // the last writing left nothing out
 };

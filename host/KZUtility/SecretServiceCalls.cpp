@@ -1,4 +1,4 @@
-// The library's service interface, marked so by its makers; it has been stable since 2012.
+// The library requires these to use its service interface, which has been stable since 2012.
 #define SECRET_WITH_UNSTABLE
 #define SECRET_API_SUBJECT_TO_CHANGE
 #include "host/KZUtility/SecretServiceCalls.h"
@@ -59,11 +59,11 @@ class Attempt final {
 
   bool isFailed() const { return m_error != nullptr; }
 
-  // A locked collection would answer with a prompt, which must never come up from here.
+  // A locked collection would answer with a prompt, which must never be shown from here.
   bool connect() {
     m_service.reset(secret_service_get_sync(SECRET_SERVICE_OPEN_SESSION, m_cancellable, &m_error));
     if (!m_service) return false;
-    // Else the end of the bus would end the host.
+    // By default the process exits with the bus.
     g_dbus_connection_set_exit_on_close(bus(), FALSE);
     const QByteArray collection = defaultCollection();
     return !collection.isEmpty() && isUnlocked(collection);
@@ -103,7 +103,7 @@ class Attempt final {
  private:
   GDBusConnection* bus() const { return g_dbus_proxy_get_connection(G_DBUS_PROXY(m_service.get())); }
 
-  // Empty when there is none. Asked for by hand: the library's own collection object costs ten round trips.
+  // Empty when there is none. Called directly, because the library's collection object costs ten round trips.
   QByteArray defaultCollection() {
     const Variant answer(g_dbus_proxy_call_sync(G_DBUS_PROXY(m_service.get()), "ReadAlias",
                                                 g_variant_new("(s)", SECRET_COLLECTION_DEFAULT),
@@ -139,7 +139,7 @@ class Attempt final {
   Object<SecretService> m_service;
 };
 
-// A service that died leaves every later call failing until the library has let go of it.
+// After a service has died, every call fails until the library has disconnected from it.
 template <typename Result>
 Result tried(GCancellable* cancellable, Result unavailable, const std::function<Result(Attempt&)>& call) {
   for (int tries = 0; tries < 2; ++tries) {

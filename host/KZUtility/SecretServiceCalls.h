@@ -6,7 +6,7 @@
 
 typedef struct _GCancellable GCancellable;
 
-// What the worker of SecretServiceKeychain says to the Secret Service. Each call may block until it is
+// The calls that the worker of SecretServiceKeychain makes to the Secret Service. Each may block until it is
 // cancelled.
 namespace secretservice {
 
@@ -18,8 +18,7 @@ using Cancellable = std::unique_ptr<GCancellable, CancellableDeleter>;
 Cancellable newCancellable();
 void cancel(GCancellable* cancellable);
 
-// While one lives, what the library has to say to this thread comes to this thread, not to the host's event
-// loop.
+// While one lives, the library's callbacks for this thread run in `dispatch`, not in the host's event loop.
 class OwnContext final {
  public:
   OwnContext();

@@ -47,8 +47,8 @@ class SecretServiceKeychain::Worker final {
     bool isAbandoned = false;
   };
 
-  // Shared by the callers and the thread, so that a thread which never comes back has all that it may still
-  // touch.
+  // Shared by the callers and the thread, so that a thread whose call never returns keeps what it may still
+  // use.
   struct Queue {
     std::mutex mutex;
     std::condition_variable wake;

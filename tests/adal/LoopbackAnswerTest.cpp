@@ -1,5 +1,6 @@
 #include <QNetworkInterface>
 #include <QTcpSocket>
+#include <algorithm>
 
 #include "tests/adal/SignInFixture.h"
 
@@ -62,7 +63,11 @@ TEST_F(LoopbackAnswerTest, IdleConnectionsDoNotKeepTheBrowserOut) {
     idle.push_back(std::make_unique<QTcpSocket>());
     idle.back()->connectToHost("127.0.0.1", static_cast<quint16>(redirect.port()));
   }
-  QTest::qWait(50);
+  // The oldest is closed once there are too many.
+  ASSERT_TRUE(QTest::qWaitFor([&] {
+    return std::ranges::any_of(
+        idle, [](const auto& socket) { return socket->state() == QAbstractSocket::UnconnectedState; });
+  }));
   visit(opened.first());
   ASSERT_TRUE(waitFor(result));
   EXPECT_EQ(result->status, ADAuthenticationStatus::Succeeded);
@@ -76,7 +81,7 @@ TEST_F(LoopbackAnswerTest, SecondAnswerFindsNobody) {
   EXPECT_FALSE(get("/done?code=two&state=" + state)) << "the port is closed";
   early.write("GET /done?code=three&state=" + state + " HTTP/1.1\r\n\r\n");
   ASSERT_TRUE(waitFor(result));
-  QTest::qWait(50);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return early.state() == QAbstractSocket::UnconnectedState; }));
   ASSERT_EQ(authority->tokenRequests().size(), 1);
   EXPECT_EQ(authority->tokenRequests().first().queryItemValue("code"), "one");
   EXPECT_EQ(result->error->code, ADErrorCode::InvalidGrant);

@@ -101,9 +101,8 @@ void SignInFixture::refresh(Result& result, const QString& refreshToken) {
                                         });
 }
 
-void SignInFixture::visit(const QUrl& address) {
-  QNetworkReply* const reply = browser.get(QNetworkRequest(address));
-  QObject::connect(reply, &QNetworkReply::finished, reply, &QObject::deleteLater);
+QNetworkReply* SignInFixture::visit(const QUrl& address) {
+  return browser.get(QNetworkRequest(address));
 }
 
 std::optional<QByteArray> SignInFixture::sendRaw(const QString& host, int port, const QByteArray& bytes) {

@@ -48,7 +48,7 @@ class SignInFixture : public testing::Test {
   void refresh(Result& result, const QString& refreshToken);
 
   // Goes where a user's browser would, redirects included.
-  void visit(const QUrl& address);
+  QNetworkReply* visit(const QUrl& address);
   // Sends bytes to the callback port; what came back before it was closed, or nothing when nobody listens.
   static std::optional<QByteArray> sendRaw(const QString& host, int port, const QByteArray& bytes);
 

@@ -48,7 +48,7 @@ class DiscoveryTimeTest : public DiscoveryFixture {
     call.start({.address = QUrl("https://" + host + "/autodiscover/autodiscover.xml"),
                 .body = autodiscoverRequest("onprem@corp.sandbox.example"),
                 .authorization = authorization},
-               [&isDone](const HttpAnswer&) { isDone = true; });
+               [&isDone](const HttpResponse&) { isDone = true; });
     spinUntil([&isDone] { return isDone; });
   }
 };

@@ -84,16 +84,17 @@ TEST(Killed, LosesNoSettingThatWasConfirmed) {
   for (int round = 1; round <= rounds; ++round) {
     const int confirmed = lastConfirmed({"--state", state.path()}, countingScript(number, write));
     ASSERT_GE(confirmed, number);
-    store.open(state.path());
+    ASSERT_TRUE(store.open(state.path()));
     // A write may be done before its confirmation is.
     const int kept = store.siteName().toInt();
     EXPECT_TRUE(kept == confirmed || kept == confirmed + 1) << kept << " instead of " << confirmed;
     EXPECT_LE(filesIn(state.path()).size(), 1 + round);
+    store.close();
     number = kept + 1;
   }
   EXPECT_EQ(watch.count(KZTraceLevel::Error), 0);
   age(state.path());
-  store.open(state.path());
+  ASSERT_TRUE(store.open(state.path()));
   EXPECT_EQ(filesIn(state.path()), QStringList{"preferences.plist"});
   store.close();
 }

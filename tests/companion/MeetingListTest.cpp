@@ -34,16 +34,12 @@ class MeetingListTest : public testing::Test {
  protected:
   void SetUp() override {
     if (QStandardPaths::findExecutable("openssl").isEmpty()) GTEST_SKIP() << "openssl is missing";
-    KZPlistFileHandle::sharedInstance().open(folder.path());
+    ASSERT_TRUE(KZPlistFileHandle::sharedInstance().open(folder.path()));
     KZKeyChainHandle::sharedInstance().useStorage(KZKeyChainHandle::Storage::Memory);
     ASSERT_TRUE(host.load(PREFERENCES));
-    QObject::connect(&services, &CompanionServices::noticed, &services,
+    QObject::connect(&services, &CompanionServices::message, &services,
                      [this](const QString& text) { notices.append(text); });
-    QObject::connect(&sandbox, &Sandbox::ready, &services,
-                     [this](const QJsonObject& exchanges, const QJsonObject& sites) {
-                       exchange.useSandbox(exchanges);
-                       services.useSandbox(sites, exchanges);
-                     });
+    QObject::connect(&sandbox, &Sandbox::ready, &services.network(), &ServiceNetwork::useSandbox);
     startSandbox();
     services.site().signIn();
     host.trigger(KZCommand::KZCmdShowPreference);
@@ -116,14 +112,13 @@ class MeetingListTest : public testing::Test {
     QObject::connect(page, &QNetworkReply::finished, page, &QObject::deleteLater);
     return true;
   }};
-  CompanionExchange exchange{&host, NetworkReach::Sandbox, {}};
   CompanionServices services{&host,
                              {.reach = NetworkReach::Sandbox,
                               .exchange = {},
                               .record = demouser::record(),
                               .dataFolder = folder.filePath("data"),
-                              .packageFolder = folder.filePath("packages"),
                               .autostart = AutostartEntry(folder.filePath("autostart"), "/bin/true")}};
+  CompanionExchange exchange{&host, &services.network()};
   Sandbox sandbox;
   MeetingsView view{&services.meetings()};
   Window* window = nullptr;

@@ -5,6 +5,7 @@
 #include <QJsonArray>
 #include <QTemporaryDir>
 
+#include "host/KZUtility/KZPlistFileHandle.h"
 #include "tests/kit/SessionRun.h"
 
 namespace {
@@ -262,6 +263,14 @@ TEST(Session, KeepsItsStateFolderAndWritesPictures) {
   const SessionRun again = play({R"({"get": "store"})"}, {"--state", folder.path()});
   EXPECT_EQ(again.result().value("siteName"), "kept");
   EXPECT_TRUE(play({R"({"get": "store"})"}).result().isEmpty());
+
+  KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
+  ASSERT_TRUE(store.open(folder.path()));
+  const SessionRun beside = play({R"({"get": "store"})"}, {"--state", folder.path()});
+  store.close();
+  EXPECT_EQ(beside.status, 2);
+  EXPECT_TRUE(beside.lines.isEmpty());
+  EXPECT_EQ(beside.complaints.trimmed(), "prefs-session: " + folder.path() + " is used by another program");
 }
 
 TEST(Session, StepsThatCannotBePlayedEndIt) {

@@ -6,7 +6,6 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QLocalSocket>
 #include <QProcess>
@@ -19,7 +18,6 @@
 namespace {
 
 using namespace std::chrono_literals;
-using Claim = SingleInstance::Claim;
 
 constexpr int kStartMilliseconds = 30'000;
 
@@ -36,14 +34,14 @@ class SingleInstanceTest : public testing::Test {
   }
   Q_DISABLE_COPY_MOVE(SingleInstanceTest)
 
-  // A second one claims in another thread, while this one's events run.
-  Claim claimBeside(const QString& folder, std::chrono::milliseconds patience = 5s) {
-    Claim outcome = Claim::First;
+  // A second one asks in another thread, while this one's events run.
+  static bool askBeside(const QString& folder, std::chrono::milliseconds patience = 5s) {
+    bool isAnswered = false;
     const std::unique_ptr<QThread> other(
-        QThread::create([&] { outcome = SingleInstance(folder).claim(patience); }));
+        QThread::create([&] { isAnswered = SingleInstance(folder).askFirst(patience); }));
     other->start();
-    while (!other->isFinished()) QTest::qWait(5);
-    return outcome;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return other->isFinished(); }, 10'000));
+    return isAnswered;
   }
 
   QString socketFile() const {
@@ -56,45 +54,27 @@ class SingleInstanceTest : public testing::Test {
   const QTemporaryDir state;
 };
 
-TEST_F(SingleInstanceTest, TheSecondAsksTheFirstByWhateverWay) {
+TEST_F(SingleInstanceTest, AnswersWhateverWayTheFolderIsWritten) {
   ASSERT_TRUE(QFile::link(state.path(), runtime.filePath("link")));
   SingleInstance first(state.path());
   QSignalSpy asked(&first, &SingleInstance::asked);
-  ASSERT_EQ(first.claim(), Claim::First);
+  EXPECT_FALSE(askBeside(state.path()));
+  first.listen();
   const QString rows[] = {state.path(), state.path() + "/../" + QDir(state.path()).dirName() + "/",
                           runtime.filePath("link"), QDir::current().relativeFilePath(state.path())};
   for (const QString& row : rows) {
     asked.clear();
-    EXPECT_EQ(claimBeside(row), Claim::Asked) << qPrintable(row);
+    EXPECT_TRUE(askBeside(row)) << qPrintable(row);
     EXPECT_EQ(asked.size(), 1);
   }
   const QTemporaryDir other;
-  EXPECT_EQ(claimBeside(other.path()), Claim::First);
-}
-
-TEST_F(SingleInstanceTest, TheNextIsFirstAgain) {
-  for (int turn = 0; turn < 3; ++turn) {
-    SingleInstance first(state.filePath("made/here"));
-    EXPECT_EQ(first.claim(0ms), Claim::First);
-    EXPECT_TRUE(
-        QDir(state.filePath("made/here")).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
-  }
-  EXPECT_TRUE(socketFile().isNull());
-}
-
-TEST_F(SingleInstanceTest, OneWithoutAnEventLoopDoesNotHoldTheSecondUpForLong) {
-  SingleInstance first(state.path());
-  ASSERT_EQ(first.claim(), Claim::First);
-  QElapsedTimer timer;
-  timer.start();
-  EXPECT_EQ(SingleInstance(state.path()).claim(300ms), Claim::NoAnswer);
-  EXPECT_LT(timer.elapsed(), 2000);
+  EXPECT_FALSE(askBeside(other.path()));
 }
 
 TEST_F(SingleInstanceTest, GarbageOnTheSocketIsNoQuestion) {
   SingleInstance first(state.path());
   QSignalSpy asked(&first, &SingleInstance::asked);
-  ASSERT_EQ(first.claim(), Claim::First);
+  first.listen();
   const QByteArray rows[] = {
       "\n", "hide\n", "show", "shows\n", QByteArray(100'000, 'x'), QByteArray(100, '\0')};
   std::vector<std::unique_ptr<QLocalSocket>> sockets;
@@ -103,20 +83,21 @@ TEST_F(SingleInstanceTest, GarbageOnTheSocketIsNoQuestion) {
     sockets.back()->connectToServer(socketFile());
     sockets.back()->write(row);
   }
-  EXPECT_EQ(claimBeside(state.path()), Claim::Asked);
+  EXPECT_TRUE(askBeside(state.path()));
   EXPECT_EQ(asked.size(), 1);
-  // Also who says nothing that could become a question is sent away.
   for (const auto& socket : sockets) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return socket->state() == QLocalSocket::UnconnectedState; }, 5000));
     EXPECT_EQ(socket->readAll(), "");
   }
 }
 
-TEST_F(SingleInstanceTest, AnAnswerThatIsNoneDoesNotLetTwoIn) {
-  auto first = std::make_unique<SingleInstance>(state.path());
-  ASSERT_EQ(first->claim(), Claim::First);
-  const QString path = socketFile();
-  ASSERT_TRUE(QFile::remove(path));
+TEST_F(SingleInstanceTest, AnotherProgramsAnswerIsNone) {
+  QString path;
+  {
+    SingleInstance first(state.path());
+    first.listen();
+    path = socketFile();
+  }
   QLocalServer strange;
   ASSERT_TRUE(strange.listen(path));
   QObject::connect(&strange, &QLocalServer::newConnection, [&strange] {
@@ -124,16 +105,15 @@ TEST_F(SingleInstanceTest, AnAnswerThatIsNoneDoesNotLetTwoIn) {
     socket->write("hello there\n");
     socket->flush();
   });
-  EXPECT_EQ(claimBeside(state.path(), 300ms), Claim::NoAnswer);
+  EXPECT_FALSE(askBeside(state.path(), 300ms));
 }
 
 TEST_F(SingleInstanceTest, AFolderForSocketsThatIsAnotherUsersIsNotUsed) {
   if (::geteuid() != 0) GTEST_SKIP() << "only root can give a folder away";
   ASSERT_EQ(::chown(QFile::encodeName(runtime.path()).constData(), 65534, 65534), 0);
   SingleInstance first(state.path());
-  EXPECT_EQ(first.claim(), Claim::First);
+  first.listen();
   EXPECT_TRUE(socketFile().isNull());
-  EXPECT_NE(claimBeside(state.path(), 100ms), Claim::First);
 }
 
 // The companion itself; Preferences are the fake plug-in's.

@@ -40,7 +40,7 @@ class SiteDialogTest : public ServicesFixture {
 
   QString text() const { return dialog->findChild<QLabel*>("siteText")->text(); }
   bool showsFailure() const {
-    return waitUntil([this] { return button("Change")->isEnabled() && !text().isEmpty(); });
+    return kit::waitUntil([this] { return button("Change")->isEnabled() && !text().isEmpty(); });
   }
   static QString storedSite() { return KZPlistFileHandle::sharedInstance().siteName(); }
 
@@ -53,7 +53,7 @@ TEST_F(SiteDialogTest, ASiteThatAnswersIsTaken) {
   QTest::keyClick(dialog->findChild<QLineEdit*>(), Qt::Key_Return);
   EXPECT_FALSE(button("Change")->isEnabled());
   EXPECT_EQ(text(), "Asking the site.");
-  EXPECT_TRUE(waitUntil([this] { return dialog.isNull(); }));
+  EXPECT_TRUE(kit::waitUntil([this] { return dialog.isNull(); }));
   EXPECT_EQ(storedSite(), "current.sandbox.example");
 }
 
@@ -72,7 +72,7 @@ TEST_F(SiteDialogTest, ASiteThatFailsSaysWhyAndIsTakenOnlyWhenTheUserInsists) {
   ASSERT_TRUE(showsFailure());
   button("Use it anyway")->click();
   EXPECT_EQ(storedSite(), "garbage.meetings.sandbox.example");
-  EXPECT_TRUE(waitUntil([this] { return dialog.isNull(); }));
+  EXPECT_TRUE(kit::waitUntil([this] { return dialog.isNull(); }));
 }
 
 TEST_F(SiteDialogTest, WhatIsNoNameCannotBeUsedAnyway) {

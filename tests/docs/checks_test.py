@@ -1,30 +1,28 @@
-"""The checks of lint find what they are there to find, and the pictures show what they are there to show."""
-import importlib.util
+"""The checks of lint find the faults that they are for, and the documents' diagrams hold what they should."""
 import pathlib
 import sys
 import unittest
-import xml.etree.ElementTree
 
-TOOLS = pathlib.Path(__file__).resolve().parents[2] / "tools"
-sys.path.insert(0, str(TOOLS))
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools"))
+
+import check_documents
+import check_layers
+import check_texts
+import check_translations
+import documents
+import flow
+import tidy
 
 
-def tool(name):
-    spec = importlib.util.spec_from_file_location(name.replace("-", "_"), TOOLS / f"{name}.py")
-    module = importlib.util.module_from_spec(spec)
-    spec.loader.exec_module(module)
-    return module
-
-
-class FloorsTest(unittest.TestCase):
+class LayersTest(unittest.TestCase):
     def test_includes_point_down(self):
         cases = [
             ("companion/app/A.cpp", "KZPreference/core/B.h", 0),
             ("KZPreference/core/A.cpp", "KZPreference/contract/B.h", 0),
-            ("KZPreference/panes/general/A.cpp", "KZPreference/calendar/B.h", 0),
+            ("KZPreference/panes/general/A.cpp", "KZPreference/layout/B.h", 0),
             ("adal/A.cpp", "adal/B.h", 0),
             ("bench/A.cpp", "companion/runtime/B.h", 0),
-            ("KZPreference/calendar/A.cpp", "KZPreference/panes/general/B.h", 1),
+            ("KZPreference/authentication/A.cpp", "KZPreference/panes/general/B.h", 1),
             ("KZPreference/layout/A.cpp", "KZPreference/core/B.h", 1),
             ("host/A.cpp", "platform/B.h", 1),
             ("platform/A.cpp", "companion/app/B.h", 1),
@@ -32,49 +30,45 @@ class FloorsTest(unittest.TestCase):
             ("host/A.cpp", "sandbox/B.h", 1),
             ("host/A.cpp", "B.h", 1),
         ]
-        floors = tool("check-floors")
         for path, target, count in cases:
             with self.subTest(path=path, target=target):
-                self.assertEqual(len(floors.findings({path: [target]})), count)
+                self.assertEqual(len(list(check_layers.layer_findings({path: [target]}))), count)
 
-    def test_two_units_may_not_include_each_other_the_long_way_round(self):
+    def test_two_units_may_not_include_each_other_through_others(self):
         includes = {"host/A.h": [], "host/A.cpp": ["host/A.h", "host/B.h"], "host/B.cpp": ["host/B.h", "host/C.h"],
                     "host/B.h": [], "host/C.h": ["host/A.h"]}
-        floors = tool("check-floors")
-        self.assertEqual(floors.findings(includes), ["circle: host/A -> host/B -> host/C -> host/A"])
+        found = list(check_layers.circle_findings(includes))
+        self.assertEqual(len(found), 1)
+        for unit in ("host/A", "host/B", "host/C"):
+            self.assertIn(unit, found[0])
         del includes["host/C.h"]
-        self.assertEqual(floors.findings(includes), [])
+        self.assertEqual(list(check_layers.circle_findings(includes)), [])
 
 
 class TranslationsTest(unittest.TestCase):
     CODE = r'addText(localizedString("Email:")); add(m_pane, "Gen\"eral\"", icon); log("not shown");'
 
-    def findings(self, *messages):
-        translations = tool("check-translations")
-        keys = translations.keys_in(self.CODE)
-        content = "".join(f"<message><source>{source}</source><translation{mark}>{text}</translation></message>"
-                          for source, text, mark in messages)
-        return list(translations.language_findings("xx.ts", f"<TS>{content}</TS>", keys, keys | {"not shown"}))
-
-    def test_what_is_complete_passes(self):
-        self.assertEqual(self.findings(("Email:", "E-Mail:", ""), ('Gen"eral"', "Allgemein", "")), [])
-        self.assertEqual(self.findings(("Email:", "メール：", ""), ('Gen"eral"', "一般", "")), [])
-
     def test_what_is_not_complete_is_found(self):
-        general = ('Gen"eral"', "Allgemein", "")
-        cases = {
-            "missing": [general],
-            "empty": [general, ("Email:", "", "")],
-            "colon": [general, ("Email:", "E-Mail", "")],
-            "unfinished": [general, ("Email:", "E-Mail:", ' type="unfinished"')],
-            "twice": [general, general, ("Email:", "E-Mail:", "")],
-            "no longer used": [general, ("Email:", "E-Mail:", ""), ("Gone", "Weg", "")],
-        }
-        for reason, messages in cases.items():
+        general, email = ('Gen"eral"', "Allgemein", ""), ("Email:", "E-Mail:", "")
+        cases = [
+            (None, [general, email]),
+            (None, [general, ("Email:", "メール：", "")]),
+            ("missing", [general]),
+            ("empty", [general, ("Email:", "", "")]),
+            ("colon", [general, ("Email:", "E-Mail", "")]),
+            ("unfinished", [general, ("Email:", "E-Mail:", ' type="unfinished"')]),
+            ("twice", [general, general, email]),
+            ("no longer used", [general, email, ("Gone", "Weg", "")]),
+        ]
+        keys = check_translations.keys_in(self.CODE)
+        for reason, messages in cases:
+            content = "".join(f"<message><source>{source}</source><translation{mark}>{text}</translation></message>"
+                              for source, text, mark in messages)
             with self.subTest(reason=reason):
-                found = self.findings(*messages)
-                self.assertEqual(len(found), 1, found)
-                self.assertIn(reason, found[0])
+                found = list(check_translations.language_findings("xx.ts", f"<TS>{content}</TS>", keys,
+                                                                  keys | {"not shown"}))
+                self.assertEqual(len(found), 1 if reason else 0, found)
+                self.assertIn(reason or "", "".join(found))
 
 
 class TextsTest(unittest.TestCase):
@@ -92,10 +86,9 @@ class TextsTest(unittest.TestCase):
             ("a.cpp", "// as Part" + " 3.1 says\n", 1),
             ("a.md", "It goes into docs/home/index.md.\n", 0),
         ]
-        texts = tool("check-texts")
         for path, text, count in cases:
             with self.subTest(path=path, text=text[:40]):
-                self.assertEqual(len(list(texts.file_findings(path, text))), count)
+                self.assertEqual(len(list(check_texts.file_findings(path, text))), count)
 
 
 class DocumentsTest(unittest.TestCase):
@@ -111,64 +104,49 @@ class DocumentsTest(unittest.TestCase):
             ("`make lost`", 1),
             ("```\nmake lost\n```\n", 1),
         ]
-        documents = tool("check-documents")
         for text, count in cases:
             with self.subTest(text=text):
-                found = list(documents.document_findings("docs/a.md", text, {"docs/guide.md", "host/A.h"}.__contains__,
-                                                         {"KZThing", "doThing"}, {"test"}))
+                found = list(check_documents.document_findings(
+                    "docs/a.md", text, {"docs/guide.md", "host/A.h"}.__contains__, {"KZThing", "doThing"}, {"test"}))
                 self.assertEqual(len(found), count, found)
 
+    def test_a_generated_text_ends_with_an_empty_line(self):
+        text = "Before\n<!-- generated: in -->\n| old |\n| older |\n\nAfter\n<!-- generated: new -->\n"
+        self.assertEqual(documents.GENERATED.sub(lambda match: f"{match[1]}{match[2]}\n", text),
+                         "Before\n<!-- generated: in -->\nin\n\nAfter\n<!-- generated: new -->\nnew\n")
 
-class HostGuideTest(unittest.TestCase):
-    PRINTED = "<!-- table: in -->\n| No. |\n|---|\n| 2 |\n"
-
-    def test_tables_replace_what_stands_below_their_mark(self):
-        guide = "# Guide\n<!-- table: in -->\n| old |\n\nAfter.\n"
-        self.assertEqual(tool("host-guide").filled_in(guide, self.PRINTED), f"# Guide\n{self.PRINTED}\nAfter.\n")
-
-    def test_a_mark_without_a_table_is_an_error(self):
-        with self.assertRaises(SystemExit):
-            tool("host-guide").filled_in("# Guide\n", self.PRINTED)
+    def test_a_bar_does_not_end_a_cell(self):
+        self.assertEqual(documents.table(["a"], [["b|c"]]), "| a |\n| --- |\n| b\\|c |\n")
 
 
-class PicturesTest(unittest.TestCase):
-    def test_floors_are_drawn_as_they_are_checked(self):
-        picture = tool("draw-floors")
-        self.assertEqual(picture.PICTURE.read_text(encoding="utf-8"), picture.svg(), "make pictures mends it")
+class FlowTest(unittest.TestCase):
+    def drawn(self, *said):
+        player = flow.Player(None, {"commands to the plug-in": [[2, "Show"]], "notifications": [[7, "Done"]]})
+        player.play("#> Note over Host: begins")
+        for one in said:
+            player.draw(one)
+        return player.lines[1:]
 
-    def test_no_secret_and_nothing_that_differs_from_run_to_run_is_drawn(self):
-        lines = tool("sequence_text").content_lines
-        content = {"kKZResult": "kKZSuccess", "b": True, "gone": 1,
-                   "inner": '{"code": "s3", "at": "http://127.0.0.1:4711/x"}', "Password": "pw", "state": ""}
-        self.assertEqual(list(lines(content, {"gone"})), [
-            (0, "Password", "…"), (0, "b", "true"), (0, "inner", "JSON text"), (1, "at", "“http://127.0.0.1:…/x”"),
-            (1, "code", "…"), (0, "kKZResult", "kKZSuccess"), (0, "state", "“”")])
+    def test_no_secret_is_drawn(self):
+        self.assertEqual(self.drawn({"post": "Answer", "userInfo": {"inner": {"Password": "pw"}, "b": True}}),
+                         ["Host->>Plugin: posts Answer<br/>b: true<br/>inner:<br/>– Password: …"])
 
     def test_a_write_shows_what_it_changed(self):
-        changed = tool("sequence_text").changed
-        self.assertEqual(changed({"a": 1, "b": {"c": 1, "d": 2}}, {"a": 1, "b": {"c": 1, "d": 3}, "e": 4}),
-                         {"b": {"d": 3}, "e": 4})
-        self.assertEqual(changed(None, {"a": 1}), {"a": 1})
+        self.assertEqual(
+            self.drawn({"stored": "k", "before": {"a": 1, "c": {"d": 2}}, "value": {"a": 1, "c": {"d": 3}, "e": ""}},
+                       {"stored": "k", "before": None, "value": "x"}),
+            ['Plugin->>Settings: writes k<br/>– d: 3<br/>e: ""', 'Plugin->>Settings: writes k<br/>k: "x"'])
 
-    def test_a_control_is_found_below_its_parents_or_not_at_all(self):
-        view = {"children": [{"name": row, "children": [{"name": "m_box", "text": row}]} for row in ("one", "two")]}
-        text = tool("sequence_text")
-        self.assertEqual(text.control_text(text.find_control(view, "two/m_box")), "“two”")
-        for name in ("m_box", "m_lost"):
-            with self.subTest(name=name), self.assertRaises(SystemExit):
-                text.find_control(view, name)
+    def test_what_the_session_refuses_ends_the_flow(self):
+        with self.assertRaises(SystemExit):
+            self.drawn({"refused": "m_box is hidden"})
 
-    def test_a_drawing_holds_every_event_and_is_well_formed(self):
-        event = tool("sequence_play").Event
-        long = "k" * 80
-        events = [event("", "", "A <heading>"), event("User", "Plug-in", "clicks “<&>”", kind="user"),
-                  event("Plug-in", "Host", "9 Command", [(0, "key", long)], "command"), event("Host", "Host", "thinks")]
-        picture = tool("sequence_draw").Picture("A & B", events)
-        root = xml.etree.ElementTree.fromstring(picture.svg())
-        drawn = ["".join(text.itertext()) for text in root.iter("{http://www.w3.org/2000/svg}text")]
-        self.assertEqual(drawn, ["User", "Host", "Plug-in", "A <heading>", "clicks “<&>”", "9 Command", "key:", long,
-                                 "thinks"])
-        self.assertGreater(picture.places["Plug-in"] - picture.places["Host"], 80 * 5.5)
+
+class TidyTest(unittest.TestCase):
+    def test_what_includes_a_changed_file_is_affected(self):
+        includes = {"a.cpp": ["a.h"], "a.h": ["b.h"], "b.h": [], "b.cpp": ["b.h"], "c.cpp": ["c.h"], "c.h": []}
+        self.assertEqual(tidy.affected({"b.h"}, includes), {"b.h", "b.cpp", "a.h", "a.cpp"})
+        self.assertEqual(tidy.affected({"c.cpp", "gone.md"}, includes), {"c.cpp", "gone.md"})
 
 
 if __name__ == "__main__":

@@ -5,13 +5,12 @@
 #include <QXmlStreamReader>
 
 #include "companion/exchange/MeetingMessage.h"
-#include "companion/network/HttpCall.h"
 
 namespace {
 
-using Kind = AutodiscoverAnswer::Kind;
+using Kind = AutodiscoverResponse::Kind;
 
-struct AnswerCase {
+struct ResponseCase {
   const char* name;
   QByteArray xml;
   Kind kind;
@@ -22,30 +21,30 @@ QByteArray account(const QByteArray& content) {
          "</Account></Response></a:Autodiscover>";
 }
 
-class AutodiscoverAnswerTest : public testing::TestWithParam<AnswerCase> {};
+class AutodiscoverResponseTest : public testing::TestWithParam<ResponseCase> {};
 
-TEST_P(AutodiscoverAnswerTest, IsWhatItSays) {
-  EXPECT_EQ(readAutodiscoverAnswer(GetParam().xml).kind, GetParam().kind);
+TEST_P(AutodiscoverResponseTest, IsWhatItSays) {
+  EXPECT_EQ(readAutodiscoverResponse(GetParam().xml).kind, GetParam().kind);
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Answers, AutodiscoverAnswerTest,
-    testing::Values(AnswerCase{"Empty", "", Kind::Unreadable},
-                    AnswerCase{"CutOff", account("<Action>settings</Action>").chopped(5), Kind::Unreadable},
-                    AnswerCase{"NoAction", account("<Protocol/>"), Kind::Unreadable},
-                    AnswerCase{"Settings", account("<Action>settings</Action>"), Kind::Services},
-                    AnswerCase{"NoAddress", account("<Action>redirectAddr</Action>"), Kind::Unreadable},
-                    AnswerCase{"BadUrl", account("<Action>redirectUrl</Action><RedirectUrl>:</RedirectUrl>"),
-                               Kind::Unreadable},
-                    AnswerCase{"Deep", QByteArray("<x>").repeated(300'000), Kind::Unreadable},
-                    AnswerCase{"DocumentType", "<!DOCTYPE a>" + account("<Action>settings</Action>"),
-                               Kind::Unreadable},
-                    AnswerCase{"UnknownEntity", account("<Action>&settings;</Action>"), Kind::Unreadable},
-                    AnswerCase{"BadUtf8", account("<Action>settings\xff\xfe</Action>"), Kind::Unreadable}),
+    Responses, AutodiscoverResponseTest,
+    testing::Values(
+        ResponseCase{"Empty", "", Kind::Unreadable},
+        ResponseCase{"CutOff", account("<Action>settings</Action>").chopped(5), Kind::Unreadable},
+        ResponseCase{"NoAction", account("<Protocol/>"), Kind::Unreadable},
+        ResponseCase{"Settings", account("<Action>settings</Action>"), Kind::Services},
+        ResponseCase{"NoAddress", account("<Action>redirectAddr</Action>"), Kind::Unreadable},
+        ResponseCase{"BadUrl", account("<Action>redirectUrl</Action><RedirectUrl>:</RedirectUrl>"),
+                     Kind::Unreadable},
+        ResponseCase{"Deep", QByteArray("<x>").repeated(300'000), Kind::Unreadable},
+        ResponseCase{"DocumentType", "<!DOCTYPE a>" + account("<Action>settings</Action>"), Kind::Unreadable},
+        ResponseCase{"UnknownEntity", account("<Action>&settings;</Action>"), Kind::Unreadable},
+        ResponseCase{"BadUtf8", account("<Action>settings\xff\xfe</Action>"), Kind::Unreadable}),
     [](const auto& test) { return test.param.name; });
 
 TEST(AutodiscoverMessageTest, TakesOnlySecureAddressesOfTheRightProtocols) {
-  const AutodiscoverAnswer answer = readAutodiscoverAnswer(
+  const AutodiscoverResponse answer = readAutodiscoverResponse(
       account("<Action>settings</Action>"
               "<Protocol><Type>WEB</Type><EwsUrl>https://web.example/</EwsUrl></Protocol>"
               "<Protocol><Type>EXHTTP</Type><EwsUrl> https://newer.example/ </EwsUrl></Protocol>"
@@ -65,12 +64,6 @@ TEST(AutodiscoverMessageTest, KeepsAnEmailOfAnyCharactersInItsPlace) {
   }
   EXPECT_FALSE(reader.hasError());
   EXPECT_EQ(found, email);
-}
-
-TEST(AutodiscoverMessageTest, ReadsTheSchemesOfAChallenge) {
-  EXPECT_EQ(offeredSchemes("Negotiate, NTLM, BASIC realm=\"a, Digest b\", charset=\"UTF-8\""),
-            (QList<QByteArray>{"negotiate", "ntlm", "basic"}));
-  EXPECT_TRUE(offeredSchemes("").isEmpty());
 }
 
 TEST(MeetingMessageTest, RefusesAnswersThatAreNone) {

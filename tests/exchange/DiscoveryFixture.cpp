@@ -1,5 +1,7 @@
 #include "tests/exchange/DiscoveryFixture.h"
 
+#include <QJsonDocument>
+
 #include "host/KZFoundation/KZConstants.h"
 
 DiscoveryFixture::DiscoveryFixture()
@@ -22,7 +24,8 @@ DiscoveryFixture::DiscoveryFixture()
 
 void DiscoveryFixture::SetUp() {
   if (!server.listen()) GTEST_SKIP() << "the openssl program is missing: no certificate for the sandbox";
-  configuration = withSandbox(quickConfiguration(), server.describe());
+  description = SandboxDescription::fromJson(QJsonDocument(server.describe()).toJson());
+  configuration = description.addedTo(quickConfiguration());
   configuration.prompt.ask = [this](const QUrl& target, RedirectPrompt::Answer answer) {
     asked.append(target.host());
     if (isEverythingAllowed) return answer(true);
@@ -46,7 +49,6 @@ void DiscoveryFixture::detect(const QString& email) {
                      [this](KZNotify index, const Dictionary& content) {
                        notified.append({index, content});
                      });
-    QObject::connect(discovery.get(), &ExchangeDiscovery::ended, discovery.get(), [this] { ++ended; });
   }
   discovery->start({{QRT_ExchangeDiscover_Email, email}});
 }
@@ -90,8 +92,8 @@ void DiscoveryFixture::expectNothingMore(int milliseconds) {
   EXPECT_EQ(server.visits().size(), visits);
 }
 
-QList<sandbox::ExchangeService::Visit> DiscoveryFixture::authorizedVisits() const {
-  QList<sandbox::ExchangeService::Visit> visits = server.visits();
+QList<sandbox::Sandbox::Visit> DiscoveryFixture::authorizedVisits() const {
+  QList<sandbox::Sandbox::Visit> visits = server.visits();
   visits.removeIf([](const auto& visit) { return visit.authorization.isEmpty(); });
   return visits;
 }

@@ -9,23 +9,23 @@
 #include <utility>
 
 #include "companion/exchange/ExchangeDiscovery.h"
-#include "companion/exchange/SandboxExchange.h"
+#include "companion/exchange/SandboxDescription.h"
 #include "host/KZFoundation/KZNotificationCenter.h"
-#include "sandbox/ExchangeService.h"
+#include "sandbox/Sandbox.h"
 
-// The sandbox, a discovery that looks for accounts in it, and a plug-in that remembers what it was told and
-// offers one credential.
+// The sandbox, a discovery that looks for accounts in it, and a plug-in that keeps the notifications it gets
+// and offers one credential.
 class DiscoveryFixture : public testing::Test {
  protected:
   DiscoveryFixture();
 
   void SetUp() override;
 
-  // Somebody else does.
+  // The test answers the challenges.
   void answerNoChallenge() { m_authenticator.reset(); }
   void detect(const QString& email);
   void sinkPassword();
-  // What is asked now and from now on.
+  // The open questions and all later ones.
   void allowEverything();
   // Waits for the next notification that was not waited for yet; its content, empty when none came.
   Dictionary waitFor(KZNotify index, int milliseconds = 3000);
@@ -33,13 +33,14 @@ class DiscoveryFixture : public testing::Test {
   QString waitForMessage();      // the message of a failure
   void expectNothingMore(int milliseconds = 150);
 
-  // The visits that carried something to prove who asks.
-  QList<sandbox::ExchangeService::Visit> authorizedVisits() const;
+  // The visits that carried a credential.
+  QList<sandbox::Sandbox::Visit> authorizedVisits() const;
   int visitsOf(const QString& host) const;
 
   static ExchangeConfiguration quickConfiguration();
 
-  sandbox::ExchangeService server;
+  sandbox::Sandbox server;
+  SandboxDescription description;
   ExchangeConfiguration configuration;
   std::unique_ptr<ExchangeDiscovery> discovery;
   QList<std::pair<KZNotify, Dictionary>> notified;
@@ -47,7 +48,6 @@ class DiscoveryFixture : public testing::Test {
   QStringList asked;  // the hosts that the user was asked about
   QList<RedirectPrompt::Answer> openQuestions;
   int withdrawn = 0;
-  int ended = 0;
   QString username = QStringLiteral("CORP\\onprem");
   QString password = QStringLiteral("correct horse");
   QList<Dictionary> challenges;

@@ -4,19 +4,12 @@
 
 #include <QDateTime>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QSignalSpy>
 
 #include "tests/host/BrokenDisk.h"
 #include "tests/kit/StoreFolder.h"
 #include "tests/kit/TraceCollector.h"
-
-namespace {
-
-constexpr qint64 kBoundedMilliseconds = 2000;
-
-}  // namespace
 
 TEST(KZPlistFileFault, SetsADamagedFileAsideAndGoesOn) {
   const QByteArray good = StoreFolder::plist("<key>siteName</key><string>a</string>");
@@ -44,10 +37,7 @@ TEST(KZPlistFileFault, SetsADamagedFileAsideAndGoesOn) {
   for (const QByteArray& bytes : rows) {
     const StoreFolder folder;
     const TraceCollector watch;
-    QElapsedTimer timer;
-    timer.start();
     folder.openWith(bytes);
-    EXPECT_LT(timer.elapsed(), kBoundedMilliseconds);
     EXPECT_EQ(watch.count(KZTraceLevel::Error), 1) << bytes.left(60).constData();
     EXPECT_EQ(folder.setAsideBytes(), bytes) << bytes.left(60).constData();
     StoreFolder::store().setSiteName("new");

@@ -1,5 +1,8 @@
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <QDateTime>
 #include <QSignalSpy>
@@ -23,6 +26,7 @@ TEST(KZPlistFileHandle, KeepsEveryTypeFromRunToRun) {
   const QDateTime date(QDate(4001, 1, 2), QTime(3, 4, 5), Qt::UTC);
   const QVariant values[] = {
       QString(""),
+      QString("line\r\nline\r"),
       QString("  a\n\t<&>\"' \U0001F600 "),
       true,
       false,
@@ -111,19 +115,6 @@ TEST(KZPlistFileHandle, LeavesUnknownKeysAsTheyWere) {
   }
 }
 
-TEST(KZPlistFileHandle, KeepsWhatAnotherProcessWroteMeanwhile) {
-  const StoreFolder folder;
-  KZPlistFileHandle& store = StoreFolder::store();
-  store.setSiteName("ours");
-  store.setCdnUrl("before");
-  folder.replace(StoreFolder::plist("<key>theirs</key><true/><key>cdnUrl</key><string>theirs</string>"));
-  store.setSiteName("ours too");
-  folder.reopen();
-  EXPECT_EQ(store.value("theirs"), QVariant(true));
-  EXPECT_EQ(store.cdnUrl(), "theirs");
-  EXPECT_EQ(store.siteName(), "ours too");
-}
-
 TEST(KZPlistFileHandle, StaysReadableForOthersWhateverATextHolds) {
   const StoreFolder folder;
   KZPlistFileHandle& store = StoreFolder::store();
@@ -155,6 +146,29 @@ TEST(KZPlistFileHandle, NeverWritesWhatItCouldNotReadAgain) {
   EXPECT_EQ(store.siteName(), "kept");
   EXPECT_TRUE(store.cdnUrl().isNull());
   EXPECT_EQ(watch.count(KZTraceLevel::Error), 2);
+}
+
+TEST(KZPlistFileHandle, StaysInMemoryWhileAnotherProcessHasTheFolder) {
+  const StoreFolder folder;
+  KZPlistFileHandle& store = StoreFolder::store();
+  store.setSiteName("theirs");
+  store.close();
+  const QTemporaryDir before;
+  ASSERT_TRUE(store.open(before.path()));
+  // A lock on a descriptor of its own is to the system as another process's.
+  const int theirs = ::open(folder.folder().toUtf8().constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  ASSERT_EQ(::flock(theirs, LOCK_EX | LOCK_NB), 0);
+  EXPECT_FALSE(store.open(folder.folder()));
+  EXPECT_TRUE(store.siteName().isNull());
+  EXPECT_TRUE(store.filePath().isNull());
+  store.setSiteName("memory");
+  ::close(theirs);
+  ASSERT_TRUE(store.open(folder.folder()));
+  EXPECT_EQ(store.siteName(), "theirs");
+  // Nothing stays locked but the folder that is open.
+  const int next = ::open(before.path().toUtf8().constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  EXPECT_EQ(::flock(next, LOCK_EX | LOCK_NB), 0);
+  ::close(next);
 }
 
 TEST(KZPlistFileHandle, IsInMemoryUntilOpenedAndAfterClosing) {

@@ -87,7 +87,7 @@ TEST(KZTrace, KeepsARecordOnOneLineOfStandardError) {
 
 TEST(KZTrace, FormatsNothingWhileMuted) {
   muteKZTrace();
-  EXPECT_FALSE(kztrace::isHeard());
+  EXPECT_FALSE(kztrace::isEnabled());
   testing::internal::CaptureStderr();
   MVRNSInfoFuncTraceIMPL("Test", "void A::b()", "unheard");
   EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
@@ -111,6 +111,6 @@ TEST(KZTrace, LetsASinkTraceAndReplaceItselfWhileOthersTrace) {
   EXPECT_EQ(heard, 2 * 4 * 200);
   setKZTraceSink([](const KZTraceRecord&) { muteKZTrace(); });
   MVRNSInfoFuncTraceIMPL("Test", "void A::b()", "last");
-  EXPECT_FALSE(kztrace::isHeard());
+  EXPECT_FALSE(kztrace::isEnabled());
   setKZTraceSink({});
 }

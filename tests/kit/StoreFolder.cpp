@@ -1,5 +1,7 @@
 #include "tests/kit/StoreFolder.h"
 
+#include <gtest/gtest.h>
+
 #include <QDir>
 #include <QFile>
 
@@ -11,8 +13,7 @@ StoreFolder::~StoreFolder() {
 }
 
 void StoreFolder::reopen() const {
-  store().close();
-  store().open(folder());
+  EXPECT_TRUE(store().open(folder()));
 }
 
 void StoreFolder::openWith(const QByteArray& bytes) const {

@@ -16,7 +16,7 @@
 
 TestHost::TestHost() {
   KZPlistFileHandle::sharedInstance().close();
-  KZPlistFileHandle::sharedInstance().open(m_folder.path());
+  EXPECT_TRUE(KZPlistFileHandle::sharedInstance().open(m_folder.path()));
   KZKeyChainHandle::sharedInstance().useStorage(KZKeyChainHandle::Storage::Memory);
   KZUtility::sharedInstance().cleanCheckForUpdatesInProgressFlag();
   KZApplicationHelper::sharedInstance().setSiteEnableOutlook(true);

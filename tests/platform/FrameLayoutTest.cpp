@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QTest>
 
+#include "platform/KeyView.h"
 #include "platform/View.h"
 #include "platform/WindowController.h"
 

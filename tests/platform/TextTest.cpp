@@ -4,7 +4,6 @@
 
 #include <QFontMetricsF>
 #include <cmath>
-#include <ctime>
 
 namespace {
 
@@ -28,12 +27,6 @@ TEST(Text, MeasuresInTheFontThatDraws) {
   EXPECT_EQ(sizeOfText(QString(), FontRole::Label, 13).width, 0);
   EXPECT_GT(sizeOfText("Account", FontRole::BoldSystem, 13).width,
             sizeOfText("Account", FontRole::Label, 13).width);
-}
-
-TEST(Text, MeasuresAMegabyteInASecondOfWork) {
-  const std::clock_t start = std::clock();
-  EXPECT_GT(sizeOfText(QString(1024 * 1024, u'm'), FontRole::Label, 13).width, 1e6);
-  EXPECT_LT(std::clock() - start, CLOCKS_PER_SEC);
 }
 
 }  // namespace

@@ -37,9 +37,9 @@ class RecordedSandbox : public testing::Test {
  protected:
   void SetUp() override {
     if (QStandardPaths::findExecutable("openssl").isEmpty()) GTEST_SKIP() << "openssl is missing";
-    KZPlistFileHandle::sharedInstance().open(m_folder.filePath("state"));
+    ASSERT_TRUE(KZPlistFileHandle::sharedInstance().open(m_folder.filePath("state")));
     KZKeyChainHandle::sharedInstance().useStorage(KZKeyChainHandle::Storage::Memory);
-    QObject::connect(&m_sandbox, &Sandbox::ready, &m_exchange, &CompanionExchange::useSandbox);
+    QObject::connect(&m_sandbox, &Sandbox::ready, &m_network, &ServiceNetwork::useSandbox);
     QSignalSpy ready(&m_sandbox, &Sandbox::ready);
     m_sandbox.start(KZ_SANDBOX);
     ASSERT_TRUE(ready.wait(20'000));
@@ -118,7 +118,8 @@ class RecordedSandbox : public testing::Test {
   QTemporaryDir m_folder;
   QUrl m_opened;
   PluginHost m_host{[this](const QUrl& url) { return open(url); }};
-  CompanionExchange m_exchange{&m_host, CompanionExchange::Reach::Sandbox, {}};
+  ServiceNetwork m_network{NetworkReach::Sandbox};
+  CompanionExchange m_exchange{&m_host, &m_network};
   Sandbox m_sandbox;
   Recording m_recording{&m_host};
   UserInput m_user;

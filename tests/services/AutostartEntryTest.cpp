@@ -76,7 +76,7 @@ TEST_F(AutostartEntryTest, FollowsTheUsersChoiceAlone) {
   const AutostartEntry entry(folder.filePath("autostart"), "/usr/bin/companion");
   GeneralSettings settings(&host, entry);
   QStringList notices;
-  QObject::connect(&settings, &GeneralSettings::noticed, &settings,
+  QObject::connect(&settings, &GeneralSettings::message, &settings,
                    [&notices](const QString& text) { notices.append(text); });
   const auto choose = [&host](bool isOn) {
     sendFromPlugin(host, KZCommand::KZCmdUpdateGeneralSetting, Dictionary{{kLaunchAtLogin, isOn}});
@@ -96,7 +96,7 @@ TEST_F(AutostartEntryTest, FollowsTheUsersChoiceAlone) {
   QFile inTheWay(folder.filePath("file"));
   ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
   GeneralSettings stuck(&host, AutostartEntry(folder.filePath("file"), "/usr/bin/companion"));
-  QObject::connect(&stuck, &GeneralSettings::noticed, &stuck,
+  QObject::connect(&stuck, &GeneralSettings::message, &stuck,
                    [&notices](const QString& text) { notices.append(text); });
   choose(true);
   EXPECT_TRUE(notices.last().contains("Make its folder writable")) << notices.last().toStdString();

@@ -19,9 +19,9 @@ class ChangeNoticesTest : public ServicesFixture {
  protected:
   void SetUp() override {
     ServicesFixture::SetUp();
-    QObject::connect(&changes, &ChangeNotices::noticed, &changes,
+    QObject::connect(&changes, &ChangeNotices::message, &changes,
                      [this](const QString& text) { notices.append(text); });
-    QObject::connect(&general, &GeneralSettings::noticed, &general,
+    QObject::connect(&general, &GeneralSettings::message, &general,
                      [this](const QString& text) { notices.append(text); });
   }
 
@@ -35,7 +35,7 @@ class ChangeNoticesTest : public ServicesFixture {
   template <typename Control>
   static Control* shown(const char* name) {
     Control* found = nullptr;
-    EXPECT_TRUE(waitUntil([&] {
+    EXPECT_TRUE(kit::waitUntil([&] {
       for (auto* one : findPreferencesWindow()->findChildren<Control*>(name)) {
         if (one->isVisible() && one->isEnabled()) found = one;
       }
@@ -137,7 +137,8 @@ TEST_F(ChangeNoticesTest, RefusedPasswords) {
   challenge(2);
   EXPECT_TRUE(notices.last().contains("saved user name and password. Detect the account again")) << told();
   challenge(1);
-  EXPECT_TRUE(waitUntil([this] { return notices.last().contains("Check them, then detect"); })) << told();
+  EXPECT_TRUE(kit::waitUntil([this] { return notices.last().contains("Check them, then detect"); }))
+      << told();
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "companion/services/ServiceNetwork.h"
+#include "companion/network/WebAddress.h"
 #include "host/KZFoundation/KZConstants.h"
 
 namespace {

@@ -1,5 +1,7 @@
 #include "tests/services/ServicesFixture.h"
 
+#include <QJsonDocument>
+
 #include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 #include "host/KZUtility/KZUtility.h"
@@ -12,8 +14,9 @@ void ServicesFixture::SetUp() {
     if (const auto* notified = std::get_if<NotificationToPlugin>(&event)) m_notifications.append(*notified);
   });
   ASSERT_TRUE(host.load(PREFERENCES)) << host.errorText().toStdString();
-  if (!sites.listen()) GTEST_SKIP() << "the openssl program is missing: no certificate for the sandbox";
-  network.useSandbox(sites.describe());
+  if (!played.listen()) GTEST_SKIP() << "the openssl program is missing: no certificate for the sandbox";
+  description = SandboxDescription::fromJson(QJsonDocument(played.describe()).toJson());
+  network.useSandbox(description);
 }
 
 void ServicesFixture::TearDown() {
@@ -22,9 +25,9 @@ void ServicesFixture::TearDown() {
   KZUtility::sharedInstance().cleanCheckForUpdatesInProgressFlag();
 }
 
-NetworkConfiguration ServicesFixture::quickConfiguration() {
-  NetworkConfiguration quick;
-  quick.limits.request = std::chrono::milliseconds(1500);
+ExchangeConfiguration ServicesFixture::quickConfiguration() {
+  ExchangeConfiguration quick;
+  quick.network.limits.request = std::chrono::milliseconds(1500);
   return quick;
 }
 

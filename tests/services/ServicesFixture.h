@@ -7,27 +7,27 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QUrl>
-#include <functional>
 
 #include "companion/runtime/PluginHost.h"
 #include "companion/services/ServiceNetwork.h"
 #include "host/KZFoundation/KZCommands.h"
-#include "sandbox/MeetingSite.h"
+#include "sandbox/Sandbox.h"
+#include "tests/kit/Input.h"
 
-// The real plug-in, meeting sites that are played in this process, and all that crosses between.
+// The real plug-in, a sandbox in this process, and what passes between host and plug-in.
 class ServicesFixture : public testing::Test {
  protected:
   void SetUp() override;
   void TearDown() override;
 
-  static NetworkConfiguration quickConfiguration();
-  static bool waitUntil(const std::function<bool()>& isTrue) { return QTest::qWaitFor(isTrue, 8000); }
+  static ExchangeConfiguration quickConfiguration();
 
   // The contents of the notifications of that kind, oldest first.
   QList<Dictionary> notifications(KZNotify index) const;
 
   const QTemporaryDir folder;
-  sandbox::MeetingSite sites;
+  sandbox::Sandbox played{QStringLiteral("http://127.0.0.1:1"), [](const QString&) { return false; }};
+  SandboxDescription description;
   QList<QUrl> opened;
   PluginHost host{[this](const QUrl& url) {
     opened.append(url);

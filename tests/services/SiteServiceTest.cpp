@@ -10,17 +10,17 @@ class SiteServiceTest : public ServicesFixture {
  protected:
   void SetUp() override {
     ServicesFixture::SetUp();
-    QObject::connect(&service, &SiteService::noticed, &service,
+    QObject::connect(&service, &SiteService::message, &service,
                      [this](const QString& text) { notices.append(text); });
   }
 
-  SiteService::Answer lookUp(const QString& site) {
-    std::optional<SiteService::Answer> answer;
-    service.lookUp(site, [&answer](const SiteService::Answer& got) { answer = got; });
+  SiteService::Result lookUp(const QString& site) {
+    std::optional<SiteService::Result> answer;
+    service.lookUp(site, [&answer](const SiteService::Result& got) { answer = got; });
     EXPECT_FALSE(answer) << "answered while it was asked";
-    EXPECT_TRUE(waitUntil([&answer] { return answer.has_value(); }));
+    EXPECT_TRUE(kit::waitUntil([&answer] { return answer.has_value(); }));
     service.cancelLookUp();
-    return answer.value_or(SiteService::Answer());
+    return answer.value_or(SiteService::Result());
   }
 
   static KZPlistFileHandle& store() { return KZPlistFileHandle::sharedInstance(); }
@@ -31,7 +31,7 @@ class SiteServiceTest : public ServicesFixture {
 TEST_F(SiteServiceTest, AnAdoptedSiteReachesTheStoreAndThePlugin) {
   service.signIn();
   EXPECT_EQ(textValue(store().preferenceInfo(), QRT_Preference_PMRUrl), "https://stand-in.example/ada");
-  const SiteService::Answer answer = lookUp("meetings.sandbox.example");
+  const SiteService::Result answer = lookUp("meetings.sandbox.example");
   ASSERT_TRUE(answer.site) << answer.failure.toStdString();
   EXPECT_TRUE(store().siteName().isNull());
   const auto told = [this] { return notifications(KZNotify::KZNotifyGetPreferenceDone).size(); };
@@ -68,7 +68,7 @@ TEST_F(SiteServiceTest, ASiteThatDoesNotAnswerSaysWhy) {
       {"127.0.0.1:1", "outside the sandbox"},
   };
   for (const auto& [site, words] : faults) {
-    const SiteService::Answer answer = lookUp(site);
+    const SiteService::Result answer = lookUp(site);
     EXPECT_FALSE(answer.site) << site;
     EXPECT_TRUE(answer.failure.contains(words)) << site << ": " << answer.failure.toStdString();
   }
@@ -84,7 +84,7 @@ TEST_F(SiteServiceTest, WithoutASiteTheUserIsToldToChooseOne) {
 TEST_F(SiteServiceTest, AGuestHearsOfNoRecord) {
   store().setSiteName("meetings.sandbox.example");
   service.refresh();
-  ASSERT_TRUE(waitUntil([] { return !store().cdnUrl().isNull(); }));
+  ASSERT_TRUE(kit::waitUntil([] { return !store().cdnUrl().isNull(); }));
   EXPECT_TRUE(notifications(KZNotify::KZNotifyGetPreferenceDone).isEmpty());
   service.joinByNumber();
   EXPECT_EQ(opened.size(), 1);

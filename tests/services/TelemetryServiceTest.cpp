@@ -17,7 +17,7 @@ namespace {
 class TelemetryServiceTest : public testing::Test {
  protected:
   void SetUp() override {
-    QObject::connect(&service, &TelemetryService::noticed, &service,
+    QObject::connect(&service, &TelemetryService::message, &service,
                      [this](const QString& text) { notices.append(text); });
   }
   void TearDown() override { KZPlistFileHandle::sharedInstance().close(); }

@@ -2,14 +2,15 @@
 
 #include <cmath>
 
-#include "KZPreference/contract/PreferenceTelemetry.h"
 #include "KZPreference/layout/Controls.h"
-#include "KZPreference/layout/Localization.h"
+#include "KZPreference/layout/PreferenceTelemetry.h"
 #include "KZPreference/layout/PrefsViewDefine.h"
+#include "KZPreference/layout/Resources.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 #include "host/KZUtility/KZUtility.h"
 #include "platform/FrameLayout.h"
+#include "platform/KeyView.h"
 
 namespace {
 
@@ -30,17 +31,7 @@ NonSignInPrefAccountView::NonSignInPrefAccountView(const Frame& frame,
   drawnTextsChanged();
 }
 
-StaticText* NonSignInPrefAccountView::createTextFieldWithRect(const QString& name, const Frame& frame,
-                                                              const QString& text, Qt::Alignment alignment) {
-  return addStaticText(this, {.name = name,
-                              .frame = frame,
-                              .text = text,
-                              .role = FontRole::Label,
-                              .size = labelFontSize,
-                              .alignment = alignment});
-}
-
-QLineEdit* NonSignInPrefAccountView::createInputTextFieldWithRect(const QString& name, const Frame& frame,
+QLineEdit* NonSignInPrefAccountView::createInputTextFieldWithRect(const char* name, const Frame& frame,
                                                                   const QString& text) {
   QLineEdit* field = addTextField(this, name, frame);
   field->setProperty("focusRing", false);
@@ -60,33 +51,27 @@ QList<DrawnText> NonSignInPrefAccountView::drawnTexts() const {
 }
 
 void NonSignInPrefAccountView::initLabels() {
-  const auto add = [this](const char* name, double y, const QString& text) {
-    createTextFieldWithRect(QString::fromLatin1(name),
-                            {secondMarginAtLeftEdge, y, labelWidth(), kGuestRowHeight}, text, Qt::AlignRight);
-  };
-  add("m_nameLabel", kGuestNameRow, fullNameLabel());
-  add("m_emailLabel", kGuestEmailRow, emailAddressLabel());
+  const double width = labelWidth();
+  addLabel(this, "m_nameLabel", {secondMarginAtLeftEdge, kGuestNameRow, width, kGuestRowHeight},
+           fullNameLabel(), Qt::AlignRight);
+  addLabel(this, "m_emailLabel", {secondMarginAtLeftEdge, kGuestEmailRow, width, kGuestRowHeight},
+           emailAddressLabel(), Qt::AlignRight);
 }
 
 void NonSignInPrefAccountView::initTxts() {
   const double x = secondMarginAtLeftEdge + labelWidth() + marginBetweenLabelAndContent;
-  m_nameTxt = createTextFieldWithRect(
-      QStringLiteral("m_nameTxt"), {x, kGuestNameRow, fieldWidth, kGuestRowHeight}, QString(), Qt::AlignLeft);
-  m_emailTxt =
-      createTextFieldWithRect(QStringLiteral("m_emailTxt"), {x, kGuestEmailRow, fieldWidth, kGuestRowHeight},
-                              QString(), Qt::AlignLeft);
+  m_nameTxt = addLabel(this, "m_nameTxt", {x, kGuestNameRow, fieldWidth, kGuestRowHeight}, QString());
+  m_emailTxt = addLabel(this, "m_emailTxt", {x, kGuestEmailRow, fieldWidth, kGuestRowHeight}, QString());
   refreshDisplayModeTxt();
 }
 
 void NonSignInPrefAccountView::initInputTextFields() {
   const KZPlistFileHandle& profile = KZPlistFileHandle::sharedInstance();
   const double x = std::floor(labelWidth()) + secondMarginAtLeftEdge + marginBetweenLabelAndContent;
-  m_nameInputTxt =
-      createInputTextFieldWithRect(QStringLiteral("m_nameInputTxt"),
-                                   {x, kGuestNameRow, fieldWidth, kGuestRowHeight}, profile.displayName());
-  m_emailInputTxt =
-      createInputTextFieldWithRect(QStringLiteral("m_emailInputTxt"),
-                                   {x, kGuestEmailRow, fieldWidth, kGuestRowHeight}, profile.userName());
+  m_nameInputTxt = createInputTextFieldWithRect(
+      "m_nameInputTxt", {x, kGuestNameRow, fieldWidth, kGuestRowHeight}, profile.displayName());
+  m_emailInputTxt = createInputTextFieldWithRect(
+      "m_emailInputTxt", {x, kGuestEmailRow, fieldWidth, kGuestRowHeight}, profile.userName());
   m_nameInputTxt->setAccessibleName(fullNameLabel());
   m_emailInputTxt->setAccessibleName(emailAddressLabel());
   connect(m_emailInputTxt, &QLineEdit::textEdited, this, &NonSignInPrefAccountView::controlTextDidChange);
@@ -96,18 +81,17 @@ void NonSignInPrefAccountView::initInputTextFields() {
 
 void NonSignInPrefAccountView::initErrorText() {
   const Frame field = frameOf(m_emailInputTxt);
-  m_warningMsg = createTextFieldWithRect(QStringLiteral("m_warningMsg"),
-                                         {field.x, field.y - 20 - 5, frameOf(this).width, 20},
-                                         localizedString("Invalid email address"), Qt::AlignLeft);
+  m_warningMsg = addLabel(this, "m_warningMsg", {field.x, field.y - 20 - 5, frameOf(this).width, 20},
+                          localizedString("Invalid email address"));
   m_warningMsg->setSystemColor(SystemColor::Red);
   m_warningMsg->hide();
 }
 
 void NonSignInPrefAccountView::initEditButton() {
-  const Size heading = accountLabelSize();
-  const double y = frameOf(this).height - marginAtTopEdge - heading.height * 0.5 - 8;
-  m_editBtn = addLink(this, QStringLiteral("m_editBtn"),
-                      {marginAtLeftEdge + heading.width + marginBetweenContentAndButton, y,
+  const Size title = accountLabelSize();
+  const double y = frameOf(this).height - marginAtTopEdge - title.height * 0.5 - 8;
+  m_editBtn = addLink(this, "m_editBtn",
+                      {marginAtLeftEdge + title.width + marginBetweenContentAndButton, y,
                        buttonWidthWithTitle(editButtonLabel()), commonLabelHeight},
                       editButtonLabel());
   connect(m_editBtn, &BRNHyperlinkTextField::clicked, this, &NonSignInPrefAccountView::onEditButton);

@@ -8,7 +8,7 @@ class BRNHyperlinkTextField;
 class QLineEdit;
 class StaticText;
 
-// The guest's Account pane: a name and an email that are read, or edited and saved.
+// The guest's Account pane: shows a name and an email address, which the user can edit and save.
 class NonSignInPrefAccountView final : public View, public NonSignInPrefAccountViewVisible {
   Q_OBJECT
 
@@ -16,7 +16,7 @@ class NonSignInPrefAccountView final : public View, public NonSignInPrefAccountV
   NonSignInPrefAccountView(const Frame& frame,
                            PreferenceActionDelegateProtocol* actionDelegate);  // not owned
 
-  // Back to reading, with the stored profile; what was typed is dropped.
+  // Ends editing without saving, and shows the stored profile.
   void refreshAccountInfo();
 
   QList<DrawnText> drawnTexts() const override;
@@ -37,9 +37,7 @@ class NonSignInPrefAccountView final : public View, public NonSignInPrefAccountV
   void refreshDisplayModeTxt();
   void refreshEditModeTxt();
   bool checkName(const QString& name, const QString& email);
-  StaticText* createTextFieldWithRect(const QString& name, const Frame& frame, const QString& text,
-                                      Qt::Alignment alignment);
-  QLineEdit* createInputTextFieldWithRect(const QString& name, const Frame& frame, const QString& text);
+  QLineEdit* createInputTextFieldWithRect(const char* name, const Frame& frame, const QString& text);
 
   PreferenceActionDelegateProtocol* m_actionDelegate;
   BRNHyperlinkTextField* m_editBtn = nullptr;

@@ -1,20 +1,35 @@
 #pragma once
 
-#include <QString>
+#include <algorithm>
 
-#include "platform/Frame.h"
+#include "KZPreference/layout/PrefsViewDefine.h"
+#include "KZPreference/layout/Resources.h"
+#include "host/KZUtility/KZPlistFileHandle.h"
 
-// Texts and sizes of the signed-in Account pane, known before the pane exists. Sizes follow the stored
-// profile.
+// Texts and sizes of the signed-in Account pane, known before the pane exists. The content's width follows
+// the stored profile.
 class PrefAccountViewVisible {
  public:
-  static QString fullNameLabel();
-  static QString siteUrlLabel();
-  static QString emailAddressLabel();
-  static QString changeSiteButtonLabel();
+  static QString fullNameLabel() { return localizedString("Full name:"); }
+  static QString siteUrlLabel() { return localizedString("Mivra site URL:"); }
+  static QString emailAddressLabel() { return localizedString("Email address:"); }
+  static QString changeSiteButtonLabel() { return localizedString("Change"); }
 
-  static double labelWidth();
-  static double buttonWidth();
-  static double contentWidth();
-  static Size caculateViewSize();
+  static double labelWidth() {
+    return std::max({systemTextWidth(fullNameLabel()), systemTextWidth(siteUrlLabel()),
+                     systemTextWidth(emailAddressLabel())}) +
+           textPad;
+  }
+  static double buttonWidth() { return systemTextWidth(changeSiteButtonLabel()) + textPad; }
+  static double contentWidth() {
+    const KZPlistFileHandle& profile = KZPlistFileHandle::sharedInstance();
+    const double site = systemTextWidth(profile.siteName()) + marginBetweenContentAndButton + buttonWidth();
+    return std::max({systemTextWidth(profile.displayName()), systemTextWidth(profile.userName()), site}) +
+           textPad;
+  }
+  static Size caculateViewSize() {
+    return {.width = marginAtLeftEdge + labelWidth() + marginBetweenLabelAndContent + contentWidth() +
+                     marginAtRightEdge,
+            .height = 110};
+  }
 };

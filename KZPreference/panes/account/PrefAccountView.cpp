@@ -21,20 +21,9 @@ PrefAccountView::PrefAccountView(const Frame& frame, PreferenceActionDelegatePro
   initChangeSiteButton();
 }
 
-StaticText* PrefAccountView::createTextFieldWithRect(const QString& name, const Frame& frame,
-                                                     const QString& text, Qt::Alignment alignment) {
-  return addStaticText(this, {.name = name,
-                              .frame = frame,
-                              .text = text,
-                              .role = FontRole::Label,
-                              .size = labelFontSize,
-                              .alignment = alignment});
-}
-
 void PrefAccountView::initLabels() {
   const auto add = [this](const char* name, double y, const QString& text) {
-    createTextFieldWithRect(QString::fromLatin1(name), {marginAtLeftEdge, y, labelWidth(), commonLabelHeight},
-                            text, Qt::AlignRight);
+    addLabel(this, name, {marginAtLeftEdge, y, labelWidth(), commonLabelHeight}, text, Qt::AlignRight);
   };
   add("m_nameLabel", kNameRow, fullNameLabel());
   add("m_siteLabel", kSiteRow, siteUrlLabel());
@@ -49,7 +38,7 @@ Frame PrefAccountView::contentFrame(double y) const {
 void PrefAccountView::initTxts() {
   const KZPlistFileHandle& profile = KZPlistFileHandle::sharedInstance();
   const auto add = [this](const char* name, double y, const QString& text) {
-    return createTextFieldWithRect(QString::fromLatin1(name), contentFrame(y), text, Qt::AlignLeft);
+    return addLabel(this, name, contentFrame(y), text);
   };
   m_nameTxt = add("m_nameTxt", kNameRow, profile.displayName());
   m_siteTxt = add("m_siteTxt", kSiteRow, profile.siteName());
@@ -57,13 +46,12 @@ void PrefAccountView::initTxts() {
 }
 
 void PrefAccountView::initChangeSiteButton() {
-  // The link follows the site's text, not the column.
+  // Right after the site's text, not after the column.
   Frame frame = contentFrame(kSiteRow);
   frame.x += systemTextWidth(KZPlistFileHandle::sharedInstance().siteName()) + textPad +
              marginBetweenContentAndButton;
   frame.width = buttonWidth();
-  BRNHyperlinkTextField* link =
-      addLink(this, QStringLiteral("m_changeSiteBtn"), frame, changeSiteButtonLabel());
+  BRNHyperlinkTextField* link = addLink(this, "m_changeSiteBtn", frame, changeSiteButtonLabel());
   connect(link, &BRNHyperlinkTextField::clicked, this, &PrefAccountView::onChangeSiteButton);
 }
 

@@ -21,8 +21,6 @@ class PrefAccountView final : public View, public PrefAccountViewVisible {
   void initTxts();
   void initChangeSiteButton();
   void onChangeSiteButton();
-  StaticText* createTextFieldWithRect(const QString& name, const Frame& frame, const QString& text,
-                                      Qt::Alignment alignment);
   Frame contentFrame(double y) const;
 
   PreferenceActionDelegateProtocol* m_actionDelegate;

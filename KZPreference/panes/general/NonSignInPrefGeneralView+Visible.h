@@ -1,15 +1,23 @@
 #pragma once
 
-#include <QString>
+#include "KZPreference/layout/PrefsViewDefine.h"
+#include "KZPreference/layout/Resources.h"
 
-#include "platform/Frame.h"
-
-// Room for the box of a check box in the General panes, in points.
-inline constexpr double generalCheckboxRoom = 20;
-
-// Texts and size of the guest's General pane, known before the pane exists.
+// Text and size of the guest's General pane, known before the pane exists.
 class NonSignInPrefGeneralViewVisible {
  public:
-  static QString startCheckingString();
-  static Size caculatePrefGeneralViewSize();
+  static QString startCheckingString() {
+    return localizedString("Start Brenn Mivra Meetings when my computer starts");
+  }
+
+  static Size caculatePrefGeneralViewSize() {
+    return {.width = widthWithCheckbox(startCheckingString()), .height = 64};
+  }
+
+ protected:
+  static double widthWithCheckbox(const QString& title) {
+    constexpr double boxWidth = 20;
+    return marginAtLeftEdge + sizeOfText(title, FontRole::System, systemFontSize).width + marginAtRightEdge +
+           boxWidth;
+  }
 };

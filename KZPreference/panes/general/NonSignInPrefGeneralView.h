@@ -8,8 +8,12 @@ class NonSignInPrefGeneralView final : public StartAtLoginView, public NonSignIn
   Q_OBJECT
 
  public:
-  NonSignInPrefGeneralView(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate);
+  NonSignInPrefGeneralView(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate)
+      : StartAtLoginView(frame, actionDelegate) {
+    initCheckingStartState();
+    initStartCheckingCheckbox(rectCheckStartingButton(), startCheckingString());
+  }
 
  private:
-  Frame rectCheckStartingButton() const;
+  Frame rectCheckStartingButton() const { return checkboxFrame(marginAtBottomEdge); }
 };

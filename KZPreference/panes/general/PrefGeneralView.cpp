@@ -1,7 +1,6 @@
 #include "KZPreference/panes/general/PrefGeneralView.h"
 
 #include "KZPreference/layout/Controls.h"
-#include "KZPreference/layout/PrefsViewDefine.h"
 #include "host/KZCommonUI/MarigoldWarningView.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZApplicationHelper.h"
@@ -22,9 +21,9 @@ void PrefGeneralView::initOutlookIntegratingState() {
 }
 
 void PrefGeneralView::initOutlookIntegratingCheckbox() {
-  m_outlookIntegratingBtn = addCheckbox(this, QStringLiteral("m_outlookIntegratingBtn"),
-                                        rectOutlookIntegrationButton(), outlookIntegratingString());
-  // A site that forbids it leaves the stored choice alone.
+  m_outlookIntegratingBtn = addCheckbox(this, "m_outlookIntegratingBtn", rectOutlookIntegrationButton(),
+                                        outlookIntegratingString());
+  // Where the site does not allow it, the stored choice stays as it is.
   m_outlookIntegratingBtn->setChecked(m_isOutlookIntegrating && m_isSiteEnableOutlookIntegrating);
   m_outlookIntegratingBtn->setEnabled(m_isSiteEnableOutlookIntegrating);
   connect(m_outlookIntegratingBtn, &QCheckBox::clicked, this, &PrefGeneralView::onOutlookIntegratingButton);
@@ -57,7 +56,7 @@ void PrefGeneralView::addWarningView() {
   m_warningView->setIsInfo(true);
   m_warningView->setWarningText(
       getLocalizedString("Your setting changes will take effect after you restart Microsoft Outlook."));
-  // The pane grows downwards by the notice, so that the notice has its place above the choices.
+  // The pane grows downwards by the notice's height, so that the notice stands above the check boxes.
   Frame pane = frameOf(this);
   const double height = m_warningView->heightForWidth(int(pane.width));
   addSubview(this, m_warningView, {0, pane.height, pane.width, height});

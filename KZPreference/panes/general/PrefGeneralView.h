@@ -12,8 +12,8 @@ class PrefGeneralView final : public StartAtLoginView, public PrefGeneralViewVis
  public:
   PrefGeneralView(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate);
 
-  // Asks the user to restart Outlook, in a notice above the choices. Every call makes the window taller by
-  // the notice's height.
+  // Shows a notice above the check boxes that asks the user to restart Outlook. Each call makes the window
+  // taller by the notice's height.
   void showWarningView();
 
  private:

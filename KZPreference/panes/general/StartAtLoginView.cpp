@@ -1,8 +1,8 @@
 #include "KZPreference/panes/general/StartAtLoginView.h"
 
 #include "KZPreference/layout/Controls.h"
-#include "KZPreference/layout/Localization.h"
 #include "KZPreference/layout/PrefsViewDefine.h"
+#include "KZPreference/layout/Resources.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 #include "platform/FrameLayout.h"
@@ -11,7 +11,6 @@ StartAtLoginView::StartAtLoginView(const Frame& frame, PreferenceActionDelegateP
     : View(frame), m_actionDelegate(actionDelegate) {}
 
 bool StartAtLoginView::storedChoice(const QString& key) {
-  // A stored value that is no flag counts as absent.
   const QVariant kept = KZPlistFileHandle::sharedInstance().value(key);
   return kept.metaType() == QMetaType::fromType<bool>() ? kept.toBool() : true;
 }
@@ -21,13 +20,13 @@ void StartAtLoginView::initCheckingStartState() {
 }
 
 void StartAtLoginView::initStartCheckingCheckbox(const Frame& frame, const QString& title) {
-  m_startCheckingBtn = addCheckbox(this, QStringLiteral("m_startCheckingBtn"), frame, title);
+  m_startCheckingBtn = addCheckbox(this, "m_startCheckingBtn", frame, title);
   m_startCheckingBtn->setChecked(m_isStartWhenComputerStarts);
   connect(m_startCheckingBtn, &QCheckBox::clicked, this, &StartAtLoginView::onStartCheckingButton);
 }
 
 Frame StartAtLoginView::checkboxFrame(double y) const {
-  // The right margin stands on the left too: both are 32, which lines this pane up with the others.
+  // The right margin on the left too; both are 32, so the pane lines up with the others.
   return {.x = marginAtRightEdge,
           .y = y,
           .width = frameOf(this).width - marginAtLeftEdge - marginAtRightEdge,

@@ -5,8 +5,7 @@
 
 class QCheckBox;
 
-// What both General panes share: the start-at-login choice, written to the store and told to the host at each
-// click.
+// What both General panes share: the start-at-login choice, stored and sent to the host at each click.
 class StartAtLoginView : public View {
   Q_OBJECT
 
@@ -14,12 +13,12 @@ class StartAtLoginView : public View {
   StartAtLoginView(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate);  // not owned
 
  protected:
-  // The stored choice; true when there is none.
+  // The stored choice; true when there is none, or a value that is no flag.
   static bool storedChoice(const QString& key);
 
   void initCheckingStartState();
   void initStartCheckingCheckbox(const Frame& frame, const QString& title);
-  // A row of the pane's width, from its lower edge up.
+  // A row across the pane, `y` points above its lower edge.
   Frame checkboxFrame(double y) const;
   QString getLocalizedString(const char* key) const;
 

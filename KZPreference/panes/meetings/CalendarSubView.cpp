@@ -1,9 +1,9 @@
 #include "KZPreference/panes/meetings/CalendarSubView.h"
 
-#include "KZPreference/contract/PreferenceTelemetry.h"
 #include "KZPreference/layout/Controls.h"
-#include "KZPreference/layout/PrefMeetingView+Visible.h"
+#include "KZPreference/layout/PreferenceTelemetry.h"
 #include "KZPreference/layout/PrefsViewDefine.h"
+#include "KZPreference/panes/meetings/PrefMeetingView+Visible.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "platform/FrameLayout.h"
@@ -16,29 +16,21 @@ CalendarSubView::CalendarSubView(const Frame& frame, PreferenceActionDelegatePro
 
 void CalendarSubView::initCalendarLebel() {
   const QString title = PrefMeetingViewVisible::calendarlabel();
-  const Size size = sizeOfText(title, FontRole::BoldSystem, boldLabelFontSize);
-  addStaticText(this, {.name = QStringLiteral("m_calendarTxt"),
-                       .frame = {marginAtLeftEdge, frameOf(this).height - size.height, size.width + textPad,
-                                 size.height},
-                       .text = title,
-                       .role = FontRole::BoldSystem,
-                       .size = boldLabelFontSize});
+  const Size size = titleTextSize(title);
+  addTitle(this, "m_calendarTxt",
+           {marginAtLeftEdge, frameOf(this).height - size.height, size.width + textPad, size.height}, title);
 }
 
 void CalendarSubView::initDays() {
   const QString label = PrefMeetingViewVisible::dayslabel();
-  const Size size = sizeOfText(label, FontRole::Label, labelFontSize);
-  const Frame frame{secondMarginAtLeftEdge, 2, size.width + textPad, size.height};
-  StaticText* text = addStaticText(this, {.name = QStringLiteral("m_daysTxt"),
-                                          .frame = frame,
-                                          .text = label,
-                                          .role = FontRole::Label,
-                                          .size = labelFontSize});
-  m_daysBtn = addPopUpButton(this, QStringLiteral("m_daysBtn"),
-                             {secondMarginAtLeftEdge + size.width + 8, 0, popupButtonWidth, 20},
-                             {QStringLiteral("1"), QStringLiteral("7"), QStringLiteral("14")});
+  const Size size = labelTextSize(label);
+  StaticText* text =
+      addLabel(this, "m_daysTxt", {secondMarginAtLeftEdge, 2, size.width + textPad, size.height}, label);
+  m_daysBtn =
+      addPopUpButton(this, "m_daysBtn", {secondMarginAtLeftEdge + size.width + 8, 0, popupButtonWidth, 20},
+                     {QStringLiteral("1"), QStringLiteral("7"), QStringLiteral("14")});
   m_daysBtn->setAccessibleName(label);
-  // A screen reader may take the chosen title for the name; then the label is found through this.
+  // Some screen readers read the chosen title as the name; they find the label through the buddy.
   text->setBuddy(m_daysBtn);
   connect(m_daysBtn, &PopUpButton::chosen, this, &CalendarSubView::onDaysButton);
 }

@@ -6,11 +6,11 @@
 #include <algorithm>
 #include <chrono>
 
-#include "KZPreference/contract/PreferenceTelemetry.h"
 #include "KZPreference/layout/Controls.h"
-#include "KZPreference/layout/Localization.h"
-#include "KZPreference/layout/PrefMeetingView+Visible.h"
+#include "KZPreference/layout/PreferenceTelemetry.h"
 #include "KZPreference/layout/PrefsViewDefine.h"
+#include "KZPreference/layout/Resources.h"
+#include "KZPreference/panes/meetings/PrefMeetingView+Visible.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZUtility/KZTrace.h"
 #include "platform/FrameLayout.h"
@@ -22,15 +22,8 @@ using namespace std::chrono_literals;
 constexpr double kRowGap = 8;
 constexpr auto kCopiedTime = 1s;
 
-Size labelSize(const QString& text) {
-  return sizeOfText(text, FontRole::Label, labelFontSize);
-}
-Size titleSize(const QString& text) {
-  return sizeOfText(text, FontRole::BoldSystem, boldLabelFontSize);
-}
-
 DrawnText labelAt(double x, double y, const QString& text) {
-  const Size size = labelSize(text);
+  const Size size = labelTextSize(text);
   return {
       .text = text, .frame = {x, y, size.width, size.height}, .role = FontRole::Label, .size = labelFontSize};
 }
@@ -47,28 +40,28 @@ DrawnText columnLabelAt(double y, double width, const QString& text) {
 MeetingSubView::MeetingSubView(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate)
     : View(frame), m_actionDelegate(actionDelegate) {
   initEditButton();
-  m_copyPmrurlBtn = createCopyButton(QStringLiteral("m_copyPmrurlBtn"), PrefMeetingViewVisible::pmrlabel());
-  m_copySipurlBtn = createCopyButton(QStringLiteral("m_copySipurlBtn"), PrefMeetingViewVisible::siplabel());
+  m_copyPmrurlBtn = createCopyButton("m_copyPmrurlBtn", PrefMeetingViewVisible::pmrlabel());
+  m_copySipurlBtn = createCopyButton("m_copySipurlBtn", PrefMeetingViewVisible::siplabel());
   connect(m_copyPmrurlBtn, &BRNHyperlinkTextField::clicked, this, &MeetingSubView::onCopyPmrurlButton);
   connect(m_copySipurlBtn, &BRNHyperlinkTextField::clicked, this, &MeetingSubView::onCopySipurlButton);
   drawnTextsChanged();
 }
 
 void MeetingSubView::initEditButton() {
-  const Size title = titleSize(PrefMeetingViewVisible::meetingslabel());
+  const Size title = titleTextSize(PrefMeetingViewVisible::meetingslabel());
   const QString text = localizedString("Edit");
-  const Size size = labelSize(text);
+  const Size size = labelTextSize(text);
   BRNHyperlinkTextField* link =
-      addLink(this, QStringLiteral("m_editBtn"),
+      addLink(this, "m_editBtn",
               {marginAtLeftEdge + title.width + marginBetweenLabelAndContent,
                frameOf(this).height - title.height, size.width + textPad, size.height},
               text);
   connect(link, &BRNHyperlinkTextField::clicked, this, &MeetingSubView::onEditButton);
 }
 
-BRNHyperlinkTextField* MeetingSubView::createCopyButton(const QString& name, const QString& label) {
+BRNHyperlinkTextField* MeetingSubView::createCopyButton(const char* name, const QString& label) {
   const QString text = localizedString("Copy");
-  const Size size = labelSize(text);
+  const Size size = labelTextSize(text);
   BRNHyperlinkTextField* link = addLink(this, name, {0, 0, size.width + textPad, size.height}, text);
   link->setAccessibleDescription(label);
   link->hide();
@@ -92,12 +85,12 @@ void MeetingSubView::placeCopyButtons() {
     const Frame frame = frameOf(link);
     setFrame(link, {left + labelTextWidth(url) + marginLabelToContent, y, frame.width, frame.height});
   };
-  place(m_copyPmrurlBtn, m_pmrurl, m_sipurl.isEmpty() ? 0 : labelSize(m_sipurl).height + kRowGap);
+  place(m_copyPmrurlBtn, m_pmrurl, m_sipurl.isEmpty() ? 0 : labelTextSize(m_sipurl).height + kRowGap);
   place(m_copySipurlBtn, m_sipurl, 0);
 }
 
-// A link may reach beyond the group's frame, for which the gaps do not count; it shows as far as the pane
-// goes.
+// The group's width leaves out the gaps, so a link may reach beyond it. The widget extends to the pane's edge
+// to show it.
 void MeetingSubView::resizeEvent(QResizeEvent* event) {
   View::resizeEvent(event);
   if (parentWidget()) resize(std::max(width(), parentWidget()->width() - x()), height());
@@ -112,7 +105,7 @@ QList<DrawnText> MeetingSubView::drawnTexts() const {
 
 DrawnText MeetingSubView::drawMeetingLabel() const {
   const QString title = PrefMeetingViewVisible::meetingslabel();
-  const Size size = titleSize(title);
+  const Size size = titleTextSize(title);
   return {.text = title,
           .frame = {marginAtLeftEdge, frameOf(this).height - size.height, size.width, size.height},
           .role = FontRole::BoldSystem,
@@ -133,8 +126,9 @@ QList<DrawnText> MeetingSubView::drawMaximum() const {
   const double column = std::max(labelTextWidth(pmrlabel), labelTextWidth(siplabel));
   const double contentX = secondMarginAtLeftEdge + column + marginLabelToContent;
   return {columnLabelAt(0, column, siplabel),
-          columnLabelAt(labelSize(siplabel).height + kRowGap, column, pmrlabel),
-          labelAt(contentX, 0, m_sipurl), labelAt(contentX, labelSize(m_sipurl).height + kRowGap, m_pmrurl)};
+          columnLabelAt(labelTextSize(siplabel).height + kRowGap, column, pmrlabel),
+          labelAt(contentX, 0, m_sipurl),
+          labelAt(contentX, labelTextSize(m_sipurl).height + kRowGap, m_pmrurl)};
 }
 
 void MeetingSubView::onEditButton() {
@@ -143,7 +137,7 @@ void MeetingSubView::onEditButton() {
       TelemetryValue_FeatureName_Click_EditMeetingNowSettings);
 }
 
-// The clipboard does not say whether it took a text, so it is read back.
+// The clipboard reports no failure, so the text is read back.
 bool MeetingSubView::putOnPasteboard(const QString& text) {
   QClipboard* pasteboard = QGuiApplication::clipboard();
   pasteboard->clear();
@@ -173,7 +167,7 @@ void MeetingSubView::onCopySipurlButton() {
 void MeetingSubView::setCopiedUrlBtn(BRNHyperlinkTextField* button) {
   const QString copied = localizedString("Copied");
   Frame frame = frameOf(button);
-  frame.width = titleSize(copied).width + textPad;
+  frame.width = titleTextSize(copied).width + textPad;
   setFrame(button, frame);
   button->setStringValue(copied);
 }

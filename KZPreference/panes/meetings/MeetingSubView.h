@@ -12,7 +12,7 @@ class MeetingSubView final : public View {
  public:
   MeetingSubView(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate);  // not owned
 
-  // An empty address leaves the one that is shown.
+  // An empty address leaves the one shown as it is.
   void setPMRUrl(const QString& pmrurl, const QString& sipurl);
 
   QList<DrawnText> drawnTexts() const override;
@@ -22,7 +22,7 @@ class MeetingSubView final : public View {
 
  private:
   void initEditButton();
-  BRNHyperlinkTextField* createCopyButton(const QString& name, const QString& label);
+  BRNHyperlinkTextField* createCopyButton(const char* name, const QString& label);
   void placeCopyButtons();
   void onEditButton();
   void onCopyPmrurlButton();

@@ -1,8 +1,9 @@
 #include "KZPreference/panes/meetings/MeetingsPane.h"
 
-#include "KZPreference/calendar/CalendarIntegrationGroup.h"
 #include "KZPreference/layout/PrefsViewDefine.h"
+#include "KZPreference/panes/meetings/CalendarIntegrationGroup.h"
 #include "KZPreference/panes/meetings/CalendarSubView.h"
+#include "KZPreference/panes/meetings/PrefMeetingView+Visible.h"
 #include "host/KZUIExtension/SplitLineView.h"
 #include "platform/FrameLayout.h"
 
@@ -14,22 +15,28 @@ constexpr double kSplitLineInset = 24;
 
 MeetingsPane::MeetingsPane(const Frame& frame) : View(frame) {}
 
+MeetingsPane::GroupFrames MeetingsPane::groupFrames(const Size& integration) {
+  const Size calendar = PrefMeetingViewVisible::caculateCalendarViewSize();
+  const Frame below{0, marginAtBottomEdge, integration.width, integration.height};
+  return {.calendar = {0, below.maxY() + marginBetweenSubViews, calendar.width, calendar.height},
+          .integration = below};
+}
+
 void MeetingsPane::addCalendarView(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate) {
   m_calendarView = new CalendarSubView(frame, actionDelegate);
   m_calendarView->setObjectName(QStringLiteral("m_calendarView"));
   addSubview(this, m_calendarView, frame);
 }
 
-void MeetingsPane::addIntegrationView(CalendarIntegrationGroup* group, const Frame& frame,
-                                      const QString& name) {
+void MeetingsPane::addIntegrationView(CalendarIntegrationGroup* group, const Frame& frame) {
   m_group = group;
-  m_group->setObjectName(name);
+  m_group->setObjectName(QStringLiteral("m_integrationView"));
   addSubview(this, m_group, frame);
 }
 
-SplitLineView* MeetingsPane::addSplitLine(const QString& name, const Frame& group) {
+SplitLineView* MeetingsPane::addSplitLine(const char* name, const Frame& group) {
   auto* line = new SplitLineView;
-  line->setObjectName(name);
+  line->setObjectName(QLatin1String(name));
   constexpr int halfGap = marginBetweenSubViews / 2;
   addSubview(this, line, {kSplitLineInset, group.y - halfGap, frameOf(this).width - 2 * kSplitLineInset, 1});
   return line;

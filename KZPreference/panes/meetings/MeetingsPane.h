@@ -1,6 +1,5 @@
 #pragma once
 
-#include "KZPreference/contract/CalendarPreferenceReceiver.h"
 #include "KZPreference/contract/PreferenceActionDelegateProtocol.h"
 #include "platform/View.h"
 
@@ -9,7 +8,7 @@ class CalendarSubView;
 class OLAccountAuthenticator;
 class SplitLineView;
 
-// What both Meetings panes share: the calendar groups, and the messages that go on to them.
+// What both Meetings panes share: the calendar groups, and the calls that are passed on to them.
 class MeetingsPane : public View, public CalendarPreferenceReceiver {
   Q_OBJECT
 
@@ -25,11 +24,17 @@ class MeetingsPane : public View, public CalendarPreferenceReceiver {
  protected:
   explicit MeetingsPane(const Frame& frame);
 
-  // Groups in the pane; each is named and added at its frame.
+  struct GroupFrames {
+    Frame calendar;
+    Frame integration;
+  };
+  // The calendar days stand above the integration group, which stands at the pane's bottom.
+  static GroupFrames groupFrames(const Size& integration);
+
   void addCalendarView(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate);
-  void addIntegrationView(CalendarIntegrationGroup* group, const Frame& frame, const QString& name);
+  void addIntegrationView(CalendarIntegrationGroup* group, const Frame& frame);
   // In the middle of the gap below that group.
-  SplitLineView* addSplitLine(const QString& name, const Frame& group);
+  SplitLineView* addSplitLine(const char* name, const Frame& group);
 
   CalendarSubView* m_calendarView = nullptr;
 

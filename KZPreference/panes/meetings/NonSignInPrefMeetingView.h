@@ -1,16 +1,20 @@
 #pragma once
 
-#include "KZPreference/layout/PrefMeetingView+Visible.h"
 #include "KZPreference/panes/meetings/MeetingsPane.h"
+#include "KZPreference/panes/meetings/NonSignInCalendarIntegrationSubView.h"
+#include "KZPreference/panes/meetings/PrefMeetingView+Visible.h"
 
 // The guest's Meetings pane: calendar days and calendar integration.
 class NonSignInPrefMeetingView final : public MeetingsPane, public NonSignInPrefMeetingViewVisible {
   Q_OBJECT
 
  public:
-  NonSignInPrefMeetingView(const Frame& frame,
-                           PreferenceActionDelegateProtocol* actionDelegate);  // not owned
-
- private:
-  void initSubviews(PreferenceActionDelegateProtocol* actionDelegate);
+  NonSignInPrefMeetingView(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate)  // not owned
+      : MeetingsPane(frame) {
+    const auto [calendarFrame, integrationFrame] = groupFrames(caculateIntegrationViewSize());
+    addCalendarView(calendarFrame, actionDelegate);
+    addIntegrationView(new NonSignInCalendarIntegrationSubView(integrationFrame, actionDelegate),
+                       integrationFrame);
+    addSplitLine("m_splitline", calendarFrame);
+  }
 };

@@ -1,18 +1,10 @@
 #include "KZPreference/panes/meetings/PrefMeetingView.h"
 
-#include "KZPreference/calendar/CalendarIntegrationSubView.h"
 #include "KZPreference/layout/PrefsViewDefine.h"
 #include "KZPreference/panes/meetings/CalendarSubView.h"
 #include "KZPreference/panes/meetings/MeetingSubView.h"
 #include "host/KZUIExtension/SplitLineView.h"
 #include "platform/FrameLayout.h"
-
-namespace {
-
-// What one more source needs in the calendar integration group.
-constexpr double kSourceRow = 26;
-
-}  // namespace
 
 PrefMeetingView::PrefMeetingView(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate)
     : MeetingsPane(frame) {
@@ -21,11 +13,7 @@ PrefMeetingView::PrefMeetingView(const Frame& frame, PreferenceActionDelegatePro
 
 void PrefMeetingView::initSubviews(PreferenceActionDelegateProtocol* actionDelegate) {
   const Size meeting = caculateMeetingSubViewSize();
-  const Size calendar = caculateCalendarViewSize();
-  const Size integration = caculateIntegrationViewSize();
-  const Frame integrationFrame{0, marginAtBottomEdge, integration.width, integration.height};
-  const Frame calendarFrame{0, integrationFrame.maxY() + marginBetweenSubViews, calendar.width,
-                            calendar.height};
+  const auto [calendarFrame, integrationFrame] = groupFrames(caculateIntegrationViewSize());
   const Frame meetingFrame{0, calendarFrame.maxY() + marginBetweenSubViews, meeting.width, meeting.height};
 
   m_meetingView = new MeetingSubView(meetingFrame, actionDelegate);
@@ -33,9 +21,9 @@ void PrefMeetingView::initSubviews(PreferenceActionDelegateProtocol* actionDeleg
   addSubview(this, m_meetingView, meetingFrame);
   addCalendarView(calendarFrame, actionDelegate);
   m_integrationView = new CalendarIntegrationSubView(integrationFrame, actionDelegate);
-  addIntegrationView(m_integrationView, integrationFrame, QStringLiteral("m_integrationView"));
-  m_splitline1 = addSplitLine(QStringLiteral("m_splitline1"), meetingFrame);
-  m_splitline2 = addSplitLine(QStringLiteral("m_splitline2"), calendarFrame);
+  addIntegrationView(m_integrationView, integrationFrame);
+  m_splitline1 = addSplitLine("m_splitline1", meetingFrame);
+  m_splitline2 = addSplitLine("m_splitline2", calendarFrame);
 }
 
 void PrefMeetingView::setPmrurl(const QString& pmrurl, const QString& sipurl) {
@@ -48,7 +36,8 @@ void PrefMeetingView::setCalendarIntergrationOption(const KZCalendarIntegrationO
 }
 
 void PrefMeetingView::relayoutCalendarView(const KZCalendarIntegrationOption& option) {
-  const double growth = (option.isEnableNone ? kSourceRow : 0) + (option.isEnableGoogle ? kSourceRow : 0);
+  const int sources = int(option.isEnableNone) + int(option.isEnableGoogle);
+  const double growth = sources * CalendarIntegrationGroup::sourceRowPitch;
   const auto raise = [growth](QWidget* view) {
     Frame frame = frameOf(view);
     frame.y += growth;

@@ -1,10 +1,9 @@
 #pragma once
 
-#include "KZPreference/contract/KZCalendarIntegrationOption.h"
-#include "KZPreference/layout/PrefMeetingView+Visible.h"
+#include "KZPreference/panes/meetings/CalendarIntegrationSubView.h"
 #include "KZPreference/panes/meetings/MeetingsPane.h"
+#include "KZPreference/panes/meetings/PrefMeetingView+Visible.h"
 
-class CalendarIntegrationSubView;
 class MeetingSubView;
 
 // The signed-in Meetings pane: personal room, calendar days, calendar integration.
@@ -15,7 +14,7 @@ class PrefMeetingView final : public MeetingsPane, public PrefMeetingViewVisible
   PrefMeetingView(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate);  // not owned
 
   void setPmrurl(const QString& pmrurl, const QString& sipurl);
-  // The pane grows with every record that offers more than two sources; it never shrinks.
+  // Each call makes the pane taller by a row for None and one for Google where they are enabled.
   void setCalendarIntergrationOption(const KZCalendarIntegrationOption& option);
 
  private:

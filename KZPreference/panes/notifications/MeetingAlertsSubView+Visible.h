@@ -1,13 +1,12 @@
 #pragma once
 
-#include <QString>
+#include "KZPreference/layout/Resources.h"
+#include "KZPreference/panes/notifications/NotificationRow.h"
 
-#include "platform/Frame.h"
-
-// Texts and size of the row, known before it exists.
+// Texts and size of the row for meeting notifications, known before it exists.
 class MeetingAlertsSubViewVisible {
  public:
-  static QString meetingAlertsLabel();
-  static QString minutesLabel();
-  static Size caculateViewSize();
+  static QString meetingAlertsLabel() { return localizedString("Meeting notifications"); }
+  static QString minutesLabel() { return localizedString("minutes before scheduled start time."); }
+  static Size caculateViewSize() { return NotificationRow::sizeWith(minutesLabel()); }
 };

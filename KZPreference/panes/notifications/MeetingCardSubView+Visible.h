@@ -1,13 +1,12 @@
 #pragma once
 
-#include <QString>
+#include "KZPreference/layout/Resources.h"
+#include "KZPreference/panes/notifications/NotificationRow.h"
 
-#include "platform/Frame.h"
-
-// Texts and size of the row, known before it exists.
+// Texts and size of the row for the dashboard's card of the next meeting, known before it exists.
 class MeetingCardSubViewVisible {
  public:
-  static QString meetingCardLabel();
-  static QString minutesLabel();
-  static Size caculateViewSize();
+  static QString meetingCardLabel() { return localizedString("Upcoming Meeting card on dashboard"); }
+  static QString minutesLabel() { return localizedString("minutes before scheduled start time."); }
+  static Size caculateViewSize() { return NotificationRow::sizeWith(minutesLabel()); }
 };

@@ -1,12 +1,15 @@
 #include "KZPreference/panes/notifications/NotificationRow.h"
 
 #include "KZPreference/layout/Controls.h"
+#include "KZPreference/layout/PreferenceTelemetry.h"
 #include "KZPreference/layout/PrefsViewDefine.h"
+#include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "platform/FrameLayout.h"
 
 namespace {
 
 const QString kDefaultMinutes = QStringLiteral("15");
+constexpr double kMinutesTextX = secondMarginAtLeftEdge + popupButtonWidth + marginPopupButtonToLabel;
 
 }  // namespace
 
@@ -17,9 +20,13 @@ NotificationRow::NotificationRow(const Frame& frame, PreferenceActionDelegatePro
   initMinutes();
 }
 
+Size NotificationRow::sizeWith(const QString& minutesLabel) {
+  return {.width = kMinutesTextX + commonLabelWidth(minutesLabel) + marginAtRightEdge, .height = 48};
+}
+
 void NotificationRow::initAlertsLable() {
   const Frame row = frameOf(this);
-  m_checkbox = addCheckbox(this, QStringLiteral("m_checkbox"),
+  m_checkbox = addCheckbox(this, "m_checkbox",
                            {marginAtLeftEdge, row.height - checkboxButtonHeight,
                             row.width - marginAtLeftEdge - marginAtRightEdge, checkboxButtonHeight},
                            m_kind.label);
@@ -27,18 +34,13 @@ void NotificationRow::initAlertsLable() {
 }
 
 void NotificationRow::initMinutes() {
-  m_minutesBtn =
-      addPopUpButton(this, QStringLiteral("m_minutesBtn"),
-                     {secondMarginAtLeftEdge, 0, popupButtonWidth, popupButtonHeight}, m_kind.minutes);
+  m_minutesBtn = addPopUpButton(
+      this, "m_minutesBtn", {secondMarginAtLeftEdge, 0, popupButtonWidth, popupButtonHeight}, m_kind.minutes);
   m_minutesBtn->setAccessibleName(m_kind.minutesLabel);
   connect(m_minutesBtn, &PopUpButton::chosen, this, &NotificationRow::onMinutesButton);
-  // The text may use the whole row's width: what it measures is the font's business.
-  addStaticText(this, {.name = QStringLiteral("m_minutesTxt"),
-                       .frame = {secondMarginAtLeftEdge + popupButtonWidth + marginPopupButtonToLabel, 3,
-                                 frameOf(this).width, commonLabelHeight},
-                       .text = m_kind.minutesLabel,
-                       .role = FontRole::Label,
-                       .size = labelFontSize});
+  // As wide as the row, so that the text is never cut before the pane ends.
+  addLabel(this, "m_minutesTxt", {kMinutesTextX, 3, frameOf(this).width, commonLabelHeight},
+           m_kind.minutesLabel);
 }
 
 void NotificationRow::setPreference(const Content& preference) {
@@ -50,17 +52,20 @@ void NotificationRow::setPreference(const Content& preference) {
   m_minutesBtn->setEnabled(isOn);
 }
 
-void NotificationRow::reportClick(bool) {}
-void NotificationRow::reportMinutes(const QString&) {}
-
 void NotificationRow::onButton() {
   const bool isOn = m_checkbox->isChecked();
   m_minutesBtn->setEnabled(isOn);
-  report(isOn, m_minutesBtn->title());
-  reportClick(isOn);
+  (m_actionDelegate->*m_kind.report)(isOn, m_minutesBtn->title());
+  if (m_kind.clickFeature.isNull()) return;
+  PreferenceTelemetry::sharedInstance().writeFeatrueName(
+      m_kind.clickFeature, TelemetryKey_Boolean,
+      isOn ? TelemetryValue_BooleanTrue : TelemetryValue_BooleanFalse);
 }
 
 void NotificationRow::onMinutesButton() {
-  report(m_checkbox->isChecked(), m_minutesBtn->title());
-  reportMinutes(m_minutesBtn->title());
+  const QString minutes = m_minutesBtn->title();
+  (m_actionDelegate->*m_kind.report)(m_checkbox->isChecked(), minutes);
+  if (m_kind.minutesFeature.isNull()) return;
+  PreferenceTelemetry::sharedInstance().writeFeatrueName(m_kind.minutesFeature,
+                                                         TelemetryKey_MeetingAlertMinutes, minutes);
 }

@@ -6,13 +6,16 @@
 class PopUpButton;
 class QCheckBox;
 
-// A check box with a choice of minutes under it. The user's changes are reported with both values; the row
-// itself stores nothing.
+// A check box with a choice of minutes below it. Each change by the user is reported with both values; the
+// row stores nothing.
 class NotificationRow : public View {
   Q_OBJECT
 
  public:
-  // Replaces what the row shows; nothing applies the last dictionary again.
+  // The size of a row with that text after its pop-up button.
+  static Size sizeWith(const QString& minutesLabel);
+
+  // Shows these settings; without any, the last ones again.
   void setPreference(const Content& preference);
 
  protected:
@@ -22,16 +25,14 @@ class NotificationRow : public View {
     QStringList minutes;
     QString stateKey;
     QString minutesKey;
+    void (PreferenceActionDelegateProtocol::*report)(bool state, const QString& minutes);
+    // Telemetry features; a null name sends none.
+    QString clickFeature = {};
+    QString minutesFeature = {};
   };
 
-  NotificationRow(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate, const Kind& kind);
-
-  virtual void report(bool state, const QString& minutes) = 0;
-  // Telemetry; a row has none unless it says so.
-  virtual void reportClick(bool state);
-  virtual void reportMinutes(const QString& minutes);
-
-  PreferenceActionDelegateProtocol* m_actionDelegate;  // not owned
+  NotificationRow(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate,  // not owned
+                  const Kind& kind);
 
  private:
   void initAlertsLable();
@@ -39,6 +40,7 @@ class NotificationRow : public View {
   void onButton();
   void onMinutesButton();
 
+  PreferenceActionDelegateProtocol* m_actionDelegate;
   const Kind m_kind;
   Dictionary m_prefs;
   QCheckBox* m_checkbox = nullptr;

@@ -1,9 +1,18 @@
 #pragma once
 
-#include "platform/Frame.h"
+#include <algorithm>
 
-// The size of the Notifications pane: as wide as its widest kind of row, shown or not.
+#include "KZPreference/panes/notifications/MeetingAlertsSubView+Visible.h"
+#include "KZPreference/panes/notifications/MeetingCardSubView+Visible.h"
+#include "KZPreference/panes/notifications/SnoozeSubView+Visible.h"
+
+// The size of the Notifications pane, which is as wide as its widest kind of row, shown or not.
 class PrefNotificationViewVisible {
  public:
-  static Size caculateViewSize();
+  static Size caculateViewSize() {
+    return {.width = std::max({MeetingAlertsSubViewVisible::caculateViewSize().width,
+                               SnoozeSubViewVisible::caculateViewSize().width,
+                               MeetingCardSubViewVisible::caculateViewSize().width}),
+            .height = 88};
+  }
 };

@@ -17,7 +17,7 @@ class PrefNotificationView final : public View, public PrefNotificationViewVisib
 
   void setPreference(const Content& preference);
 
-  // Write the sender's value to the store under the keys of older versions. No control of this pane sends
+  // Each writes the sender's value to the store under the key of older versions. No control of this pane uses
   // them.
   void onMeetingAlertsButton(const QCheckBox* sender);
   void onMeetingAlertsMinutesButton(const PopUpButton* sender);

@@ -1,13 +1,12 @@
 #pragma once
 
-#include <QString>
+#include "KZPreference/layout/Resources.h"
+#include "KZPreference/panes/notifications/NotificationRow.h"
 
-#include "platform/Frame.h"
-
-// Texts and size of the row, known before it exists.
+// Texts and size of the row for snoozing a notification, known before it exists.
 class SnoozeSubViewVisible {
  public:
-  static QString snoozeLabel();
-  static QString minutesLabel();
-  static Size caculateViewSize();
+  static QString snoozeLabel() { return localizedString("Snooze"); }
+  static QString minutesLabel() { return localizedString("minutes after Snooze."); }
+  static Size caculateViewSize() { return NotificationRow::sizeWith(minutesLabel()); }
 };

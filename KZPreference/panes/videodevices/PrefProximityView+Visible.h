@@ -1,12 +1,18 @@
 #pragma once
 
-#include <QString>
-
-#include "platform/Frame.h"
+#include "KZPreference/layout/PrefsViewDefine.h"
+#include "KZPreference/layout/Resources.h"
 
 // Text and size of the Video devices pane, known before the pane exists.
 class PrefProximityViewVisible {
  public:
-  static QString autodetectLabel();
-  static Size caculateViewSize();
+  static QString autodetectLabel() { return localizedString("Automatically discover nearby devices"); }
+
+  static Size caculateViewSize() {
+    // For the check box's box. The General panes measure in another font and take 20.
+    constexpr double boxWidth = 18;
+    return {
+        .width = commonLabelWidth(autodetectLabel()) + (marginAtLeftEdge + boxWidth) + 4 + marginAtRightEdge,
+        .height = 64};
+  }
 };

@@ -1,8 +1,7 @@
 #include "KZPreference/panes/videodevices/PrefProximityView.h"
 
-#include "KZPreference/contract/PreferenceTelemetry.h"
 #include "KZPreference/layout/Controls.h"
-#include "KZPreference/layout/PrefsViewDefine.h"
+#include "KZPreference/layout/PreferenceTelemetry.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
@@ -15,7 +14,7 @@ PrefProximityView::PrefProximityView(const Frame& frame, PreferenceActionDelegat
 
 void PrefProximityView::initAutodetectButton() {
   m_autodetectBtn =
-      addCheckbox(this, QStringLiteral("m_autodetectBtn"),
+      addCheckbox(this, "m_autodetectBtn",
                   {marginAtLeftEdge, marginAtBottomEdge,
                    frameOf(this).width - marginAtLeftEdge - marginAtRightEdge, checkboxButtonHeight},
                   autodetectLabel());

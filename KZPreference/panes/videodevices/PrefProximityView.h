@@ -6,15 +6,14 @@
 
 class QCheckBox;
 
-// The Video devices pane: automatic discovery of nearby devices. It reads the store again each time it is
-// shown.
+// The Video devices pane: automatic discovery of nearby devices. It reads the store each time it is shown.
 class PrefProximityView final : public View, public PrefProximityViewVisible {
   Q_OBJECT
 
  public:
   PrefProximityView(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate);  // not owned
 
-  // Nothing applies the last dictionary again.
+  // Shows these settings; without any, the last ones again.
   void setPreference(const Content& preference);
 
  protected:

@@ -12,24 +12,16 @@
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
-#include "tests/KZPreference/calendar/PreferenceHost.h"
+#include "tests/KZPreference/panes/meetings/PreferenceHost.h"
 
 namespace {
 
-void challenge(const QVariant& kind, const QVariant& warning = QVariant()) {
-  Dictionary info;
-  if (kind.isValid()) info.insert(QStringLiteral("AuthRequiringType"), kind);
-  if (warning.isValid()) info.insert(QStringLiteral("ShowWarningMsg"), warning);
-  KZNotificationCenter::defaultCenter().post(
-      {.name = QStringLiteral("HTTPAuthenticationRequired"), .object = nullptr, .userInfo = info});
-}
-
-// Posts from a thread of its own; the thread is joined when this goes.
+// Posts a challenge on a thread of its own, which the destructor joins.
 class Worker {
  public:
   explicit Worker(const QVariant& kind)
       : m_thread([this, kind] {
-          challenge(kind);
+          PreferenceHost::challenge(kind);
           m_isBack = true;
         }) {}
   ~Worker() { m_thread.join(); }
@@ -105,7 +97,7 @@ TEST_F(OLAccountAuthenticatorTest, AnswersByKindAndByWhatIsKnown) {
     KZKeyChainHandle::sharedInstance().useStorage(KZKeyChainHandle::Storage::Memory);
     KZKeyChainHandle::sharedInstance().commitOutlookUsername(tried.keychainUser, tried.keychainPassword);
     happened.clear();
-    challenge(tried.kind, tried.warning);
+    PreferenceHost::challenge(tried.kind, tried.warning);
     EXPECT_EQ(happened, tried.answers) << (&tried - cases);
     EXPECT_EQ(host.takeSent(), tried.sent) << (&tried - cases);
   }
@@ -115,10 +107,10 @@ TEST_F(OLAccountAuthenticatorTest, AnswersByKindAndByWhatIsKnown) {
   EXPECT_TRUE(host.takeTrace().filter("kc").isEmpty());
 }
 
-// First the group's own failure, then the empty answer, and a tenth of a second later the host hears of it.
+// First the group shows the failure, then comes the empty answer, and a tenth of a second later the command.
 TEST_F(OLAccountAuthenticatorTest, ARefusedCredentialIsReportedInOrderAndNotSentAgain) {
   collect(QStringLiteral("ann"), QStringLiteral("pw"));
-  challenge(1);
+  PreferenceHost::challenge(1);
   EXPECT_EQ(happened, QStringList("ann/pw"));
   onAnswer = [this] {
     if (PreferenceHost::control("m_messageTxt").isVisible()) happened.append("after the group");
@@ -127,7 +119,7 @@ TEST_F(OLAccountAuthenticatorTest, ARefusedCredentialIsReportedInOrderAndNotSent
   happened.clear();
   QElapsedTimer timer;
   timer.start();
-  challenge(1, QStringLiteral("true"));
+  PreferenceHost::challenge(1, QStringLiteral("true"));
   EXPECT_EQ(happened, QStringList({"/", "after the group"}));
   EXPECT_TRUE(host.takeSent().isEmpty());
   QStringList sent;
@@ -149,9 +141,9 @@ TEST_F(OLAccountAuthenticatorTest, AWorkersChallengeIsAnsweredOnTheMainThreadBef
 
 TEST_F(OLAccountAuthenticatorTest, AChallengeMayComeFromWithinAnAnswer) {
   onAnswer = [this] {
-    if (happened.size() < 3) challenge(1);
+    if (happened.size() < 3) PreferenceHost::challenge(1);
   };
-  challenge(1);
+  PreferenceHost::challenge(1);
   EXPECT_EQ(happened.size(), 3);
 }
 
@@ -165,7 +157,7 @@ TEST_F(OLAccountAuthenticatorTest, AWorkerComesBackWhileTheWindowCloses) {
   EXPECT_EQ(happened, QStringList("/"));
 }
 
-// The main thread never runs its loop again; whoever waits is let go all the same.
+// The main thread does not return to its event loop, and the waiting threads continue all the same.
 TEST_F(OLAccountAuthenticatorTest, WorkersComeBackWhenThePlugInShutsDown) {
   {
     auto authenticator = std::make_unique<OLAccountAuthenticator>(nullptr);
@@ -178,8 +170,8 @@ TEST_F(OLAccountAuthenticatorTest, WorkersComeBackWhenThePlugInShutsDown) {
   EXPECT_TRUE(happened.isEmpty());
 }
 
-TEST_F(OLAccountAuthenticatorTest, ARefusalIsNotReportedByAnAuthenticatorThatIsGone) {
-  challenge(1, QStringLiteral("true"));
+TEST_F(OLAccountAuthenticatorTest, ADestroyedAuthenticatorReportsNoRefusal) {
+  PreferenceHost::challenge(1, QStringLiteral("true"));
   KZPreferenceCore::shutDown();
   QTest::qWait(150);
   EXPECT_TRUE(host.takeSent().isEmpty());

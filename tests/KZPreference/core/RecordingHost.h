@@ -7,7 +7,7 @@
 #include "tests/kit/Input.h"
 #include "tests/kit/TestHost.h"
 
-// The way out for objects that a test makes by itself.
+// Sends the commands of objects that a test creates itself.
 class CoreSender final : public PluginCommandSender {
  public:
   explicit CoreSender(KZPluginCoreMgr* core) : m_core(core) {}

@@ -1,40 +1,25 @@
-#include "KZPreference/contract/PluginCommandSender.h"
-#include "KZPreference/contract/PreferenceTelemetry.h"
+#include "KZPreference/layout/PreferenceTelemetry.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "tests/KZPreference/core/RecordingHost.h"
 
 namespace {
 
-class Sender final : public PluginCommandSender {
- public:
-  quint64 sendPluginCommand(KZCommand, const Content& content) override {
-    values = content->value(TelemetryKey_Values).toMap();
-    return 0;
-  }
-  Dictionary values;
-};
+class TelemetryTest : public RecordingHost {};
 
-TEST(Telemetry, EndsARecordAtTheFirstMissingValue) {
-  Sender sender;
+TEST_F(TelemetryTest, EndsARecordAtTheFirstMissingValue) {
   PreferenceTelemetry& telemetry = PreferenceTelemetry::sharedInstance();
-  telemetry.writeFeatrueName("nobody hears");
-  telemetry.setTelemetryDelegate(&sender);
-  const Dictionary from{{TelemetryKey_ActionFrom, TelemetryValue_ActionFrom_APP}};
-  Dictionary named = from;
-  named.insert(TelemetryKey_FeatureName, "f");
-
-  telemetry.writeFeatrueName("f");
-  EXPECT_EQ(sender.values, named);
+  const QString name = QStringLiteral("f");
+  telemetry.writeFeatrueName(name);
   telemetry.writeFeatrueName(QString());
-  EXPECT_EQ(sender.values, from);
-  telemetry.writeFeatrueName("f", "k", QVariant());
-  EXPECT_EQ(sender.values, named);
+  telemetry.writeFeatrueName(name, "k", QVariant());
   telemetry.writeFeatrueName(QString(), "k", 1);
-  EXPECT_EQ(sender.values, from);
-  named.insert("k", 1);
-  telemetry.writeFeatrueName("f", "k", 1);
-  EXPECT_EQ(sender.values, named);
-  telemetry.setTelemetryDelegate(nullptr);
+  telemetry.writeFeatrueName(name, "k", 1);
+  const QString record = QStringLiteral(
+      R"(23 {"TelemetryKey_MetricName":"TelemetryValue_MetricName_KZMetric","TelemetryKey_Values":)"
+      R"({"TelemetryKey_ActionFrom":"TelemetryValue_ActionFrom_APP"%1}})");
+  const QString named = QStringLiteral(R"(,"TelemetryKey_FeatureName":"f")");
+  EXPECT_EQ(takeSent(), (QStringList{record.arg(named), record.arg(QString()), record.arg(named),
+                                     record.arg(QString()), record.arg(named + R"(,"k":1)")}));
 }
 
 }  // namespace

@@ -34,34 +34,10 @@ class GuestAccountPaneTest : public RecordingHost {
   static BRNHyperlinkTextField* link() { return find<BRNHyperlinkTextField>("m_editBtn"); }
   static bool isWarned() { return find<StaticText>("m_warningMsg")->isVisible(); }
   static bool isEditing() { return name()->isVisible(); }
-  static void clickLink() { QTest::mouseClick(link(), Qt::LeftButton, {}, link()->rect().center()); }
-  static void type(QLineEdit* input, const QString& text) {
-    input->selectAll();
-    text.isEmpty() ? QTest::keyClick(input, Qt::Key_Delete) : QTest::keyClicks(input, text);
-  }
+  static void clickLink() { kit::click(*link()); }
+  static void type(QLineEdit* input, const QString& text) { kit::type(*input, text); }
   static QString shownName() { return find<StaticText>("m_nameTxt")->text(); }
 };
-
-TEST_F(GuestAccountPaneTest, EditsAndSaves) {
-  EXPECT_FALSE(isEditing());
-  QTest::keyClick(name(), Qt::Key_Return);
-  EXPECT_EQ(takeSent(), QStringList());
-
-  clickLink();
-  EXPECT_TRUE(isEditing());
-  EXPECT_EQ(takeSent().size(), 1);
-  EXPECT_EQ(link()->text(), "Save");
-  EXPECT_FALSE(find<StaticText>("m_nameTxt")->isVisible());
-  type(name(), "Grace");
-  QTest::keyClick(name(), Qt::Key_Tab);
-  EXPECT_EQ(takeSent(), QStringList());
-  QTest::keyClick(name(), Qt::Key_Return);
-  EXPECT_EQ(takeSent(), QStringList{"13 nil"});
-  EXPECT_EQ(profile().displayName(), "Grace");
-  EXPECT_FALSE(isEditing());
-  EXPECT_EQ(link()->text(), "Edit");
-  EXPECT_EQ(shownName(), "Grace");
-}
 
 TEST_F(GuestAccountPaneTest, AnInvalidEmailStaysInTheFieldUntilItChanges) {
   clickLink();
@@ -120,15 +96,10 @@ TEST_F(GuestAccountPaneTest, AnotherPaneEndsTheEdit) {
 
 class AccountPaneTest : public RecordingHost {};
 
-TEST_F(AccountPaneTest, TheLinkFollowsTheSiteAndAsksForAnother) {
-  profile().setSiteName("meet.example.com");
+TEST_F(AccountPaneTest, TheLinkAsksForAnotherSite) {
   command(2, Dictionary{{"kOpenPrefsViewType", "kPrefsAccountView"}});
   takeSent();
-  auto* link = find<BRNHyperlinkTextField>("m_changeSiteBtn");
-  const auto* site = find<StaticText>("m_siteTxt");
-  const int textEnd = site->x() + site->fontMetrics().horizontalAdvance(site->text());
-  EXPECT_NEAR(link->x(), textEnd + 10, 2);
-  QTest::mouseClick(link, Qt::LeftButton, {}, link->rect().center());
+  kit::click(*find<BRNHyperlinkTextField>("m_changeSiteBtn"));
   EXPECT_EQ(takeSent(), QStringList{"14 nil"});
 }
 

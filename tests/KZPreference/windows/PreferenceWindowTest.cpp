@@ -1,6 +1,5 @@
 #include <QCheckBox>
 #include <QTest>
-#include <QVariantAnimation>
 
 #include "KZPreference/panes/account/PrefAccountView.h"
 #include "host/KZFoundation/KZConstants.h"
@@ -17,10 +16,6 @@ const QStringList kPaneNames{"m_generalView", "m_accountView", "m_meetingView", 
 class PreferenceWindowTest : public RecordingHost {
  protected:
   static double widthOf(const QString& name) { return frameOf(window()->findChild<QWidget*>(name)).width; }
-  void skipFade() {
-    auto* animation = window()->controller()->findChild<QVariantAnimation*>();
-    animation->setCurrentTime(animation->duration());
-  }
   QString shownPane() {
     return subviewsOf(window()->findChild<QWidget*>("contentSubview")).last()->objectName();
   }
@@ -40,33 +35,7 @@ TEST_F(PreferenceWindowTest, TheWidestPaneSetsTheWidthOfAll) {
   for (const QString& name : kPaneNames) EXPECT_LT(widthOf(name), expected);
 }
 
-TEST_F(PreferenceWindowTest, OutlookRequestsOpenTheMeetingsPaneOthersSwitchTheSource) {
-  const auto request = [](const QString& source) {
-    return Dictionary{{kKZCalendarIntegrationSource, source}};
-  };
-  const auto source = [] {
-    return KZPlistFileHandle::sharedInstance().calendarIntegration().value(kKZCalendarIntegrationSource);
-  };
-  command(17, request(kKZCalendarIntegrationSourceGoogle));
-  EXPECT_EQ(source(), kKZCalendarIntegrationSourceMivRa);
-  EXPECT_EQ(takeSent(), QStringList{"18 {}"});
-  EXPECT_EQ(window(), nullptr);
-  command(17, request(kKZCalendarIntegrationSourceOutlook));
-  EXPECT_TRUE(window()->isVisible());
-  EXPECT_EQ(shownPane(), "m_meetingView");
-
-  command(1);
-  settle();
-  KZPlistFileHandle::sharedInstance().setCalendarIntegration({});
-  command(17, request(kKZCalendarIntegrationSourceGoogle));
-  EXPECT_EQ(source(), QVariant());
-  EXPECT_EQ(window(), nullptr);
-  command(17, request(kKZCalendarIntegrationSourceOutlook));
-  EXPECT_EQ(shownPane(), "m_meetingView");
-  EXPECT_EQ(controllerClass(), "NonSignInPreferenceWindowController");
-}
-
-TEST_F(PreferenceWindowTest, OnlyASuccessTellsTheHostOfItsCalendar) {
+TEST_F(PreferenceWindowTest, OnlyASuccessSendsASourceChange) {
   for (const bool isShown : {false, true}) {
     if (isShown) command(2);
     notify(15, Dictionary{{kKZResult, kKZFail}});
@@ -79,19 +48,6 @@ TEST_F(PreferenceWindowTest, OnlyASuccessTellsTheHostOfItsCalendar) {
   takeSent();
   notify(15, Dictionary{{kKZResult, kKZSuccess}});
   EXPECT_FALSE(takeSent().contains("18 {}"));
-}
-
-TEST_F(PreferenceWindowTest, TheAccountPaneOpensOnRequest) {
-  const Dictionary account{{kOpenPrefsViewType, kPrefsAccountView}};
-  command(2, account);
-  skipFade();
-  EXPECT_EQ(shownPane(), "m_accountView");
-  clickPane("General");
-  skipFade();
-  command(2, Dictionary{{kOpenPrefsViewType, 1}});
-  EXPECT_EQ(shownPane(), "m_generalView");
-  command(2, account);
-  EXPECT_EQ(shownPane(), "m_accountView");
 }
 
 TEST_F(PreferenceWindowTest, EveryPaneIsReachedAndUsedByKeyboard) {

@@ -13,6 +13,7 @@
 
 #include "host/KZUIExtension/BRNHyperlinkTextField.h"
 #include "platform/FrameLayout.h"
+#include "platform/KeyView.h"
 #include "platform/PopUpButton.h"
 #include "platform/Spinner.h"
 #include "platform/StaticText.h"

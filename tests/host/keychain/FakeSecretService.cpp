@@ -1,5 +1,4 @@
 // An empty Secret Service with one fault, named by the first argument:
-//   none    none
 //   silent  never answers
 //   locked  its default collection is locked
 //   absent  it has no default collection

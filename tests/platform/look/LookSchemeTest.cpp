@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "platform/Look.h"
-#include "platform/LookColors.h"
 #include "tests/platform/look/HostPalettes.h"
 
 namespace {

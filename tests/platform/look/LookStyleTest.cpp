@@ -106,88 +106,65 @@ TEST_F(LookStyleTest, TheApplicationIsLeftAlone) {
   EXPECT_EQ(lookStyle()->parent(), qApp);
 }
 
-TEST_F(LookStyleTest, KeyboardFocusIsVisibleOnEveryControl) {
+TEST_F(LookStyleTest, KeyboardFocusIsVisibleOnEveryControlInEveryScheme) {
   QToolBar* toolbar = sampleToolbar(&m_window);
+  auto* tabs = new QTabBar;
+  tabs->addTab("Inspector");
   const QList<QWidget*> controls{
       add(new QRadioButton("Radio"), {20, 10, 100, 16}), add(new QCheckBox("Check"), {20, 40, 100, 16}),
       add(new QPushButton("Push"), {20, 70, 80, 20}),    add(new QLineEdit("field"), {20, 100, 80, 22}),
-      add(new PopUpButton({"7"}), {20, 130, 50, 22}),    toolbar->widgetForAction(toolbar->actions().at(0))};
+      add(new PopUpButton({"7"}), {20, 130, 50, 22}),    add(tabs, {120, 10, 100, 26}),
+      add(new QTableWidget(2, 2), {120, 40, 200, 120}),  toolbar->widgetForAction(toolbar->actions().at(0))};
   show();
   toolbar->setGeometry(0, 0, 500, 60);
-  for (QWidget* control : controls) {
-    if (QWidget* focused = QApplication::focusWidget()) focused->clearFocus();
-    const QImage plain = control->grab().toImage();
-    QTest::keyClick(&m_window, Qt::Key_Tab);
-    control->setFocus(Qt::TabFocusReason);
-    const QImage marked = control->grab().toImage();
-    EXPECT_TRUE(hasColorNear(marked, m_window.palette().color(QPalette::Highlight)))
-        << control->metaObject()->className();
-    EXPECT_NE(plain, marked) << control->metaObject()->className();
+  for (const LookScheme scheme : allSchemes) {
+    QApplication::setPalette(hostPalette(scheme));
+    QApplication::processEvents();
+    for (QWidget* control : controls) {
+      SCOPED_TRACE(std::string(schemeName(scheme)) + ' ' + control->metaObject()->className());
+      if (QWidget* focused = QApplication::focusWidget()) focused->clearFocus();
+      const QImage plain = control->grab().toImage();
+      QTest::keyClick(&m_window, Qt::Key_Tab);
+      control->setFocus(Qt::TabFocusReason);
+      const QImage marked = control->grab().toImage();
+      EXPECT_TRUE(hasColorNear(marked, m_window.palette().color(QPalette::Highlight)));
+      EXPECT_NE(plain, marked);
+    }
   }
 }
 
-TEST_F(LookStyleTest, APageSwitchShowsWhichPageAndFocusInEveryScheme) {
+TEST_F(LookStyleTest, TheChosenTabDiffersFromTheOthersInEveryScheme) {
   auto* tabs = add(new QTabBar, {20, 100, 300, 26});
   for (const char* title : {"Inspector", "Meetings", "Telemetry"}) tabs->addTab(title);
-  tabs->setExpanding(false);
-  tabs->setDrawBase(false);
-  tabs->setStyle(lookStyle());
   show();
   for (const LookScheme scheme : allSchemes) {
     QApplication::setPalette(hostPalette(scheme));
     QApplication::processEvents();
-    tabs->clearFocus();
-    tabs->setCurrentIndex(0);
-    const auto face = [tabs](int at) {
-      return tabs->grab().toImage().pixelColor(tabs->tabRect(at).topLeft() + QPoint(8, 5));
-    };
+    const QImage picture = tabs->grab().toImage();
+    const auto face = [&](int at) { return picture.pixelColor(tabs->tabRect(at).topLeft() + QPoint(8, 5)); };
     EXPECT_NE(face(0), face(1)) << schemeName(scheme);
     EXPECT_EQ(face(1), face(2)) << schemeName(scheme);
-    const QImage plain = tabs->grab().toImage();
-    QTest::keyClick(&m_window, Qt::Key_Tab);
-    tabs->setFocus(Qt::TabFocusReason);
-    const QImage focused = tabs->grab().toImage();
-    EXPECT_NE(plain, focused) << schemeName(scheme);
-    const bool isContrast = scheme == LookScheme::HighContrastLight || scheme == LookScheme::HighContrastDark;
-    if (isContrast) {
-      EXPECT_EQ(focused.pixelColor(3, tabs->tabRect(0).center().y()),
-                lookPalette(scheme).color(QPalette::HighlightedText));
-    }
-    QTest::keyClick(tabs, Qt::Key_Right);
-    EXPECT_EQ(tabs->currentIndex(), 1);
-    EXPECT_TRUE(
-        hasColorNear(tabs->grab(tabs->tabRect(1)).toImage(), lookPalette(scheme).color(QPalette::Highlight)))
-        << schemeName(scheme);
   }
 }
 
-TEST_F(LookStyleTest, AListHasAFrameAHeaderAndFocusInEveryScheme) {
+TEST_F(LookStyleTest, AListHasAFrameAndAHeaderInEveryScheme) {
   auto* table = add(new QTableWidget(2, 2), {20, 100, 300, 120});
   table->setHorizontalHeaderLabels({"Time", "Name"});
   table->verticalHeader()->hide();
   table->setShowGrid(false);
-  table->setStyle(lookStyle());
-  QHeaderView* header = table->horizontalHeader();
-  header->setStyle(lookStyle());
   show();
   for (const LookScheme scheme : allSchemes) {
     QApplication::setPalette(hostPalette(scheme));
     QApplication::processEvents();
-    table->clearFocus();
     const QPalette& palette = lookPalette(scheme);
     const QColor base = palette.color(QPalette::Base);
-    const QImage plain = table->grab().toImage();
-    EXPECT_NE(plain.pixelColor(0, 60), base) << schemeName(scheme);
-    EXPECT_EQ(plain.pixelColor(1, 60), base) << schemeName(scheme);
-    const QImage heading = header->grab().toImage();
+    const QImage frame = table->grab().toImage();
+    EXPECT_NE(frame.pixelColor(0, 60), base) << schemeName(scheme);
+    EXPECT_EQ(frame.pixelColor(1, 60), base) << schemeName(scheme);
+    const QImage heading = table->horizontalHeader()->grab().toImage();
     EXPECT_EQ(heading.pixelColor(2, 2), base) << schemeName(scheme);
     EXPECT_NE(heading.pixelColor(2, heading.height() - 1), base) << schemeName(scheme);
     EXPECT_TRUE(hasColorNear(heading, palette.color(QPalette::ButtonText))) << schemeName(scheme);
-    QTest::keyClick(&m_window, Qt::Key_Tab);
-    table->setFocus(Qt::TabFocusReason);
-    const QImage focused = table->grab().toImage();
-    EXPECT_EQ(focused.pixelColor(0, 60), palette.color(QPalette::Highlight)) << schemeName(scheme);
-    EXPECT_EQ(focused.pixelColor(1, 60), palette.color(QPalette::Highlight)) << schemeName(scheme);
   }
 }
 
@@ -244,8 +221,7 @@ TEST_F(LookStyleTest, ASpinnerTurnsOnlyWhileItIsSeen) {
   show();
   const auto turns = [spinner] {
     const QImage before = spinner->grab().toImage();
-    QTest::qWait(250);
-    return spinner->grab().toImage() != before;
+    return QTest::qWaitFor([&] { return spinner->grab().toImage() != before; }, 250);
   };
   EXPECT_FALSE(turns());
   spinner->startAnimation();

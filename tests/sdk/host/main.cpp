@@ -16,7 +16,7 @@ class SmallHost final : public KZPluginDelegate {
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
-  KZPlistFileHandle::sharedInstance().open("small-host-settings");
+  if (!KZPlistFileHandle::sharedInstance().open("small-host-settings")) qFatal("it is running already");
   QPluginLoader loader(PLUGIN_FILE);
   auto* factory = qobject_cast<KZPluginFactory*>(loader.instance());
   if (!factory) qFatal("no plug-in: %s", qPrintable(loader.errorString()));

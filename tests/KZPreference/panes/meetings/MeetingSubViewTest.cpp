@@ -1,35 +1,30 @@
 #include "KZPreference/panes/meetings/MeetingSubView.h"
 
-#include <gtest/gtest.h>
-
 #include <QClipboard>
 #include <QTest>
 
 #include "KZPreference/core/PreferenceActionDelegate.h"
-#include "KZPreference/layout/PrefMeetingView+Visible.h"
 #include "KZPreference/layout/PrefsViewDefine.h"
+#include "KZPreference/panes/meetings/PrefMeetingView+Visible.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUIExtension/BRNHyperlinkTextField.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
-#include "host/KZUtility/KZTrace.h"
 #include "platform/FrameLayout.h"
-#include "tests/KZPreference/panes/meetings/SilentSender.h"
+#include "tests/KZPreference/core/RecordingHost.h"
 
 namespace {
 
 const QString kRoom = QStringLiteral("https://brenn.example/meet/ann");
 const QString kVideo = QStringLiteral("ann@brenn.example");
 
-class MeetingSubViewTest : public testing::Test {
+class MeetingSubViewTest : public RecordingHost {
  protected:
   MeetingSubViewTest() {
-    muteKZTrace();
     holder.resize(800, 200);
     view = new MeetingSubView({.x = 0, .y = 0, .width = 600, .height = 72}, &delegate);
     addSubview(&holder, view, frameOf(view));
     holder.show();
   }
-  ~MeetingSubViewTest() override { setKZTraceSink({}); }
 
   BRNHyperlinkTextField& link(const char* name) const {
     return *view->findChild<BRNHyperlinkTextField*>(name);
@@ -42,7 +37,7 @@ class MeetingSubViewTest : public testing::Test {
     return lines;
   }
 
-  SilentSender sender;
+  CoreSender sender{m_core};
   PreferenceActionDelegate delegate{&sender};
   QWidget holder;
   MeetingSubView* view;
@@ -101,7 +96,14 @@ TEST_F(MeetingSubViewTest, TheGroupsSizeFollowsTheStoredAddresses) {
     EXPECT_DOUBLE_EQ(size.width, tried.width);
     EXPECT_EQ(size.height, tried.height);
   }
-  KZPlistFileHandle::sharedInstance().close();
+}
+
+TEST_F(MeetingSubViewTest, TheEditLinkAsksForTheMeetingSettings) {
+  takeSent();
+  QTest::mouseClick(&link("m_editBtn"), Qt::LeftButton);
+  const QStringList sent = takeSent();
+  EXPECT_EQ(sent.value(0), R"(11 {"QRT_Require_Link_Action_Type":1})");
+  EXPECT_TRUE(sent.value(1).contains("Click_EditMeetingNowSettings")) << qPrintable(sent.value(1));
 }
 
 TEST_F(MeetingSubViewTest, CopyPutsTheAddressOnTheClipboardAndSaysSoForASecond) {
@@ -118,21 +120,16 @@ TEST_F(MeetingSubViewTest, CopyPutsTheAddressOnTheClipboardAndSaysSoForASecond) 
   EXPECT_EQ(frameOf(&room),
             (Frame{.x = before.x, .y = before.y, .width = copiedWidth, .height = before.height}));
 
-  QTest::qWait(500);
   QTest::mouseClick(&video, Qt::LeftButton);
   EXPECT_EQ(QGuiApplication::clipboard()->text(), kVideo);
-  // A second click in the same second copies again; the first click's reset still comes at its time.
+  // A second click within the second copies again; the first click's reset still comes in its time.
   QTest::mouseClick(&room, Qt::LeftButton);
   EXPECT_EQ(QGuiApplication::clipboard()->text(), kRoom);
-  QTest::qWait(250);
-  EXPECT_EQ(room.stringValue(), "Copied");
-  EXPECT_TRUE(QTest::qWaitFor([&room] { return room.stringValue() == QLatin1String("Copy"); }, 600));
-  EXPECT_EQ(video.stringValue(), "Copied");
-  EXPECT_TRUE(QTest::qWaitFor([&video] { return video.stringValue() == QLatin1String("Copy"); }, 1500));
+  EXPECT_TRUE(kit::waitUntil([&] { return room.stringValue() + video.stringValue() == "CopyCopy"; }, 1500));
   EXPECT_EQ(frameOf(&room).width, copiedWidth);
 }
 
-// With one address the group's frame can be too narrow for its link; the pane has the room.
+// The group's frame can be too narrow for its link, but the pane is wide enough.
 TEST_F(MeetingSubViewTest, ALinkBeyondTheFrameStillShows) {
   const double x = frameOf(view).width - 10;
   setFrame(&link("m_copySipurlBtn"), {.x = x, .y = 0, .width = 60, .height = 16});
@@ -142,8 +139,8 @@ TEST_F(MeetingSubViewTest, ALinkBeyondTheFrameStillShows) {
   EXPECT_EQ(link("m_copySipurlBtn").visibleRegion().boundingRect().width(), 60);
 }
 
-// The reset that is still to come must not touch a view that has gone.
-TEST_F(MeetingSubViewTest, AViewThatGoesWithinTheSecondIsLeftAlone) {
+// The pending reset must not touch a destroyed view.
+TEST_F(MeetingSubViewTest, AViewMayBeDestroyedBeforeTheReset) {
   view->setPMRUrl(kRoom, kVideo);
   QTest::mouseClick(&link("m_copyPmrurlBtn"), Qt::LeftButton);
   delete view;

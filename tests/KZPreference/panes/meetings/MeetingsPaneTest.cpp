@@ -1,4 +1,3 @@
-#include <gtest/gtest.h>
 #include <malloc.h>
 
 #include <QImage>
@@ -13,18 +12,12 @@
 #include "host/KZUtility/KZTrace.h"
 #include "platform/FrameLayout.h"
 #include "platform/PopUpButton.h"
-#include "tests/KZPreference/panes/meetings/SilentSender.h"
+#include "tests/KZPreference/core/RecordingHost.h"
 
 namespace {
 
-class MeetingsPaneTest : public testing::Test {
+class MeetingsPaneTest : public RecordingHost {
  protected:
-  MeetingsPaneTest() {
-    muteKZTrace();
-    KZPlistFileHandle::sharedInstance().close();
-  }
-  ~MeetingsPaneTest() override { setKZTraceSink({}); }
-
   std::unique_ptr<PrefMeetingView> signedInPane() {
     const Size size = PrefMeetingView::caculateViewSize();
     return std::make_unique<PrefMeetingView>(Frame{.x = 0, .y = 0, .width = 600, .height = size.height},
@@ -34,15 +27,16 @@ class MeetingsPaneTest : public testing::Test {
     return frameOf(pane.findChild<QWidget*>(QLatin1String(name)));
   }
 
-  SilentSender sender;
+  CoreSender sender{m_core};
   PreferenceActionDelegate delegate{&sender};
 };
 
-// Where the radio button is below the group's upper edge; nothing when it is hidden.
-std::optional<double> rowOf(const QWidget& pane, const char* name) {
-  const auto* button = pane.findChild<QRadioButton*>(QLatin1String(name));
-  if (button->isHidden()) return std::nullopt;
-  return frameOf(button->parentWidget()).height - frameOf(button).y;
+// How far the shown source buttons are below the group's upper edge, in order.
+QList<double> sourceRows(const QWidget& pane) {
+  QList<double> rows;
+  for (const auto* button : pane.findChildren<QRadioButton*>())
+    if (!button->isHidden()) rows.append(frameOf(button->parentWidget()).height - frameOf(button).y);
+  return rows;
 }
 
 // The first column of the view's picture that is not its background.
@@ -68,15 +62,23 @@ TEST_F(MeetingsPaneTest, TheHeadingStaysInLineWithTheOthers) {
   }
 }
 
-// Three records in a row, the first in each of the sixteen combinations: rows are packed from the top, a
-// source that was hidden once never comes back, and pane and heading grow every time.
+// Rows are packed from the top. A source once hidden stays hidden, but takes its row when it is enabled
+// again. The pane and the heading grow with every record.
 TEST_F(MeetingsPaneTest, OptionRecordsPackTheSourcesAndGrowThePane) {
-  for (int bits = 0; bits < 16; ++bits) {
-    const KZCalendarIntegrationOption first{.isEnableNone = (bits & 1) != 0,
-                                            .isEnableMivra = (bits & 2) != 0,
-                                            .isEnableGoogle = (bits & 4) != 0,
-                                            .isEnableOutlook = (bits & 8) != 0};
-    const KZCalendarIntegrationOption all{.isEnableNone = true, .isEnableGoogle = true};
+  const struct {
+    KZCalendarIntegrationOption first;
+    QList<double> rows;
+    QList<double> rowsWithAll;
+  } cases[] = {
+      {{.isEnableNone = true, .isEnableGoogle = true}, {50, 76, 102, 128}, {50, 76, 102, 128}},
+      {{.isEnableNone = true}, {50, 76, 102}, {50, 76, 128}},
+      {{.isEnableMivra = false, .isEnableGoogle = true, .isEnableOutlook = false},
+       {50, 76, 102},
+       {76, 102, 128}},
+      {{}, {50, 76}, {76, 128}},
+  };
+  const KZCalendarIntegrationOption all{.isEnableNone = true, .isEnableGoogle = true};
+  for (const auto& tried : cases) {
     const auto pane = signedInPane();
     const char* const raised[] = {"m_meetingView", "m_calendarView", "m_splitline1", "m_splitline2"};
     std::vector<Frame> before;
@@ -86,8 +88,8 @@ TEST_F(MeetingsPaneTest, OptionRecordsPackTheSourcesAndGrowThePane) {
     const double headingWidth = frameIn(*pane, "m_integrationTxt").width;
     double growth = 0;
     int records = 0;
-    for (const KZCalendarIntegrationOption& option : {first, all, first}) {
-      SCOPED_TRACE(std::to_string(bits) + ", record " + std::to_string(++records));
+    for (const KZCalendarIntegrationOption& option : {tried.first, all, tried.first}) {
+      SCOPED_TRACE(std::to_string(&tried - cases) + ", record " + std::to_string(++records));
       pane->setCalendarIntergrationOption(option);
       growth += (option.isEnableNone ? 26 : 0) + (option.isEnableGoogle ? 26 : 0);
       EXPECT_EQ(frameOf(pane.get()).height, height + growth);
@@ -98,36 +100,13 @@ TEST_F(MeetingsPaneTest, OptionRecordsPackTheSourcesAndGrowThePane) {
       EXPECT_EQ(heading.width, headingWidth + 4 * records);
       EXPECT_EQ(heading.maxY(), groupHeight + growth);
       EXPECT_EQ(frameIn(*pane, "m_emailInputTxt").y, 94);
-
-      double row = 50;
-      const auto next = [&row](bool isShown) {
-        const auto place = isShown ? std::optional(row) : std::nullopt;
-        if (isShown) row += 26;
-        return place;
-      };
-      // Hidden by a record, and for good; one that is enabled again while hidden still takes its row.
-      const auto skip = [&row](bool isEnabled) {
-        if (isEnabled) row += 26;
-      };
-      if (first.isEnableNone) {
-        EXPECT_EQ(rowOf(*pane, "m_noneRadioBtn"), next(true));
-      } else {
-        EXPECT_EQ(rowOf(*pane, "m_noneRadioBtn"), std::nullopt);
-        skip(option.isEnableNone);
-      }
-      EXPECT_EQ(rowOf(*pane, "m_mivraRadioBtn"), next(true));
-      if (first.isEnableGoogle) {
-        EXPECT_EQ(rowOf(*pane, "m_googleRadioBtn"), next(true));
-      } else {
-        EXPECT_EQ(rowOf(*pane, "m_googleRadioBtn"), std::nullopt);
-        skip(option.isEnableGoogle);
-      }
-      EXPECT_EQ(rowOf(*pane, "m_outlookRadioBtn"), next(true));
+      EXPECT_EQ(sourceRows(*pane), records == 2 ? tried.rowsWithAll : tried.rows);
     }
   }
 }
 
-TEST_F(MeetingsPaneTest, TenThousandRecordsAndUpdatesLeaveNothingElseBehind) {
+TEST_F(MeetingsPaneTest, ManyRecordsAndUpdatesLeaveNothingBehind) {
+  muteKZTrace();  // what is collected would count
   const auto pane = signedInPane();
   const auto round = [&pane] {
     pane->setCalendarIntergrationOption({.isEnableNone = true, .isEnableGoogle = true});
@@ -139,10 +118,10 @@ TEST_F(MeetingsPaneTest, TenThousandRecordsAndUpdatesLeaveNothingElseBehind) {
   for (int i = 0; i < 100; ++i) round();
   const qsizetype objects = pane->findChildren<QObject*>().size();
   const auto used = mallinfo2().uordblks;
-  for (int i = 0; i < 10'000; ++i) round();
+  for (int i = 0; i < 2000; ++i) round();
   const auto grown = mallinfo2().uordblks - used;
   EXPECT_EQ(pane->findChildren<QObject*>().size(), objects);
-  EXPECT_EQ(frameOf(pane.get()).height, height + 10'100 * 52);
+  EXPECT_EQ(frameOf(pane.get()).height, height + 2100 * 52);
   RecordProperty("grown_bytes", std::to_string(grown));
 #ifndef __SANITIZE_ADDRESS__
   EXPECT_LT(static_cast<long long>(grown), 64 * 1024);

@@ -1,0 +1,60 @@
+#include "KZPreference/authentication/ADAuthenticationWrapper.h"
+#include "KZPreference/authentication/ADTokenCacheWrapper.h"
+#include "KZPreference/core/KZPreference.h"
+#include "KZPreference/windows/PreferenceWindowController.h"
+#include "host/KZFoundation/KZConstants.h"
+#include "host/KZUtility/KZTrace.h"
+#include "host/KZUtility/KZUtility.h"
+
+Dictionary KZPreference::dictionaryFromJson(const QString& text) {
+  return KZUtility::JSONValueFromString(text).value<Dictionary>();
+}
+
+void KZPreference::onResolveExchangeDone(const Dictionary& content) {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "content:%@", content);
+  if (m_preferenceWindowController) m_preferenceWindowController->onExchangeResolveDone(content);
+}
+
+void KZPreference::onExchangeResolvingNeedCredential(const Dictionary& content) {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "content:%@", content);
+  if (!isEqualText(textValue(content, kKZResult), kKZSuccess)) {
+    MVRNSErrorFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "resolving exchange failed");
+    return;
+  }
+  const QString type = textValue(content, QRT_ExchangeDiscover_ExchangeType);
+  if (isEqualText(type, QRT_ExchangeDiscover_ExchangeTypeOnpremise)) {
+    if (m_preferenceWindowController)
+      m_preferenceWindowController->onExchangeResolvingNeedCredential(content);
+    return;
+  }
+  m_ADAuthWrapper->startWithParams(
+      dictionaryFromJson(textValue(content, QRT_ExchangeDiscover_O365LoginParams)));
+}
+
+void KZPreference::onO365LoginRequesting(const Dictionary& content) {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "content:%@", content);
+  const Dictionary data = dictionaryFromJson(textValue(content, QStringLiteral("O365LoginData")));
+  m_ADAuthWrapper->startWithParams(dictionaryFromJson(textValue(data, QStringLiteral("O365LoginParams"))));
+}
+
+void KZPreference::onGetExchonlineToken(const Content& content) {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "Content:%@", content);
+  const Dictionary request = content.value_or(Dictionary());
+  const Dictionary exchange =
+      dictionaryValue(dictionaryValue(request, kKZCalendarIntegration), kKZCalendarIntegrationExchange);
+  const Dictionary token = ADTokenCacheWrapper::sharedInstance().getAccessTokenByEmail(
+      textValue(exchange, kKZCalendarIntegrationExchangeEmail),
+      textValue(exchange, kKZCalendarIntegrationExchangeUsername));
+  if (isSet(token, QStringLiteral("isTokenExpired"))) {
+    m_ADAuthWrapper->refreshTokenWithParams(dictionaryValue(token, QStringLiteral("refreshTokenInfo")),
+                                            request);
+    return;
+  }
+  if (token.isEmpty()) {
+    sendPluginCommand(KZCommand::KZCmdExchOnlineTokenGot, content);
+    return;
+  }
+  Dictionary reply = request;
+  reply.insert(token);
+  sendPluginCommand(KZCommand::KZCmdExchOnlineTokenGot, reply);
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QIcon>
+#include <QString>
+
+// The plug-in's own texts and images. Main thread only.
+
+// The translation of an English text into the default locale's language; the English text where there is
+// none. Follows QLocale::setDefault.
+QString localizedString(const char* key);
+
+// The folder of the images, and an image of it by name; null when there is none.
+extern const QString kImageBundle;
+QIcon paneImage(const QString& name);

@@ -1,0 +1,29 @@
+#include "companion/app/ListTable.h"
+
+#include <QHeaderView>
+
+QTableWidget* createListTable(const QString& name, const QStringList& headings) {
+  constexpr int kRowGap = 6;
+  auto* table = new QTableWidget(0, static_cast<int>(headings.size()));
+  table->setHorizontalHeaderLabels(headings);
+  table->setAccessibleName(name);
+  table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  table->setSelectionBehavior(QAbstractItemView::SelectRows);
+  table->setSelectionMode(QAbstractItemView::SingleSelection);
+  table->setTabKeyNavigation(false);
+  table->setShowGrid(false);
+  table->verticalHeader()->hide();
+  table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + kRowGap);
+  table->horizontalHeader()->setHighlightSections(false);
+  table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  return table;
+}
+
+void setListRows(QTableWidget* table, const QList<QStringList>& rows) {
+  table->setRowCount(static_cast<int>(rows.size()));
+  for (int row = 0; row < table->rowCount(); ++row) {
+    for (int column = 0; column < table->columnCount(); ++column) {
+      table->setItem(row, column, new QTableWidgetItem(rows.at(row).value(column)));
+    }
+  }
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QString>
+
+#include "host/KZFoundation/Dictionary.h"
+
+// Why what the user wanted of a server came to nothing. The later in this list, the more it explains: of
+// several failures the last one is shown.
+enum class FailureKind {
+  None,
+  HostUnknown,
+  NotFound,
+  NoExchange,
+  Unreachable,
+  TooSlow,
+  ServerError,
+  Forbidden,
+  BadResponse,
+  Unsafe,
+  TooManyRedirects,
+  Declined,
+  Certificate,
+  CertificateOfOtherName,
+  UnsupportedSignIn,
+  ServerMessage,
+  BadUsername,
+  NoCredential,
+  CredentialRefused,
+  TokenRefused,
+  BadEmail,
+  Explained,
+};
+
+struct NetworkFailure {
+  FailureKind kind = FailureKind::None;
+  QString host = {};
+  QString detail = {};  // the server's own text of ServerMessage; the whole sentence of Explained
+
+  explicit operator bool() const { return kind != FailureKind::None; }
+  // For the user: what happened and what to do next.
+  QString message() const;
+  // The content of a notification that reports it to the plug-in.
+  Dictionary result() const;
+};

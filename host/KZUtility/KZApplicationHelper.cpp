@@ -1,6 +1,0 @@
-#include "host/KZUtility/KZApplicationHelper.h"
-
-KZApplicationHelper& KZApplicationHelper::sharedInstance() {
-  static KZApplicationHelper helper;
-  return helper;
-}

@@ -1,4 +1,0 @@
-#include "host/KZUtility/KZKeychainBackend.h"
-
-KZKeychainBackend::KZKeychainBackend() = default;
-KZKeychainBackend::~KZKeychainBackend() = default;

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+#include <QUrl>
+
+#include "sandbox/Cases.h"
+#include "sandbox/HttpMessage.h"
+
+namespace sandbox {
+
+// What a meeting service answers at that path; its links lead to the pages below `pages`.
+HttpResponse siteResponse(Case what, const QString& path, const QUrl& pages);
+
+// The page that a browser shows at that path.
+HttpResponse sitePage(const QString& path);
+
+}  // namespace sandbox

@@ -1,0 +1,149 @@
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QLineEdit>
+#include <QTest>
+#include <QWindow>
+
+#include "host/KZFoundation/KZConstants.h"
+#include "host/KZUtility/KZPlistFileHandle.h"
+#include "tests/KZPreference/panes/meetings/PreferenceHost.h"
+
+namespace {
+
+using Variant = PreferenceHost::Variant;
+
+// To the control that has the focus.
+void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+  QTest::keyClick(PreferenceHost::window()->windowHandle(), key, modifiers);
+}
+
+void keys(const char* text) {
+  for (const char* at = text; *at != '\0'; ++at)
+    QTest::keyClick(PreferenceHost::window()->windowHandle(), *at);
+}
+
+QString focused() {
+  const QWidget* widget = QApplication::focusWidget();
+  return widget ? widget->objectName() : QString();
+}
+
+// Tab, until that control has the focus; the names on the way, that one included.
+QStringList tabTo(const QString& name) {
+  QStringList way;
+  do {
+    key(Qt::Key_Tab);
+    way.append(focused());
+  } while (way.last() != name && way.size() < 30);
+  return way;
+}
+
+QStringList s_announced;  // what the status line said when it showed
+
+void noteUpdate(QAccessibleEvent* event) {
+  if (event->type() != QAccessible::ObjectShow || !event->object()) return;
+  if (event->object()->objectName() != QLatin1String("m_messageTxt")) return;
+  QAccessibleInterface* line = event->accessibleInterface();
+  s_announced.append(line->role() == QAccessible::Notification ? line->text(QAccessible::Name)
+                                                               : "not announced");
+}
+
+class CalendarKeyboard : public testing::TestWithParam<Variant> {
+ protected:
+  CalendarKeyboard() {
+    KZPlistFileHandle::sharedInstance().setCalendarIntegration(
+        {{kKZCalendarIntegrationSource, kKZCalendarIntegrationSourceMivRa}});
+    host.notify(KZNotify::KZNotifyGetPreferenceDone,
+                Dictionary{{QStringLiteral("kz"),
+                            Dictionary{{QStringLiteral("disableCalendarIntegration"), true},
+                                       {QStringLiteral("enableListGoogleCalendarMeeting"), true}}}});
+    host.openMeetings(GetParam());
+    QAccessible::installUpdateHandler(noteUpdate);
+    s_announced.clear();
+  }
+  ~CalendarKeyboard() override { QAccessible::installUpdateHandler(nullptr); }
+
+  PreferenceHost host;
+};
+
+TEST_P(CalendarKeyboard, TheWholeExchangeFlowNeedsNoMouse) {
+  tabTo(QStringLiteral("m_daysBtn"));
+  if (GetParam() == Variant::SignedIn) {
+    EXPECT_EQ(tabTo(QStringLiteral("m_mivraRadioBtn")), QStringList("m_mivraRadioBtn"));
+    key(Qt::Key_Down);
+    EXPECT_EQ(focused(), "m_googleRadioBtn");
+    key(Qt::Key_Down);
+  } else {
+    EXPECT_EQ(tabTo("m_outlookRadioBtn"), QStringList("m_outlookRadioBtn"));
+  }
+  EXPECT_EQ(focused(), "m_outlookRadioBtn");
+  EXPECT_EQ(tabTo("m_emailInputTxt"), QStringList("m_emailInputTxt"));
+  keys("ann@brenn.example");
+  EXPECT_EQ(tabTo("m_detectBtn"), QStringList("m_detectBtn"));
+  host.takeSent();
+  key(Qt::Key_Space);
+  key(Qt::Key_Return);
+  key(Qt::Key_Tab, Qt::ShiftModifier);
+  EXPECT_EQ(focused(), "m_emailInputTxt");
+  key(Qt::Key_Return);
+  EXPECT_EQ(host.takeSent().size(), 3);
+
+  host.needCredential();
+  EXPECT_EQ(focused(), "m_usernameInputTxt");
+  keys("ann");
+  EXPECT_EQ(tabTo("m_passwordInputTxt"), QStringList("m_passwordInputTxt"));
+  keys("pw");
+  EXPECT_EQ(tabTo("m_applyBtn").last(), "m_applyBtn");
+  key(Qt::Key_Space);
+  EXPECT_EQ(host.takeSent().size(), 1);
+  host.fail(QStringLiteral("No service there"));
+  EXPECT_TRUE(QApplication::focusWidget() && QApplication::focusWidget()->isVisible());
+}
+
+// Only a platform with a bridge to screen readers sends these events.
+TEST_P(CalendarKeyboard, TheStatusLineIsAnnounced) {
+  if (!QAccessible::isActive()) GTEST_SKIP();
+  s_announced.clear();
+  host.fail(QStringLiteral("No service there"));
+  host.fail(QStringLiteral("Still none"));
+  EXPECT_EQ(s_announced, QStringList({"No service there", "Still none"}));
+}
+
+TEST_P(CalendarKeyboard, EveryControlHasARoleAndAName) {
+  host.needCredential();
+  const struct {
+    const char* control;
+    QAccessible::Role role;
+    const char* name;
+  } cases[] = {
+      {"m_outlookRadioBtn", QAccessible::RadioButton, "Microsoft Outlook"},
+      {"m_emailInputTxt", QAccessible::EditableText, "Email address"},
+      {"m_usernameInputTxt", QAccessible::EditableText, "DOMAIN\\username or Email"},
+      {"m_passwordInputTxt", QAccessible::EditableText, "Password"},
+      {"m_detectBtn", QAccessible::Button, "Apply"},
+      {"m_applyBtn", QAccessible::Button, "Apply"},
+      {"m_messageTxt", QAccessible::Notification, ""},
+      {"m_integrationTxt", QAccessible::StaticText, "Calendar integration"},
+  };
+  for (const auto& tried : cases) {
+    QAccessibleInterface* spoken =
+        QAccessible::queryAccessibleInterface(&PreferenceHost::control(tried.control));
+    ASSERT_TRUE(spoken) << tried.control;
+    EXPECT_EQ(spoken->role(), tried.role) << tried.control;
+    EXPECT_EQ(spoken->text(QAccessible::Name), tried.name);
+  }
+  const auto relations =
+      QAccessible::queryAccessibleInterface(&PreferenceHost::control("m_daysBtn"))->relations();
+  ASSERT_EQ(relations.size(), 1);
+  EXPECT_EQ(relations.first().first->text(QAccessible::Name), "Number of days to show in meetings list:");
+  const QAccessible::State secret =
+      QAccessible::queryAccessibleInterface(&PreferenceHost::control("m_passwordInputTxt"))->state();
+  EXPECT_TRUE(secret.passwordEdit);
+}
+
+INSTANTIATE_TEST_SUITE_P(BothVariants, CalendarKeyboard, testing::Values(Variant::SignedIn, Variant::Guest),
+                         [](const auto& tried) {
+                           return tried.param == Variant::Guest ? "Guest" : "SignedIn";
+                         });
+
+}  // namespace

@@ -1,0 +1,52 @@
+#include <QPushButton>
+
+#include "companion/app/CompanionWindow.h"
+#include "host/KZUtility/KZPlistFileHandle.h"
+#include "tests/services/ServicesFixture.h"
+
+namespace {
+
+class UpdateButtonTest : public ServicesFixture {
+ protected:
+  void SetUp() override {
+    ServicesFixture::SetUp();
+    services.network().useSandbox(description);
+    window.useServices(&services);
+    window.show();
+  }
+
+  QPushButton* shownButton(const QString& title) const {
+    for (auto* one : window.findChildren<QPushButton*>()) {
+      if (one->text() == title && one->isVisible()) return one;
+    }
+    return nullptr;
+  }
+
+  void check(const QString& site) {
+    KZPlistFileHandle::sharedInstance().setSiteName(site);
+    shownButton("Check for updates")->click();
+  }
+
+  CompanionServices services{&host,
+                             {.reach = NetworkReach::Sandbox,
+                              .exchange = quickConfiguration(),
+                              .record = {},
+                              .dataFolder = folder.filePath("data"),
+                              .autostart = AutostartEntry(folder.filePath("autostart"), "/bin/true")}};
+  CompanionWindow window{&host};
+};
+
+TEST_F(UpdateButtonTest, LeadsToANewerVersionWhileThereIsOne) {
+  check("meetings.sandbox.example");
+  ASSERT_TRUE(kit::waitUntil([this] { return shownButton("Get version 9.1.0") != nullptr; }));
+  QPushButton* button = shownButton("Get version 9.1.0");
+  EXPECT_EQ(shownButton("Check for updates")->nextInFocusChain(), button);
+  button->setFocus();
+  QTest::keyClick(button, Qt::Key_Space);
+  ASSERT_EQ(opened.size(), 1);
+  EXPECT_EQ(opened.first().path(), "/download");
+  check("current.sandbox.example");
+  EXPECT_TRUE(kit::waitUntil([button] { return !button->isVisible(); }));
+}
+
+}  // namespace
