@@ -24,10 +24,7 @@ class Recording final : public QObject {
   void noticed(const QString& text);  // for the user
 
  private:
-  [[nodiscard]] bool take(const QByteArray& line);  // on the thread that wrote it
-  void onFailed();
-  [[nodiscard]] bool finish();  // recorder and file
-  QString unfinishedText() const;
+  [[nodiscard]] bool write(const QByteArray& line);  // on the thread that recorded it
 
   PluginHost* m_host;
   std::unique_ptr<RecordFile> m_file;

@@ -6,22 +6,6 @@
 #include "platform/FrameLayout.h"
 #include "platform/View.h"
 
-namespace {
-
-// Both end in the same name, and the other names of `wanted` stand in `path` in that order.
-bool pathMatches(const QList<QString>& path, const QList<QString>& wanted) {
-  if (path.last() != wanted.last()) return false;
-  auto place = path.begin();
-  for (const QString& name : wanted) {
-    place = std::find(place, path.end(), name);
-    if (place == path.end()) return false;
-    ++place;
-  }
-  return true;
-}
-
-}  // namespace
-
 QString controlNameOf(const QWidget& view) {
   if (!view.objectName().isEmpty()) return view.objectName();
   return qobject_cast<const View*>(&view) ? QString::fromLatin1(view.metaObject()->className()) : QString();
@@ -36,20 +20,39 @@ ControlFinder::ControlFinder(const QWidget* content) {
   }
 }
 
-void ControlFinder::collect(QWidget* view, Place place, const QList<QString>& path) {
-  QList<QString> own = path;
+void ControlFinder::collect(QWidget* view, Place place, const QList<Part>& path) {
+  QList<Part> own = path;
   const QString name = controlNameOf(*view);
   if (!name.isNull()) {
-    own.append(name);
+    own.append({name, QString::fromLatin1(view->metaObject()->className())});
     m_entries.append({view, place, own});
   }
   for (QWidget* child : subviewsOf(view)) collect(child, place, own);
 }
 
-QList<const ControlFinder::Entry*> ControlFinder::matching(const QList<QString>& wanted) const {
+bool ControlFinder::Entry::isNamed(const QStringList& wanted) const {
+  if (path.last().name != wanted.last()) return false;
+  auto part = path.begin();
+  for (const QString& parent : wanted.first(wanted.size() - 1)) {
+    part = std::find_if(part, path.end() - 1,
+                        [&](const Part& known) { return known.name == parent || known.className == parent; });
+    if (part == path.end() - 1) return false;
+    ++part;
+  }
+  return true;
+}
+
+QString ControlFinder::Entry::name(qsizetype parts) const {
+  QStringList names;
+  for (const Part& part : path.last(parts)) names.append(part.name);
+  return names.join(u'/');
+}
+
+QList<const ControlFinder::Entry*> ControlFinder::matching(const QString& name) const {
+  const QStringList wanted = name.split(u'/');
   QList<const Entry*> matches;
   for (const Entry& entry : m_entries) {
-    if (!pathMatches(entry.path, wanted)) continue;
+    if (!entry.isNamed(wanted)) continue;
     if (!matches.isEmpty() && entry.place > matches.first()->place) continue;
     if (!matches.isEmpty() && entry.place < matches.first()->place) matches.clear();
     matches.append(&entry);
@@ -58,11 +61,11 @@ QList<const ControlFinder::Entry*> ControlFinder::matching(const QList<QString>&
 }
 
 ControlFinder::Found ControlFinder::find(const QString& name) const {
-  const QList<const Entry*> matches = matching(name.split(u'/'));
+  const QList<const Entry*> matches = matching(name);
   if (matches.isEmpty()) return {nullptr, QStringLiteral("there is no control %1").arg(name)};
   if (matches.size() == 1) return {matches.first()->control, {}};
   QStringList candidates;
-  for (const Entry* entry : matches) candidates.append(entry->path.join(u'/'));
+  for (const Entry* entry : matches) candidates.append(entry->name(entry->path.size()));
   return {nullptr, QStringLiteral("%1 is not unique: %2").arg(name, candidates.join(QStringLiteral(", ")))};
 }
 
@@ -71,10 +74,10 @@ QString ControlFinder::nameOf(const QWidget* control) const {
     const auto entry = std::ranges::find(m_entries, widget, &Entry::control);
     if (entry == m_entries.end()) continue;
     for (qsizetype parts = 1; parts < entry->path.size(); ++parts) {
-      const QList<QString> name = entry->path.last(parts);
-      if (matching(name).size() == 1) return name.join(u'/');
+      const QString name = entry->name(parts);
+      if (matching(name).size() == 1) return name;
     }
-    return entry->path.join(u'/');
+    return entry->name(entry->path.size());
   }
   return {};
 }

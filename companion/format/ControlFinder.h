@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 class QWidget;
 
@@ -19,9 +20,9 @@ class ControlFinder final {
     QString error;  // why there is none
   };
 
-  // "m_field", or with parents in front where that is not unique: "Group/m_field". Parents may be left out. A
-  // name in the pane in front comes before the same name in a pane that is fading away, and that before one
-  // in a pane that is not in the window.
+  // "m_field", or with parents in front where that is not unique: "Group/m_field". A parent is said by its
+  // name or its class, or left out. A name in the pane in front comes before the same name in a pane that is
+  // fading away, and that before one in a pane that is not in the window.
   Found find(const QString& name) const;
 
   // The shortest name that finds the control, or the nearest of its parents that has one; null when there is
@@ -30,15 +31,22 @@ class ControlFinder final {
 
  private:
   enum class Place { InFront, Behind, Away };
+  struct Part {
+    QString name;
+    QString className;
+  };
   struct Entry {
     QWidget* control;
     Place place;
-    QList<QString> path;  // from the content view down, the control's own name last
+    QList<Part> path;  // from the content view down, the control itself last
+
+    bool isNamed(const QStringList& wanted) const;
+    QString name(qsizetype parts) const;  // with as many parts as that
   };
 
-  void collect(QWidget* view, Place place, const QList<QString>& path);
+  void collect(QWidget* view, Place place, const QList<Part>& path);
   // Those in the nearest place only.
-  QList<const Entry*> matching(const QList<QString>& wanted) const;
+  QList<const Entry*> matching(const QString& name) const;
 
   QList<Entry> m_entries;
 };

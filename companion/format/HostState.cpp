@@ -1,8 +1,6 @@
 #include "companion/format/HostState.h"
 
-#include <QHash>
-#include <QLocale>
-
+#include "adal/ADTokenCache.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZApplicationHelper.h"
 #include "host/KZUtility/KZKeyChainHandle.h"
@@ -12,7 +10,29 @@
 namespace hoststate {
 namespace {
 
-// The script's word for each key of the store.
+using valuecodec::Form;
+
+QJsonObject describeItem(const ADTokenCacheItem& item, Form form) {
+  QJsonObject description = {{"userId", item.userInformation.userId},
+                             {"authority", item.authority},
+                             {"resource", item.resource},
+                             {"clientId", item.clientId},
+                             {"accessToken", item.accessToken},
+                             {"refreshToken", item.refreshToken},
+                             {"multiResource", item.multiResource}};
+  const QDateTime& expiry = item.expiresOn;
+  if (form == Form::Printed) {
+    const QJsonValue none = QJsonValue::Null;
+    description.insert("expiresOn", expiry.isValid() ? expiry.toUTC().toString(Qt::ISODate) : none);
+  } else if (expiry.isValid()) {
+    const auto milliseconds = QDateTime::currentDateTimeUtc().msecsTo(expiry);
+    description.insert("expiresIn", qRound64(static_cast<double>(milliseconds) / 1000));
+  }
+  return description;
+}
+
+}  // namespace
+
 const QHash<QString, QString>& storeKeys() {
   static const QHash<QString, QString> keys = {{"preferenceInfo", "preferenceInfo"},
                                                {"meetingNotification", "meetingNotification"},
@@ -27,109 +47,37 @@ const QHash<QString, QString>& storeKeys() {
   return keys;
 }
 
-QJsonValue textOrNothing(const QString& text) {
-  return valuecodec::encode(QVariant(text));
-}
-
-void setUpdateFlag(StepArguments& step) {
-  const bool isInProgress = step.flag("checkForUpdatesInProgress");
-  if (!step.isGood()) return;
-  if (isInProgress) {
-    KZUtility::sharedInstance().setCheckForUpdatesInProgressFlag();
-  } else {
-    KZUtility::sharedInstance().cleanCheckForUpdatesInProgressFlag();
-  }
-}
-
-void setOutlookPermission(StepArguments& step) {
-  const bool isEnabled = step.flag("siteEnableOutlook");
-  if (step.isGood()) KZApplicationHelper::sharedInstance().setSiteEnableOutlook(isEnabled);
-}
-
-void setJoinByNumberLink(StepArguments& step) {
-  const QString link = step.optionalText("joinByNumberLink");
-  if (step.isGood()) KZUtility::sharedInstance().setKZMemCacheData(kPreferences_JoinByNumberLink, link);
-}
-
-}  // namespace
-
-QJsonValue store(valuecodec::Form form) {
+QJsonObject store(Form form) {
   const KZPlistFileHandle& plist = KZPlistFileHandle::sharedInstance();
   QJsonObject values;
-  for (auto key = storeKeys().begin(); key != storeKeys().end(); ++key) {
-    if (plist.isPlistKeyExist(key.value()))
-      values.insert(key.key(), valuecodec::encode(plist.value(key.value()), form));
+  for (const auto& [name, key] : storeKeys().asKeyValueRange()) {
+    if (plist.isPlistKeyExist(key)) values.insert(name, valuecodec::encode(plist.value(key), form));
   }
   return values;
 }
 
-QJsonValue keychain() {
+QJsonObject keychain() {
   QString username;
   QString password;
   KZKeyChainHandle::sharedInstance().getOutlookUsername(&username, &password);
   const auto data = KZKeyChainHandle::sharedInstance().getOutlookOnlineData();
-  return QJsonObject{{"outlookUsername", textOrNothing(username)},
-                     {"outlookPassword", textOrNothing(password)},
-                     {"outlookOnlineData", valuecodec::encode(data ? QVariant(*data) : QVariant())}};
+  return {{"outlookUsername", valuecodec::encode(username)},
+          {"outlookPassword", valuecodec::encode(password)},
+          {"outlookOnlineData", valuecodec::encode(data ? QVariant(*data) : QVariant())}};
 }
 
-QJsonValue host() {
+QJsonObject host() {
   const KZUtility& utility = KZUtility::sharedInstance();
-  return QJsonObject{
-      {"checkForUpdatesInProgress", utility.isCheckForUpdatesInProgress()},
-      {"siteEnableOutlook", KZApplicationHelper::sharedInstance().siteEnableOutlook()},
-      {"joinByNumberLink", valuecodec::encode(utility.getKZMemCacheData(kPreferences_JoinByNumberLink))}};
+  return {{"checkForUpdatesInProgress", utility.isCheckForUpdatesInProgress()},
+          {"siteEnableOutlook", KZApplicationHelper::sharedInstance().siteEnableOutlook()},
+          {"joinByNumberLink", valuecodec::encode(utility.getKZMemCacheData(kPreferences_JoinByNumberLink))}};
 }
 
-StepOutcome setStore(StepArguments& step) {
-  const QJsonObject values = step.object("values");
-  for (auto value = values.begin(); value != values.end() && step.isGood(); ++value) {
-    const valuecodec::Decoded decoded = valuecodec::decode(value.value());
-    if (!decoded.error.isEmpty()) step.fail(decoded.error);
-    if (!storeKeys().contains(value.key())) step.fail(QStringLiteral("the store has no %1").arg(value.key()));
-    if (step.isGood())
-      KZPlistFileHandle::sharedInstance().setValue(storeKeys().value(value.key()), decoded.value);
-  }
-  return step.outcome();
-}
-
-StepOutcome setKeychain(StepArguments& step) {
-  KZKeyChainHandle& keychain = KZKeyChainHandle::sharedInstance();
-  QString username;
-  QString password;
-  keychain.getOutlookUsername(&username, &password);
-  if (step.has("username")) username = step.optionalText("username");
-  if (step.has("password")) password = step.optionalText("password");
-  if (!step.isGood()) return step.outcome();
-  if (username.isNull() && password.isNull()) {
-    keychain.removeOutlookCredential();
-  } else {
-    keychain.commitOutlookUsername(username, password);
-  }
-  return StepOutcome::played();
-}
-
-StepOutcome setHost(StepArguments& step) {
-  static const QHash<QString, void (*)(StepArguments&)> setters = {
-      {"checkForUpdatesInProgress", setUpdateFlag},
-      {"siteEnableOutlook", setOutlookPermission},
-      {"joinByNumberLink", setJoinByNumberLink}};
-  for (const QString& key : step.keys()) {
-    if (key == "set") continue;
-    if (!setters.contains(key)) step.fail(QStringLiteral("the host has no %1").arg(key));
-    if (step.isGood()) setters.value(key)(step);
-  }
-  return step.outcome();
-}
-
-StepOutcome setLanguage(StepArguments& step) {
-  const QString language = step.text("to");
-  const QLocale locale(language);
-  if (step.isGood() && locale.language() == QLocale::C && language != "C") {
-    step.fail(QStringLiteral("there is no language %1").arg(language));
-  }
-  if (step.isGood()) QLocale::setDefault(locale);
-  return step.outcome();
+QJsonArray tokens(Form form) {
+  QJsonArray items;
+  for (const ADTokenCacheItem& item : ADTokenCache::defaultCache().allItems().items)
+    items.append(describeItem(item, form));
+  return items;
 }
 
 }  // namespace hoststate

@@ -1,21 +1,22 @@
 #pragma once
 
-#include <QJsonValue>
+#include <QHash>
+#include <QJsonArray>
+#include <QJsonObject>
 
-#include "companion/format/StepArguments.h"
 #include "companion/format/ValueCodec.h"
 
-// The host's own state as scripts read and write it.
+// The host's own state as scripts and records show it. Main thread only.
 namespace hoststate {
 
-// Every value that is set; by default as it is printed.
-QJsonValue store(valuecodec::Form form = valuecodec::Form::Printed);
-QJsonValue keychain();
-QJsonValue host();
+// The keys of the settings store by the names that scripts have for them.
+const QHash<QString, QString>& storeKeys();
 
-StepOutcome setStore(StepArguments& step);
-StepOutcome setKeychain(StepArguments& step);
-StepOutcome setHost(StepArguments& step);
-StepOutcome setLanguage(StepArguments& step);
+QJsonObject store(valuecodec::Form form = valuecodec::Form::Printed);  // every value that is set
+QJsonObject keychain();
+QJsonObject host();
+// The default token cache's items. In the exact form they expire in a number of whole seconds, as the step
+// that sets them says it.
+QJsonArray tokens(valuecodec::Form form = valuecodec::Form::Printed);
 
 }  // namespace hoststate

@@ -55,37 +55,13 @@ QJsonValue encodeText(const QString& text, Form form) {
   return text.startsWith(u'@') ? QString(u'@' + text) : text;
 }
 
-QJsonValue encodeDictionary(const Dictionary& dictionary, Form form) {
-  QJsonObject object;
-  for (auto entry = dictionary.begin(); entry != dictionary.end(); ++entry) {
-    object.insert(entry.key(), encode(entry.value(), form));
-  }
-  return object;
-}
-
-QJsonValue encodeList(const QVariantList& list, Form form) {
-  QJsonArray array;
-  for (const QVariant& element : list) array.append(encode(element, form));
-  return array;
-}
-
 }  // namespace
 
 Decoded decode(const QJsonValue& value) {
-  switch (value.type()) {
-    case QJsonValue::String:
-      return decodeText(value.toString());
-    case QJsonValue::Object:
-      return decodeObject(value.toObject());
-    case QJsonValue::Array:
-      return decodeArray(value.toArray());
-    case QJsonValue::Null:
-    case QJsonValue::Undefined:
-      return {};
-    case QJsonValue::Bool:
-    case QJsonValue::Double:
-      break;
-  }
+  if (value.isNull() || value.isUndefined()) return {};
+  if (value.isString()) return decodeText(value.toString());
+  if (value.isObject()) return decodeObject(value.toObject());
+  if (value.isArray()) return decodeArray(value.toArray());
   return {value.toVariant(), {}};
 }
 
@@ -94,11 +70,18 @@ QJsonValue encode(const QVariant& value, Form form) {
   switch (value.typeId()) {
     case QMetaType::QString:
       return encodeText(value.toString(), form);
-    case QMetaType::QVariantMap:
-      return encodeDictionary(value.toMap(), form);
+    case QMetaType::QVariantMap: {
+      QJsonObject object;
+      for (const auto& [key, member] : value.toMap().asKeyValueRange())
+        object.insert(key, encode(member, form));
+      return object;
+    }
     case QMetaType::QVariantList:
-    case QMetaType::QStringList:
-      return encodeList(value.toList(), form);
+    case QMetaType::QStringList: {
+      QJsonArray array;
+      for (const QVariant& element : value.toList()) array.append(encode(element, form));
+      return array;
+    }
     case QMetaType::QByteArray:
       return QJsonObject{{kDataKey, QString::fromLatin1(value.toByteArray().toBase64())}};
     case QMetaType::QDateTime:
@@ -109,7 +92,7 @@ QJsonValue encode(const QVariant& value, Form form) {
 }
 
 QJsonValue encodeContent(const Content& content, Form form) {
-  return content ? encodeDictionary(*content, form) : QJsonValue::Null;
+  return content ? encode(*content, form) : QJsonValue::Null;
 }
 
 }  // namespace valuecodec

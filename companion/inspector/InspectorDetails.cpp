@@ -1,17 +1,32 @@
 #include "companion/inspector/InspectorDetails.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QFontDatabase>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QSyntaxHighlighter>
 #include <QVBoxLayout>
 
-#include "companion/inspector/DifferenceColors.h"
+#include "platform/Look.h"
 #include "platform/Text.h"
 
 namespace {
 
 constexpr int kDetailsPixels = 12;
+
+// Colours the lines of a difference; their signs say the same without colours.
+class DifferenceColors final : public QSyntaxHighlighter {
+ public:
+  using QSyntaxHighlighter::QSyntaxHighlighter;
+
+ protected:
+  void highlightBlock(const QString& text) override {
+    const LookScheme scheme = lookSchemeFor(QApplication::palette());
+    const SystemColor color = text.startsWith(u'-') ? SystemColor::Red : SystemColor::Blue;
+    setFormat(0, static_cast<int>(text.size()), lookColor(color, scheme));
+  }
+};
 
 QFont detailsFont() {
   QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
@@ -22,7 +37,7 @@ QFont detailsFont() {
 }  // namespace
 
 InspectorDetails::InspectorDetails()
-    : m_title(new QLabel), m_text(new QPlainTextEdit), m_colors(new DifferenceColors(m_text->document())) {
+    : m_title(new QLabel), m_text(new QPlainTextEdit), m_colors(new DifferenceColors(this)) {
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(6);
@@ -45,9 +60,10 @@ void InspectorDetails::show(const InspectorLog::Event& event) {
   m_event = event;
   m_title->setText(event ? event->title() : QStringLiteral("Details"));
   m_title->setToolTip(event ? event->title() : QString());
-  const bool isDifference = event && event->kind == InspectorEvent::Kind::StoreWrite;
-  m_colors->setMode(isDifference ? DifferenceColors::Mode::Difference : DifferenceColors::Mode::Plain);
+  const bool isDifference = event && event->form == InspectorEvent::Form::Difference;
+  m_colors->setDocument(isDifference ? m_text->document() : nullptr);
   m_text->setPlainText(event ? event->wholeContent() : QString());
+  m_colors->rehighlight();
 }
 
 void InspectorDetails::changeEvent(QEvent* event) {

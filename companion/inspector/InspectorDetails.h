@@ -4,9 +4,9 @@
 
 #include "companion/inspector/InspectorLog.h"
 
-class DifferenceColors;
 class QLabel;
 class QPlainTextEdit;
+class QSyntaxHighlighter;
 
 // The whole content of one event, to read, select and copy.
 class InspectorDetails final : public QWidget {
@@ -24,5 +24,5 @@ class InspectorDetails final : public QWidget {
   InspectorLog::Event m_event;
   QLabel* m_title;
   QPlainTextEdit* m_text;
-  DifferenceColors* m_colors;
+  QSyntaxHighlighter* m_colors;
 };

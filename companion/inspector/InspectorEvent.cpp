@@ -1,22 +1,24 @@
 #include "companion/inspector/InspectorEvent.h"
 
 #include <QDateTime>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QUrl>
 #include <algorithm>
 
 #include "companion/format/ValueCodec.h"
 #include "companion/inspector/ValueDifference.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
-#include "host/KZFoundation/KZCommands.h"
 
 namespace {
 
-using Kind = InspectorEvent::Kind;
+using Group = InspectorEvent::Group;
+using Form = InspectorEvent::Form;
 
 constexpr qsizetype kLongestName = 200;
 constexpr qsizetype kLongestContent = InspectorEvent::mostBytes / qsizetype{sizeof(QChar)};
+// Content that is nested deeply would grow a thousand times.
+constexpr qsizetype kLongestIndented = 8 * kLongestContent;
 
 QString cutTo(qsizetype longest, const QString& text) {
   if (text.size() <= longest) return text;
@@ -27,7 +29,7 @@ QString cutTo(qsizetype longest, const QString& text) {
 }
 
 QString maskedText(const QString& text) {
-  return kzMaskSecrets({{QStringLiteral("text"), text}}).value(QStringLiteral("text")).toString();
+  return kzMaskSecrets({{QString(), text}}).value(QString()).toString();
 }
 
 QString jsonText(const Content& content) {
@@ -36,117 +38,113 @@ QString jsonText(const Content& content) {
   return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
 }
 
-QString notificationName(KZNotify index) {
+InspectorEvent jsonEvent(Group group, const char* kind, const QString& name, const Content& content) {
+  return {.group = group,
+          .kind = QString::fromLatin1(kind),
+          .name = name,
+          .form = Form::Json,
+          .content = jsonText(content)};
+}
+
+InspectorEvent textEvent(Group group, const char* kind, const QString& name, const QString& text) {
+  return {.group = group, .kind = QString::fromLatin1(kind), .name = name, .content = maskedText(text)};
+}
+
+InspectorEvent commandEvent(const char* kind, KZCommand command, const Content& content) {
+  const auto number = static_cast<quint64>(command);
+  InspectorEvent event =
+      jsonEvent(Group::Commands, kind, QString::fromLatin1(kzCommandName(number)), content);
+  event.number = number;
+  return event;
+}
+
+InspectorEvent notificationEvent(KZNotify index, const Content& content) {
   const auto table = kzNotifyTable();
   const auto row = std::ranges::find(table, index, &KZNotifyRow::index);
-  return row == table.end() ? QString() : QString::fromLatin1(row->name);
-}
-
-InspectorEvent numberedEvent(Kind kind, quint64 number, const QString& name, const Content& content) {
-  return {.kind = kind, .number = number, .name = name, .content = jsonText(content)};
-}
-
-InspectorEvent commandEvent(Kind kind, KZCommand command, const Content& content) {
-  const auto number = static_cast<quint64>(command);
-  return numberedEvent(kind, number, QString::fromLatin1(kzCommandName(number)), content);
+  InspectorEvent event = jsonEvent(Group::Notifications, "Notification",
+                                   row == table.end() ? QString() : QString::fromLatin1(row->name), content);
+  event.number = static_cast<quint64>(index);
+  return event;
 }
 
 InspectorEvent telemetryEvent(const Content& content) {
   const Dictionary values = dictionaryValue(content.value_or(Dictionary()), TelemetryKey_Values);
   const QString feature = textValue(values, TelemetryKey_FeatureName);
-  return numberedEvent(Kind::Telemetry, static_cast<quint64>(KZCommand::KZCmdWriteTelemetry),
-                       feature.isEmpty() ? QStringLiteral("KZCmdWriteTelemetry") : feature,
-                       values.isEmpty() ? content : Content(values));
+  return jsonEvent(Group::Telemetry, "Telemetry",
+                   feature.isEmpty() ? QStringLiteral("KZCmdWriteTelemetry") : feature,
+                   values.isEmpty() ? content : Content(values));
 }
 
 InspectorEvent roomEvent(const PersonalRoomChange& room) {
   Dictionary given;
   if (!room.joinUrl.isNull()) given.insert(QStringLiteral("join"), room.joinUrl);
   if (!room.sipUrl.isNull()) given.insert(QStringLiteral("sip"), room.sipUrl);
-  return numberedEvent(Kind::PersonalRoom, 0, QStringLiteral("setPMRJoinUrl:sipUrl:"), given);
+  return jsonEvent(Group::Notifications, "Personal room", QStringLiteral("setPMRJoinUrl:sipUrl:"), given);
 }
 
-InspectorEvent addressEvent(const AddressRequest& request) {
-  // What follows the place may carry a sign-in's state; the place suffices.
-  constexpr auto parts = QUrl::RemoveQuery | QUrl::RemoveFragment | QUrl::RemoveUserInfo;
-  return {.kind = Kind::Address,
-          .name = QStringLiteral("openURL"),
-          .content = QUrl(request.address).toDisplayString(parts)};
-}
-
-InspectorEvent keychainEvent(const KeychainChange& change) {
-  const bool isWritten = change.kind == KeychainChange::Kind::Written;
-  return {.kind = Kind::Keychain,
-          .name = change.account,
-          .content = isWritten ? QStringLiteral("written") : QStringLiteral("removed")};
-}
-
-InspectorEvent textOf(const PluginEvent& event) {
-  return std::visit(
-      Overloaded{
-          [](const PluginLoad& load) -> InspectorEvent {
-            return {.kind = Kind::Trace, .name = QStringLiteral("load"), .content = load.path};
-          },
-          [](const CommandToPlugin& triggered) {
-            return commandEvent(Kind::CommandToPlugin, triggered.command, triggered.content);
-          },
-          [](const CommandToHost& sent) {
-            if (sent.command == KZCommand::KZCmdWriteTelemetry) return telemetryEvent(sent.content);
-            return commandEvent(Kind::CommandToHost, sent.command, sent.content);
-          },
-          [](const NotificationToPlugin& notified) {
-            const auto index = static_cast<quint64>(notified.index);
-            return numberedEvent(Kind::Notification, index, notificationName(notified.index),
-                                 notified.content);
-          },
-          [](const PersonalRoomChange& room) { return roomEvent(room); },
-          [](const CredentialRequest& request) {
-            return numberedEvent(Kind::Challenge, 0, request.name, request.userInfo);
-          },
-          [](const CredentialResponse& response) {
-            return numberedEvent(Kind::Answer, 0, response.name, response.userInfo);
-          },
-          [](const AddressRequest& request) { return addressEvent(request); },
-          [](const WarningShown& warning) -> InspectorEvent {
-            return {.kind = Kind::Warning,
-                    .name = maskedText(warning.title),
-                    .content = maskedText(warning.message)};
-          },
-          [](const StoreChange& change) -> InspectorEvent {
-            return {.kind = Kind::StoreWrite,
-                    .name = change.key,
-                    .content = valueDifference(change.key, change.before, change.after).join(u'\n')};
-          },
-          [](const KeychainChange& change) { return keychainEvent(change); },
-          // Secrets are masked where the trace is written.
-          [](const KZTraceRecord& trace) -> InspectorEvent {
-            return {.kind = Kind::Trace, .level = trace.level, .name = trace.method, .content = trace.text};
-          }},
-      event);
-}
-
-// Indented, content that is nested deeply grows a thousand times.
-bool isDeeplyNested(const QString& json) {
-  constexpr int deepest = 24;
-  int depth = 0;
-  return std::ranges::any_of(json, [&depth](QChar sign) {
-    if (sign == u'{' || sign == u'[') ++depth;
-    if (sign == u'}' || sign == u']') --depth;
-    return depth > deepest;
-  });
-}
-
-InspectorEvent bounded(InspectorEvent event) {
-  event.time = QDateTime::currentMSecsSinceEpoch();
-  event.name = cutTo(kLongestName, event.name);
-  event.content = cutTo(kLongestContent, event.content);
+InspectorEvent fromPlugin(InspectorEvent event) {
+  event.isFromPlugin = true;
   return event;
+}
+
+InspectorEvent storeEvent(const StoreChange& change) {
+  return {.group = Group::Store,
+          .kind = QStringLiteral("Store write"),
+          .name = change.key,
+          .form = Form::Difference,
+          .content = valueDifference(change.key, change.before, change.after).join(u'\n')};
+}
+
+InspectorEvent unboundedEvent(const PluginEvent& event) {
+  return std::visit(
+      Overloaded{[](const PluginLoad& load) {
+                   return textEvent(Group::Traces, "Trace", QStringLiteral("load"), load.path);
+                 },
+                 [](const CommandToPlugin& triggered) {
+                   return commandEvent("Command to plug-in", triggered.command, triggered.content);
+                 },
+                 [](const CommandToHost& sent) {
+                   if (sent.command == KZCommand::KZCmdWriteTelemetry) return telemetryEvent(sent.content);
+                   return fromPlugin(commandEvent("Command to host", sent.command, sent.content));
+                 },
+                 [](const NotificationToPlugin& notified) {
+                   return notificationEvent(notified.index, notified.content);
+                 },
+                 [](const PersonalRoomChange& room) { return roomEvent(room); },
+                 [](const CredentialRequest& request) {
+                   return jsonEvent(Group::SignIn, "Challenge", request.name, request.userInfo);
+                 },
+                 [](const CredentialResponse& response) {
+                   return fromPlugin(jsonEvent(Group::SignIn, "Answer", response.name, response.userInfo));
+                 },
+                 [](const AddressRequest& request) {
+                   return fromPlugin(
+                       textEvent(Group::SignIn, "Address", QStringLiteral("openURL"), request.address));
+                 },
+                 [](const WarningShown& warning) {
+                   return textEvent(Group::Warnings, "Warning", maskedText(warning.title), warning.message);
+                 },
+                 [](const StoreChange& change) { return storeEvent(change); },
+                 [](const KeychainChange& change) {
+                   const bool isWritten = change.kind == KeychainChange::Kind::Written;
+                   return textEvent(Group::Store, "Keychain", change.account,
+                                    isWritten ? QStringLiteral("written") : QStringLiteral("removed"));
+                 },
+                 // Secrets are masked where the trace is written.
+                 [](const KZTraceRecord& trace) -> InspectorEvent {
+                   return {.level = trace.level, .name = trace.method, .content = trace.text};
+                 }},
+      event);
 }
 
 }  // namespace
 
 InspectorEvent InspectorEvent::of(const PluginEvent& event) {
-  return bounded(textOf(event));
+  InspectorEvent bounded = unboundedEvent(event);
+  bounded.time = QDateTime::currentMSecsSinceEpoch();
+  bounded.name = cutTo(kLongestName, bounded.name);
+  bounded.content = cutTo(kLongestContent, bounded.content);
+  return bounded;
 }
 
 qsizetype InspectorEvent::bytes() const {
@@ -154,50 +152,35 @@ qsizetype InspectorEvent::bytes() const {
 }
 
 QString InspectorEvent::title() const {
-  return number == 0 || kind == Kind::Telemetry ? name : QStringLiteral("%1 %2").arg(number).arg(name);
+  return number == 0 ? name : QStringLiteral("%1 %2").arg(number).arg(name);
 }
 
 QString InspectorEvent::kindTitle() const {
-  if (kind != Kind::Trace || level == KZTraceLevel::Info) return kindText(kind);
-  return level == KZTraceLevel::Error ? QStringLiteral("Trace (error)") : QStringLiteral("Trace (warning)");
+  if (level == KZTraceLevel::Info) return kind;
+  return QStringLiteral("%1 (%2)").arg(kind, QLatin1String(kzTraceLevelName(level)));
 }
 
 QString InspectorEvent::wholeContent() const {
-  if (isDeeplyNested(content)) return content;
-  const QJsonDocument json = QJsonDocument::fromJson(content.toUtf8());
-  return json.isNull() ? content : QString::fromUtf8(json.toJson()).trimmed();
+  const QJsonDocument json = form == Form::Json ? QJsonDocument::fromJson(content.toUtf8()) : QJsonDocument();
+  const QByteArray indented = json.toJson();
+  return json.isNull() || indented.size() > kLongestIndented ? content
+                                                             : QString::fromUtf8(indented).trimmed();
 }
 
-QStringList InspectorEvent::difference() const {
-  return kind == Kind::StoreWrite ? content.split(u'\n', Qt::SkipEmptyParts) : QStringList();
-}
-
-QString kindText(InspectorEvent::Kind kind) {
-  switch (kind) {
-    case Kind::CommandToPlugin:
-      return QStringLiteral("Command to plug-in");
-    case Kind::CommandToHost:
-      return QStringLiteral("Command to host");
-    case Kind::Notification:
-      return QStringLiteral("Notification");
-    case Kind::PersonalRoom:
-      return QStringLiteral("Personal room");
-    case Kind::Challenge:
-      return QStringLiteral("Challenge");
-    case Kind::Answer:
-      return QStringLiteral("Answer");
-    case Kind::Address:
-      return QStringLiteral("Address");
-    case Kind::Warning:
-      return QStringLiteral("Warning");
-    case Kind::Telemetry:
-      return QStringLiteral("Telemetry");
-    case Kind::StoreWrite:
-      return QStringLiteral("Store write");
-    case Kind::Keychain:
-      return QStringLiteral("Keychain");
-    case Kind::Trace:
-      break;
+QByteArray InspectorEvent::exportedLine() const {
+  QJsonObject line{{"time", QDateTime::fromMSecsSinceEpoch(time, Qt::UTC).toString(Qt::ISODateWithMs)},
+                   {"kind", kind},
+                   {"name", name}};
+  if (number != 0) line.insert("number", static_cast<qint64>(number));
+  if (group == Group::Traces) line.insert("level", kzTraceLevelName(level));
+  // Content that was cut is no JSON any more.
+  const QJsonDocument json = form == Form::Json ? QJsonDocument::fromJson(content.toUtf8()) : QJsonDocument();
+  if (form == Form::Difference) {
+    line.insert("difference", QJsonArray::fromStringList(content.split(u'\n', Qt::SkipEmptyParts)));
+  } else if (json.isObject()) {
+    line.insert("content", json.object());
+  } else {
+    line.insert("text", content);
   }
-  return QStringLiteral("Trace");
+  return QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n';
 }

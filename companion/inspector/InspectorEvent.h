@@ -1,46 +1,37 @@
 #pragma once
 
-#include <QList>
+#include <QByteArray>
 #include <QString>
-#include <QVariant>
 
 #include "companion/runtime/PluginEvent.h"
 
-// One thing that happened between the host and its plug-in, as text that is fit to show: without secrets and
-// of bounded length.
+// One event between the host and its plug-in, as text that is fit to show: without secrets and of bounded
+// length.
 struct InspectorEvent {
-  enum class Kind {
-    CommandToPlugin,
-    CommandToHost,
-    Notification,
-    PersonalRoom,
-    Challenge,
-    Answer,
-    Address,
-    Warning,
-    Telemetry,
-    StoreWrite,
-    Keychain,
-    Trace,
-  };
+  // What a reader shows and hides together.
+  enum class Group { Commands, Notifications, SignIn, Warnings, Store, Telemetry, Traces };
+  // Compact JSON ("none" where there is no content), text, or the lines of a difference, which begin with "-"
+  // or "+".
+  enum class Form { Json, Text, Difference };
   static constexpr qsizetype mostBytes = 64 * 1024;  // of the content
-
-  Kind kind = Kind::Trace;
-  KZTraceLevel level = KZTraceLevel::Info;  // of a trace
-  quint64 number = 0;                       // of a command or notification
-  qint64 time = 0;                          // milliseconds since 1970
-  quint64 serial = 0;                       // the log's
-  QString name = {};
-  // Compact JSON ("none" where there is no content), the lines of a difference, or text.
-  QString content = {};
 
   static InspectorEvent of(const PluginEvent& event);
 
   qsizetype bytes() const;
-  QString title() const;           // number and name
-  QString kindTitle() const;       // with a trace's level
-  QString wholeContent() const;    // JSON in lines, unless it is nested deeply
-  QStringList difference() const;  // a store write's lines; they begin with "-" or "+"
-};
+  QString title() const;         // number and name
+  QString kindTitle() const;     // with a trace's level
+  QString wholeContent() const;  // JSON in lines, unless that makes it much longer
+  // A JSON object with "time" (ISO 8601, UTC), "kind", "name", and what applies of "number", "level",
+  // "content" (JSON), "difference" (lines) and "text".
+  QByteArray exportedLine() const;
 
-QString kindText(InspectorEvent::Kind kind);
+  Group group = Group::Traces;
+  QString kind = QStringLiteral("Trace");
+  bool isFromPlugin = false;
+  KZTraceLevel level = KZTraceLevel::Info;  // of a trace
+  quint64 number = 0;                       // of a command or notification
+  qint64 time = 0;                          // milliseconds since 1970
+  QString name = {};
+  Form form = Form::Text;
+  QString content = {};
+};

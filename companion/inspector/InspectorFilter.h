@@ -1,14 +1,27 @@
 #pragma once
 
-#include <QString>
+#include <QSortFilterProxyModel>
 #include <set>
 
-#include "companion/inspector/InspectorEvent.h"
+#include "companion/inspector/InspectorLog.h"
 
-// Which events a reader wants to see.
-struct InspectorFilter {
-  std::set<InspectorEvent::Kind> hidden;
-  QString text;  // in the name or the content; case does not matter
+// The rows of the log that a reader wants to see.
+class InspectorFilter final : public QSortFilterProxyModel {
+  Q_OBJECT
 
-  bool accepts(const InspectorEvent& event) const;
+ public:
+  explicit InspectorFilter(InspectorLog* log);  // not owned; must outlive the filter
+
+  void setShown(InspectorEvent::Group group, bool isShown);  // at first all are
+  void setText(const QString& text);                         // in the title or the content, in any case
+
+  const InspectorLog::Event& eventAt(int row) const;
+
+ protected:
+  bool filterAcceptsRow(int row, const QModelIndex& parent) const override;
+
+ private:
+  const InspectorLog* m_log;
+  std::set<InspectorEvent::Group> m_hidden;
+  QString m_text;
 };

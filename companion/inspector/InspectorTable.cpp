@@ -5,16 +5,9 @@
 #include <QShortcut>
 #include <algorithm>
 
-#include "companion/inspector/InspectorModel.h"
+#include "companion/inspector/InspectorLog.h"
 
-namespace {
-
-constexpr int kNarrowestNames = 178;
-constexpr int kWidestNames = 280;
-
-}  // namespace
-
-InspectorTable::InspectorTable(InspectorModel* model) : m_rows(model) {
+InspectorTable::InspectorTable(QAbstractItemModel* model) {
   setModel(model);
   setSelectionBehavior(SelectRows);
   setShowGrid(false);
@@ -25,13 +18,12 @@ InspectorTable::InspectorTable(InspectorModel* model) : m_rows(model) {
   setUpColumns();
   auto* shortcut = new QShortcut(QKeySequence::Copy, this, nullptr, nullptr, Qt::WidgetShortcut);
   connect(shortcut, &QShortcut::activated, this, &InspectorTable::copyWanted);
-  connect(model, &QAbstractItemModel::rowsAboutToBeRemoved, this, &InspectorTable::noteEnd);
-  connect(model, &QAbstractItemModel::rowsAboutToBeInserted, this, &InspectorTable::noteEnd);
+  connect(model, &QAbstractItemModel::rowsAboutToBeRemoved, this, &InspectorTable::rememberEnd);
+  connect(model, &QAbstractItemModel::rowsAboutToBeInserted, this, &InspectorTable::rememberEnd);
+  connect(model, &QAbstractItemModel::layoutAboutToBeChanged, this, &InspectorTable::rememberEnd);
   connect(model, &QAbstractItemModel::rowsRemoved, this, &InspectorTable::keepPlace);
-  connect(model, &QAbstractItemModel::modelAboutToBeReset, this, &InspectorTable::noteEnd);
   connect(model, &QAbstractItemModel::rowsInserted, this, &InspectorTable::followEnd, Qt::QueuedConnection);
-  connect(model, &QAbstractItemModel::modelReset, this, &InspectorTable::restoreCurrent);
-  connect(model, &QAbstractItemModel::modelReset, this, &InspectorTable::followEnd, Qt::QueuedConnection);
+  connect(model, &QAbstractItemModel::layoutChanged, this, &InspectorTable::followEnd, Qt::QueuedConnection);
 }
 
 void InspectorTable::setUpColumns() {
@@ -40,21 +32,9 @@ void InspectorTable::setUpColumns() {
   verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
   horizontalHeader()->setHighlightSections(false);
   horizontalHeader()->setStretchLastSection(true);
-  setColumnWidth(InspectorModel::TimeColumn, 96);
-  setColumnWidth(InspectorModel::KindColumn, 142);
-  m_nameWidth = columnWidth(InspectorModel::NameColumn);
-  fitNames();
-}
-
-void InspectorTable::fitNames() {
-  if (columnWidth(InspectorModel::NameColumn) != m_nameWidth) return;
-  m_nameWidth = std::clamp(viewport()->width() * 3 / 10, kNarrowestNames, kWidestNames);
-  setColumnWidth(InspectorModel::NameColumn, m_nameWidth);
-}
-
-void InspectorTable::resizeEvent(QResizeEvent* event) {
-  QTableView::resizeEvent(event);
-  fitNames();
+  setColumnWidth(InspectorLog::TimeColumn, 96);
+  setColumnWidth(InspectorLog::KindColumn, 142);
+  setColumnWidth(InspectorLog::NameColumn, 220);
 }
 
 QList<int> InspectorTable::selectedRows() const {
@@ -66,15 +46,11 @@ QList<int> InspectorTable::selectedRows() const {
 
 void InspectorTable::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   QTableView::currentChanged(current, previous);
-  if (!current.isValid()) return;
-  const InspectorLog::Event& event = m_rows->eventAt(current.row());
-  if (event->serial == m_currentSerial) return;
-  m_currentSerial = event->serial;
-  Q_EMIT eventChosen(event);
+  if (current.isValid()) Q_EMIT chosen(current.row());
 }
 
 void InspectorTable::rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) {
-  // Else the view makes a neighbour the current one, and nobody has chosen that.
+  // Otherwise the view would choose a neighbour.
   const int row = currentIndex().row();
   if (row >= start && row <= end) selectionModel()->clearCurrentIndex();
   QTableView::rowsAboutToBeRemoved(parent, start, end);
@@ -88,7 +64,7 @@ void InspectorTable::showEvent(QShowEvent* event) {
 
 void InspectorTable::hideEvent(QHideEvent* event) {
   QTableView::hideEvent(event);
-  m_isAtEnd = isAtEnd();
+  m_wasAtEnd = isAtEnd();
 }
 
 bool InspectorTable::isAtEnd() const {
@@ -96,21 +72,17 @@ bool InspectorTable::isAtEnd() const {
   return bar->value() == bar->maximum();
 }
 
-void InspectorTable::noteEnd() {
-  if (isVisible()) m_isAtEnd = isAtEnd();  // else as it was when it was seen last
+// A hidden list has no end to be at: it stays as it was seen last.
+void InspectorTable::rememberEnd() {
+  if (isVisible()) m_wasAtEnd = isAtEnd();
 }
 
 void InspectorTable::followEnd() {
-  if (m_isAtEnd) scrollToBottom();
+  if (m_wasAtEnd) scrollToBottom();
 }
 
-// What goes stands above what is read.
+// The rows that go stand above those that are read.
 void InspectorTable::keepPlace(const QModelIndex& /*parent*/, int start, int end) {
   QScrollBar* bar = verticalScrollBar();
-  if (!m_isAtEnd) bar->setValue(bar->value() - (end - start + 1));
-}
-
-void InspectorTable::restoreCurrent() {
-  const int row = m_rows->rowOf(m_currentSerial);
-  if (row >= 0) setCurrentIndex(m_rows->index(row, 0));
+  if (!m_wasAtEnd) bar->setValue(bar->value() - (end - start + 1));
 }

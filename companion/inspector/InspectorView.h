@@ -2,10 +2,10 @@
 
 #include <QWidget>
 
-#include "companion/inspector/InspectorModel.h"
+#include "companion/inspector/InspectorLog.h"
 
 class InspectorDetails;
-class InspectorFilterBar;
+class InspectorFilter;
 class InspectorTable;
 class QLineEdit;
 class QPushButton;
@@ -28,20 +28,19 @@ class InspectorView final : public QWidget {
   void noticed(const QString& text);  // for the user
 
  private:
+  QWidget* createBoxes();
   QWidget* createBar();
   QWidget* createLists();
   QPushButton* createButton(const QString& title, const QString& toolTip, void (InspectorView::*action)());
-  void applyFilter();
   void togglePause();
-  void showMissed(qsizetype count);
+  void showWaiting(qsizetype count);
+  std::deque<InspectorLog::Event> shownEvents() const;
   void copy();
   void clear();
   void askForFile();
 
   InspectorLog* m_log;
-  InspectorModel* m_model;
-  InspectorFilterBar* m_kinds;
-  QLineEdit* m_text;
+  InspectorFilter* m_filter;
   QPushButton* m_pause = nullptr;
   InspectorTable* m_table;
   InspectorDetails* m_details;

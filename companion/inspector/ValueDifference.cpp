@@ -11,68 +11,55 @@ namespace {
 
 constexpr int kDeepestCompared = 32;
 
-struct Entry {
+struct Place {
   QString key;
   QString path;
-  QVariant before;
-  QVariant after;
 };
 
-QVariant maskedEntry(const QString& key, const QVariant& value) {
-  return kzMaskSecrets({{key, value}}).value(key);
+QVariant maskedAt(const Place& place, const QVariant& value) {
+  return kzMaskSecrets({{place.key, value}}).value(place.key);
 }
 
-QString valueLine(QChar sign, const Entry& entry, const QVariant& value) {
-  const QJsonArray holder{valuecodec::encode(maskedEntry(entry.key, value))};
+QString lineOf(QChar sign, const Place& place, const QVariant& value) {
+  const QJsonArray holder{valuecodec::encode(maskedAt(place, value))};
   const QString json = QString::fromUtf8(QJsonDocument(holder).toJson(QJsonDocument::Compact));
-  return QStringLiteral("%1 %2: %3").arg(sign).arg(entry.path, json.mid(1, json.size() - 2));
+  return QStringLiteral("%1 %2: %3").arg(sign).arg(place.path, json.mid(1, json.size() - 2));
 }
 
-// Under a secret's key nothing is looked into: the mask stands for all of it.
-bool areBoth(QMetaType::Type type, const Entry& entry) {
-  return entry.before.typeId() == type && entry.after.typeId() == type &&
-         maskedEntry(entry.key, entry.before).typeId() == type &&
-         maskedEntry(entry.key, entry.after).typeId() == type;
-}
-
-QList<Entry> dictionaryEntries(const Entry& entry) {
-  const Dictionary before = entry.before.toMap();
-  const Dictionary after = entry.after.toMap();
-  Dictionary all = before;
-  all.insert(after);
-  QList<Entry> entries;
-  for (const QString& key : all.keys()) {
-    entries.append({key, entry.path + u'.' + key, before.value(key), after.value(key)});
+void compare(const Place& place, const QVariant& before, const QVariant& after, int depth,
+             QStringList* lines) {
+  if (before == after) return;
+  // Under a secret's key the mask stands for all of it.
+  const auto areBoth = [&](QMetaType::Type type) {
+    return depth < kDeepestCompared && before.typeId() == type && after.typeId() == type &&
+           maskedAt(place, before).typeId() == type;
+  };
+  if (areBoth(QMetaType::QVariantMap)) {
+    const Dictionary old = before.toMap();
+    const Dictionary fresh = after.toMap();
+    Dictionary all = old;
+    all.insert(fresh);
+    for (const QString& key : all.keys())
+      compare({key, place.path + u'.' + key}, old.value(key), fresh.value(key), depth + 1, lines);
+    return;
   }
-  return entries;
-}
-
-QList<Entry> listEntries(const Entry& entry) {
-  const QVariantList before = entry.before.toList();
-  const QVariantList after = entry.after.toList();
-  QList<Entry> entries;
-  for (qsizetype at = 0; at < qMax(before.size(), after.size()); ++at) {
-    const QString place = QStringLiteral("[%1]").arg(at);
-    entries.append({place, entry.path + place, before.value(at), after.value(at)});
+  if (areBoth(QMetaType::QVariantList)) {
+    const QVariantList old = before.toList();
+    const QVariantList fresh = after.toList();
+    for (qsizetype at = 0; at < qMax(old.size(), fresh.size()); ++at) {
+      const QString index = QStringLiteral("[%1]").arg(at);
+      compare({index, place.path + index}, old.value(at), fresh.value(at), depth + 1, lines);
+    }
+    return;
   }
-  return entries;
-}
-
-QStringList linesOf(const Entry& entry, int depth) {
-  if (entry.before == entry.after) return {};
-  QList<Entry> entries;
-  if (depth < kDeepestCompared && areBoth(QMetaType::QVariantMap, entry)) entries = dictionaryEntries(entry);
-  if (depth < kDeepestCompared && areBoth(QMetaType::QVariantList, entry)) entries = listEntries(entry);
-  QStringList lines;
-  for (const Entry& inner : entries) lines += linesOf(inner, depth + 1);
-  if (!entries.isEmpty()) return lines;
-  if (entry.before.isValid()) lines.append(valueLine(u'-', entry, entry.before));
-  if (entry.after.isValid()) lines.append(valueLine(u'+', entry, entry.after));
-  return lines;
+  if (before.isValid()) lines->append(lineOf(u'-', place, before));
+  if (after.isValid()) lines->append(lineOf(u'+', place, after));
 }
 
 }  // namespace
 
 QStringList valueDifference(const QString& key, const QVariant& before, const QVariant& after) {
-  return linesOf({key, key, before, after}, 0);
+  QStringList lines;
+  compare({key, key}, before, after, 0, &lines);
+  return lines;
 }

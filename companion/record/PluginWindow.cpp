@@ -2,17 +2,31 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QToolBar>
 #include <QWidget>
 #include <QWindow>
 #include <algorithm>
 
 #include "companion/format/ControlFinder.h"
+#include "companion/format/KeyNames.h"
 #include "companion/runtime/PreferencesWindow.h"
 #include "platform/PopUpButton.h"
 #include "platform/WindowController.h"
 
 namespace pluginwindow {
+namespace {
+
+QString placeIn(const QWidget& window, const QWidget* widget) {
+  const QString className = QString::fromLatin1(window.metaObject()->className());
+  if (!widget || widget == &window) return className;
+  const QString name = widget->objectName();
+  return QStringLiteral("%1 in %2")
+      .arg(name.isEmpty() ? QString::fromLatin1(widget->metaObject()->className()) : name, className);
+}
+
+}  // namespace
 
 QWidget* widgetOf(const QObject* window) {
   const QWidgetList topLevels = QApplication::topLevelWidgets();
@@ -59,6 +73,25 @@ QString clickableNameOf(const Window& window, QWidget* widget) {
   if (!control) return {};
   const QWidget* middle = control->childAt(control->rect().center());
   return !middle || finder.nameOf(middle) == name ? name : QString();
+}
+
+QString inputElsewhere(const QWidget& target, const QEvent& event) {
+  static constexpr auto controlKeys = {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape, Qt::Key_Tab,
+                                       Qt::Key_Backtab};
+  const QWidget& window = *target.window();
+  // By name, since the second one's class stays inside the plug-in.
+  if (!window.inherits("KZWarningWindow") && !window.inherits("ADSignInDialog")) return {};
+  const QWidget* focus = window.focusWidget();
+  if (event.type() == QEvent::MouseButtonPress) {
+    const QPoint place = static_cast<const QMouseEvent&>(event).position().toPoint();
+    return QStringLiteral("a click on ") + placeIn(window, target.childAt(place));
+  }
+  const bool isKey = event.type() == QEvent::KeyPress;
+  const int key = isKey ? static_cast<const QKeyEvent&>(event).key() : 0;
+  if (std::ranges::find(controlKeys, key) != controlKeys.end())
+    return QStringLiteral("the key %1 on %2").arg(keynames::nameOf(key, {}), placeIn(window, focus));
+  const bool isTyping = isKey || event.type() == QEvent::InputMethod || event.type() == QEvent::Drop;
+  return isTyping ? QStringLiteral("keys typed into ") + placeIn(window, focus) : QString();
 }
 
 }  // namespace pluginwindow

@@ -4,12 +4,12 @@
 
 class PopUpButton;
 class QAction;
+class QEvent;
 class QObject;
 class QWidget;
-class QWindow;
 class Window;
 
-// Whose is what the user touches.
+// What the user's input is for, in the words of a session.
 namespace pluginwindow {
 
 // The widget that the display server's window shows; nullptr when there is none.
@@ -18,7 +18,7 @@ QWidget* widgetOf(const QObject* window);
 // The plug-in's window if the widget is in it, or in a list or menu that belongs to it; else nullptr.
 Window* ownerOf(QWidget* widget);
 
-// The pop-up whose list the widget is in; nullptr when it is in none.
+// The pop-up button whose list the widget is in; nullptr when it is in none.
 PopUpButton* popUpOf(QWidget* widget);
 
 // The pane that a click on the widget shows; nullptr when it is no button of the toolbar.
@@ -30,5 +30,9 @@ QString nameOf(const Window& window, QWidget* control);
 // The name by which a click in a control's middle does what a click on the widget does; null when there is
 // none.
 QString clickableNameOf(const Window& window, QWidget* widget);
+
+// Says what an input did in a window that the plug-in opens beside its own, for which there are no steps:
+// where it was done, never what was typed. Null for other windows, and when there is nothing to say.
+QString inputElsewhere(const QWidget& target, const QEvent& event);
 
 }  // namespace pluginwindow

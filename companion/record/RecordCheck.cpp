@@ -3,13 +3,13 @@
 #include <QJsonDocument>
 #include <QMutexLocker>
 
-#include "companion/record/Recorder.h"
+#include "companion/record/RecordWriter.h"
 
 namespace {
 
-// Nothing when the line does not tell what came out. A line that cannot be read is like no output.
+// What the line says came out; empty when it cannot be read. Nothing for another line.
 std::optional<QJsonObject> outputIn(const QByteArray& line) {
-  const QByteArray mark = Recorder::outputMark;
+  const QByteArray mark = RecordWriter::outputMark;
   if (!line.startsWith(mark)) return {};
   return QJsonDocument::fromJson(line.mid(mark.size())).object();
 }
@@ -24,7 +24,7 @@ RecordCheck::RecordCheck(const QByteArray& record) {
   }
 }
 
-void RecordCheck::hear(const QByteArray& line) {
+void RecordCheck::compare(const QByteArray& line) {
   const auto output = outputIn(line);
   const QMutexLocker lock(&m_mutex);
   if (!output || m_difference) return;

@@ -17,8 +17,8 @@ class RecordCheck final {
 
   explicit RecordCheck(const QByteArray& record);
 
-  // A line of the record that is being made anew.
-  void hear(const QByteArray& line);
+  // Takes the next line of the record that is being made anew.
+  void compare(const QByteArray& line);
 
   // After the last line: the first difference; nothing when all was as it should be.
   std::optional<Difference> difference();

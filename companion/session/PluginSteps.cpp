@@ -1,10 +1,9 @@
-#include "companion/session/PluginSteps.h"
-
 #include <QEventLoop>
 #include <QThread>
 #include <limits>
 #include <memory>
 
+#include "companion/session/Steps.h"
 #include "host/KZFoundation/KZNotificationCenter.h"
 
 namespace {
@@ -22,46 +21,39 @@ void postFromWorker(const KZNotification& notification) {
 
 }  // namespace
 
-void PluginSteps::addTo(StepTable* table) {
-  table->insert("command", [this](StepArguments& step) { return command(step); });
-  table->insert("notify", [this](StepArguments& step) { return notify(step); });
-  table->insert("post", [this](StepArguments& step) { return post(step); });
-  table->insert("personalRoom", [this](StepArguments& step) { return personalRoom(step); });
-}
-
-StepOutcome PluginSteps::command(StepArguments& step) {
+StepResult steps::command(Step& step, StepContext& context) {
   const qint64 number = step.integer("command", 0, std::numeric_limits<qint64>::max());
   const Content content = step.content("content");
-  if (step.isGood()) m_host->trigger(static_cast<KZCommand>(number), content);
-  return step.outcome();
+  if (step.isGood()) context.host->trigger(static_cast<KZCommand>(number), content);
+  return step.result();
 }
 
-StepOutcome PluginSteps::notify(StepArguments& step) {
+StepResult steps::notify(Step& step, StepContext& context) {
   const qint64 index = step.integer("notify", 0, std::numeric_limits<quint32>::max());
   const Content content = step.content("content");
-  if (step.isGood()) m_host->notify(static_cast<KZNotify>(index), content);
-  return step.outcome();
+  if (step.isGood()) context.host->notify(static_cast<KZNotify>(index), content);
+  return step.result();
 }
 
-StepOutcome PluginSteps::post(StepArguments& step) {
+StepResult steps::post(Step& step, StepContext& context) {
   const QString name = step.text("post");
   const Content userInfo = step.content("userInfo");
-  const bool isFromWorker = step.has("thread") && step.choice("thread", {"main", "worker"}) == "worker";
-  if (!step.isGood()) return step.outcome();
-  const KZNotification notification = {name, poster(), userInfo.value_or(Dictionary())};
+  const bool isFromWorker = step.choice("thread", {"main", "worker"}) == "worker";
+  if (!step.isGood()) return step.result();
+  const KZNotification notification = {name, &context, userInfo.value_or(Dictionary())};
   if (isFromWorker) {
     postFromWorker(notification);
   } else {
     KZNotificationCenter::defaultCenter().post(notification);
   }
-  return StepOutcome::played();
+  return {};
 }
 
-StepOutcome PluginSteps::personalRoom(StepArguments& step) {
-  StepArguments room(step.object("personalRoom"));
+StepResult steps::personalRoom(Step& step, StepContext& context) {
+  Step room(step.object("personalRoom"));
   const QString join = room.optionalText("join");
   const QString sip = room.optionalText("sip");
-  if (!step.isGood()) return step.outcome();
-  if (room.isGood()) m_host->setPersonalRoom(join, sip);
-  return room.outcome();
+  if (!step.isGood() || !room.isGood()) return step.isGood() ? room.result() : step.result();
+  context.host->setPersonalRoom(join, sip);
+  return {};
 }

@@ -1,9 +1,8 @@
-#include "companion/session/ScriptSteps.h"
-
 #include <QPixmap>
 
 #include "companion/runtime/PreferencesWindow.h"
 #include "companion/session/EventPump.h"
+#include "companion/session/Steps.h"
 #include "platform/Text.h"
 #include "platform/WindowController.h"
 
@@ -19,50 +18,34 @@ FontRole fontRoleNamed(const QString& name) {
 
 }  // namespace
 
-void ScriptSteps::addTo(StepTable* table) {
-  table->insert("wait", [this](StepArguments& step) { return wait(step); });
-  table->insert("echo", [this](StepArguments& step) { return echo(step); });
-  table->insert("measure", [this](StepArguments& step) { return measure(step); });
-  table->insert("screenshot", [this](StepArguments& step) { return screenshot(step); });
-}
-
-StepOutcome ScriptSteps::wait(StepArguments& step) {
+StepResult steps::wait(Step& step, StepContext& context) {
   const std::chrono::milliseconds time(step.integer("wait", 0, kLongestWaitMs));
-  if (!step.isGood()) return step.outcome();
-  m_waitedMs += time.count();
+  if (!step.isGood()) return step.result();
+  context.waitedMs += time.count();
   eventpump::run(time);
-  return StepOutcome::played();
+  return {};
 }
 
-StepOutcome ScriptSteps::echo(StepArguments& step) {
-  m_writer->print({{"echo", step.raw("echo")}});
-  return StepOutcome::played();
+StepResult steps::echo(Step& step, StepContext&) {
+  return {{{"echo", step.raw("echo")}}};
 }
 
-StepOutcome ScriptSteps::measure(StepArguments& step) {
+StepResult steps::measure(Step& step, StepContext&) {
   const QString measured = step.text("measure");
-  const QString text = measured == "text" ? step.textOr("text", measured) : measured;
-  const QString font =
-      step.has("font") ? step.choice("font", {"label", "system", "bold", "default"}) : "default";
-  const bool hasSize = font != "default" && step.has("size");
-  const double size = hasSize ? step.number("size") : systemFontSize;
-  if (step.isGood() && (size < 1 || size > kLargestFont))
-    step.fail(QStringLiteral("\"size\" is out of range"));
-  if (!step.isGood()) return step.outcome();
+  const QString text = measured == "text" && step.has("text") ? step.text("text") : measured;
+  const QString font = step.choice("font", {"default", "label", "system", "bold"});
+  const double size = font != "default" && step.has("size") ? step.number("size") : systemFontSize;
+  if (size < 1 || size > kLargestFont) step.fail(QStringLiteral("\"size\" is out of range"));
+  if (!step.isGood()) return step.result();
   const Size result = sizeOfText(text, fontRoleNamed(font), size);
-  m_writer->print({{"result", QJsonObject{{"width", result.width}, {"height", result.height}}}});
-  return StepOutcome::played();
+  return StepResult::answer(QJsonObject{{"width", result.width}, {"height", result.height}});
 }
 
-StepOutcome ScriptSteps::screenshot(StepArguments& step) {
+StepResult steps::screenshot(Step& step, StepContext&) {
   const QString path = step.text("screenshot");
   Window* window = findPreferencesWindow();
-  if (!step.isGood()) return step.outcome();
-  if (!window) {
-    m_writer->print({{"refused", "no window is open"}});
-    return StepOutcome::played();
-  }
-  if (!window->grab().save(path, "PNG"))
-    return StepOutcome::failed(QStringLiteral("cannot write %1").arg(path));
-  return StepOutcome::played();
+  if (!step.isGood()) return step.result();
+  if (!window) return StepResult::refused(QStringLiteral("no window is open"));
+  if (window->grab().save(path, "PNG")) return {};
+  return StepResult::failed(QStringLiteral("cannot write %1").arg(path));
 }

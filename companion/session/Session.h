@@ -3,41 +3,36 @@
 #include <QIODevice>
 #include <chrono>
 
-#include "companion/format/LineWriter.h"
-#include "companion/runtime/PluginHost.h"
-#include "companion/session/HostSteps.h"
-#include "companion/session/PluginSteps.h"
-#include "companion/session/ScriptSteps.h"
-#include "companion/session/StepTable.h"
-#include "companion/session/UserSteps.h"
+#include "companion/session/Steps.h"
 
-// Plays a script against a plug-in and prints what comes back.
+// Prints one line on standard output, flushed at once. Any thread.
+void printLine(const Line& line);
+
+// Plays a script against a plug-in and prints what comes back. Main thread only.
 class Session final {
  public:
-  enum class Trace { Off, On };
-  // The program's exit status.
-  enum class End { Played = 0, StepFailed = 2 };
+  // Events that are printed only where they are asked for.
+  struct Options {
+    bool isPrintingTrace = false;
+    bool isPrintingWrites = false;
+  };
 
-  Session(PluginHost* host, LineWriter* writer,
-          Trace trace);  // not owned; load the plug-in before playing
+  // The host is not owned. Its plug-in is loaded before anything is played; what the loading does is printed.
+  Session(PluginHost* host, const Options& options);
 
-  End play(QIODevice* script);
+  // False when a step could not be read or played: that is printed, and nothing after it.
+  [[nodiscard]] bool play(QIODevice* script);
 
   // The sum of the waits that the script has asked for, the running one included. Any thread.
-  std::chrono::milliseconds waited() const { return m_scriptSteps.waited(); }
-  // The address that marks the notifications which the script posts.
-  const void* poster() const { return m_pluginSteps.poster(); }
+  std::chrono::milliseconds waited() const { return std::chrono::milliseconds(m_context.waitedMs); }
+  // Marks the notifications that the script posts.
+  const void* poster() const { return &m_context; }
 
  private:
-  void print(const PluginEvent& event, Trace trace);
-  StepOutcome playStep(const QJsonObject& step);
-  End fail(const QString& reason, int lineNumber);
+  void print(const PluginEvent& event) const;
+  StepResult playStep(const QByteArray& text);
 
-  LineWriter* m_writer;
-  PluginSteps m_pluginSteps;
-  UserSteps m_userSteps;
-  HostSteps m_hostSteps;
-  ScriptSteps m_scriptSteps;
-  StepTable m_table;
+  const Options m_options;
+  StepContext m_context;
   PluginHost::Token m_observer;
 };

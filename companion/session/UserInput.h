@@ -1,12 +1,12 @@
 #pragma once
 
 #include <QString>
-#include <Qt>
+#include <QWidget>
+#include <memory>
 
 class PopUpButton;
 class QAction;
 class QLineEdit;
-class QWidget;
 class Window;
 
 // Does what a user does: events enter at the window, as the display server's do, so that they hit, focus and
@@ -14,10 +14,6 @@ class Window;
 // only.
 class UserInput final {
  public:
-  UserInput() = default;
-  ~UserInput();
-  Q_DISABLE_COPY_MOVE(UserInput)
-
   [[nodiscard]] QString click(QWidget* control, Qt::KeyboardModifiers modifiers);
   [[nodiscard]] QString clickPane(const Window& window, QAction* item, Qt::KeyboardModifiers modifiers);
   [[nodiscard]] QString type(QLineEdit* field, const QString& text);
@@ -28,5 +24,5 @@ class UserInput final {
   [[nodiscard]] QString activate(Window* window, bool isToBeKey);
 
  private:
-  QWidget* m_elsewhere = nullptr;  // owned
+  std::unique_ptr<QWidget> m_elsewhere;
 };

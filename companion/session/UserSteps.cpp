@@ -1,5 +1,3 @@
-#include "companion/session/UserSteps.h"
-
 #include <QAction>
 #include <QLineEdit>
 #include <optional>
@@ -7,14 +5,17 @@
 #include "companion/format/ControlFinder.h"
 #include "companion/format/KeyNames.h"
 #include "companion/runtime/PreferencesWindow.h"
+#include "companion/session/Steps.h"
 #include "platform/PopUpButton.h"
 #include "platform/WindowController.h"
 
 namespace {
 
-Qt::KeyboardModifiers readModifiers(StepArguments& step) {
+Qt::KeyboardModifiers readModifiers(Step& step) {
   Qt::KeyboardModifiers modifiers;
-  for (const QString& name : step.textsOr("modifiers", {})) {
+  if (!step.has("modifiers")) return modifiers;
+  for (const QJsonValue& element : step.list("modifiers")) {
+    const QString name = element.toString();
     const auto modifier = keynames::modifierNamed(name);
     if (!modifier) step.fail(QStringLiteral("there is no modifier %1").arg(name));
     modifiers |= modifier.value_or(Qt::NoModifier);
@@ -22,24 +23,13 @@ Qt::KeyboardModifiers readModifiers(StepArguments& step) {
   return modifiers;
 }
 
-Qt::KeyboardModifiers readShift(StepArguments& step) {
-  return step.flagOr("shift", false) ? Qt::ShiftModifier : Qt::NoModifier;
-}
-
-int readKey(StepArguments& step) {
-  const QString name = step.text("key");
-  const std::optional<int> key = keynames::keyNamed(name);
-  if (!key) step.fail(QStringLiteral("there is no key %1").arg(name));
-  return key.value_or(Qt::Key_unknown);
-}
-
-bool isCapital(const QString& key) {
-  return key.size() == 1 && key.front().isUpper();
+Qt::KeyboardModifiers readShift(Step& step) {
+  return step.optionalFlag("shift") ? Qt::ShiftModifier : Qt::NoModifier;
 }
 
 // The control that the step names, as that kind of control; the step fails when there is none.
 template <typename Control>
-Control* findControl(StepArguments& step, const char* key, const char* kind) {
+Control* findControl(Step& step, const char* key, const char* kind) {
   const QString name = step.text(key);
   const Window* window = findPreferencesWindow();
   if (!step.isGood()) return nullptr;
@@ -52,66 +42,60 @@ Control* findControl(StepArguments& step, const char* key, const char* kind) {
 
 }  // namespace
 
-void UserSteps::addTo(StepTable* table) {
-  table->insert("click", [this](StepArguments& step) { return click(step); });
-  table->insert("type", [this](StepArguments& step) { return type(step); });
-  table->insert("key", [this](StepArguments& step) { return key(step); });
-  table->insert("choose", [this](StepArguments& step) { return choose(step); });
-  table->insert("pane", [this](StepArguments& step) { return pane(step); });
-  table->insert("close", [this](StepArguments& step) { return close(step); });
-  table->insert("activate", [this](StepArguments& step) { return activate(step); });
-}
-
-StepOutcome UserSteps::click(StepArguments& step) {
+StepResult steps::click(Step& step, StepContext& context) {
   auto* control = findControl<QWidget>(step, "click", "a control");
   const Qt::KeyboardModifiers modifiers = readShift(step);
-  return step.isGood() ? done(m_input.click(control, modifiers)) : step.outcome();
+  if (!step.isGood()) return step.result();
+  return StepResult::refused(context.input.click(control, modifiers));
 }
 
-StepOutcome UserSteps::type(StepArguments& step) {
+StepResult steps::type(Step& step, StepContext& context) {
   auto* field = findControl<QLineEdit>(step, "type", "a text field");
   const QString text = step.text("text");
-  return step.isGood() ? done(m_input.type(field, text)) : step.outcome();
+  if (!step.isGood()) return step.result();
+  return StepResult::refused(context.input.type(field, text));
 }
 
-StepOutcome UserSteps::key(StepArguments& step) {
-  const int key = readKey(step);
+StepResult steps::key(Step& step, StepContext& context) {
+  const QString name = step.text("key");
+  const std::optional<int> key = keynames::keyNamed(name);
+  if (!key) step.fail(QStringLiteral("there is no key %1").arg(name));
   Qt::KeyboardModifiers modifiers = readModifiers(step);
-  if (isCapital(step.raw("key").toString())) modifiers |= Qt::ShiftModifier;
+  if (name.size() == 1 && name.front().isUpper()) modifiers |= Qt::ShiftModifier;
   QWidget* target = findPreferencesWindow();
   if (step.has("in")) target = findControl<QWidget>(step, "in", "a control");
-  if (!step.isGood()) return step.outcome();
-  return done(target ? m_input.press(target, key, modifiers) : QStringLiteral("no window is open"));
+  if (!step.isGood()) return step.result();
+  return StepResult::refused(target ? context.input.press(target, *key, modifiers)
+                                    : QStringLiteral("no window is open"));
 }
 
-StepOutcome UserSteps::choose(StepArguments& step) {
+StepResult steps::choose(Step& step, StepContext& context) {
   auto* button = findControl<PopUpButton>(step, "choose", "a pop-up");
   const QString title = step.text("item");
   const int item = button ? button->findText(title) : -1;
   if (item < 0) step.fail(QStringLiteral("there is no item %1").arg(title));
-  return step.isGood() ? done(m_input.choose(button, item)) : step.outcome();
+  if (!step.isGood()) return step.result();
+  return StepResult::refused(context.input.choose(button, item));
 }
 
-StepOutcome UserSteps::pane(StepArguments& step) {
+StepResult steps::pane(Step& step, StepContext& context) {
   const QString label = step.text("pane");
   const Qt::KeyboardModifiers modifiers = readShift(step);
   const Window* window = findPreferencesWindow();
   QAction* item = window ? paneItemNamed(*window, label) : nullptr;
   if (!item) step.fail(QStringLiteral("there is no pane %1").arg(label));
-  return step.isGood() ? done(m_input.clickPane(*window, item, modifiers)) : step.outcome();
+  if (!step.isGood()) return step.result();
+  return StepResult::refused(context.input.clickPane(*window, item, modifiers));
 }
 
-StepOutcome UserSteps::close(StepArguments& step) {
+StepResult steps::close(Step& step, StepContext& context) {
   if (!step.flag("close")) step.fail(QStringLiteral("\"close\" is not true"));
-  return step.isGood() ? done(m_input.close(findPreferencesWindow())) : step.outcome();
+  if (!step.isGood()) return step.result();
+  return StepResult::refused(context.input.close(findPreferencesWindow()));
 }
 
-StepOutcome UserSteps::activate(StepArguments& step) {
+StepResult steps::activate(Step& step, StepContext& context) {
   const bool isToBeKey = step.flag("activate");
-  return step.isGood() ? done(m_input.activate(findPreferencesWindow(), isToBeKey)) : step.outcome();
-}
-
-StepOutcome UserSteps::done(const QString& refused) {
-  if (!refused.isNull()) m_writer->print({{"refused", refused}});
-  return StepOutcome::played();
+  if (!step.isGood()) return step.result();
+  return StepResult::refused(context.input.activate(findPreferencesWindow(), isToBeKey));
 }

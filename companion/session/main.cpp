@@ -1,4 +1,5 @@
 #include <QBuffer>
+#include <QCommandLineParser>
 #include <QFile>
 #include <QJsonObject>
 #include <QTemporaryDir>
@@ -10,8 +11,6 @@
 #include "companion/record/Recorder.h"
 #include "companion/runtime/Application.h"
 #include "companion/session/Session.h"
-#include "companion/session/SessionOptions.h"
-#include "companion/session/WriteWatch.h"
 #include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 
@@ -26,108 +25,134 @@ void complain(const QString& text) {
   std::fprintf(stderr, "prefs-session: %s\n", qPrintable(text));
 }
 
+struct CommandLine {
+  QString stateFolder;  // empty: a fresh one
+  KZKeyChainHandle::Storage keychain;
+  Session::Options printed;
+  QString pluginPath;
+  QString scriptPath;  // "-": standard input
+  QString recordPath;  // empty: nothing is recorded
+  bool isCheck;
+};
+
+// Nothing when it cannot be followed. Ends the program where help is asked for.
+std::optional<CommandLine> readCommandLine(const QStringList& arguments) {
+  QCommandLineParser parser;
+  parser.setApplicationDescription(
+      "Loads the preferences plug-in, plays one step a line, and prints what came back, one JSON object a "
+      "line.\n"
+      "Windows are drawn offscreen unless QT_QPA_PLATFORM says otherwise.");
+  parser.addHelpOption();
+  parser.addOptions(
+      {{"state", "Where the settings store lives; left out, a fresh folder.", "DIR"},
+       {"keychain", "Where secrets are kept: memory (the default) or system.", "KIND", "memory"},
+       {"trace", "Print trace lines too."},
+       {"writes", "Print what is written into the settings store and the keychain."},
+       {"record", "Write what is played and what comes out as a record.", "RECORD"},
+       {"check", "Compare what comes out with what the script, a record, says came out."},
+       {"plugin", "The plug-in to load.", "FILE", defaultPluginPath()}});
+  parser.addPositionalArgument("FILE", "The script, \"-\" or left out: standard input.", "[FILE | -]");
+  parser.process(arguments);
+  const QString keychain = parser.value("keychain");
+  if (keychain != "memory" && keychain != "system") {
+    complain(QStringLiteral("--keychain is memory or system, not %1").arg(keychain));
+    return {};
+  }
+  if (parser.positionalArguments().size() > 1) {
+    complain(QStringLiteral("one script at a time"));
+    return {};
+  }
+  using Storage = KZKeyChainHandle::Storage;
+  return CommandLine{
+      .stateFolder = parser.value("state"),
+      .keychain = keychain == "system" ? Storage::System : Storage::Memory,
+      .printed = {.isPrintingTrace = parser.isSet("trace"), .isPrintingWrites = parser.isSet("writes")},
+      .pluginPath = parser.value("plugin"),
+      .scriptPath = parser.positionalArguments().value(0, "-"),
+      .recordPath = parser.value("record"),
+      .isCheck = parser.isSet("check")};
+}
+
+// The record that is made while a script is played: written to a file, compared with an earlier one, or both.
+struct Record {
+  RecordFile file = {};
+  std::optional<RecordCheck> check = {};
+  bool isWritten = false;  // up to now
+
+  bool isWanted() const { return isWritten || check; }
+
+  // Takes the next line. False when no more are wanted.
+  bool take(const QByteArray& line) {
+    if (check) check->compare(line);
+    if (isWritten && !file.write(line)) {
+      complain(QStringLiteral("the record ends early: %1").arg(file.errorText()));
+      isWritten = false;
+    }
+    return isWanted();
+  }
+};
+
 bool openScript(const QString& path, QFile* script) {
   if (path == "-") return script->open(stdin, QIODevice::ReadOnly);
   script->setFileName(path);
   return script->open(QIODevice::ReadOnly);
 }
 
-// Where the lines of the record go that is made while a script is played.
-class RecordLines final {
- public:
-  // False when the record cannot be made.
-  [[nodiscard]] bool open(const QString& path) {
-    if (path.isEmpty()) return true;
-    m_isWritten = m_file.open(path);
-    if (!m_isWritten) complain(QStringLiteral("cannot record to %1: %2").arg(path, m_file.errorText()));
-    return m_isWritten;
-  }
-  void checkAgainst(const QByteArray& record) { m_check.emplace(record); }
-
-  bool isWanted() const { return m_isWritten || m_check; }
-  bool isWhole() const { return m_isWhole; }
-
-  bool take(const QByteArray& line) {
-    if (m_check) m_check->hear(line);
-    if (!m_isWritten || m_file.write(line)) return true;
-    complain(QStringLiteral("the record ends early: %1").arg(m_file.errorText()));
-    m_isWritten = false;
-    m_isWhole = false;
-    return m_check.has_value();
-  }
-
-  // After the last line.
-  void finish(Recorder* recorder) {
-    if (!m_isWritten) return;
-    const auto revised = [recorder](const QByteArray& line) { return recorder->revised(line); };
-    m_isWhole = m_file.finish(revised) && m_isWhole;
-    if (!m_isWhole)
-      complain(QStringLiteral("the record cannot be read once more: %1").arg(m_file.errorText()));
-  }
-
-  // What to exit with after a script that was played to its end.
-  int status(LineWriter* writer) {
-    const auto difference = m_check ? m_check->difference() : std::nullopt;
-    if (!difference) return m_isWhole ? kPlayed : kUnusable;
-    const QJsonValue line =
-        difference->line > 0 ? QJsonValue(difference->line) : QJsonValue(QJsonValue::Null);
-    writer->print(
-        {{"different",
-          QJsonObject{{"line", line}, {"expected", difference->expected}, {"got", difference->got}}}});
-    return kDifferent;
-  }
-
- private:
-  RecordFile m_file;
-  std::optional<RecordCheck> m_check;
-  bool m_isWritten = false;
-  bool m_isWhole = true;
-};
-
-int playSession(const SessionOptions& options, QIODevice* script, RecordLines* lines) {
+// What to exit with. What the plug-in does while it is unloaded belongs to no step: it is neither printed nor
+// recorded.
+int playScript(const CommandLine& commandLine, QIODevice* script, Record* record) {
   PluginHost host;
-  LineWriter writer(stdout);
-  std::optional<WriteWatch> writes;
-  if (options.isPrintingWrites) writes.emplace(&writer);
-  // What is traced while the plug-in is loaded is heard, what the end traces is not part of the script.
-  std::optional<Session> session(std::in_place, &host, &writer, options.trace);
+  Session session(&host, commandLine.printed);
   std::optional<Recorder> recorder;
-  if (lines->isWanted()) {
+  if (record->isWanted()) {
     recorder.emplace(
-        &host, [lines](const QByteArray& line) { return lines->take(line); },
-        Recorder::Options{.clock = [&session] { return session->waited(); },
-                          .hostPoster = session->poster()});
+        &host, [record](const QByteArray& line) { return record->take(line); },
+        Recorder::Options{.clock = [&session] { return session.waited(); }, .hostPoster = session.poster()});
   }
-  if (!host.load(options.pluginPath)) {
+  if (!host.load(commandLine.pluginPath)) {
     complain(host.errorText());
     return kPluginFailed;
   }
-  const Session::End end = session->play(script);
-  if (recorder) {
-    recorder->stop();
-    lines->finish(&*recorder);
-  }
-  recorder.reset();
-  session.reset();
-  writes.reset();
-  return end == Session::End::Played ? lines->status(&writer) : static_cast<int>(end);
+  return session.play(script) ? kPlayed : kUnusable;
 }
 
-int runSession(const SessionOptions& options) {
+void printDifference(const RecordCheck::Difference& difference) {
+  const QJsonValue line = difference.line > 0 ? QJsonValue(difference.line) : QJsonValue::Null;
+  printLine({{"different",
+              QJsonObject{{"line", line}, {"expected", difference.expected}, {"got", difference.got}}}});
+}
+
+int runSession(const CommandLine& commandLine) {
   QFile file;
-  if (!openScript(options.scriptPath, &file)) {
-    complain(QStringLiteral("cannot read %1: %2").arg(options.scriptPath, file.errorString()));
+  if (!openScript(commandLine.scriptPath, &file)) {
+    complain(QStringLiteral("cannot read %1: %2").arg(commandLine.scriptPath, file.errorString()));
     return kUnusable;
   }
-  RecordLines lines;
-  if (!options.isCheck)
-    return lines.open(options.recordPath) ? playSession(options, &file, &lines) : kUnusable;
-  // What is expected is read before anything is played.
-  QByteArray record = file.readAll();
-  lines.checkAgainst(record);
-  if (!lines.open(options.recordPath)) return kUnusable;
-  QBuffer script(&record);
-  return script.open(QIODevice::ReadOnly) ? playSession(options, &script, &lines) : kUnusable;
+  Record record;
+  QBuffer checked;
+  if (commandLine.isCheck) {
+    // What is expected is read before anything is played: the new record may take the file's place.
+    checked.setData(file.readAll());
+    checked.open(QIODevice::ReadOnly);
+    record.check.emplace(checked.data());
+  }
+  if (!commandLine.recordPath.isEmpty()) {
+    record.isWritten = record.file.open(commandLine.recordPath);
+    if (!record.isWritten) {
+      complain(
+          QStringLiteral("cannot record to %1: %2").arg(commandLine.recordPath, record.file.errorText()));
+      return kUnusable;
+    }
+  }
+  QIODevice* script = &file;
+  if (commandLine.isCheck) script = &checked;
+  const int status = playScript(commandLine, script, &record);
+  if (status != kPlayed) return status;
+  if (const auto difference = record.check ? record.check->difference() : std::nullopt) {
+    printDifference(*difference);
+    return kDifferent;
+  }
+  return commandLine.recordPath.isEmpty() || record.isWritten ? kPlayed : kUnusable;
 }
 
 }  // namespace
@@ -138,18 +163,14 @@ int main(int argc, char** argv) {
   Application::setQuitOnLastWindowClosed(false);
   Application::setApplicationName("prefs-session");
 
-  SessionOptions options;
-  QString reason;
-  if (!options.read(Application::commandLine(argc, argv), &reason)) {
-    complain(reason);
-    return kUnusable;
-  }
+  const auto commandLine = readCommandLine(Application::commandLine(argc, argv));
+  if (!commandLine) return kUnusable;
   const QTemporaryDir freshFolder;
-  const QString stateFolder = options.stateFolder.isEmpty() ? freshFolder.path() : options.stateFolder;
-  if (!KZPlistFileHandle::sharedInstance().open(stateFolder)) {
-    complain(QStringLiteral("%1 is used by another program").arg(stateFolder));
+  const QString folder = commandLine->stateFolder.isEmpty() ? freshFolder.path() : commandLine->stateFolder;
+  if (!KZPlistFileHandle::sharedInstance().open(folder)) {
+    complain(QStringLiteral("%1 is used by another program").arg(folder));
     return kUnusable;
   }
-  KZKeyChainHandle::sharedInstance().useStorage(options.keychain);
-  return runSession(options);
+  KZKeyChainHandle::sharedInstance().useStorage(commandLine->keychain);
+  return runSession(*commandLine);
 }

@@ -1,6 +1,8 @@
 #include "host/KZUtility/KZSecretMask.h"
 
 #include <QJsonDocument>
+#include <QRegularExpression>
+#include <QUrl>
 #include <algorithm>
 
 #include "host/KZFoundation/Dictionary.h"
@@ -14,11 +16,23 @@ constexpr int kDeepestMasked = 64;
 constexpr QStringView kMask = u"***";
 constexpr QStringView kSecretKeys[] = {u"QRT_CredentialContent", u"code", u"code_verifier", u"client_secret"};
 constexpr QStringView kSecretWords[] = {u"password", u"token"};
+// Secrets in the address of a sign-in only: elsewhere these are common words.
+constexpr QStringView kSignInParameters[] = {u"state", u"nonce", u"code_challenge"};
 
 bool isSecretKey(QStringView key) {
   return std::ranges::find(kSecretKeys, key) != std::end(kSecretKeys) ||
          std::ranges::any_of(kSecretWords,
                              [&](QStringView word) { return key.contains(word, Qt::CaseInsensitive); });
+}
+
+bool isSecretParameter(QStringView key) {
+  return isSecretKey(key) || std::ranges::find(kSignInParameters, key) != std::end(kSignInParameters);
+}
+
+bool isAddress(const QString& text) {
+  return text.contains(QLatin1String("://")) && std::ranges::none_of(text, [](QChar sign) {
+           return sign.isSpace() || sign == u'"' || sign == u'\'';
+         });
 }
 
 bool isKeyCharacter(QChar sign) {
@@ -43,8 +57,36 @@ bool namesSecret(QStringView text) {
 
 QVariant replaced(const QVariant& value, int depth, const Replacement& replacement);
 
+QString decoded(const QString& part) {
+  return QUrl::fromPercentEncoding(part.toUtf8());
+}
+
+// Replaces the values of secret parameters and the password before the host's name.
+QVariant replacedInAddress(const QVariant& value, const Replacement& replacement) {
+  // The value stands in a lookahead, so that another parameter is found inside an open one.
+  static const QRegularExpression part(
+      QStringLiteral("(?|[?&#;]([^?&#;=]+)=(?=([^&#]*))|(://)[^/?#@:]*:([^/?#@]*)@)"));
+  const QString address = value.toString();
+  QString result;
+  QString rest;
+  qsizetype end = 0;
+  for (auto parts = part.globalMatch(address); parts.hasNext();) {
+    const QRegularExpressionMatch match = parts.next();
+    const QString key = match.captured(1);
+    const bool isSecret = key == QLatin1String("://") || isSecretParameter(decoded(key));
+    if (!isSecret || match.capturedStart() < end) continue;
+    result += address.mid(end, match.capturedStart(2) - end);
+    result += replacement(decoded(match.captured(2))).toString();
+    rest += address.mid(end, match.capturedStart() - end);
+    end = match.capturedEnd(2);
+  }
+  if (namesSecret(rest + address.mid(end))) return replacement(value);
+  return end == 0 ? value : result + address.mid(end);
+}
+
 QVariant replacedInText(const QVariant& value, int depth, const Replacement& replacement) {
   const QString text = value.toString();
+  if (isAddress(text)) return replacedInAddress(value, replacement);
   if (!namesSecret(text)) return value;
   const QVariant json = KZUtility::JSONValueFromString(text);
   const auto document = QJsonDocument::fromVariant(replaced(json, depth + 1, replacement));

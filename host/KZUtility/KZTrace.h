@@ -35,8 +35,8 @@ KZ_HOST_EXPORT void muteKZTrace();
 // "info", "warning" or "error".
 KZ_HOST_EXPORT const char* kzTraceLevelName(KZTraceLevel level);
 
-// The dictionary as the trace would show it: secrets replaced by "***", also in lists, in inner dictionaries
-// and in texts that hold JSON. For hosts that show contents.
+// The dictionary as the trace would show it: secrets replaced by "***", also in lists, in inner dictionaries,
+// in texts that hold JSON and in the parameters of addresses. For hosts that show contents.
 KZ_HOST_EXPORT Dictionary kzMaskSecrets(const Dictionary& dictionary);
 
 // What stands in a secret's place: asked with the value, or with a whole text that names a secret and is no

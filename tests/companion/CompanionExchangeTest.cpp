@@ -78,7 +78,7 @@ class CompanionExchangeTest : public testing::Test {
   QStringList notifications() {
     QStringList shown;
     for (const auto& event : log.events()) {
-      if (event->kind != InspectorEvent::Kind::Notification) continue;
+      if (event->kind != "Notification") continue;
       shown.append(event->title() + u' ' + event->content);
     }
     return shown;

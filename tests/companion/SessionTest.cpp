@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QImage>
 #include <QJsonArray>
 #include <QTemporaryDir>
@@ -11,18 +10,10 @@
 namespace {
 
 const QString kShow = QStringLiteral(R"({"command": 2})");
+const QString kShown = QStringLiteral(R"({"echo":"shown"})");
 
 SessionRun play(const QStringList& script, const QStringList& options = {}) {
   return runSessionWith(FAKE_PLUGIN, script, options);
-}
-
-// What the script prints after the window is shown and has become the key window.
-QStringList shown(const QStringList& script) {
-  SessionRun run = play(QStringList{kShow, R"({"echo": "shown"})"} + script);
-  EXPECT_EQ(run.complaints, "");
-  const qsizetype start = run.lines.indexOf(R"({"echo":"shown"})");
-  EXPECT_GE(start, 0) << qPrintable(run.lines.join(u'\n'));
-  return run.lines.mid(start + 1);
 }
 
 QString happened(const char* content) {
@@ -43,75 +34,111 @@ QJsonObject viewNamed(const QJsonObject& view, const QString& name) {
   return {};
 }
 
-TEST(Session, PrintsWhatCrossesTheBorderInOrder) {
-  const SessionRun run = play({
-      R"({"echo": {"mark": [1, 0.5]}})",
-      R"({"command": 77, "content": {"n": 3, "f": true, "gone": null, "bytes": {"$data": "AP8="}}})",
-      R"({"command": 77})",
-      R"({"command": 20, "content": {"kproximityCommand": "@kstartDetectVD"}})",
-      R"({"command": 20, "content": {"kproximityCommand": "kstartDetectVD"}})",
-      R"({"notify": 7, "content": {}})",
-      R"({"notify": 8})",
-      R"({"command": 28})",
-      R"({"command": 8})",
-      R"({"command": 10})",
-      R"({"post": "HTTPAuthenticationRequired", "userInfo": {"a": 1}, "thread": "worker"})",
-      R"({"post": "HTTPAuthenticationRequired"})",
-      R"({"post": "HTTPAuthenticationDatasource"})",
-      R"({"command": 9, "content": {"password": "secret"}})",
-      R"({"echo": null})",
-  });
-  const QStringList expected = {
-      R"({"echo":{"mark":[1,0.5]}})",
-      R"({"sent":77,"name":"","content":{"bytes":{"$data":"AP8="},"f":true,"n":3}})",
-      R"({"sent":77,"name":"","content":null})",
-      R"({"sent":19,"name":"KZCmdSetVideoDevicePrefs","content":{"same":true}})",
-      R"({"sent":19,"name":"KZCmdSetVideoDevicePrefs","content":{"same":false}})",
-      R"({"sent":13,"name":"KZCmdPreferenceChanged","content":{"hasContent":true,"index":7}})",
-      R"({"sent":13,"name":"KZCmdPreferenceChanged","content":{"hasContent":false,"index":8}})",
-      R"({"sent":29,"name":"KZCmdExchOnlineTokenGot","content":null})",
-      R"({"warning":{"message":"Message","title":"Title"}})",
-      R"({"opened":"https://example.com/a%20b"})",
-      R"({"posted":"HTTPAuthenticationDatasource","userInfo":{"a":1,"answered":true}})",
-      R"({"posted":"HTTPAuthenticationDatasource","userInfo":{"answered":true}})",
-      R"({"echo":null})",
-  };
-  EXPECT_EQ(textOf(run.lines), textOf(expected));
-  EXPECT_EQ(run.complaints, "");
-  EXPECT_EQ(run.status, 0);
-}
+struct Case {
+  const char* what;
+  QStringList script;
+  QStringList expected;
+  QStringList options = {};
+};
 
-TEST(Session, PrintsTraceOnlyWhenAsked) {
-  const SessionRun run = play({R"({"command": 9, "content": {"a": 1}})"}, {"--trace"});
-  ASSERT_EQ(run.lines.size(), 1);
-  EXPECT_EQ(run.object(0).value("trace"), "warning");
-  EXPECT_EQ(run.object(0).value("method"), "FakeCore::handle");
-}
-
-TEST(Session, PrintsWritesWithoutTheirSecretsWhenAsked) {
-  const QStringList script = {
-      R"({"set": "store", "values": {"siteName": "one"}})",
-      R"({"set": "store", "values": {"siteName": "one"}})",
-      R"({"set": "store", "values": {"siteName": null}})",
-      R"({"set": "keychain", "username": "ann", "password": "p:w"})",
-      R"({"set": "keychain", "username": null, "password": null})",
+TEST(Session, PrintsWhatHappensInOrder) {
+  const Case cases[] = {
+      {"what the host does",
+       {
+           R"({"echo": {"mark": [1, 0.5]}})",
+           R"({"command": 77, "content": {"n": 3, "f": true, "gone": null, "bytes": {"$data": "AP8="}}})",
+           R"({"command": 77})",
+           R"({"command": 20, "content": {"kproximityCommand": "@kstartDetectVD"}})",
+           R"({"command": 20, "content": {"kproximityCommand": "kstartDetectVD"}})",
+           R"({"notify": 7, "content": {}})",
+           R"({"notify": 8})",
+           R"({"command": 28})",
+           R"({"command": 8})",
+           R"({"command": 10})",
+           R"({"post": "HTTPAuthenticationRequired", "userInfo": {"a": 1}, "thread": "worker"})",
+           R"({"post": "HTTPAuthenticationRequired"})",
+           R"({"post": "HTTPAuthenticationDatasource"})",
+           R"({"command": 9, "content": {"password": "secret"}})",
+           R"({"echo": null})",
+       },
+       {
+           R"({"echo":{"mark":[1,0.5]}})",
+           R"({"sent":77,"name":"","content":{"bytes":{"$data":"AP8="},"f":true,"n":3}})",
+           R"({"sent":77,"name":"","content":null})",
+           R"({"sent":19,"name":"KZCmdSetVideoDevicePrefs","content":{"same":true}})",
+           R"({"sent":19,"name":"KZCmdSetVideoDevicePrefs","content":{"same":false}})",
+           R"({"sent":13,"name":"KZCmdPreferenceChanged","content":{"hasContent":true,"index":7}})",
+           R"({"sent":13,"name":"KZCmdPreferenceChanged","content":{"hasContent":false,"index":8}})",
+           R"({"sent":29,"name":"KZCmdExchOnlineTokenGot","content":null})",
+           R"({"warning":{"message":"Message","title":"Title"}})",
+           R"({"opened":"https://example.com/a%20b"})",
+           R"({"posted":"HTTPAuthenticationDatasource","userInfo":{"a":1,"answered":true}})",
+           R"({"posted":"HTTPAuthenticationDatasource","userInfo":{"answered":true}})",
+           R"({"echo":null})",
+       }},
+      {"trace",
+       {R"({"command": 9, "content": {"password": "secret"}})"},
+       {R"({"trace":"warning","method":"FakeCore::handle","text":"content:{\"password\":\"***\"}"})"},
+       {"--trace"}},
+      {"writes, without their secrets",
+       {
+           R"({"set": "store", "values": {"siteName": "one"}})",
+           R"({"set": "store", "values": {"siteName": "one"}})",
+           R"({"set": "store", "values": {"siteName": null}})",
+           R"({"set": "keychain", "username": "ann", "password": "p:w"})",
+           R"({"set": "keychain", "username": null, "password": null})",
+       },
+       {
+           R"({"stored":"siteName","value":"one","before":null})",
+           R"({"stored":"siteName","value":null,"before":"one"})",
+           R"-({"kept":"OutlookAccount(Onpremise)"})-",
+           R"-({"removed":"OutlookAccount(Onpremise)"})-",
+       },
+       {"--writes"}},
+      {"what the host owns",
+       {
+           R"({"set": "store", "values": {"siteName": "s", "launchAtLogin": false, "videoDevice": {"a": 1}, "userName": "u"}})",
+           R"({"set": "store", "values": {"userName": null}})",
+           R"({"get": "store"})",
+           R"({"get": "keychain"})",
+           R"({"set": "keychain", "username": "u", "password": "p"})",
+           R"({"get": "keychain"})",
+           R"({"set": "keychain", "username": null, "password": null})",
+           R"({"get": "keychain"})",
+           R"({"set": "host", "checkForUpdatesInProgress": true, "siteEnableOutlook": false, "joinByNumberLink": "x:"})",
+           R"({"get": "host"})",
+           R"({"set": "host", "joinByNumberLink": null, "checkForUpdatesInProgress": false})",
+           R"({"get": "host"})",
+           R"({"personalRoom": {"join": "j", "sip": "s"}})",
+           R"({"personalRoom": {"join": ""}})",
+           R"({"get": "personalRoom"})",
+           R"({"get": "token", "email": "e"})",
+           R"({"get": "token"})",
+       },
+       {
+           R"({"result":{"launchAtLogin":false,"siteName":"s","videoDevice":{"a":1}}})",
+           R"({"result":{"outlookOnlineData":null,"outlookPassword":null,"outlookUsername":null}})",
+           R"({"result":{"outlookOnlineData":null,"outlookPassword":"p","outlookUsername":"u"}})",
+           R"({"result":{"outlookOnlineData":null,"outlookPassword":null,"outlookUsername":null}})",
+           R"({"result":{"checkForUpdatesInProgress":true,"joinByNumberLink":"x:","siteEnableOutlook":false}})",
+           R"({"result":{"checkForUpdatesInProgress":false,"joinByNumberLink":null,"siteEnableOutlook":false}})",
+           R"({"result":{"join":"","sip":"s"}})",
+           R"({"result":{"email":"e","hasUsername":false}})",
+           R"({"result":null})",
+       }},
+      {"comments, empty lines and ends of lines",
+       {"# {", "", "  ", " {\"echo\": 1}\r", "#", R"({"echo": 2})"},
+       {R"({"echo":1})", R"({"echo":2})"}},
   };
-  const QStringList expected = {
-      R"({"stored":"siteName","value":"one","before":null})",
-      R"({"stored":"siteName","value":null,"before":"one"})",
-      R"-({"kept":"OutlookAccount(Onpremise)"})-",
-      R"-({"removed":"OutlookAccount(Onpremise)"})-",
-  };
-  EXPECT_EQ(textOf(play(script, {"--writes"}).lines), textOf(expected));
-  EXPECT_EQ(textOf(play(script).lines), "");
+  for (const Case& given : cases) {
+    const SessionRun run = play(given.script, given.options);
+    EXPECT_EQ(textOf(run.lines), textOf(given.expected)) << given.what;
+    EXPECT_EQ(run.complaints, "") << given.what;
+    EXPECT_EQ(run.status, 0) << given.what;
+  }
 }
 
 TEST(Session, UserActions) {
-  struct Case {
-    const char* what;
-    QStringList script;
-    QStringList expected;
-  };
   const Case cases[] = {
       {"click",
        {R"({"click": "m_box"})"},
@@ -135,9 +162,11 @@ TEST(Session, UserActions) {
         R"({"refused":"m_covered is covered"})", R"({"refused":"m_off is disabled"})"}},
       {"scrolled into view", {R"({"click": "m_far"})"}, {happened(R"({"clicked":"far"})")}},
       {"same name in two groups", {R"({"click": "GroupB/m_same"})"}, {happened(R"({"clicked":"GroupB"})")}},
-      {"parents may be left out",
-       {R"({"click": "m_generalView/GroupA/m_same"})"},
-       {happened(R"({"clicked":"GroupA"})")}},
+      {"parents by name, by class, or left out",
+       {R"({"click": "m_generalView/GroupA/m_same"})", R"({"click": "FakePane/GroupB/m_same"})",
+        R"({"click": "FakePane/m_far"})"},
+       {happened(R"({"clicked":"GroupA"})"), happened(R"({"clicked":"GroupB"})"),
+        happened(R"({"clicked":"far"})")}},
       {"panes by label and by English label",
        {R"({"pane": "Konto"})", R"({"pane": "Meetings", "shift": true})"},
        {happened(R"({"pane":"Konto","shift":false})"), happened(R"({"pane":"Treffen","shift":true})")}},
@@ -153,86 +182,56 @@ TEST(Session, UserActions) {
        {R"({"echo":1})", happened(R"({"key":true})")}},
   };
   for (const Case& given : cases) {
-    const QStringList lines = shown(given.script);
-    EXPECT_EQ(textOf(lines), textOf(given.expected)) << given.what;
+    const SessionRun run = play(QStringList{kShow, kShown} + given.script);
+    EXPECT_EQ(textOf(run.lines.mid(run.lines.indexOf(kShown) + 1)), textOf(given.expected)) << given.what;
+    EXPECT_EQ(run.status, 0) << given.what;
   }
 }
 
 TEST(Session, DescribesTheWindow) {
-  const SessionRun none = play({R"({"get": "window"})"});
-  EXPECT_EQ(none.lines, QStringList{R"({"result":null})"});
+  EXPECT_EQ(play({R"({"get": "window"})"}).lines, QStringList{R"({"result":null})"});
 
   const SessionRun run = play({kShow, R"({"type": "m_field", "text": "x"})", R"({"get": "window"})"});
   const QJsonObject window = run.result();
-  EXPECT_EQ(window.value("controller"), "FakeWindowController");
-  EXPECT_EQ(window.value("title"), "Fake preferences");
-  EXPECT_EQ(window.value("visible"), true);
-  EXPECT_EQ(window.value("key"), true);
-  EXPECT_EQ(window.value("selected"), "Allgemein");
-  EXPECT_EQ(window.value("toolbar").toArray().size(), 5);
-  EXPECT_EQ(window.value("firstResponder"), "m_field");
-  EXPECT_EQ(window.value("animation").toObject().value("running"), false);
-
   const QJsonObject content = window.value("content").toObject();
-  const QJsonObject field = viewNamed(content, "m_field");
-  EXPECT_EQ(field.value("frame").toArray(), (QJsonArray{20, 560.25, 200, 22}));
-  EXPECT_EQ(field.value("text"), "x");
-  EXPECT_EQ(field.value("placeholder"), "Email");
-  EXPECT_EQ(field.value("secure"), false);
-  EXPECT_EQ(field.value("next"), "m_secret");
-  EXPECT_EQ(viewNamed(content, "m_secret").value("secure"), true);
-  const QJsonObject label = viewNamed(content, "m_label");
-  EXPECT_EQ(label.value("color"), "red");
-  EXPECT_EQ(label.value("alignment"), "right");
-  EXPECT_EQ(label.value("font").toObject(), (QJsonObject{{"size", 13}, {"bold", false}}));
-  EXPECT_EQ(viewNamed(content, "m_link").value("color"), "blue");
-  EXPECT_EQ(viewNamed(content, "m_spinner").value("animating"), true);
-  EXPECT_EQ(viewNamed(content, "m_hidden").value("hidden"), true);
-  EXPECT_EQ(viewNamed(content, "m_off").value("enabled"), false);
-  const QJsonObject popUp = viewNamed(content, "m_popup");
-  EXPECT_EQ(popUp.value("text"), "7");
-  EXPECT_EQ(popUp.value("items").toArray(), (QJsonArray{"5", "10", "15"}));
-
-  const QJsonArray drawn = viewNamed(content, "m_generalView").value("children").toArray();
-  EXPECT_EQ(drawn.last().toObject(), (QJsonObject{{"class", "drawn"},
-                                                  {"text", "Drawn"},
-                                                  {"frame", QJsonArray{20, 590.5, 120, 16}},
-                                                  {"font", QJsonObject{{"size", 16}, {"bold", true}}},
-                                                  {"alignment", "center"}}));
-}
-
-TEST(Session, GetsAndSetsTheHost) {
-  const SessionRun run = play({
-      R"({"set": "store", "values": {"siteName": "s", "launchAtLogin": false, "videoDevice": {"a": 1}, "userName": "u"}})",
-      R"({"set": "store", "values": {"userName": null}})",
-      R"({"get": "store"})",
-      R"({"get": "keychain"})",
-      R"({"set": "keychain", "username": "u", "password": "p"})",
-      R"({"get": "keychain"})",
-      R"({"set": "keychain", "username": null, "password": null})",
-      R"({"get": "keychain"})",
-      R"({"set": "host", "checkForUpdatesInProgress": true, "siteEnableOutlook": false, "joinByNumberLink": "x:"})",
-      R"({"get": "host"})",
-      R"({"set": "host", "joinByNumberLink": null, "checkForUpdatesInProgress": false})",
-      R"({"get": "host"})",
-      R"({"personalRoom": {"join": "j", "sip": "s"}})",
-      R"({"personalRoom": {"join": ""}})",
-      R"({"get": "personalRoom"})",
-      R"({"get": "token", "email": "e"})",
-      R"({"get": "token"})",
-  });
-  const QStringList expected = {
-      R"({"result":{"launchAtLogin":false,"siteName":"s","videoDevice":{"a":1}}})",
-      R"({"result":{"outlookOnlineData":null,"outlookPassword":null,"outlookUsername":null}})",
-      R"({"result":{"outlookOnlineData":null,"outlookPassword":"p","outlookUsername":"u"}})",
-      R"({"result":{"outlookOnlineData":null,"outlookPassword":null,"outlookUsername":null}})",
-      R"({"result":{"checkForUpdatesInProgress":true,"joinByNumberLink":"x:","siteEnableOutlook":false}})",
-      R"({"result":{"checkForUpdatesInProgress":false,"joinByNumberLink":null,"siteEnableOutlook":false}})",
-      R"({"result":{"join":"","sip":"s"}})",
-      R"({"result":{"email":"e","hasUsername":false}})",
-      R"({"result":null})",
+  EXPECT_EQ(window.value("toolbar").toArray().size(), 5);
+  EXPECT_EQ(window.value("animation").toObject().value("running"), false);
+  // Of the window where no view is named.
+  const struct {
+    const char* view;
+    const char* key;
+    QJsonValue value;
+  } cases[] = {
+      {"", "controller", "FakeWindowController"},
+      {"", "title", "Fake preferences"},
+      {"", "key", true},
+      {"", "selected", "Allgemein"},
+      {"", "firstResponder", "m_field"},
+      {"m_field", "frame", QJsonArray{20, 560.25, 200, 22}},
+      {"m_field", "text", "x"},
+      {"m_field", "placeholder", "Email"},
+      {"m_field", "secure", false},
+      {"m_field", "next", "m_secret"},
+      {"m_secret", "secure", true},
+      {"m_label", "color", "red"},
+      {"m_label", "alignment", "right"},
+      {"m_label", "font", QJsonObject{{"size", 13}, {"bold", false}}},
+      {"m_link", "color", "blue"},
+      {"m_box", "state", 0},
+      {"m_off", "enabled", false},
+      {"m_hidden", "hidden", true},
+      {"m_spinner", "animating", true},
+      {"m_popup", "items", QJsonArray{"5", "10", "15"}},
   };
-  EXPECT_EQ(textOf(run.lines), textOf(expected));
+  for (const auto& [view, key, value] : cases)
+    EXPECT_EQ((*view ? viewNamed(content, view) : window).value(key), value) << view << ' ' << key;
+
+  const QJsonArray children = viewNamed(content, "m_generalView").value("children").toArray();
+  EXPECT_EQ(children.last().toObject(), (QJsonObject{{"class", "drawn"},
+                                                     {"text", "Drawn"},
+                                                     {"frame", QJsonArray{20, 590.5, 120, 16}},
+                                                     {"font", QJsonObject{{"size", 16}, {"bold", true}}},
+                                                     {"alignment", "center"}}));
 }
 
 TEST(Session, TokensGoThroughTheCache) {
@@ -287,6 +286,9 @@ TEST(Session, StepsThatCannotBePlayedEndIt) {
       {R"({"click": "m_nothing"})", "there is no control m_nothing"},
       {R"({"click": "m_same"})",
        "m_same is not unique: m_generalView/GroupA/m_same, m_generalView/GroupB/m_same"},
+      {R"({"click": "QWidget/m_same"})", "QWidget/m_same is not unique: "},
+      {R"({"click": "GroupA/QRadioButton"})", "there is no control GroupA/QRadioButton"},
+      {R"({"click": "GroupA/FakePane/m_same"})", "there is no control GroupA/FakePane/m_same"},
       {R"({"click": "m_box", "shift": 1})", R"("shift" is not true or false)"},
       {R"({"type": "m_box", "text": "a"})", "m_box is not a text field"},
       {R"({"choose": "m_popup", "item": "99"})", "there is no item 99"},
@@ -313,14 +315,15 @@ TEST(Session, StepsThatCannotBePlayedEndIt) {
   }
 }
 
+// A part of a line that is too long must not be played as a line of its own.
+TEST(Session, ALineOfMoreThan64MBEndsIt) {
+  const SessionRun run = play({R"({"echo": 1})", u'#' + QString(64 * 1024 * 1024, u' ') + R"({"echo": 2})"});
+  EXPECT_EQ(textOf(run.lines), R"({"echo":1}
+{"error":"the line is too long","line":2})");
+}
+
 TEST(Session, APluginThatCannotBeLoadedIsStatusThree) {
-  const QTemporaryDir folder;
-  const QString damaged = folder.filePath("damaged.so");
-  QFile file(damaged);
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write("no library");
-  file.close();
-  for (const QString& plugin : {QStringLiteral("/nowhere/plugin.so"), damaged}) {
+  for (const QString& plugin : {QStringLiteral("/nowhere/plugin.so"), QStringLiteral(PREFS_SESSION)}) {
     const SessionRun run = runSessionWith(plugin, {R"({"echo": 1})"});
     EXPECT_EQ(run.status, 3);
     EXPECT_TRUE(run.complaints.contains(plugin)) << qPrintable(run.complaints);

@@ -2,11 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <QBuffer>
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include "companion/session/StepReader.h"
 #include "host/KZFoundation/KZConstants.h"
 
 namespace {
@@ -50,19 +48,6 @@ TEST(ValueCodec, AConstantIsTheVeryObjectAndAnEqualTextIsNot) {
   EXPECT_EQ(constant.constData(), kstartDetectVD.constData());
   EXPECT_EQ(equal, kstartDetectVD);
   EXPECT_NE(equal.constData(), kstartDetectVD.constData());
-}
-
-TEST(StepReader, SkipsCommentsAndCountsEveryLine) {
-  QBuffer script;
-  script.setData("# first\n\n  {\"echo\":1}\r\n\n{\"echo\":2}\nno\n");
-  script.open(QIODevice::ReadOnly);
-  StepReader reader(&script);
-  ASSERT_EQ(reader.next(), StepReader::Answer::Step);
-  EXPECT_EQ(reader.lineNumber(), 3);
-  ASSERT_EQ(reader.next(), StepReader::Answer::Step);
-  EXPECT_EQ(reader.step().value("echo").toInt(), 2);
-  EXPECT_EQ(reader.next(), StepReader::Answer::Unreadable);
-  EXPECT_EQ(reader.lineNumber(), 6);
 }
 
 }  // namespace

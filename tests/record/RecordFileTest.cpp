@@ -2,7 +2,9 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QSignalSpy>
 
+#include "companion/app/Recording.h"
 #include "companion/record/RecordFile.h"
 #include "tests/record/PlayedRecord.h"
 
@@ -45,6 +47,27 @@ TEST(RecordFile, AFailureEndsTheRecordAndNotTheSession) {
   const SessionRun unmade = runSession(script, {"--record", "/nowhere/at/all"});
   EXPECT_EQ(unmade.status, 2);
   EXPECT_TRUE(unmade.lines.isEmpty());
+}
+
+TEST(Recording, SaysWhatBecomesOfIt) {
+  const QTemporaryDir folder;
+  const QString path = folder.filePath("record.jsonl");
+  PluginHost host;
+  Recording recording(&host);
+  QSignalSpy noticed(&recording, &Recording::noticed);
+  QSignalSpy changed(&recording, &Recording::changed);
+  EXPECT_FALSE(recording.start("/nowhere/at/all"));
+  EXPECT_TRUE(noticed.takeFirst().first().toString().contains("Choose another place"));
+  ASSERT_TRUE(recording.start(path));
+  EXPECT_TRUE(noticed.takeFirst().first().toString().contains(path));
+  recording.stop();
+  EXPECT_EQ(changed.size(), 2);
+  // A full disk.
+  ASSERT_TRUE(recording.start("/dev/full"));
+  noticed.clear();
+  ASSERT_TRUE(noticed.wait(1000));
+  EXPECT_FALSE(recording.isRunning());
+  EXPECT_TRUE(noticed.first().first().toString().contains("Make room"));
 }
 
 }  // namespace

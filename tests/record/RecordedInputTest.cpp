@@ -29,6 +29,7 @@ using namespace std::chrono_literals;
 class RecordedInput : public testing::Test {
  protected:
   void SetUp() override {
+    record();
     ASSERT_TRUE(m_host.load(PREFERENCES));
     m_host.trigger(KZCommand::KZCmdShowPreference);
     eventpump::settle();
@@ -36,6 +37,13 @@ class RecordedInput : public testing::Test {
     m_lines.clear();
   }
   void TearDown() override { KZPlistFileHandle::sharedInstance().close(); }
+
+  void record() {
+    m_recorder.reset();
+    m_recorder.emplace(
+        &m_host, [this](const QByteArray& line) { return m_lines.append(QString::fromUtf8(line)), true; },
+        Recorder::Options{.clock = [] { return 0ms; }});
+  }
 
   static Window* window() { return findPreferencesWindow(); }
   static QWidget* control(const QString& name) {
@@ -61,14 +69,9 @@ class RecordedInput : public testing::Test {
 
   QString steps() const { return stepsIn(m_lines).join(u'\n'); }
 
-  PluginHost m_host{[](const QUrl&) { return true; }};
+  PluginHost m_host;
   QStringList m_lines;
-  Recorder m_recorder{&m_host,
-                      [this](const QByteArray& line) {
-                        m_lines.append(QString::fromUtf8(line));
-                        return true;
-                      },
-                      {.clock = [] { return 0ms; }}};
+  std::optional<Recorder> m_recorder;
 };
 
 TEST_F(RecordedInput, ClicksAndPanes) {
@@ -181,44 +184,18 @@ TEST_F(RecordedInput, AWarningThatIsReadIsAComment) {
       << qPrintable(m_lines.join(u'\n'));
 }
 
-TEST(RecorderLife, ARecorderMayComeAndGoInTheMiddleOfAnInput) {
-  PluginHost host([](const QUrl&) { return true; });
-  ASSERT_TRUE(host.load(PREFERENCES));
-  host.trigger(KZCommand::KZCmdShowPreference);
-  eventpump::settle();
-  Window* window = findPreferencesWindow();
-  window->controller()->setProperty("crossFade", false);
-  QStringList lines;
-  std::optional<Recorder> recorder;
-  const auto record = [&] {
-    recorder.reset();
-    recorder.emplace(
-        &host,
-        [&lines](const QByteArray& line) {
-          lines.append(QString::fromUtf8(line));
-          return true;
-        },
-        Recorder::Options{.clock = [] { return 0ms; }});
-  };
-  const auto clickOn = [window](const char* pane) {
-    const QWidget* button = toolBarOf(*window)->widgetForAction(paneItemNamed(*window, pane));
-    QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {},
-                      button->mapTo(window, button->rect().center()));
-    eventpump::settle();
-  };
-  record();
-  const auto again =
-      QObject::connect(paneItemNamed(*window, "Meetings"), &QAction::triggered, window, [&] { record(); });
-  clickOn("Meetings");
+TEST_F(RecordedInput, ARecorderMayComeAndGoInTheMiddleOfAnInput) {
+  const QMetaObject::Connection again = QObject::connect(paneItemNamed(*window(), "Meetings"),
+                                                         &QAction::triggered, window(), [this] { record(); });
+  showPane("Meetings");
   QObject::disconnect(again);
-  lines.clear();
-  clickOn("Notifications");
-  EXPECT_EQ(stepsIn(lines).join(u' ').toStdString(), "{\"pane\":\"Notifications\"}");
-  KZPlistFileHandle::sharedInstance().close();
+  m_lines.clear();
+  showPane("Notifications");
+  EXPECT_EQ(steps().toStdString(), "{\"pane\":\"Notifications\"}");
 }
 
-TEST(RecorderLife, AnEndWaitsForWhatAWorkerTells) {
-  PluginHost host([](const QUrl&) { return true; });
+TEST(RecorderLife, AnEndWaitsForAWorkersLine) {
+  PluginHost host;
   ASSERT_TRUE(host.load(PREFERENCES));
   std::atomic<bool> isEnough = false;
   std::atomic<int> posted = 0;
@@ -245,7 +222,7 @@ TEST(RecorderLife, AnEndWaitsForWhatAWorkerTells) {
   worker.join();
 }
 
-TEST_F(RecordedInput, AnotherWindowIsNoneOfItsBusiness) {
+TEST_F(RecordedInput, InputForAnotherWindowIsNoStep) {
   QLineEdit field;
   field.show();
   QTest::keyClick(field.windowHandle(), Qt::Key_A);

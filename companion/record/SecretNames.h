@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QHash>
+#include <QJsonValue>
+#include <QList>
+#include <QString>
+#include <QVariant>
+
+// Gives every secret a name of its own, "secret-1" and so on, and puts the names in the secrets' places. A
+// text that is such a name stands for itself, so that a record of a played record has the same names. One
+// thread at a time.
+class SecretNames final {
+ public:
+  // The secret's name; from then on the secret is also replaced inside other texts. An empty text is no
+  // secret.
+  QString nameOf(const QString& secret);
+
+  // The value of a line's member without secrets: those that kzReplaceSecrets finds, and known ones. What
+  // names a step, a control or an item stays, whatever the passwords are.
+  QJsonValue withoutSecrets(const QString& member, const QJsonValue& value);
+
+ private:
+  QVariant named(const QVariant& secret);
+  QVariant namedData(const QString& base64);
+  QVariant withoutKnown(const QVariant& value) const;
+  QString withoutKnown(const QString& text) const;
+
+  QHash<QString, QString> m_names;             // by secret
+  QHash<quint64, QList<qsizetype>> m_lengths;  // of the secrets that begin alike, longest first
+  int m_lastNumber = 0;
+};
