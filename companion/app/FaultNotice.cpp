@@ -66,7 +66,6 @@ QLabel* createFaultNotice(QWidget* parent) {
   notice->setObjectName(QStringLiteral("m_faultNotice"));
   notice->setWordWrap(true);
   notice->setTextFormat(Qt::PlainText);
-  notice->setFrameShape(QFrame::Box);
   notice->setMargin(kNoticeGap);
   notice->setAutoFillBackground(true);
   notice->setBackgroundRole(QPalette::ToolTipBase);
