@@ -3,9 +3,9 @@
 #include <memory>
 
 #include "bench/BenchHost.h"
+#include "bench/FrameWatch.h"
 #include "bench/PlainWindow.h"
 #include "bench/Rounds.h"
-#include "bench/FrameWatch.h"
 #include "companion/runtime/PluginHost.h"
 #include "companion/runtime/PreferencesWindow.h"
 #include "host/KZFoundation/KZCommands.h"
