@@ -7,7 +7,8 @@ MAKEFLAGS += --no-print-directory
 JOBS ?= $(shell nproc)
 BUILD ?= build
 SANITIZE_BUILD ?= build-sanitize
-TEST_JOBS ?= $(JOBS)
+# Tests wait more than they compute.
+TEST_JOBS ?= $(shell expr 2 \* $(JOBS))
 
 CONFIGURE = cmake -S . -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo
 NINJA = ninja -C $(BUILD) -j $(JOBS)
