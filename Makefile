@@ -1,4 +1,4 @@
-# The one place that people and machines start from: see docs/contributing.md.
+# The entry point for developers and CI: see docs/contributing.md.
 SHELL := /usr/bin/env bash
 .SHELLFLAGS := -euo pipefail -c
 .DEFAULT_GOAL := build
@@ -59,7 +59,7 @@ clean:
 packages:
 	@tools/install-packages.sh
 
-# Once; ninja itself configures again when a CMake file changed.
+# Configures once; after that, ninja configures again when a CMake file has changed.
 $(BUILD)/build.ninja: | packages
 	@$(CONFIGURE) -B $(BUILD)
 
