@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QString>
+#include <memory>
 
 #include "companion/app/RedirectQuestion.h"
 #include "companion/exchange/ExchangeDiscovery.h"
@@ -21,9 +22,10 @@ class CompanionExchange final : public QObject {
   void message(const QString& text);  // for the user
 
  private:
-  void useNetwork();
+  void start(const Dictionary& content);
 
+  PluginHost* m_host;
   ServiceNetwork* m_network;
   RedirectQuestion m_question;
-  ExchangeDiscovery m_discovery;
+  std::unique_ptr<ExchangeDiscovery> m_discovery;  // the last one
 };
