@@ -1,4 +1,4 @@
-# The one place that people and machines start from: see docs/contributing.md.
+# The entry point for developers and CI: see docs/contributing.md.
 SHELL := /usr/bin/env bash
 .SHELLFLAGS := -euo pipefail -c
 .DEFAULT_GOAL := build
@@ -7,7 +7,8 @@ MAKEFLAGS += --no-print-directory
 JOBS ?= $(shell nproc)
 BUILD ?= build
 SANITIZE_BUILD ?= build-sanitize
-TEST_JOBS ?= $(JOBS)
+# Tests wait more than they compute.
+TEST_JOBS ?= $(shell expr 2 \* $(JOBS))
 
 CONFIGURE = cmake -S . -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo
 NINJA = ninja -C $(BUILD) -j $(JOBS)
@@ -58,7 +59,7 @@ clean:
 packages:
 	@tools/install-packages.sh
 
-# Once; ninja itself configures again when a CMake file changed.
+# Configures once; after that, ninja configures again when a CMake file has changed.
 $(BUILD)/build.ninja: | packages
 	@$(CONFIGURE) -B $(BUILD)
 

@@ -26,7 +26,7 @@ bool isLoopbackRedirect(const QUrl& address) {
          address.userInfo().isEmpty();
 }
 
-// QUrlQuery leaves a "+" as it is, which every server reads as a blank.
+// QUrlQuery does not encode "+", which servers decode as a space.
 QByteArray encodedParameters(const ADParameters& parameters) {
   QByteArray encoded;
   for (const auto& [name, value] : parameters) {

@@ -11,7 +11,7 @@
 // Whether secrets may be sent there: https, or plain http to the loopback address.
 bool isAllowedAddress(const QUrl& address);
 
-// A redirect address that a listener of ours can answer: plain http to the loopback address.
+// Whether the loopback listener can receive the redirect: plain http to the loopback address.
 bool isLoopbackRedirect(const QUrl& address);
 
 // Names and values of a form or a query, in order.
@@ -20,5 +20,5 @@ using ADParameters = QList<std::pair<QString, QString>>;
 QByteArray encodedParameters(const ADParameters& parameters);
 ADParameters decodedParameters(QByteArrayView encoded);
 
-// Nothing when the name is missing or is there twice, which only a forged answer has.
+// Nothing when the name is missing or occurs twice, as it does only in a forged response.
 std::optional<QString> onlyValue(const ADParameters& parameters, const QString& name);

@@ -49,7 +49,7 @@ void ADAuthenticationContext::acquireTokenWithResource(
   d->signIns.push_back(signIn);
 }
 
-// The redirect address has no part in a refresh.
+// A refresh does not use the redirect address.
 void ADAuthenticationContext::acquireTokenWithRefreshToken(const QString& refreshToken,
                                                            const QString& resource, const QString& clientId,
                                                            const QUrl& /*redirectUri*/,

@@ -10,9 +10,9 @@
 
 enum class ADAuthorityValidation { Off };
 
-// Gets tokens from one authority and stores them in the default cache. Main thread only; nothing blocks.
-// Every request is answered once, from the event loop. Destroying the context gives up its requests
-// unanswered.
+// Gets tokens from one authority and stores them in the default cache. Main thread only; nothing blocks. Each
+// completion is called once, from the event loop. Destroying the context cancels its requests without calling
+// their completions.
 class ADAL_EXPORT ADAuthenticationContext final {
  public:
   // Null, with the reason in `error`, for an authority that is neither https nor http to the loopback
@@ -22,8 +22,8 @@ class ADAL_EXPORT ADAuthenticationContext final {
   ~ADAuthenticationContext();
   Q_DISABLE_COPY_MOVE(ADAuthenticationContext)
 
-  // Signs a user in, in the system's browser. A request that equals one that still waits joins it: it opens
-  // no second browser and gets the same answer.
+  // Signs a user in, in the system's browser. A request equal to one in progress joins it: it opens no second
+  // browser and gets the same result.
   void acquireTokenWithResource(const QString& resource, const QString& clientId, const QUrl& redirectUri,
                                 ADPromptBehavior promptBehavior, const ADUserIdentifier& userIdentifier,
                                 const QString& extraQueryParameters, const QString& claims,

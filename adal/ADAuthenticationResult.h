@@ -8,7 +8,7 @@
 
 enum class ADAuthenticationStatus { Succeeded = 0, UserCancelled = 1, Failed = 2 };
 
-// How a request ended: with an access token's item, or with an error.
+// The result of a request: the access token's cache item, or an error.
 struct ADAuthenticationResult {
   ADAuthenticationStatus status = ADAuthenticationStatus::Failed;
   std::optional<ADError> error;

@@ -10,14 +10,14 @@
 
 class ADTokenCacheDelegate;
 
-// What every request of one kind is bounded by.
+// Limits of every request.
 struct ADRequestLimits {
-  std::chrono::milliseconds signIn = std::chrono::minutes(10);    // from the browser's start to its answer
-  std::chrono::milliseconds transfer = std::chrono::seconds(30);  // a whole exchange with the authority
+  std::chrono::milliseconds signIn = std::chrono::minutes(10);    // from the browser's start to its redirect
+  std::chrono::milliseconds transfer = std::chrono::seconds(30);  // from a request to its complete response
   qint64 answerBytes = 1024 * 1024;
 };
 
-// What the host decides for the whole library. Set up on the main thread before the first request, read from
+// The settings of the whole library. Set them on the main thread before the first request; they are read on
 // any thread.
 class ADAL_EXPORT ADAuthenticationSettings final {
  public:
@@ -26,7 +26,7 @@ class ADAL_EXPORT ADAuthenticationSettings final {
 
   static ADAuthenticationSettings& sharedInstance();
 
-  // Keeps the default token cache. Not owned.
+  // Stores the default token cache. Not owned.
   void setDefaultStorageDelegate(ADTokenCacheDelegate* delegate);
 
   // An empty function restores the default: the desktop's browser, the English text.

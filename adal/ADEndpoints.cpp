@@ -10,7 +10,7 @@
 namespace {
 
 constexpr ADProtocolGeneration resourceGeneration{"resource", "openid", "login"};
-// A refresh token that is asked for by scope is only given where consent is asked for, too.
+// With scopes, a refresh token is granted only when consent is requested too.
 constexpr ADProtocolGeneration scopeGeneration{"scope", "openid profile email offline_access",
                                                "login consent"};
 
@@ -25,8 +25,8 @@ QStringList textsUnder(const QJsonObject& document, const char* key) {
   return texts;
 }
 
-// An authority that hands out refresh tokens by scope says so in its document, or by its address where it has
-// none.
+// An authority that grants refresh tokens by scope lists that scope in its configuration, or has a version in
+// its address.
 const ADProtocolGeneration& generationOf(const QString& authority, const QStringList& knownScopes) {
   const QString path = QUrl(authority).path(QUrl::FullyEncoded);
   const bool takesScopes = knownScopes.contains(QLatin1String("offline_access")) ||
@@ -34,7 +34,8 @@ const ADProtocolGeneration& generationOf(const QString& authority, const QString
   return takesScopes ? scopeGeneration : resourceGeneration;
 }
 
-// A bare host stands for all that it offers; anything longer is a scope, or several, already.
+// A resource that is only a host becomes the scope for all of its permissions; anything longer is a list of
+// scopes already.
 QString scopeForResource(const QString& resource) {
   const QUrl address(resource, QUrl::StrictMode);
   const bool isBareHost = !address.host().isEmpty() &&

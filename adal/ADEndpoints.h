@@ -12,11 +12,11 @@
 class ADWebClient;
 struct ADWebAnswer;
 
-// How one generation of authorities expects to be asked.
+// The request parameters of one generation of authorities.
 struct ADProtocolGeneration {
   const char* resourceParameter;  // the parameter that names the resource
-  const char* scopes;             // always asked for, as far as the authority knows them
-  const char* alwaysPrompt;       // shows the sign-in page in any case, and still gets a refresh token
+  const char* scopes;             // always requested, unless the authority does not list them
+  const char* alwaysPrompt;       // always shows the sign-in page, and still gets a refresh token
 };
 
 // An authority's addresses, and the parameters that it expects.
@@ -26,7 +26,7 @@ struct ADEndpoints {
   const ADProtocolGeneration* generation = nullptr;
   QStringList knownScopes;  // empty: not known
 
-  // "resource" and "scope", as the generation has them.
+  // "resource" and "scope", as the generation expects them.
   ADParameters resourceParameters(const QString& resource) const;
   ADParameters promptParameters(ADPromptBehavior behavior) const;
 };

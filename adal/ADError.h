@@ -8,17 +8,17 @@ enum class ADErrorCode {
   InvalidArgument,    // an address, client or redirect that cannot be used
   AddressNotAllowed,  // neither https nor http to the loopback address
   CacheFormat,        // stored data that this version cannot read
-  CacheBusy,          // the cache was asked from inside its own storage delegate
-  Network,            // refused, broken, too slow
+  CacheBusy,          // the cache was used from inside its own storage delegate
+  Network,            // connection refused, broken or too slow
   ServerAnswer,       // the authority's answer cannot be used
-  InvalidGrant,       // the code or refresh token is not accepted any more
-  InvalidScope,       // the grant does not cover the scopes that were asked for
+  InvalidGrant,       // the code or refresh token is no longer accepted
+  InvalidScope,       // the grant does not cover the requested scopes
   Refused,            // the authority refused: access_denied and the like
   UserCancelled,
-  TimedOut,  // the browser never came back
+  TimedOut,  // no redirect from the browser in time
 };
 
-// Why something failed. Fit for traces: never holds a token, a code or text that the authority made up.
+// Why something failed. Safe to trace: contains no token, no code and no text of the authority's own.
 struct ADAL_EXPORT ADError {
   ADErrorCode code = ADErrorCode::InvalidArgument;
   QString details;

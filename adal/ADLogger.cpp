@@ -51,6 +51,6 @@ void ADLogger::log(ADLogLevel level, const QString& message, ADPii pii) {
     if (loggerState().systemLog) qInfo("%s", qUtf8Printable(message));
     callback = loggerState().callback;
   }
-  // Outside the lock: a callback may log, or be replaced, itself.
+  // Without the lock, because the callback may log or replace itself.
   if (callback) callback(message, level, containsPii);
 }

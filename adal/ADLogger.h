@@ -8,8 +8,8 @@
 enum class ADLogLevel { NoLog = 0, Error = 1, Warn = 2, Info = 3, Verbose = 4 };
 enum class ADPii { Absent, Contained };
 
-// The library's log. No message ever holds a token, a code or a verifier, with or without personal data. Any
-// thread.
+// The library's log. No message contains a token, a code or a verifier, whether personal data is enabled or
+// not. Any thread.
 class ADAL_EXPORT ADLogger final {
  public:
   using Callback = std::function<void(const QString& message, ADLogLevel level, bool containsPii)>;

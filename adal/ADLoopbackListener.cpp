@@ -46,7 +46,7 @@ std::optional<ADError> ADLoopbackListener::listen(const QUrl& redirectUri) {
   const QHostAddress named(redirectUri.host());
   const QHostAddress address = named.protocol() == QAbstractSocket::IPv6Protocol ? QHostAddress::LocalHostIPv6
                                                                                  : QHostAddress::LocalHost;
-  // The application's proxy must not stand before the loopback address.
+  // The application's proxy must not be used for the loopback address.
   m_server.setProxy(QNetworkProxy::NoProxy);
   if (!m_server.listen(address, static_cast<quint16>(redirectUri.port(0)))) {
     return ADError{ADErrorCode::Network, QStringLiteral("the callback port cannot be opened")};
@@ -65,7 +65,7 @@ void ADLoopbackListener::accept() {
       socket->deleteLater();
     });
     QTimer::singleShot(longestConnection, socket, [socket] { socket->abort(); });
-    // Idle connections must not keep the browser out.
+    // The oldest connection is closed, so that idle ones cannot keep the browser from connecting.
     if (m_sockets.size() > mostConnections) m_sockets.first()->abort();
   }
 }

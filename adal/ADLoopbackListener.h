@@ -12,8 +12,8 @@
 
 class QTcpSocket;
 
-// Receives one sign-in's answer from the browser, on the loopback address only. Garbage gets an error page
-// and changes nothing; the first answer that the receiver takes closes the port.
+// Receives one sign-in's redirect from the browser, on the loopback address only. An invalid request gets an
+// error page and changes nothing; the first answer that the receiver accepts closes the port.
 class ADLoopbackListener final : public QObject {
  public:
   enum class Verdict { Taken, NotOurs };
@@ -22,10 +22,10 @@ class ADLoopbackListener final : public QObject {
   explicit ADLoopbackListener(Receiver receiver);
   ~ADLoopbackListener() override;
 
-  // At the port that the address names, or a free one.
+  // At the port in the address, or a free one.
   [[nodiscard]] std::optional<ADError> listen(const QUrl& redirectUri);
 
-  // Takes no answer any more.
+  // Accepts no further answer.
   void close() { m_server.close(); }
 
   // The address with its port, once it listens.

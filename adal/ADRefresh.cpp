@@ -53,13 +53,13 @@ void ADRefresh::onAnswer(const ADTokenAnswerOrError& answer) {
     store(answer.answer);
     return;
   }
-  // An authority that granted less than was asked for takes no more now: without scopes it gives what it
-  // granted.
+  // An authority that granted fewer scopes than were requested refuses to refresh all of them. Without scopes
+  // in the request it refreshes those that it granted.
   if (answer.error->code == ADErrorCode::InvalidScope && std::exchange(m_namesScopes, false)) {
     redeem(m_holder ? m_holder->refreshToken : m_request.refreshToken);
     return;
   }
-  // Another process may have redeemed this token meanwhile and stored what came of it.
+  // Another process may have redeemed this token and stored its successor.
   const bool mayRetry =
       answer.error->code == ADErrorCode::InvalidGrant && !std::exchange(m_hasTriedSuccessor, true);
   const std::optional<ADTokenCacheItem> newer = mayRetry ? successor() : std::nullopt;
@@ -74,7 +74,7 @@ void ADRefresh::onAnswer(const ADTokenAnswerOrError& answer) {
 }
 
 std::optional<ADTokenCacheItem> ADRefresh::successor() const {
-  // The user of a token that was not stored is unknown, and another user's token must not be tried.
+  // The user of a token that is not in the cache is unknown, and another user's token must not be tried.
   if (!m_holder) return {};
   const QList<ADTokenCacheItem> items = ADTokenCache::defaultCache().allItems().items;
   const auto found = std::find_if(items.begin(), items.end(), [this](const ADTokenCacheItem& item) {

@@ -10,7 +10,8 @@
 #include "adal/ADTokenAnswer.h"
 #include "adal/ADWebClient.h"
 
-// Redeems one refresh token. Destroying it gives up unanswered. No failure touches the stored tokens.
+// Redeems one refresh token. Destroying it cancels the request without calling the completion. A failure
+// leaves the stored tokens unchanged.
 class ADRefresh final : public QObject {
  public:
   ADRefresh(const ADRefreshRequest& request, ADAuthenticationCallback completion);

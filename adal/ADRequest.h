@@ -3,7 +3,7 @@
 #include <QString>
 #include <QUrl>
 
-enum class ADPromptBehavior { Auto = 0, Always = 1 };  // Always: the sign-in page is shown in any case
+enum class ADPromptBehavior { Auto = 0, Always = 1 };  // Always shows the sign-in page
 
 // The user that a sign-in is for.
 struct ADUserIdentifier {

@@ -36,7 +36,7 @@ bool canShowDialogs() {
   return qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr;
 }
 
-// The dialog or the listener may be the caller.
+// Deleted later, because the dialog or the listener may be the caller.
 template <typename T>
 void releaseLater(std::unique_ptr<T>& object) {
   if (object) object.release()->deleteLater();
@@ -158,7 +158,7 @@ void ADSignIn::showDialog(ADSignInDialog::Kind kind) {
 void ADSignIn::openBrowser() {
   if (ADAuthenticationSettings::sharedInstance().openBrowser(pageAddress())) return;
   ADLogger::log(ADLogLevel::Warn, QStringLiteral("sign-in: no browser opened"));
-  // With the dialog the user can take the address elsewhere.
+  // The user can still copy the address from the dialog.
   if (!m_dialog) fail({ADErrorCode::InvalidArgument, QStringLiteral("no browser opened")});
 }
 
@@ -182,7 +182,7 @@ ADLoopbackListener::Verdict ADSignIn::onCallback(const ADParameters& answer) {
   return Verdict::Taken;
 }
 
-// Users paste what they see: the code, or the whole address that the browser ended at.
+// Users may paste the code, or the whole address at which the browser ended.
 void ADSignIn::onCodeEntered(const QString& entered) {
   const qsizetype mark = entered.indexOf(QLatin1Char('?'));
   if (mark < 0) {

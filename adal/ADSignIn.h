@@ -12,17 +12,17 @@
 #include "adal/ADSignInDialog.h"
 #include "adal/ADWebClient.h"
 
-// One sign-in in the browser, shared by requests that are equal. When all of their owners have left, it ends
-// unanswered: the port is closed, the dialog is gone. Main thread only.
+// One sign-in in the browser, shared by equal requests. When all of their owners have left, it is cancelled:
+// the port and the dialog are closed. Main thread only.
 class ADSignIn final : public QObject, public std::enable_shared_from_this<ADSignIn> {
  public:
-  // The sign-in that waits for this very request, or a new one.
+  // The sign-in in progress for an equal request, or a new one.
   static std::shared_ptr<ADSignIn> forRequest(const ADSignInRequest& request);
 
   explicit ADSignIn(const ADSignInRequest& request);
   ~ADSignIn() override;
 
-  // `completion` is called when it ends, unless `owner` has left before.
+  // Calls `completion` with the result, unless `owner` leaves before.
   void join(const void* owner, ADAuthenticationCallback completion);
   void leave(const void* owner);
 

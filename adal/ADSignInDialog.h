@@ -8,8 +8,8 @@ class QLineEdit;
 class QPushButton;
 class QVBoxLayout;
 
-// Tells the user that a sign-in waits for the browser, and lets them cancel it; where the browser cannot hand
-// the answer over by itself, also takes the code. Does not block the rest of the application.
+// Shows that a sign-in waits for the browser, and lets the user cancel it. When the browser cannot be
+// redirected to the listener, it also asks for the code. It does not block the rest of the application.
 class ADSignInDialog final : public QDialog {
   Q_OBJECT
 

@@ -18,7 +18,7 @@ ADTokenAnswerOrError tokenFailure(ADErrorCode code, const QString& details) {
   return {{}, ADError{code, details}};
 }
 
-// Only names from the standards are repeated: an authority could put anything there, a secret too.
+// Only error names from the standards are copied: the authority could send any text, a secret included.
 ADTokenAnswerOrError refusal(int status, const QString& name) {
   if (name == QLatin1String("invalid_grant")) return tokenFailure(ADErrorCode::InvalidGrant, {});
   if (name == QLatin1String("invalid_scope")) return tokenFailure(ADErrorCode::InvalidScope, {});
@@ -32,7 +32,7 @@ ADTokenAnswerOrError refusal(int status, const QString& name) {
   return tokenFailure(ADErrorCode::ServerAnswer, QStringLiteral("status %1").arg(status));
 }
 
-// A token ends up in a header line, where nothing but visible characters may stand.
+// A token is sent in a header line, which may contain visible characters only.
 bool isTokenText(const QString& text) {
   return !text.isEmpty() &&
          std::all_of(text.begin(), text.end(), [](QChar c) { return c > u' ' && c < u'\x7f'; });
@@ -62,7 +62,7 @@ bool isForClient(const QJsonValue& audience, const QString& clientId) {
   return audience.isArray() ? audience.toArray().contains(clientId) : audience.toString() == clientId;
 }
 
-// Null when the text is no id_token of this client that names a user.
+// Null when the text is not an id_token for this client, or names no user.
 QString userOfIdToken(const QString& idToken, const QString& clientId) {
   const QList<QByteArray> parts = idToken.toUtf8().split('.');
   if (parts.size() != 3) return {};

@@ -10,12 +10,12 @@
 
 struct ADWebAnswer;
 
-// What a token endpoint granted.
+// The tokens that a token endpoint granted.
 struct ADTokenAnswer {
   QString accessToken;
-  QString refreshToken;  // empty: none came
+  QString refreshToken;  // empty when there was none
   QDateTime expiresOn;
-  QString userId;  // empty: no id_token came
+  QString userId;  // empty when there was no id_token
 };
 
 struct ADTokenAnswerOrError {
@@ -31,13 +31,14 @@ struct ADTokenTarget {
   QString clientId;
 };
 
-// An id_token that names no user, or is for another client, is an error. Its signature is not checked: it
-// comes straight from the token endpoint, which the connection has authenticated.
+// An id_token that names no user, or is for another client, is an error. Its signature is not checked,
+// because TLS has authenticated the token endpoint that it comes from.
 ADTokenAnswerOrError tokenAnswer(const ADWebAnswer& answer, const QString& clientId, const QDateTime& now);
 
 // The items to store for an answer, the refresh token's first, the access token's last. Every refresh token
-// counts as one for several resources: nothing in the protocol binds it to one, and a look-up needs both.
+// is stored as one for several resources: the protocol does not bind it to one, and a look-up needs both
+// items.
 QList<ADTokenCacheItem> itemsForAnswer(const ADTokenAnswer& answer, const ADTokenTarget& target);
 
-// Into the default cache, in one write.
+// Stores the items in the default cache in one write. A failure is logged.
 void storeItems(const QList<ADTokenCacheItem>& items);

@@ -86,7 +86,7 @@ ADTokenCache::Failure ADTokenCache::deserialize(const std::optional<QByteArray>&
     m_serialized = {};
     return {};
   }
-  // The storage is read before every access and seldom differs.
+  // The storage is read before every access and has seldom changed.
   if (!m_serialized.isNull() && isSameData(*data, m_serialized)) return {};
   std::optional<QList<ADTokenCacheItem>> items = deserializedTokens(*data);
   if (!items) return ADError{ADErrorCode::CacheFormat, QStringLiteral("not written by this version")};

@@ -19,32 +19,32 @@ class ADAL_EXPORT ADTokenCache final {
     QList<ADTokenCacheItem> items;
     std::optional<ADError> error;
   };
-  using Failure = std::optional<ADError>;  // nothing: it worked
+  using Failure = std::optional<ADError>;  // empty on success
 
   ADTokenCache();
   ~ADTokenCache();
   Q_DISABLE_COPY_MOVE(ADTokenCache)
 
-  // The process's cache, kept by the settings' default storage delegate. Lives as long as the process.
+  // The process's cache, stored by the settings' default storage delegate. Never destroyed.
   static ADTokenCache& defaultCache();
 
-  // Not owned; null ends the storing elsewhere.
+  // Not owned. Without one, the cache is in memory only.
   void setDelegate(ADTokenCacheDelegate* delegate);
 
   // A snapshot; costs no copy of the items. Fails only from inside the storage delegate.
   [[nodiscard]] Items allItems();
 
-  // Each item takes the place of its predecessor, or the end. All of them reach the storage in one write, so
-  // that an old refresh token is never gone before its successor is there.
+  // Each item replaces the same entry, or is appended. All are stored in one write, so that an old refresh
+  // token is never removed before its successor is stored.
   [[nodiscard]] Failure addOrUpdateItems(const QList<ADTokenCacheItem>& items);
   [[nodiscard]] Failure replaceAllItems(const QList<ADTokenCacheItem>& items);
 
   QByteArray serialize();
-  // Nothing empties the cache. Data that cannot be read is a failure and leaves the cache as it was.
+  // Without data, empties the cache. Data that cannot be read is a failure and leaves the cache unchanged.
   [[nodiscard]] Failure deserialize(const std::optional<QByteArray>& data);
 
-  // Runs while no other thread uses the cache. Code that takes a lock of its own as well takes this one
-  // first, as the calls of the storage delegate do.
+  // Runs the action while no other thread uses the cache. Code that needs a lock of its own takes it inside,
+  // in the order of the calls to the storage delegate.
   void exclusively(const std::function<void()>& action);
 
  private:
@@ -54,5 +54,5 @@ class ADAL_EXPORT ADTokenCache final {
   ADTokenCacheDelegate* m_delegate = nullptr;
   bool m_insideDelegate = false;
   QList<ADTokenCacheItem> m_items;
-  QByteArray m_serialized;  // of m_items as they are; null when not known
+  QByteArray m_serialized;  // the stored form of m_items; null when unknown
 };

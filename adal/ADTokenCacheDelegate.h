@@ -4,8 +4,8 @@
 
 class ADTokenCache;
 
-// Keeps a token cache's contents elsewhere. Called around every access, on the thread of the access and under
-// the cache's lock; may serialize and deserialize the cache it is given, nothing else.
+// Stores a token cache's contents. Called before and after every access, on its thread and under the cache's
+// lock. It may serialize and deserialize the given cache, and nothing else.
 class ADAL_EXPORT ADTokenCacheDelegate {
  public:
   ADTokenCacheDelegate() = default;

@@ -8,7 +8,7 @@
 
 #include "adal/ADALExport.h"
 
-// The clock by which tokens expire; null is the system's. Any thread.
+// The clock that decides whether tokens have expired; null is the system's. Any thread.
 using ADClock = QDateTime (*)();
 ADAL_EXPORT void setADClock(ADClock clock);
 ADAL_EXPORT QDateTime adNow();
@@ -45,5 +45,5 @@ struct ADAL_EXPORT ADTokenCacheItem {
 // The stored form of a token cache: a mark, a version, the items, a check sum over everything before it.
 QByteArray serializedTokens(const QList<ADTokenCacheItem>& items);
 
-// Nothing for data that is cut off, damaged, of another version or not ours.
+// Nothing for data that is truncated, damaged, or of another version or format.
 [[nodiscard]] std::optional<QList<ADTokenCacheItem>> deserializedTokens(const QByteArray& data);

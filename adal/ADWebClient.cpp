@@ -19,7 +19,7 @@ QNetworkRequest boundedRequest(const QUrl& address) {
     request.setAttribute(attribute, QNetworkRequest::Manual);
   }
   request.setRawHeader("Accept", "application/json");
-  // A packed answer would be unpacked before its size can be seen.
+  // A compressed response would be decompressed before its size is known.
   request.setRawHeader("Accept-Encoding", "identity");
   return request;
 }
@@ -28,7 +28,7 @@ ADWebAnswer noWholeAnswer(ADErrorCode code, const QString& details) {
   return {ADError{code, details}, 0, {}};
 }
 
-// Below this, errors are about the connection; above, about what the server said.
+// Errors below this are of the connection, the others of the server's response.
 constexpr int firstAnswerError = 100;
 
 }  // namespace

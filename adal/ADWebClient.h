@@ -15,14 +15,13 @@ class QNetworkReply;
 class QNetworkRequest;
 
 struct ADWebAnswer {
-  std::optional<ADError> error;  // no whole answer came
+  std::optional<ADError> error;  // set when there was no complete response
   int status = 0;
   QByteArray body;
 };
 
-// One exchange at a time with an authority, bounded in time and size. Follows no redirect and keeps no
-// cookies, so that what is sent stays with the host it was meant for. Destroying it ends the exchange
-// unanswered.
+// One exchange at a time with an authority, bounded in time and size. Follows no redirect and stores no
+// cookies, so that secrets reach no other host. Destroying it cancels the exchange without calling `done`.
 class ADWebClient final : public QObject {
  public:
   using Done = std::function<void(const ADWebAnswer&)>;

@@ -4,10 +4,10 @@
 
 class PluginHost;
 
-// The plug-in, loaded once in this process as a host loads it, with a store of its own and a muted trace.
+// Loads the plug-in once in this process, as a host does, with a store of its own and a muted trace.
 namespace benchhost {
 
-// False with the reason on standard error.
+// False, with the reason on standard error, when it cannot be loaded.
 [[nodiscard]] bool start();
 void stop();
 

@@ -4,7 +4,7 @@
 
 #include "bench/FrameWatch.h"
 
-// What any Qt program pays to get a window of the companion's size onto the screen.
+// The reference for the companion's start: an empty Qt window of its size.
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QWidget window;

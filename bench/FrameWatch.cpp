@@ -46,7 +46,7 @@ bool FrameWatch::runOnce(std::chrono::milliseconds longest) {
   QCoreApplication::processEvents();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   if (!m_wasPainted) {
-    // Sleeps until something happens, at most that long.
+    // Sleeps until the next event, at most that long.
     QTimer::singleShot(longest, Qt::PreciseTimer, this, [] {});
     QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
   }

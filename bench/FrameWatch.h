@@ -5,8 +5,8 @@
 #include <QWidget>
 #include <chrono>
 
-// Tells when a window's frames have reached the display server. On X11 every painted frame is followed by a
-// round trip, so its pixels are there; offscreen a frame counts when it is painted. Main thread only.
+// Measures when a window's frames have reached the display server. On X11 every painted frame is followed by
+// a round trip, so its pixels are there; offscreen a frame counts when it is painted. Main thread only.
 class FrameWatch final : public QObject {
   Q_OBJECT
 
@@ -16,11 +16,12 @@ class FrameWatch final : public QObject {
   FrameWatch();
   ~FrameWatch() override;
 
-  // When the next frame in which that widget, or anything in it, is painted has arrived; runs the event loop
-  // until then. A null widget: any. After five seconds without one, nothing more is waited for.
+  // Runs the event loop until a frame with that widget, or a widget in it, has arrived, at most five seconds,
+  // and returns the time. A null widget means any.
   Clock::time_point waitForFrameOf(const QWidget* widget);
 
-  // When the last frame before that much quiet arrived; the start of the wait when none came.
+  // Runs the event loop until no frame has arrived for that long. Returns the time of the last frame, or of
+  // the call when there was none.
   Clock::time_point waitForQuiet(std::chrono::milliseconds quiet);
 
  protected:

@@ -14,7 +14,7 @@ using Clock = std::chrono::steady_clock;
 
 constexpr int kWriteRounds = 200;
 
-// Ignored in this direction.
+// An unknown command.
 void commandWithoutEffect(benchmark::State& state) {
   constexpr quint64 kUnused = 5;
   for ([[maybe_unused]] auto round : state)
@@ -23,7 +23,7 @@ void commandWithoutEffect(benchmark::State& state) {
 }
 BENCHMARK(commandWithoutEffect);
 
-// With its answer and its telemetry on the way back.
+// The plug-in sends a command and telemetry in return.
 void commandWithAnswer(benchmark::State& state) {
   const auto joinByNumber = static_cast<quint64>(KZCommand::KZCmdJoinByNumber);
   for ([[maybe_unused]] auto round : state)
@@ -32,7 +32,7 @@ void commandWithAnswer(benchmark::State& state) {
 }
 BENCHMARK(commandWithAnswer);
 
-// What no careful writer can leave out.
+// The least that a safe write needs.
 bool writeBare(const QString& path, const QByteArray& bytes) {
   const QByteArray temporary = QFile::encodeName(path + QStringLiteral(".new"));
   const int file = ::open(temporary.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);

@@ -8,8 +8,8 @@
 
 class Window;
 
-// What stands where in a pane, taken from the plug-in's window so that a plain window can be built of the
-// same parts.
+// A pane's controls and their places, read from the plug-in's window to build a plain window of the same
+// controls.
 struct ControlRecipe {
   enum class Kind { Label, CheckBox, RadioButton, Button, Field, SecretField, PopUp, Line };
 
@@ -28,5 +28,5 @@ struct PaneRecipe {
   QList<ControlRecipe> controls = {};
 };
 
-// Visits every pane of the window, which shows its first one afterwards.
+// Shows every pane of the window in turn, at last the first one.
 QList<PaneRecipe> recipesOf(const Window& window);

@@ -5,8 +5,8 @@
 
 #include "bench/PaneRecipe.h"
 
-// What a plain Qt program pays for the same panes: Qt's own widgets in Qt's own style, in a window that
-// follows the size of the pane that it shows.
+// The reference for the Preferences window: the same panes of Qt's own widgets in Qt's own style, in a window
+// with the size of the pane that it shows.
 class PlainWindow final : public QMainWindow {
   Q_OBJECT
 

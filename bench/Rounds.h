@@ -5,8 +5,8 @@
 #include <chrono>
 #include <functional>
 
-// Times ours and its reference in turns, the reference twice a round: how far apart the two references are
-// says how little a ratio may say. The report's time is ours; beside it stand the medians and their ratios.
+// Measures ours and its reference in turns, the reference twice a round; the ratio of the two references
+// shows the noise. Reports the time of ours, with the medians and their ratios.
 struct Rounds {
   using Contender = std::function<std::chrono::nanoseconds()>;
 

@@ -25,7 +25,7 @@ std::chrono::nanoseconds timeUntil(const QByteArray& line, const QString& progra
   return end - start;
 }
 
-// The whole companion, with its plug-in and its Preferences, beside a window with nothing in it.
+// The companion with its plug-in and Preferences, compared with an empty window.
 void startUntil(benchmark::State& state, const QByteArray& line) {
   const QTemporaryDir folder;
   const QStringList arguments = {"--first-frame", "--state", folder.path()};

@@ -35,7 +35,7 @@ QList<ADTokenCacheItem> itemsOfManyUsers() {
   return items;
 }
 
-// The last user's token through the plug-in, beside nothing but the comparisons.
+// A look-up of the last user's token through the plug-in, compared with the text comparisons alone.
 void tokenLookUp(benchmark::State& state) {
   const QList<ADTokenCacheItem> items = itemsOfManyUsers();
   KZTokenLookup* const plugin = benchhost::host().tokenLookup();
@@ -68,7 +68,7 @@ void tokenLookUp(benchmark::State& state) {
 }
 BENCHMARK(tokenLookUp)->Iterations(kLookUpRounds)->UseManualTime()->Unit(benchmark::kMillisecond);
 
-// The same two exchanges, without anything of ours around them.
+// The body of a reply, waited for in an event loop.
 QByteArray exchanged(QNetworkReply* reply) {
   QEventLoop loop;
   QObject::connect(reply, &QNetworkReply::finished, &loop, &QEventLoop::quit);

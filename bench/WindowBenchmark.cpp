@@ -3,9 +3,9 @@
 #include <memory>
 
 #include "bench/BenchHost.h"
+#include "bench/FrameWatch.h"
 #include "bench/PlainWindow.h"
 #include "bench/Rounds.h"
-#include "bench/FrameWatch.h"
 #include "companion/runtime/PluginHost.h"
 #include "companion/runtime/PreferencesWindow.h"
 #include "host/KZFoundation/KZCommands.h"
@@ -37,7 +37,7 @@ void closePreferences(FrameWatch& frames) {
   frames.waitForQuiet(kQuiet);
 }
 
-// Once in this process: a second load finds the library mapped.
+// Measured once, because a second load in this process finds the library mapped.
 void pluginLoad(benchmark::State& state) {
   for ([[maybe_unused]] auto once : state) {
     state.SetIterationTime(std::chrono::duration<double>(benchhost::loadTime()).count());

@@ -1,10 +1,10 @@
-# What is installed, and as which Debian package. Every place is relative, so that the prefix can be moved.
+# Installation and the Debian package. Every path is relative, so that the prefix can be moved.
 include(CMakePackageConfigHelpers)
 
 set(privateLibraries lib/brenn-mivra)
 set(sdkPackage lib/cmake/BrennMivraHost)
 
-# A host is bound to the libraries of one minor version: another one refuses to load instead of going wrong later.
+# A host is bound to the libraries of one minor version: with another one it does not start, instead of failing later.
 set_target_properties(KZHost KZPlatform KZAdal PROPERTIES
   VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
 set_target_properties(KZHost KZPlatform KZAdal KZPreference PROPERTIES INSTALL_RPATH "$ORIGIN")

@@ -5,7 +5,7 @@
 #include "platform/Frame.h"
 #include "platform/PlatformExport.h"
 
-// The part of a window below its toolbar. Its one subview fills it, and scrolls where it is larger. Main
+// The part of a window below its toolbar. Its one subview fills it, and scrolls when it is larger. Main
 // thread only.
 class PLATFORM_EXPORT ContentView : public QScrollArea {
   Q_OBJECT

@@ -65,7 +65,7 @@ void setWindowGeometry(QWidget* window, const Frame& frame) {
   if (window->isVisible() && !shift.isNull()) window->move(window->pos() + shift);
 }
 
-// Keeps the subviews of one view where their frames say.
+// Places the subviews of one view by their frames.
 class Placer final : public QObject {
  public:
   static Placer* of(const QWidget* parent) {
@@ -94,7 +94,7 @@ class Placer final : public QObject {
     return alive;
   }
 
-  // Brings the geometry up to date; Top-anchored views first move by what the height has changed.
+  // Brings the geometry up to date; top-anchored views first move by the change of the height.
   void place() {
     const double height = heightOf(m_view);
     const double growth = height - m_height;

@@ -5,7 +5,7 @@
 #include "platform/Frame.h"
 #include "platform/PlatformExport.h"
 
-// Every view keeps its exact frame in points, y up, and is placed from it; no other unit converts y. The
+// Keeps every view's exact frame in points, y up, and places the view from it; no other unit converts y. The
 // frame stays when the parent's height changes, so the view moves on the screen. Main thread only.
 
 // Keeps the view's frame, or moves it with the parent's upper edge, when the parent's height changes.
@@ -16,7 +16,7 @@ enum class VerticalAnchor { Bottom, Top };
 PLATFORM_EXPORT void addSubview(QWidget* parent, QWidget* child, const Frame& frame,
                                 VerticalAnchor anchor = VerticalAnchor::Bottom);
 
-// Takes the view off its parent's subviews and hides it; the parent still owns it.
+// Hides the view and removes it from its parent's subviews; the parent still owns it.
 PLATFORM_EXPORT void removeFromSuperview(QWidget* view);
 
 // A window that is not on the screen takes the size only.
@@ -26,5 +26,5 @@ PLATFORM_EXPORT void setFrame(QWidget* view, const Frame& frame);
 // space.
 PLATFORM_EXPORT Frame frameOf(const QWidget* view);
 
-// What `addSubview` added and is still there, in that order.
+// The views that `addSubview` added and that are still in the parent, in that order.
 PLATFORM_EXPORT QList<QWidget*> subviewsOf(const QWidget* parent);

@@ -9,7 +9,7 @@ namespace {
 
 constexpr char kNextKeyViewProperty[] = "platformNextKeyView";
 
-// Sends Tab to the view that was named as the next one.
+// Moves the focus at Tab to the view that was set as the next one.
 class KeyViewLink final : public QObject {
  public:
   explicit KeyViewLink(QWidget* from) : QObject(from) { from->installEventFilter(this); }

@@ -20,7 +20,7 @@ PLATFORM_EXPORT LookScheme lookSchemeFor(const QPalette& palette);
 PLATFORM_EXPORT const QPalette& lookPalette(LookScheme scheme);
 PLATFORM_EXPORT QColor lookColor(SystemColor color, LookScheme scheme);
 
-// What the style draws with beyond the palette's roles.
+// The style's colours that have no role in the palette.
 struct LookColors {
   QColor faceTop;  // of push buttons and pop-ups
   QColor faceBottom;

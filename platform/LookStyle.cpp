@@ -23,7 +23,7 @@ void LookStyle::polish(QWidget* widget) {
   QProxyStyle::polish(widget);
   if (qobject_cast<QLineEdit*>(widget)) widget->setAttribute(Qt::WA_Hover);
   if (!qobject_cast<QToolBar*>(widget)) return;
-  // The toolbar makes its extension button itself, so only this reaches it.
+  // The toolbar creates its extension button itself, so the button gets its style here.
   for (QToolButton* item : widget->findChildren<QToolButton*>()) item->setStyle(this);
 }
 
@@ -74,7 +74,7 @@ int LookStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidg
   switch (hint) {
     case SH_Widget_Animate:
     case SH_Widget_Animation_Duration:
-      // The application's style knows about reduced motion, unless that is this style.
+      // The application's style decides about reduced motion, unless it is this style.
       if (const QStyle* own = QApplication::style(); own != this) return own->styleHint(hint);
       return QProxyStyle::styleHint(hint, option, widget, returnData);
     case SH_ToolTip_WakeUpDelay:

@@ -3,7 +3,7 @@
 #include <QProxyStyle>
 
 // Draws the controls; each kind has a unit of its own (LookStyleButtons.cpp, …). Colours come from the
-// palette that a control is drawn with, so that a change of scheme needs no more than another palette.
+// palette that a control is drawn with, so that a new palette is all that a change of scheme needs.
 class LookStyle final : public QProxyStyle {
   Q_OBJECT
 

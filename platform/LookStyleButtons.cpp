@@ -70,7 +70,7 @@ void drawIndicator(const QStyleOption& option, bool isRadio, QPainter* painter) 
   const bool isContrast = colors.focusWidth > 2;
   QRectF box = option.rect;
   if (states.isFocused) {
-    // The ring takes the two points around the indicator that the control has.
+    // The ring is in the free point on each side of the indicator.
     const QColor accent = option.palette.color(QPalette::Active, QPalette::Highlight);
     drawShape(painter, box.adjusted(-1, -1, 1, 1), isRadio, option.palette.color(QPalette::Base), accent, 2);
     if (isOn) box.adjust(2, 2, -2, -2);

@@ -20,7 +20,7 @@ bool isToolbarExtension(const QWidget* widget) {
 void LookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                               const QWidget* widget) const {
   switch (element) {
-    case PE_FrameFocusRect:  // every control but these draws its own
+    case PE_FrameFocusRect:  // every control except list cells draws its own
       if (const auto* cell = qstyleoption_cast<const QStyleOptionFocusRect*>(option);
           cell && lookLists::isList(widget)) {
         lookLists::drawCellFocus(*cell, painter);

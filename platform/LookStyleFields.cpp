@@ -58,7 +58,7 @@ void drawHeading(const QStyleOption& option, QPainter* painter) {
 }
 
 void drawCellFocus(const QStyleOptionFocusRect& option, QPainter* painter) {
-  if (option.state & QStyle::State_Selected) return;  // shows by itself
+  if (option.state & QStyle::State_Selected) return;  // the selection shows it
   drawLookBox(painter, option.rect, 0, Qt::NoBrush,
               option.palette.color(QPalette::Active, QPalette::Highlight));
 }

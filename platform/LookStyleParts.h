@@ -71,9 +71,9 @@ void drawLabel(const QStyleOptionTab& option, QPainter* painter);
 QSize tabSize(const QStyleOptionTab& option);
 }  // namespace lookTabs
 
-// Tables, lists and read texts.
+// Tables, lists and read-only texts.
 namespace lookLists {
-inline constexpr int kFrame = 2;       // room for a ring
+inline constexpr int kFrame = 2;       // room for the focus ring
 inline constexpr int kTextMargin = 4;  // of cells and headings alike
 bool isList(const QWidget* widget);
 void drawFrame(const QStyleOption& option, QPainter* painter);

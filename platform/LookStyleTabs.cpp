@@ -17,7 +17,7 @@ bool isSelectedTab(const QStyleOption& option) {
   return option.state & QStyle::State_Selected;
 }
 
-// This tab's part of the track that lies under all of them: its middle runs on into its neighbours.
+// This tab's part of the track under all tabs, which continues into the neighbouring tabs.
 void drawTrackPart(const QStyleOptionTab& option, QPainter* painter) {
   const LookColors& colors = lookColorsOf(option);
   const bool isLeftToRight = option.direction != Qt::RightToLeft;
@@ -62,7 +62,7 @@ void drawTab(const QStyleOptionTab& option, QPainter* painter) {
   if (!states.isFocused || !isSelectedTab(option)) return;
   drawLookFocus(painter, option, option.rect, kTrackRadius);
   if (!isContrastTab(option)) return;
-  // The tab has the ring's colour.
+  // The focus ring has the tab's colour, so a second one is drawn inside.
   drawLookBox(painter, tab.adjusted(1, 1, -1, -1), kTrackRadius - kTabInset - 1, Qt::NoBrush,
               option.palette.color(QPalette::Active, QPalette::HighlightedText));
 }

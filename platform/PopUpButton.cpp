@@ -26,8 +26,8 @@ QString PopUpButton::title() const {
   return currentIndex() < 0 ? m_foreignTitle : currentText();
 }
 
-// The list is a window of its own, which inherits neither style nor palette. Making it is slow, so it gets
-// them when it is shown first.
+// The list is a window of its own, which inherits neither style nor palette. It gets them here, because
+// creating it earlier would be slow.
 void PopUpButton::showPopup() {
   m_hasList = true;
   view()->setFont(font());
@@ -38,7 +38,7 @@ void PopUpButton::showPopup() {
   QComboBox::showPopup();
 }
 
-// The base class would make the list only to pass these changes on.
+// The base class would create the list only to pass these changes to it.
 void PopUpButton::changeEvent(QEvent* event) {
   const QEvent::Type type = event->type();
   const bool isForList =
@@ -48,7 +48,7 @@ void PopUpButton::changeEvent(QEvent* event) {
   QComboBox::changeEvent(event);
 }
 
-// The search for an item by its letters would swallow the window's own shortcuts.
+// The base class's search by typed letters would consume the window's shortcuts.
 void PopUpButton::keyPressEvent(QKeyEvent* event) {
   if (event->modifiers().testFlag(Qt::ControlModifier)) return event->ignore();
   QComboBox::keyPressEvent(event);

@@ -6,7 +6,7 @@
 namespace {
 
 constexpr int kSpokes = 12;
-constexpr int kStepMilliseconds = 83;  // once round in a second
+constexpr int kStepMilliseconds = 83;  // one turn a second
 constexpr int kSpinnerSide = 16;
 constexpr qreal kFaintest = 0.15;
 

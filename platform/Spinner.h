@@ -5,7 +5,7 @@
 
 #include "platform/PlatformExport.h"
 
-// A small busy mark, 16 by 16 points. It turns only while it is animated and visible.
+// A small busy indicator, 16 by 16 points. It turns only while it is animated and visible.
 class PLATFORM_EXPORT Spinner : public QWidget {
   Q_OBJECT
 

@@ -29,7 +29,7 @@ void StaticText::paintEvent(QPaintEvent*) {
   drawTextLine(&painter, visible, alignment(), shown);
 }
 
-// What reaches beyond the parent's right edge is cut there, so the text ends before it.
+// The parent cuts its children off at its right edge, so the text is elided before that.
 QRect StaticText::visiblePart() const {
   const int room = parentWidget() && !isWindow() ? parentWidget()->width() - x() : width();
   QRect visible = contentsRect();

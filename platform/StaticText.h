@@ -7,8 +7,8 @@
 #include "platform/PlatformExport.h"
 #include "platform/Text.h"
 
-// A one-line text that cannot be edited or selected. A text that does not fit ends in "…"; the whole is its
-// tool tip.
+// A one-line text that cannot be edited or selected. A text that does not fit ends in "…"; the tool tip shows
+// all of it.
 class PLATFORM_EXPORT StaticText : public QLabel {
   Q_OBJECT
 

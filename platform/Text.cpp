@@ -15,8 +15,8 @@ FontKind fontKind(FontRole role, double size) {
   return {static_cast<int>(role), qRound(size)};
 }
 
-// Panes ask for the same fonts and measure the same texts several times, and shaping a text is slow: the
-// results are kept until the application's font changes. Main thread only.
+// Caches fonts and text widths until the application's font changes: panes measure the same texts several
+// times, and shaping a text is slow. Main thread only.
 class FontTable {
  public:
   static FontTable& current() {

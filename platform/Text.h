@@ -19,7 +19,7 @@ PLATFORM_EXPORT QFont fontFor(FontRole role, double size);
 // Width as measured, height rounded up. An empty text has no width.
 PLATFORM_EXPORT Size sizeOfText(const QString& text, FontRole role, double size);
 
-// No screen shows more of one line; drawing the rest would only take time.
+// More than any screen shows of one line; drawing the rest would only take time.
 inline constexpr qsizetype mostDrawnCharacters = 4000;
 
 // One line in the painter's font and pen, in the middle of the box. A fallback font for characters that the

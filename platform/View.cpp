@@ -41,6 +41,6 @@ void View::paintEvent(QPaintEvent* event) {
 
 void View::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
-  // A window that is restored after minimising was never hidden by us.
+  // A spontaneous event comes when a minimised window is restored, which was never hidden.
   if (!event->spontaneous()) viewDidUnhide();
 }

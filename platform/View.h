@@ -7,7 +7,7 @@
 #include "platform/PlatformExport.h"
 #include "platform/Text.h"
 
-// A text that a view paints by itself.
+// A text that a view paints itself.
 struct DrawnText {
   QString text;
   Frame frame;
@@ -24,7 +24,7 @@ class PLATFORM_EXPORT View : public QWidget {
   explicit View(const Frame& frame);
   ~View() override;
 
-  // What the view paints by itself, from bottom to top of the drawing order; screen readers read it too.
+  // The texts that the view paints itself, in drawing order; they are its accessible name too.
   virtual QList<DrawnText> drawnTexts() const;
 
  protected:

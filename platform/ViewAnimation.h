@@ -31,9 +31,9 @@ class PLATFORM_EXPORT ViewAnimation : public QObject {
   double duration() const { return m_duration; }
   bool isRunning() const;
 
-  // Fades from what the new view's container showed last, which is the middle of a fade when one is running.
+  // `oldPicture` is what the new view's container showed last; while a fade runs, its present state.
   void start(const CrossFade& fade, const QPixmap& oldPicture);
-  // Leaves the window as it stands and shows the live views; no didEnd.
+  // Leaves the window at its present size and shows the live views; emits no didEnd.
   void stop();
 
  Q_SIGNALS:

@@ -39,7 +39,7 @@ class PLATFORM_EXPORT WindowController : public QObject {
   QPointer<Window> m_window;
 };
 
-// A titled, closable window of fixed size whose frame is in screen points, y up; without the window manager's
+// A titled, closable window of fixed size. Its frame is in screen points, y up, without the window manager's
 // decoration.
 class PLATFORM_EXPORT Window : public QWidget {
   Q_OBJECT

@@ -183,7 +183,7 @@ HttpResponse Authority::granted(const QString& clientId) {
       {"refresh_token", grantRefreshToken(clientId)},
       {"expires_in", m_lifetime},
       {"id_token", idToken(m_fault == Fault::OtherAudience ? QStringLiteral("another") : clientId)}};
-  // The older generation writes its numbers as texts.
+  // The older generation sends numbers as texts.
   if (m_generation == Generation::Resource) answer.insert("expires_in", QString::number(m_lifetime));
   if (m_fault == Fault::NoExpiry) answer.remove("expires_in");
   if (m_fault == Fault::NoAccessToken) answer.remove("access_token");

@@ -12,12 +12,12 @@
 
 namespace sandbox {
 
-// A sign-in authority: the authorization code flow with proof keys, refresh tokens that are good once, and
-// faults on demand. Keeps everything in memory. Only for trying things out.
+// A sign-in authority: the authorization code flow with proof keys, refresh tokens that can be used once, and
+// faults on demand. Everything is in memory. For tests and trials only.
 class Authority final {
  public:
   enum class Generation { Resource, Scope };
-  // What goes wrong at the token endpoint.
+  // Faults of the token endpoint.
   enum class Fault {
     None,
     Late,
@@ -51,7 +51,7 @@ class Authority final {
   void setLifetime(int seconds) { m_lifetime = seconds; }
   void setFault(Fault fault, const QUrl& elsewhere = QUrl());
 
-  // A refresh token as if that user had signed in here before.
+  // A new refresh token, as after a sign-in.
   QString grantRefreshToken(const QString& clientId);
 
   bool isGranted(const QString& accessToken) const { return m_accessTokens.contains(accessToken); }

@@ -6,7 +6,7 @@
 
 namespace sandbox {
 
-// What happens to the users of an account or a site.
+// The behaviour of an account's or a site's server.
 enum class Case {
   // Of both
   Slow,
@@ -35,13 +35,13 @@ struct Account {
   const char* email;
   const char* username;
   const char* password;
-  const char* meaning;  // for people who try it
+  const char* meaning;  // for users
 };
 
 struct Site {
   Case what;
   const char* site;
-  const char* meaning;  // for people who try it
+  const char* meaning;  // for users
 };
 
 inline const QString sandboxDomain = QStringLiteral("sandbox.example");
@@ -50,9 +50,9 @@ inline const QString sandboxDomain = QStringLiteral("sandbox.example");
 std::span<const Account> accounts();
 std::span<const Site> sites();
 
-// The account whose mail domain the host is or lies below; null where there is none.
+// The account whose mail domain is the host or a parent of it; null when there is none.
 const Account* accountOfHost(const QString& host);
-// The same for the site, of which one has its downloads on a host of their own.
+// The site of that host; one site has a second host for its downloads.
 const Site* siteOfHost(const QString& host);
 QString downloadsHost();
 

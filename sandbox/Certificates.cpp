@@ -11,7 +11,7 @@ namespace sandbox {
 
 namespace {
 
-// A file that is in no folder and goes with its process. Programs that this process starts can read it.
+// A file without a folder that ends with its process. Programs that this process starts can read it.
 class MemoryFile final {
  public:
   explicit MemoryFile(const QByteArray& content) {

@@ -8,8 +8,8 @@
 
 namespace sandbox {
 
-// A certificate authority that lives as long as this object, made with the openssl program. Its key and those
-// of its servers are only in memory, so that not even a killed sandbox leaves one behind.
+// A certificate authority, created with the openssl program. Its key and those of its servers are in memory
+// only, so that not even a killed sandbox leaves one behind.
 class Certificates final {
  public:
   Certificates();
@@ -18,7 +18,7 @@ class Certificates final {
   bool isUsable() const { return !m_authority.isEmpty(); }
   QString authority() const { return m_authority; }  // PEM
 
-  // For a server of these host names; `*.example` stands for one label. Nothing when it cannot be made.
+  // For a server of these host names; `*` in `*.example` matches one label. Nothing when it cannot be made.
   std::optional<QSslConfiguration> serverOf(const QStringList& names) const;
 
  private:

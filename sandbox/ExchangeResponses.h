@@ -17,7 +17,7 @@ HttpResponse otherEmailResponse(const QString& email);
 // Its entities expand to gigabytes.
 HttpResponse entityBombResponse();
 
-// Three meetings, the first in an hour; not in their order.
+// Three meetings, the first in an hour, not sorted by time.
 HttpResponse meetingsResponse();
 
 }  // namespace sandbox

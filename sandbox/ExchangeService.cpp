@@ -20,7 +20,7 @@ QString urlOf(const QString& host, const QString& path) {
   return QStringLiteral("https://") + host + path;
 }
 
-// A server takes the name of its domain as well as the email address.
+// A server accepts the domain's user name as well as the email address.
 bool isNameOf(const Account& account, const QString& name) {
   return name.compare(QLatin1String(account.username), Qt::CaseInsensitive) == 0 ||
          name.compare(QLatin1String(account.email), Qt::CaseInsensitive) == 0;
@@ -48,7 +48,7 @@ HttpResponse ExchangeService::discover(const HttpRequest& request) {
     case Case::Slow:
       return discoverOnPremise(request);
     case Case::OnPremise:
-      // As in many places a web site has the domain's own name.
+      // As often, the host with the domain's own name is a web site.
       return host.startsWith(QLatin1String("autodiscover.")) ? discoverOnPremise(request) : notFound();
     case Case::ServiceRecord:
       return host.startsWith(QLatin1String("exchange.")) ? discoverOnPremise(request) : notFound();

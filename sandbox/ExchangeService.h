@@ -10,7 +10,7 @@
 namespace sandbox {
 
 // The responses of the Exchange servers of all accounts: Autodiscover and the next meetings. Faults that
-// sites have, too, are not among them.
+// sites have as well are in Sandbox.
 class ExchangeService final {
  public:
   using TokenCheck = std::function<bool(const QString& accessToken)>;
@@ -26,10 +26,10 @@ class ExchangeService final {
   bool isAllowed(const QByteArray& authorization);
 
   const TokenCheck m_isGranted;
-  int m_refusals = 0;  // of the one account that can get in
+  int m_refusals = 0;  // of the first account
 };
 
-// The service records by their names, for clients that ask no name server.
+// The service records by name, for clients that use no name server.
 QJsonObject describeServiceRecords();
 
 }  // namespace sandbox

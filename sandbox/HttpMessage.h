@@ -42,7 +42,7 @@ struct HttpResponse {
   std::chrono::milliseconds delay{0};
 };
 
-// Sends the response after its delay. Whatever takes time ends with the socket.
+// Sends the response after its delay. A delivery that takes time ends with the socket.
 void deliver(QTcpSocket* socket, const HttpResponse& response);
 
 }  // namespace sandbox

@@ -52,7 +52,7 @@ void HttpServer::accept() {
   while (QTcpSocket* const socket = m_server->nextPendingConnection()) {
     QObject::connect(socket, &QTcpSocket::readyRead, m_server.get(), [this, socket] { read(socket); });
     QObject::connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
-    // The first bytes may have come with the last ones of the handshake.
+    // The first bytes may have arrived with the end of the handshake.
     if (socket->bytesAvailable() > 0) read(socket);
   }
 }

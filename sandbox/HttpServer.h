@@ -11,13 +11,14 @@
 
 namespace sandbox {
 
-// A small HTTP server on the loopback address; one request per connection. Lives on the thread that made it.
+// A small HTTP server on the loopback address; one request per connection. Used on the thread that created
+// it.
 class HttpServer final {
  public:
   using Handler = std::function<HttpResponse(const HttpRequest&)>;
 
   HttpServer();
-  // Speaks TLS with the certificate and key in the configuration.
+  // Uses TLS with the certificate and key in the configuration.
   explicit HttpServer(const QSslConfiguration& tls);
   ~HttpServer();
   Q_DISABLE_COPY_MOVE(HttpServer)
@@ -26,9 +27,9 @@ class HttpServer final {
   QUrl url() const;
   int port() const { return m_server->serverPort(); }
 
-  // Answers requests for exactly this path; a later handler replaces an earlier one.
+  // Handles requests for exactly this path; a later handler replaces an earlier one.
   void handle(const QString& path, const Handler& handler);
-  // For every other path; without one they are not found.
+  // Handles every other path; without it they get status 404.
   void handleOthers(const Handler& handler) { m_othersHandler = handler; }
 
  private:

@@ -9,26 +9,25 @@
 
 namespace sandbox {
 
-// Where an Office 365 answers Autodiscover: that of the host's mail domain where it has one of its own,
-// otherwise the one without a fault.
+// The Autodiscover host of an Office 365: that of the host's mail domain if there is one, otherwise of the
+// one without a fault.
 QString onlineDiscoveryHostOf(const QString& host);
 bool isOnlineDiscoveryHost(const QString& host);
 
-// What a client needs to know of every Office 365; `authorities` is the address that their authorities are
-// below.
+// What a client needs to know about every Office 365; their authorities are below the address `authorities`.
 QJsonArray describeOnlineServices(const QString& authorities);
 
 // The sign-in authorities of every Office 365.
 class OnlineAuthorities final {
  public:
-  // Of the authorities without a fault in it.
+  // Applied where an authority's fault does not override them.
   struct Settings {
     Authority::Consent consent = Authority::Consent::AskUser;
     Authority::Generation generation = Authority::Generation::Resource;
     int lifetime = 3600;  // of a token, in seconds
   };
 
-  // They answer at the server, which must outlive them.
+  // They are played by the server, which must outlive them.
   OnlineAuthorities(HttpServer& server, const Settings& settings);
 
   const Authority& faultless() const { return *m_authorities.front(); }

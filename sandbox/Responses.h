@@ -11,7 +11,7 @@ HttpResponse jsonResponse(const QJsonObject& object, int status = 200);
 // `content` is HTML.
 HttpResponse pageResponse(const QString& title, const QString& content, int status = 200);
 HttpResponse notFound();
-// The response, delivered in that way.
+// The response with that delivery.
 HttpResponse delivered(HttpResponse response, HttpResponse::Delivery delivery);
 
 HttpResponse redirectTo(const QString& url, int status = 302);

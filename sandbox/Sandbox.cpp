@@ -28,7 +28,7 @@ QStringList otherNameDomains() {
   return domains;
 }
 
-// `*` in a certificate stands for one label, so that each domain with hosts below it has a name of its own.
+// `*` in a certificate matches one label, so each domain with hosts below it needs a name of its own.
 QStringList certificateNames() {
   QStringList names{sandboxDomain, QStringLiteral("*.") + sandboxDomain,
                     QStringLiteral("*.online.") + sandboxDomain,

@@ -13,8 +13,8 @@
 
 namespace sandbox {
 
-// Plays every host below sandbox.example: Exchange and meeting services. An unencrypted server, an encrypted
-// one and one that shows a certificate of another name play all of them. Only for trying things out.
+// Plays every host below sandbox.example: Exchange and meeting services. Three servers play all of them: one
+// without encryption, one with it, and one with a certificate of another name. For tests and trials only.
 class Sandbox final {
  public:
   struct Visit {
@@ -23,14 +23,14 @@ class Sandbox final {
     bool isEncrypted = false;
   };
 
-  // `authorities` is the address that the sign-in authorities are below, `isGranted` knows their tokens.
+  // The sign-in authorities are below the address `authorities`; `isGranted` checks their tokens.
   Sandbox(const QString& authorities, ExchangeService::TokenCheck isGranted);
   Q_DISABLE_COPY_MOVE(Sandbox)
 
-  // False where there is no port or no certificate.
+  // False when there is no port or no certificate.
   [[nodiscard]] bool listen();
 
-  // What a client needs to know to find its way here, and what there is to try.
+  // What a client needs to connect, and the accounts and sites to try.
   QJsonObject describe() const;
 
   // Every request, oldest first.

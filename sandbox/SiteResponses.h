@@ -8,10 +8,10 @@
 
 namespace sandbox {
 
-// What a meeting service answers at that path; its links lead to the pages below `pages`.
+// A meeting service's response for that path; its links lead to the pages below `pages`.
 HttpResponse siteResponse(Case what, const QString& path, const QUrl& pages);
 
-// The page that a browser shows at that path.
+// The page for a browser at that path.
 HttpResponse sitePage(const QString& path);
 
 }  // namespace sandbox

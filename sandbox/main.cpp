@@ -20,7 +20,7 @@ void print(const QJsonObject& object, QJsonDocument::JsonFormat format) {
 
 }  // namespace
 
-// Runs the sandbox until it is ended. The first line on standard output describes it.
+// Runs the sandbox until it is terminated. The first line on standard output describes it.
 int main(int argc, char** argv) {
   QCoreApplication application(argc, argv);
   QCommandLineParser parser;
@@ -30,10 +30,10 @@ int main(int argc, char** argv) {
   parser.addHelpOption();
   parser.addOptions({{"port", "Listen at this port (default: a free one).", "number", "0"},
                      {"lifetime", "How long an access token is valid, in seconds.", "seconds", "3600"},
-                     {"scopes", "Take scopes in place of a resource."},
-                     {"give", "Sign everybody in without asking."},
-                     {"until-input-ends", "End when standard input does, for a parent that may die."},
-                     {"describe", "Print the accounts and sites to try, and start nothing."}});
+                     {"scopes", "Expect scopes instead of a resource."},
+                     {"give", "Sign every user in without asking."},
+                     {"until-input-ends", "Exit when standard input ends, even when the parent was killed."},
+                     {"describe", "Print the accounts and sites to try, and exit."}});
   parser.process(application);
   if (parser.isSet("describe")) {
     print(sandbox::describeCases(), QJsonDocument::Indented);

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""What the documents name exists: files and links, make's targets, and every name in `code` marks."""
+"""Checks that what the documents name exists: files, links, make's targets, and every name in `code` marks."""
 import posixpath
 import re
 
@@ -11,7 +11,7 @@ CODE = re.compile(r"`([^`\n]+)`")
 MAKE = re.compile(r"\bmake ([a-z-]+)")
 NAME = re.compile(r"^~?[A-Za-z_]\w*(?:::\w+)*(?:\(\))?$")
 FOLDER = re.compile(r"^(?:adal|bench|cmake|companion|docs|host|KZPreference|platform|sandbox|tests|tools|\.ci)/")
-# Names of others.
+# Names from outside the project.
 FOREIGN = {"QPluginLoader", "QPluginLoader::instance()", "DISPLAY", "WAYLAND_DISPLAY", "CCACHE_DISABLE", "JOBS"}
 
 
@@ -26,7 +26,7 @@ def document_findings(path, text, exists, names, targets):
     prose = FENCE.sub("", text)
     for link in (first or second for first, second in LINK.findall(prose)):
         if "://" not in link and not exists(posixpath.normpath(posixpath.join(folder, link))):
-            yield f"{path}: the link {link} leads nowhere"
+            yield f"{path}: the link {link} has no target"
     for code in CODE.findall(prose):
         if FOLDER.match(code) and not re.search(r"[ *…<]", code) and not exists(code):
             yield f"{path}: there is no {code}"

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""What no file may hold: too many lines, unfinished work, and paths of one machine."""
+"""Checks that no file has too many lines, unfinished work, or paths of one machine."""
 import re
 
 from project_files import finish, project_files, read

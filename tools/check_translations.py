@@ -1,12 +1,12 @@
 #!/usr/bin/env python3
-"""Every text that users see has its translation in each language, and no language keeps a text that is gone."""
+"""Checks that every text for users has a translation in each language, and that no translation is unused."""
 import re
 import xml.etree.ElementTree as ElementTree
 
 from project_files import ROOT, finish, project_files, read
 
 LITERAL = r'"((?:[^"\\]|\\.)*)"'
-# Looked up at once, or handed to a helper that looks it up: titles of panes, words of the sign-in dialog and of the page
+# Texts that are looked up, or passed to a helper that does: titles of panes, texts of the sign-in dialog and of the page
 # that ends a sign-in.
 LOOKED_UP = [re.compile(r"[lL]ocalizedString\(\s*" + LITERAL), re.compile(r"\badd\(m_\w+,\s*" + LITERAL),
              re.compile(r"\b(?:dialogText|labelFor|text)\(\s*" + LITERAL),

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""documents.py [--check] PROGRAMS: writes what the documents take from the code and from runs of the programs in that
-folder, each below its mark `<!-- generated: NAME -->`. With --check it only says what differs."""
+"""documents.py [--check] PROGRAMS: generates the parts of the documents below a mark `<!-- generated: NAME -->`, from the
+code and from runs of the programs in that folder. With --check it only prints the differences."""
 import difflib
 import pathlib
 import re

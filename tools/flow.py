@@ -23,13 +23,13 @@ TIME_LIMIT = 60
 BROWSER = urllib.request.build_opener(urllib.request.ProxyHandler({}))
 END = {"echo": "end of step"}
 SECRETS = {"Password", "QRT_CredentialContent", "QRT_ListingMeeting_exchOnlineToken"}
-# They are the same in every flow.
+# The same in every flow.
 LEFT_OUT = {"TelemetryKey_MetricName", "TelemetryKey_ActionFrom"}
 
 
 @contextlib.contextmanager
 def running_sandbox(programs):
-    """What kz-sandbox says about itself; it runs until the `with` ends."""
+    """Runs kz-sandbox until the `with` ends; the value is the description that it prints."""
     with subprocess.Popen([programs / "kz-sandbox", "--give", "--lifetime", "1", "--until-input-ends"],
                           stdin=subprocess.PIPE, stdout=subprocess.PIPE) as sandbox:
         yield json.loads(sandbox.stdout.readline())
@@ -40,7 +40,7 @@ def command_tables(programs):
 
 
 def values_in(content, indent=""):
-    """Every key, with its value as text; what is in a content inside follows its key."""
+    """Every key with its value as text; the entries of an inner dictionary follow its key."""
     for key, value in sorted((content or {}).items()):
         if isinstance(value, dict):
             yield indent + key, ""
@@ -87,14 +87,14 @@ class Player:
             self.run({"wait": 20})
 
     def arrow(self, source, target, title, content=None, before=None):
-        """With the values of the content that are not what they were before."""
+        """Adds an arrow with those values of the content that differ from `before`."""
         known = dict(values_in(before))
         values = [f"{key}: {text}".rstrip() for key, text in values_in(content) if known.get(key) != text]
         if self.lines:
             self.lines.append(f"{source}->>{target}: " + "<br/>".join([title, *values]))
 
     def draw(self, said):
-        """Draws a step of the host's, or an event that prefs-session prints."""
+        """Draws a step of the host, or an event that prefs-session prints."""
         content = said.get("content", said.get("userInfo"))
         match said:
             case {"command": number}:

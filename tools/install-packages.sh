@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Installs, with apt, what building, testing and running need and this machine lacks. Asks nothing; quick when all is there.
+# Installs with apt the missing packages for building, testing and running. Asks nothing; quick when none is missing.
 set -euo pipefail
 
 packages=(

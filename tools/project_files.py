@@ -29,7 +29,7 @@ def project_includes():
 
 
 def finish(findings):
-    """Prints the findings; the exit status says whether there were any."""
+    """Prints the findings; the exit status is 1 when there are any."""
     for finding in findings:
         print(finding)
     raise SystemExit(1 if findings else 0)

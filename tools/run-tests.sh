@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# run-tests.sh FOLDER JOBS: all tests of that build folder; each brings its own services and works without a display.
+# run-tests.sh FOLDER JOBS: runs all tests of that build folder; each starts its own services and needs no display.
 set -euo pipefail
 
 export ASAN_OPTIONS=detect_leaks=1:strict_string_checks=1:detect_stack_use_after_return=1

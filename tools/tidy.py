@@ -3,7 +3,7 @@
 a header that does. The base is $CI_BASE, or the commit at which HEAD left origin/main; where neither is known, or
 nothing differs, all sources are read.
 
-The sources of a target are read as one file: the time goes into Qt's headers, however few lines follow them."""
+The sources of a target are read as one file, because most of the time goes into Qt's headers."""
 import concurrent.futures
 import json
 import os
@@ -14,7 +14,7 @@ import sys
 
 from project_files import ROOT, finish, git_paths, project_includes
 
-# The other compiler's precompiled header is of no use, and assertions are to be read.
+# clang cannot use the other compiler's precompiled header, and assertions must be compiled.
 LEFT_OUT = re.compile(r" -Winvalid-pch| -include \S*cmake_pch\.hxx| -DNDEBUG| -DQT_NO_DEBUG(?= )")
 
 

@@ -64,7 +64,7 @@ void ADAuthenticationWrapper::refreshTokenWithParams(const Dictionary& params, c
   m_isRefreshing = true;
   m_extraInfo = extraInfo;
   const TokenParameters wanted(params);
-  // Without a context the refresh stays outstanding until the next completion.
+  // Without a context the refresh stays outstanding, and the next result is reported as its own.
   ADAuthenticationContext* const context = createContext(wanted.authority, Q_FUNC_INFO);
   if (context == nullptr) return;
   context->acquireTokenWithRefreshToken(wanted.refreshToken, wanted.resource, wanted.clientId,

@@ -37,14 +37,13 @@ class ADAuthenticationWrapper final {
   // The result contains the extra info.
   void refreshTokenWithParams(const Dictionary& params, const Dictionary& extraInfo);
 
-  // Reported as a refresh if one is outstanding now, whatever the request was.
+  // Reports the result as a refresh if one is outstanding, whatever the request was.
   void onTokenAcquired(const ADAuthenticationResult& result);
 
   Dictionary generateExchResolvingFailedResult(const ADAuthenticationResult& result) const;
 
-  // A callback for any thread. It delivers its first result in the receiver's thread, later and not from
-  // within the call; it traces and drops the others, and all results once the receiver is destroyed. Copies
-  // count as one.
+  // A callback for any thread. It delivers its first result from the receiver's event loop, or drops it when
+  // the receiver is destroyed. It drops all later results with a trace. Copies share this state.
   static ADAuthenticationCallback oneShotCompletion(QObject* receiver, const char* method,
                                                     ADAuthenticationCallback deliver);
 

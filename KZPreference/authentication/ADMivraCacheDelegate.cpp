@@ -78,7 +78,7 @@ void ADMivraCacheDelegate::didWriteCache(ADTokenCache& cache) {
 
 void ADMivraCacheDelegate::fill(ADTokenCache& cache) {
   const ADTokenCache::Failure failure = cache.deserialize(_data);
-  // The cache keeps its items, and the keychain its data until a token is written.
+  // On failure the cache keeps its items, and the keychain its data until the next write.
   if (failure) MVRNSErrorFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "error:%@", failure->text());
 }
 
@@ -102,7 +102,7 @@ qint32 ADMivraCacheDelegate::writeToKeychain() {
 bool ADMivraCacheDelegate::clearCacheWithError(OSStatusError* error) {
   bool isCleared = false;
   ADTokenCache& cache = ADTokenCache::defaultCache();
-  // The cache's lock before our own, the order in which the cache calls us.
+  // Locks the cache first, as the cache's calls to its delegate do; another order could deadlock.
   cache.exclusively([&] {
     const QMutexLocker lock(&m_monitor);
     if (cache.deserialize(std::nullopt)) return;

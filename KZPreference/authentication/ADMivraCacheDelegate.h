@@ -9,7 +9,7 @@
 
 #include "adal/ADTokenCacheDelegate.h"
 
-// Where a host may keep the token cache in a file; the plug-in does not.
+// The path for a token cache in a file; the plug-in itself uses no file.
 const QString& defaultSavePath();
 
 // Why the keychain failed.
@@ -18,7 +18,7 @@ struct OSStatusError {
   qint32 code = 0;
 };
 
-// Keeps the default token cache as one item of the keychain: read before every access, rewritten after every
+// Stores the default token cache as one keychain item, read before every access and written after every
 // change. Any thread.
 class ADMivraCacheDelegate final : public ADTokenCacheDelegate {
  public:
@@ -36,7 +36,7 @@ class ADMivraCacheDelegate final : public ADTokenCacheDelegate {
   qint32 readFromKeychain();
   qint32 writeToKeychain();
 
-  // Empties the default cache, then deletes the item; one that is not there counts as deleted.
+  // Empties the default cache, then deletes the item. A missing item is no failure.
   [[nodiscard]] bool clearCacheWithError(OSStatusError* error);
 
   void readFromFile(const QString& path);

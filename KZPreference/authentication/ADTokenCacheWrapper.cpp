@@ -13,7 +13,7 @@ const QString appRegistration_redirectUri = QStringLiteral("urn:ietf:wg:oauth:2.
 namespace {
 
 bool isSameUser(const QString& userId, const QString& name) {
-  // Texts that differ only in letter case have the same length, which is much cheaper to compare.
+  // The lengths are compared first, because that is much cheaper.
   return userId.size() == name.size() && !name.isEmpty() && userId.compare(name, Qt::CaseInsensitive) == 0;
 }
 

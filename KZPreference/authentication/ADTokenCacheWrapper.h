@@ -18,7 +18,7 @@ class ADTokenCacheWrapper final {
   static ADTokenCacheWrapper& sharedInstance();
   Q_DISABLE_COPY_MOVE(ADTokenCacheWrapper)
 
-  // Not owned, and not called yet.
+  // Not owned. Never called.
   void setRefreshTokenDelegate(ADTokenRefreshDelegate* delegate);
 
   // The user's access token, whether it must be refreshed, and if so the parameters for that. Ignores letter

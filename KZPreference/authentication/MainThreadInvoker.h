@@ -6,7 +6,7 @@
 #include <memory>
 
 // Runs work on the main thread while the calling thread waits; a call from the main thread runs it at once.
-// Created on the main thread and shared with the callers.
+// Created on the main thread; its callers share ownership.
 class MainThreadInvoker {
  public:
   // Any thread.

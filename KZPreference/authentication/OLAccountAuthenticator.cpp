@@ -13,7 +13,7 @@ namespace {
 const QString kRequiredNotification = QStringLiteral("HTTPAuthenticationRequired");
 const QString kDatasourceNotification = QStringLiteral("HTTPAuthenticationDatasource");
 
-// So that the empty answer is posted, and the group shows the failure, first.
+// Lets the group show the failure, and the empty credential be posted, before the host gets the command.
 constexpr std::chrono::milliseconds kFailureDelay{100};
 
 enum class AuthRequiring { Discovery = 1, MeetingListing = 2 };

@@ -21,16 +21,17 @@ class OutlookAccountAuthDelegate {
   virtual void onAuthFailure(const Dictionary& result) = 0;
 };
 
-// Answers the Exchange client's credential challenges: during discovery from the auth delegate, when meetings
-// are listed from the keychain. A refused credential is reported and never sent again. Challenges may be
-// posted on any thread and are answered before the post returns; everything else is main thread only.
+// Responds to the Exchange client's credential challenges: during discovery with the auth delegate's
+// credential, while meetings are listed with the keychain's. A refused credential is reported and never sent
+// again. Challenges may be posted on any thread, and the response is posted before the post returns.
+// Everything else is main thread only.
 class OLAccountAuthenticator {
  public:
   explicit OLAccountAuthenticator(PreferenceActionDelegateProtocol* prefsDelegate);  // not owned
   ~OLAccountAuthenticator();
   Q_DISABLE_COPY_MOVE(OLAccountAuthenticator)
 
-  // Not owned; nullptr before it is destroyed.
+  // Not owned; set nullptr before it is destroyed.
   void setAuthDelegate(OutlookAccountAuthDelegate* delegate);
 
  private:
@@ -45,7 +46,7 @@ class OLAccountAuthenticator {
 
   OutlookAccountAuthDelegate* m_authDelegate = nullptr;
   PreferenceActionDelegateProtocol* m_prefsDelegate;
-  QObject m_delayed;  // context of the delayed report, which is dropped with this object
+  QObject m_delayed;  // context of the delayed command, which is cancelled with this object
   std::shared_ptr<MainThreadInvoker> m_mainThread;
   KZNotificationCenter::Token m_registration;
 };

@@ -2,7 +2,7 @@
 
 #include "host/KZFoundation/Dictionary.h"
 
-// Shows the stored calendar settings. Main thread only.
+// A view that shows the calendar settings. Main thread only.
 class CalendarPreferenceReceiver {
  public:
   virtual ~CalendarPreferenceReceiver() = default;
@@ -10,13 +10,13 @@ class CalendarPreferenceReceiver {
   virtual void setCalendarPreference(const Dictionary& preference) = 0;
 };
 
-// The actions that panes and authenticators report to the core. Values are stored and sent unchecked. Main
-// thread only.
+// The actions that panes and authenticators report to the core. Values are stored and sent without a check.
+// Main thread only.
 class PreferenceActionDelegateProtocol {
  public:
   virtual ~PreferenceActionDelegateProtocol() = default;
 
-  // The open Meetings pane of each variant, not owned; nullptr before it is destroyed.
+  // The Meetings pane of each window variant. Not owned; set nullptr before it is destroyed.
   virtual void setPrefMeetingView(CalendarPreferenceReceiver* view) = 0;
   virtual void setNonSignInPrefMeetingView(CalendarPreferenceReceiver* view) = 0;
 

@@ -1,5 +1,5 @@
-// The legacy windows: preferences windows of the host's own, one for all and one per meeting, from before the
-// plug-in had its window. The plug-in creates none of them.
+// The legacy windows: preferences windows that a host implements, a general one and one for each meeting. The
+// plug-in, which has its own window, creates none of them.
 #include <algorithm>
 
 #include "KZPreference/core/KZPreference.h"

@@ -18,7 +18,7 @@ void KZPreference::installWindowController(std::unique_ptr<PreferenceWindowContr
   m_ADAuthWrapper->setExchangeResolveResultReceiver(m_preferenceWindowController.get());
 }
 
-// The signed-in variant, even when the last one was a guest's.
+// Always the signed-in variant, even when the previous one was the guest's.
 PreferenceWindowController& KZPreference::ensuredWindowController() {
   if (!m_preferenceWindowController) {
     installWindowController(
@@ -49,7 +49,7 @@ void KZPreference::destroyAppPreference() {
   if (!closing) return;
   m_ADAuthWrapper->setExchangeResolveResultReceiver(nullptr);
   m_preferenceWindowController->close();
-  // The panes send commands while they close, and the host may answer with another destroy command.
+  // The panes send commands while they close, and the host may respond with another destroy command.
   if (m_preferenceWindowController.get() != closing) return;
   m_preferenceWindowController->retire();
   // The host may send this command from within an event of the window, so the controller is deleted later.

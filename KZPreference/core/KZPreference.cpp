@@ -66,7 +66,7 @@ quint64 KZPreference::onHandleOtherPluginsTriggerCommand(quint64 command, const 
       onChangeCalenderIntegrationRequiring(content);
       break;
     case KZCmdProximity:
-      // The object counts, not its text: only the host's own constant means this command.
+      // Compared by identity: only the host's own constant counts, not an equal text.
       if (textValue(dictionary, kproximityCommand).constData() == kstartDetectVD.constData())
         onEnableProximityAutoDetect();
       break;
@@ -133,7 +133,7 @@ void KZPreference::checkForUpdates(UpdateCheck kind, const char* method, const Q
     MVRNSWarningTraceIMPL("KZPreference", "%s, check for updates is in progress", method);
     return;
   }
-  // Set before anything is checked, and left set when there is no site: the host clears it.
+  // Set before the site is checked, and still set when there is none: the host clears it.
   if (isByUser) utility.setCheckForUpdatesInProgressFlag();
 
   const KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();

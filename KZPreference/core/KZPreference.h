@@ -29,7 +29,7 @@ class KZPreference final : public KZPluginMgr, public PluginCommandSender {
 
   quint64 sendPluginCommand(KZCommand command, const Content& content) override;
 
-  // The legacy windows, which belong to the host. The plug-in creates none of them.
+  // Legacy windows: preferences windows that a host implements. The plug-in creates none of them.
 
   // The meeting key in the content's host information, when that meeting has a window; null otherwise.
   QString hasHostInfo(const Dictionary& content) const;

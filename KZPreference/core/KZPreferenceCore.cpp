@@ -5,8 +5,8 @@
 
 namespace {
 
-// A plain pointer: a static object would be destroyed after the application object where a host does not shut
-// down.
+// A plain pointer, because a static object would be destroyed after the application object when a host does
+// not call shutDown.
 KZPreferenceCore* m_pKZPreferenceCore = nullptr;
 
 }  // namespace

@@ -2,8 +2,8 @@
 
 #include "host/KZFoundation/KZPluginCoreMgr.h"
 
-// The object through which host and plug-in talk: creates the principal object, passes the host's calls on to
-// it, and sends the plug-in's commands. Main thread only.
+// The plug-in's core: creates the principal object, passes the host's calls to it, and sends the plug-in's
+// commands to the host. Main thread only.
 class KZPreferenceCore final : public KZPluginCoreMgr {
  public:
   static KZPreferenceCore& sharedInstance();

@@ -5,8 +5,8 @@
 #include "host/KZFoundation/KZPluginCoreMgr.h"
 #include "host/KZFoundation/KZTokenLookup.h"
 
-// The plug-in as the loader gives it to the host. Loading it connects the token cache with the keychain and
-// the sign-in library's log with the trace.
+// The plug-in's root object, which the host gets from QPluginLoader. Loading it connects the token cache with
+// the keychain and the sign-in library's log with the trace.
 class PluginEntry final : public QObject, public KZPluginFactory, public KZTokenLookup {
   Q_OBJECT
   Q_PLUGIN_METADATA(IID "example.brenn-mivra.KZPluginFactory/1")

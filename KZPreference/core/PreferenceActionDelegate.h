@@ -4,7 +4,7 @@
 #include "KZPreference/contract/PreferenceActionDelegateProtocol.h"
 
 // Carries out the actions of panes and authenticators: each is written to the store, sent to the host, or
-// passed on to the open Meetings pane. Main thread only.
+// passed to the Meetings panes. Main thread only.
 class PreferenceActionDelegate final : public PreferenceActionDelegateProtocol {
  public:
   explicit PreferenceActionDelegate(PluginCommandSender* preference);  // not owned

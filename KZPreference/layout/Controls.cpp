@@ -5,7 +5,7 @@
 
 namespace {
 
-// A long text is sent whole; the toolkit would cut it silently at 32,767 characters.
+// The toolkit's default would cut a text at 32,767 characters.
 constexpr int kFieldCharacters = 1 << 24;
 
 template <typename Control>

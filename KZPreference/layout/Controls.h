@@ -9,7 +9,7 @@
 #include "platform/PopUpButton.h"
 #include "platform/StaticText.h"
 
-// The controls of the panes. Each is added to the view at the frame, and can be found by its name.
+// The controls of the panes. Each is added to the view at that frame, with that object name.
 
 StaticText* addLabel(QWidget* view, const char* name, const Frame& frame, const QString& text,
                      Qt::Alignment alignment = Qt::AlignLeft);

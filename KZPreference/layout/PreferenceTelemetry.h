@@ -6,7 +6,7 @@
 
 class PluginCommandSender;
 
-// Sends the user's choices in the panes to the host as telemetry records. Without a delegate they are
+// Sends the user's choices in the panes to the host as telemetry records. Without a delegate, records are
 // dropped. Main thread only.
 class PreferenceTelemetry {
  public:
@@ -15,7 +15,7 @@ class PreferenceTelemetry {
   // Not owned; nullptr detaches.
   void setTelemetryDelegate(PluginCommandSender* preference) { m_preference = preference; }
 
-  // A null name ends the record before the name; an invalid value leaves its key out.
+  // A null name is left out with all that follows it; an invalid value is left out with its key.
   void writeFeatrueName(const QString& name);
   void writeFeatrueName(const QString& name, const QString& key, const QVariant& value);
 

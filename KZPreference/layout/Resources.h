@@ -9,6 +9,6 @@
 // none. Follows QLocale::setDefault.
 QString localizedString(const char* key);
 
-// The folder of the images, and an image of it by name; null when there is none.
+// The folder of the images, and the image of that name in it; a null icon when there is none.
 extern const QString kImageBundle;
 QIcon paneImage(const QString& name);

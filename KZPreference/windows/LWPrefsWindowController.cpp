@@ -142,8 +142,7 @@ void LWPrefsWindowController::addView(View* view, const QString& label, const QI
   addToolbarItemForIdentifier(label, label, image, &LWPrefsWindowController::toggleActivePreferenceView);
   m_toolbarItems.value(label)->setCheckable(true);
   if (!m_contentSubview) return;
-  // Adding it to the window once gives the pane the window's palette and fonts before it is measured or
-  // drawn.
+  // The pane is added once, to get the window's palette and fonts before it is measured or drawn.
   addSubview(m_contentSubview, view, frameOf(view), VerticalAnchor::Top);
   removeFromSuperview(view);
 }

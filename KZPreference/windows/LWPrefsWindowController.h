@@ -43,7 +43,7 @@ class LWPrefsWindowController : public WindowController {
   bool shiftSlowsAnimation() const { return m_shiftSlowsAnimation; }
   void setShiftSlowsAnimation(bool isOn) { m_shiftSlowsAnimation = isOn; }
 
-  // Shows nothing when there is no pane. A window that exists already keeps its pane and its position.
+  // Shows nothing when there is no pane. An existing window keeps its pane and its position.
   void showWindow() override;
 
   // Replaces an item with the same identifier, with a warning trace.

@@ -11,8 +11,8 @@ class PrefProximityView;
 struct KZCalendarIntegrationOption;
 
 // The window with the five panes. A variant creates its own General, Account and Meetings panes. Results from
-// the host go to the Meetings pane; until the window is first shown there are no panes, and they are dropped.
-// Main thread only.
+// the host go to the Meetings pane; they are dropped until the window is first shown, which creates the
+// panes. Main thread only.
 class PreferenceWindowController : public LWPrefsWindowController, public ExchangeResolveResultReceiving {
   Q_OBJECT
 
@@ -43,7 +43,7 @@ class PreferenceWindowController : public LWPrefsWindowController, public Exchan
   virtual PaneSizes paneSizes() const = 0;
   virtual View* createGeneralView(const Frame& frame) = 0;
   virtual View* createAccountView(const Frame& frame) = 0;
-  // With the settings that only this variant passes to it.
+  // Includes the settings that only this variant has.
   virtual MeetingsPane* createMeetingView(const Frame& frame) = 0;
   virtual void registerMeetingView(MeetingsPane* view) = 0;  // nullptr to unregister
   // The host asks for a calendar source that is not Outlook.

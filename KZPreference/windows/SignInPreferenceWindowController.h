@@ -11,7 +11,7 @@ class SignInPreferenceWindowController final : public PreferenceWindowController
   explicit SignInPreferenceWindowController(PreferenceActionDelegateProtocol* delegate);  // not owned
   ~SignInPreferenceWindowController() override;
 
-  // Passed to the Meetings pane when the panes are created; not after that.
+  // Has no effect after the panes are created.
   void setCalendarIntergrationOption(const KZCalendarIntegrationOption& option) override;
 
  protected:

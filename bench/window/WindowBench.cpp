@@ -66,7 +66,7 @@ WindowBench::Switch WindowBench::measureSwitch(qsizetype pane) {
   m_frames.waitForQuiet(kQuiet);
   const auto start = FrameWatch::Clock::now();
   paneItemsOf(*m_window).at(pane)->trigger();
-  // A fade paints pictures of the panes, not the panes.
+  // During a fade the overlay is painted, not the panes.
   const QWidget* target = m_fade == Fade::On ? m_window : subviewsOf(contentViewOf(*m_window)).last();
   const auto painted = m_frames.waitForFrameOf(target);
   const auto settled = std::max(painted, m_frames.waitForQuiet(kQuiet));

@@ -8,14 +8,15 @@
 
 class Window;
 
-// Opens the plug-in's window in this process and measures what a user waits for.
+// Opens the plug-in's window in this process and measures the times that a user waits.
 class WindowBench final {
  public:
   enum class Fade { Off, On };
 
   explicit WindowBench(Fade fade) : m_fade(fade) {}
 
-  // The plug-in's load included; nothing when it cannot be loaded or shows no window, with a reason.
+  // Loads the plug-in and returns the time of the first frame. Nothing, with an `errorText`, when it cannot
+  // be loaded or shows no window.
   [[nodiscard]] std::optional<FrameWatch::Clock::time_point> open(const QString& plugin);
   const QString& errorText() const { return m_errorText; }
 

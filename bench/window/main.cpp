@@ -18,7 +18,7 @@ using WallClock = std::chrono::system_clock;
 constexpr int kUnusable = 2;
 constexpr int kPluginFailed = 3;
 
-// START_NS, or this program's first moment where nobody set it.
+// START_NS from the environment, or the start of main without it.
 WallClock::time_point startOfProgram() {
   bool isNumber = false;
   const qint64 nanoseconds = qEnvironmentVariable("START_NS").toLongLong(&isNumber);
@@ -32,7 +32,7 @@ double milliseconds(Duration duration) {
   return std::chrono::duration<double, std::milli>(duration).count();
 }
 
-// Each line at once: whoever waits for the first frame must not wait for the switches.
+// Flushes each line, so that a reader gets the first frame's before the switches end.
 template <typename... Values>
 void printLine(const char* format, Values... values) {
   std::printf(format, values...);
@@ -42,7 +42,7 @@ void printLine(const char* format, Values... values) {
 int benchWindow(WallClock::time_point start, FrameWatch::Clock::time_point toolkitReady,
                 WindowBench::Fade fade, const QString& plugin) {
   const QTemporaryDir state;
-  (void)KZPlistFileHandle::sharedInstance().open(state.path());  // nobody else knows this folder
+  (void)KZPlistFileHandle::sharedInstance().open(state.path());  // a new folder cannot be locked
   muteKZTrace();
   WindowBench bench(fade);
   const auto painted = bench.open(plugin);
@@ -93,7 +93,7 @@ int main(int argc, char** argv) {
                      {"plugin", "The plug-in to load.", "FILE", defaultPluginPath()}});
   parser.process(Application::commandLine(argc, argv));
   if (!parser.isSet("window")) {
-    std::fprintf(stderr, "prefs-bench: say --window\n");
+    std::fprintf(stderr, "prefs-bench: --window is required\n");
     return kUnusable;
   }
   const auto fade = parser.isSet("fade") ? WindowBench::Fade::On : WindowBench::Fade::Off;

@@ -73,22 +73,20 @@ Companion::Companion(const CompanionOptions& options)
 
 Companion::~Companion() {
   m_recording.stop();
-  // What the plug-in's end still tells must find its observers.
+  // What the plug-in sends at its end is reported to observers that still exist.
   m_host.shutDown();
 }
 
 void Companion::createPages() {
   m_window.addPage(QStringLiteral("Meetings"), [this] { return new MeetingsView(&m_services->meetings()); });
   m_window.addPage(QStringLiteral("Try out"), [this] { return createTryOut(); });
-  m_window.addPage(QStringLiteral("Inspector"), [this] { return createInspector(); });
+  m_window.addPage(QStringLiteral("Inspector"), [this] {
+    auto* inspector = new InspectorView(&m_log);
+    connect(inspector, &InspectorView::noticed, &m_window, &CompanionWindow::showNotice);
+    return inspector;
+  });
   m_window.addPage(QStringLiteral("Telemetry"),
                    [this] { return new TelemetryView(&m_services->telemetry()); });
-}
-
-QWidget* Companion::createInspector() {
-  auto* inspector = new InspectorView(&m_log);
-  connect(inspector, &InspectorView::noticed, &m_window, &CompanionWindow::showNotice);
-  return inspector;
 }
 
 QWidget* Companion::createTryOut() {
@@ -120,7 +118,7 @@ void Companion::connectSandbox() {
 }
 
 void Companion::connectRecording() {
-  connect(&m_recording, &Recording::noticed, &m_window, &CompanionWindow::showNotice);
+  connect(&m_recording, &Recording::message, &m_window, &CompanionWindow::showNotice);
   connect(&m_recording, &Recording::changed, &m_window, &CompanionWindow::showRecording);
   connect(&m_window, &CompanionWindow::recordingToggled, this, &Companion::toggleRecording);
 }
@@ -134,7 +132,7 @@ void Companion::toggleRecording() {
   dialog->open();
 }
 
-// A record must hold how the plug-in came to where it is, so it goes there once more.
+// A record begins with a fresh Preferences window, because it must hold how the window came about.
 void Companion::recordAnew(const QString& path) {
   if (m_recording.start(path)) m_window.startOver();
 }
@@ -173,6 +171,6 @@ void Companion::start(demouser::Variant variant) {
   m_window.become(variant);
   m_window.showPreferences();
   m_services->start();
-  // The windows come first: while they are painted, it would only take their time.
+  // Later, so that it takes no processor time from the first paint of the windows.
   QTimer::singleShot(kPaintTime, &m_sandbox, [this] { m_sandbox.start(Sandbox::programPath()); });
 }

@@ -13,7 +13,7 @@
 #include "companion/runtime/PluginHost.h"
 #include "companion/services/CompanionServices.h"
 
-// Everything that the companion is made of, put together. Open the settings store and choose the keychain
+// The parts of the companion, put together. Open the settings store and choose the keychain
 // before; the application object must outlive it. Main thread only.
 class Companion final : public QObject {
   Q_OBJECT
@@ -22,8 +22,8 @@ class Companion final : public QObject {
   explicit Companion(const CompanionOptions& options);
   ~Companion() override;
 
-  // Returns when the window is on the screen, or would not come. What the user does with it waits until the
-  // events run: load the plug-in before.
+  // Returns when the window is on the screen, or after half a second. Input waits until the event loop runs:
+  // load the plug-in before.
   void showWindow();
 
   // False when the plug-in cannot be loaded; the reason is in `errorText`.
@@ -47,7 +47,6 @@ class Companion final : public QObject {
   void createPages();
   void createServices();
   QWidget* createTryOut();
-  QWidget* createInspector();
   void offer(const SandboxDescription& sandbox);
   void connectSandbox();
   void connectRecording();
@@ -58,11 +57,11 @@ class Companion final : public QObject {
   InspectorLog m_log;
   PluginHost::Token m_logging;
   Recording m_recording;
-  std::unique_ptr<CompanionServices> m_services;  // the pages use them to their end
+  std::unique_ptr<CompanionServices> m_services;  // before the window, whose pages use them
   CompanionWindow m_window;
   const CompanionOptions m_options;
   SandboxDescription m_offered;
-  TryOutView* m_tryOut = nullptr;  // the window's, once somebody looks
+  TryOutView* m_tryOut = nullptr;  // owned by the window; nullptr until it is shown
   std::unique_ptr<CompanionExchange> m_exchange;
   Sandbox m_sandbox;
 };

@@ -1,29 +1,35 @@
 #pragma once
 
+#include <QMessageBox>
 #include <QObject>
+#include <QPointer>
 #include <QString>
+#include <memory>
 
-#include "companion/app/RedirectQuestion.h"
 #include "companion/exchange/ExchangeDiscovery.h"
 #include "companion/services/ServiceNetwork.h"
 
 class PluginHost;
 
-// Finds Exchange services for the plug-in: receives its commands and answers them. Main thread only.
+// Finds Exchange services for the plug-in: receives its commands and answers them. Where the search is
+// redirected the user is asked; the rest of the program stays usable meanwhile. Main thread only.
 class CompanionExchange final : public QObject {
   Q_OBJECT
 
  public:
   // The two are not owned and must outlive this. A search that runs when the network is lost fails.
   CompanionExchange(PluginHost* host, ServiceNetwork* network);
+  ~CompanionExchange() override;
 
  Q_SIGNALS:
   void message(const QString& text);  // for the user
 
  private:
-  void useNetwork();
+  void start(const Dictionary& content);
+  void askAboutRedirect(const QUrl& target, const RedirectPrompt::Answer& answer);
 
+  PluginHost* m_host;
   ServiceNetwork* m_network;
-  RedirectQuestion m_question;
-  ExchangeDiscovery m_discovery;
+  QPointer<QMessageBox> m_question;
+  std::unique_ptr<ExchangeDiscovery> m_discovery;  // the last one
 };

@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "companion/app/FaultNotice.h"
+#include "companion/app/Rows.h"
 #include "companion/app/SiteDialog.h"
 #include "companion/runtime/PluginHost.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
@@ -35,7 +36,7 @@ CompanionWindow::CompanionWindow(PluginHost* host) : m_host(host) {
   column->setSpacing(14);
   column->addWidget(createHeader());
   column->addWidget(createButtons());
-  column->addWidget(new FaultNotice(this));
+  column->addWidget(createFaultNotice(this));
   column->addWidget(createPages(), 1);
   m_notice = new QLabel;
   m_notice->setWordWrap(true);
@@ -54,9 +55,7 @@ void CompanionWindow::useServices(CompanionServices* services) {
 
 QWidget* CompanionWindow::createHeader() {
   auto* header = new QWidget;
-  auto* row = new QHBoxLayout(header);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(12);
+  QHBoxLayout* row = addRow(header, 12);
   auto* texts = new QVBoxLayout;
   texts->setSpacing(2);
   auto* title = new QLabel(QStringLiteral("Brenn Mivra Meetings"));
@@ -101,9 +100,7 @@ void CompanionWindow::showPage(int index) {
 
 QWidget* CompanionWindow::createSwitch() {
   auto* box = new QWidget;
-  auto* row = new QHBoxLayout(box);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(16);
+  QHBoxLayout* row = addRow(box, 16);
   m_signedIn = new QRadioButton(QStringLiteral("Signed in"));
   m_guest = new QRadioButton(QStringLiteral("Guest"));
   row->addWidget(m_signedIn);
@@ -115,28 +112,30 @@ QWidget* CompanionWindow::createSwitch() {
 
 QWidget* CompanionWindow::createButtons() {
   auto* bar = new QWidget;
-  auto* row = new QHBoxLayout(bar);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(8);
-  auto* preferences = createButton("Preferences", "Command 2", &CompanionWindow::showPreferences);
+  QHBoxLayout* row = addRow(bar, 8);
+  auto* preferences = createButton("Preferences", "Command 2", [this] { showPreferences(); });
   preferences->setDefault(true);
   row->addWidget(preferences);
-  row->addWidget(createButton("Account", "Command 2 with the Account pane", &CompanionWindow::showAccount));
-  row->addWidget(createButton("Check for updates", "Command 8", &CompanionWindow::checkForUpdates));
-  m_updateButton = createButton(QString(), "Opens its page in the browser", &CompanionWindow::openUpdatePage);
+  row->addWidget(createButton("Account", "Command 2 with the Account pane", [this] {
+    m_host->trigger(KZCommand::KZCmdShowPreference, Dictionary{{kOpenPrefsViewType, kPrefsAccountView}});
+  }));
+  row->addWidget(createButton("Check for updates", "Command 8", [this] { m_services->updates().check(); }));
+  m_updateButton =
+      createButton(QString(), "Opens its page in the browser", [this] { m_services->updates().openPage(); });
   m_updateButton->hide();
   row->addWidget(m_updateButton);
-  row->addWidget(createButton("Join by number", "Command 10", &CompanionWindow::joinByNumber));
-  row->addWidget(createButton("Close", "Command 3", &CompanionWindow::closePreferences));
+  row->addWidget(createButton("Join by number", "Command 10",
+                              [this] { m_host->trigger(KZCommand::KZCmdJoinByNumber, fromApplication()); }));
+  row->addWidget(createButton("Close", "Command 3", [this] { closePreferences(); }));
   row->addStretch(1);
   m_recordButton = createButton("Record", "Writes what happens to a file, for a report",
-                                &CompanionWindow::recordingToggled);
+                                [this] { Q_EMIT recordingToggled(); });
   row->addWidget(m_recordButton);
   return bar;
 }
 
 QPushButton* CompanionWindow::createButton(const QString& title, const QString& toolTip,
-                                           void (CompanionWindow::*action)()) {
+                                           const std::function<void()>& action) {
   auto* button = new QPushButton(title);
   button->setToolTip(toolTip);
   connect(button, &QPushButton::clicked, this, action);
@@ -176,26 +175,10 @@ void CompanionWindow::comeToFront() {
   activateWindow();
 }
 
-void CompanionWindow::showAccount() {
-  m_host->trigger(KZCommand::KZCmdShowPreference, Dictionary{{kOpenPrefsViewType, kPrefsAccountView}});
-}
-
-void CompanionWindow::checkForUpdates() {
-  m_services->updates().check();
-}
-
-void CompanionWindow::openUpdatePage() {
-  m_services->updates().openPage();
-}
-
 void CompanionWindow::showUpdate() {
   const QString version = m_services->updates().offeredVersion();
   m_updateButton->setText(QStringLiteral("Get version %1").arg(version));
   m_updateButton->setVisible(!version.isEmpty());
-}
-
-void CompanionWindow::joinByNumber() {
-  m_host->trigger(KZCommand::KZCmdJoinByNumber, fromApplication());
 }
 
 void CompanionWindow::closePreferences() {

@@ -16,7 +16,7 @@ class QPushButton;
 class QRadioButton;
 class SiteDialog;
 
-// The companion's own window: who is there, what a host can ask of its plug-in, and what crosses the host.
+// The companion's own window: the user, what a host can ask of its plug-in, and a page for each service.
 class CompanionWindow final : public QWidget {
   Q_OBJECT
 
@@ -30,12 +30,12 @@ class CompanionWindow final : public QWidget {
   void become(demouser::Variant variant);
   void showPreferences();
   void comeToFront();
-  // Tells the plug-in anew who is there and shows the Preferences.
+  // The same for the present user, then shows the Preferences.
   void startOver();
   void showRecording(bool isRunning);
   void showNotice(const QString& text);
-  // The page is made when it is first shown, so that what nobody looks at costs the start nothing; the
-  // window takes it. The first page is in front. After useServices.
+  // The page is made when it is first shown, so that it costs the start nothing; the window owns it. The
+  // first page is in front. After useServices.
   using PageMaker = std::function<QWidget*()>;
   void addPage(const QString& title, const PageMaker& make);
   // Asks the site, and belongs to it from then on.
@@ -52,14 +52,11 @@ class CompanionWindow final : public QWidget {
   QWidget* createHeader();
   QWidget* createSwitch();
   QWidget* createButtons();
-  QPushButton* createButton(const QString& title, const QString& toolTip, void (CompanionWindow::*action)());
+  QPushButton* createButton(const QString& title, const QString& toolTip,
+                            const std::function<void()>& action);
 
   void showPage(int index);
-  void showAccount();
-  void checkForUpdates();
-  void openUpdatePage();
   void showUpdate();
-  void joinByNumber();
   void closePreferences();
   SiteDialog* openSiteDialog();
   void showIdentity();

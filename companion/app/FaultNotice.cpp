@@ -1,16 +1,13 @@
 #include "companion/app/FaultNotice.h"
 
 #include <QFileInfo>
-#include <QPainter>
+#include <QLabel>
 #include <QStringList>
 
 #include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 
 namespace {
-
-constexpr int kNoticeGap = 10;
-constexpr qreal kNoticeCorner = 6;
 
 QString noticeOfSaving(KZSaveProblem problem, const QString& file) {
   const QString folder = QFileInfo(file).absolutePath();
@@ -50,31 +47,7 @@ QString noticeOfSecrets() {
       "Meetings quits. Unlock the keyring, then start again.");
 }
 
-}  // namespace
-
-FaultNotice::FaultNotice(QWidget* parent) : QLabel(parent) {
-  setObjectName(QStringLiteral("m_faultNotice"));
-  setWordWrap(true);
-  setTextFormat(Qt::PlainText);
-  setContentsMargins(kNoticeGap, kNoticeGap - 2, kNoticeGap, kNoticeGap - 2);
-  setForegroundRole(QPalette::ToolTipText);
-  connect(&KZPlistFileHandle::sharedInstance(), &KZPlistFileHandle::saveProblemChanged, this,
-          &FaultNotice::renew);
-  connect(&KZKeyChainHandle::sharedInstance(), &KZKeyChainHandle::failed, this, &FaultNotice::renew);
-  renew();
-}
-
-void FaultNotice::paintEvent(QPaintEvent* event) {
-  QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(palette().color(QPalette::Mid));
-  painter.setBrush(palette().toolTipBase());
-  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kNoticeCorner, kNoticeCorner);
-  painter.end();
-  QLabel::paintEvent(event);
-}
-
-void FaultNotice::renew() {
+QString faultNotices() {
   const KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
   QStringList notices;
   if (store.saveProblem() != KZSaveProblem::None) {
@@ -82,6 +55,28 @@ void FaultNotice::renew() {
   }
   if (!store.setAsidePath().isNull()) notices.append(noticeOfSetAside(store.setAsidePath()));
   if (KZKeyChainHandle::sharedInstance().hasFailed()) notices.append(noticeOfSecrets());
-  setText(notices.join(u'\n'));
-  setVisible(!notices.isEmpty());
+  return notices.join(u'\n');
+}
+
+}  // namespace
+
+QLabel* createFaultNotice(QWidget* parent) {
+  constexpr int kNoticeGap = 10;
+  auto* notice = new QLabel(parent);
+  notice->setObjectName(QStringLiteral("m_faultNotice"));
+  notice->setWordWrap(true);
+  notice->setTextFormat(Qt::PlainText);
+  notice->setMargin(kNoticeGap);
+  notice->setAutoFillBackground(true);
+  notice->setBackgroundRole(QPalette::ToolTipBase);
+  notice->setForegroundRole(QPalette::ToolTipText);
+  const auto renew = [notice] {
+    notice->setText(faultNotices());
+    notice->setVisible(!notice->text().isEmpty());
+  };
+  QObject::connect(&KZPlistFileHandle::sharedInstance(), &KZPlistFileHandle::saveProblemChanged, notice,
+                   renew);
+  QObject::connect(&KZKeyChainHandle::sharedInstance(), &KZKeyChainHandle::failed, notice, renew);
+  renew();
+  return notice;
 }

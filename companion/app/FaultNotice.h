@@ -1,21 +1,9 @@
 #pragma once
 
-#include <QLabel>
+class QLabel;
+class QWidget;
 
-#include "host/KZUtility/KZSaveProblem.h"
-
-// Tells the user while settings or passwords cannot be kept, and what to do about it, and in the run that
-// found the settings damaged; hidden otherwise. Follows the store and the keychain by itself. Main thread
-// only.
-class FaultNotice final : public QLabel {
-  Q_OBJECT
-
- public:
-  explicit FaultNotice(QWidget* parent);
-
- protected:
-  void paintEvent(QPaintEvent* event) override;
-
- private:
-  void renew();
-};
+// A label that says, while settings or passwords cannot be kept, why and what to do about it, and in the run
+// that found the settings damaged where they are; hidden otherwise. It follows the store and the keychain by
+// itself. Main thread only.
+[[nodiscard]] QLabel* createFaultNotice(QWidget* parent);

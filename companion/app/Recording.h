@@ -7,7 +7,7 @@
 #include "companion/record/RecordFile.h"
 #include "companion/record/Recorder.h"
 
-// The record that the companion makes of what happens at its host. Main thread only.
+// The record that the companion makes of its host's events. Main thread only.
 class Recording final : public QObject {
   Q_OBJECT
 
@@ -21,7 +21,7 @@ class Recording final : public QObject {
 
  Q_SIGNALS:
   void changed(bool isRunning);
-  void noticed(const QString& text);  // for the user
+  void message(const QString& text);  // for the user
 
  private:
   [[nodiscard]] bool write(const QByteArray& line);  // on the thread that recorded it

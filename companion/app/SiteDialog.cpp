@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "companion/app/Rows.h"
 #include "companion/network/WebAddress.h"
 #include "companion/services/SiteService.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
@@ -46,9 +47,7 @@ void SiteDialog::done(int result) {
 
 QWidget* SiteDialog::createButtons() {
   auto* bar = new QWidget;
-  auto* row = new QHBoxLayout(bar);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(8);
+  QHBoxLayout* row = addRow(bar, 8);
   auto* keep = new QPushButton(QStringLiteral("Keep the old site"));
   m_useAnyway = new QPushButton(QStringLiteral("Use it anyway"));
   m_change = new QPushButton(QStringLiteral("Change"));
@@ -95,7 +94,7 @@ void SiteDialog::showFailure(const QString& reason) {
 }
 
 void SiteDialog::forgetFailure() {
-  // What was asked is not what stands there now.
+  // The field holds another site now.
   m_service->cancelLookUp();
   m_change->setEnabled(true);
   m_text->clear();

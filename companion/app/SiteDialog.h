@@ -7,7 +7,7 @@ class QLineEdit;
 class QPushButton;
 class SiteService;
 
-// Asks for another site, which must answer before it is taken; one that does not may be taken all the same.
+// Asks for another site and looks it up before it is used; one that does not answer may be used all the same.
 class SiteDialog final : public QDialog {
   Q_OBJECT
 
@@ -19,7 +19,7 @@ class SiteDialog final : public QDialog {
   // As if the user had typed it.
   void ask(const QString& site);
 
-  // Closed in any way: an answer that is still on its way changes nothing.
+  // However it is closed: a late answer changes nothing.
   void done(int result) override;
 
  private:

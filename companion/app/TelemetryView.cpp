@@ -8,6 +8,7 @@
 #include <QPushButton>
 
 #include "companion/app/ListTable.h"
+#include "companion/app/Rows.h"
 #include "companion/services/TelemetryService.h"
 
 namespace {
@@ -45,8 +46,7 @@ TelemetryView::TelemetryView(TelemetryService* telemetry)
 
 QWidget* TelemetryView::createBar() {
   auto* bar = new QWidget;
-  auto* row = new QHBoxLayout(bar);
-  row->setContentsMargins(0, 0, 0, 0);
+  QHBoxLayout* row = addRow(bar, 8);
   row->addWidget(m_isOn);
   row->addStretch(1);
   row->addWidget(m_delete);

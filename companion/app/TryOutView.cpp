@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "companion/app/ListTable.h"
+#include "companion/app/Rows.h"
 
 namespace {
 
@@ -59,8 +60,7 @@ TryOutView::TryOutView()
 
 QWidget* TryOutView::createBar(const QString& text, QWidget* button) {
   auto* bar = new QWidget;
-  auto* row = new QHBoxLayout(bar);
-  row->setContentsMargins(0, 0, 0, 0);
+  QHBoxLayout* row = addRow(bar, 8);
   row->addWidget(createPlainLabel(text), 1);
   row->addWidget(button);
   return bar;

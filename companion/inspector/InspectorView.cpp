@@ -16,6 +16,7 @@
 #include <QSplitter>
 #include <QTableView>
 #include <algorithm>
+#include <memory>
 #include <numeric>
 
 #include "companion/inspector/InspectorFilter.h"
@@ -77,6 +78,28 @@ QPlainTextEdit* createDetails() {
   return details;
 }
 
+// The list follows its end unless the reader has scrolled away from it; then what is read stays where it is
+// when rows above it go. Call it before the list gets its model, which would choose a neighbour of a row that
+// goes.
+void keepPlace(QTableView* table, QAbstractItemModel* model) {
+  const auto isAtEnd = std::make_shared<bool>(true);
+  QScrollBar* bar = table->verticalScrollBar();
+  QObject::connect(bar, &QScrollBar::valueChanged, table,
+                   [isAtEnd, bar](int row) { *isAtEnd = row == bar->maximum(); });
+  QObject::connect(bar, &QScrollBar::rangeChanged, table, [isAtEnd, bar] {
+    if (*isAtEnd) bar->setValue(bar->maximum());
+  });
+  QObject::connect(model, &QAbstractItemModel::rowsAboutToBeRemoved, table,
+                   [table](const QModelIndex&, int first, int last) {
+                     const int current = table->currentIndex().row();
+                     if (current >= first && current <= last) table->selectionModel()->clearCurrentIndex();
+                   });
+  QObject::connect(model, &QAbstractItemModel::rowsRemoved, table,
+                   [isAtEnd, bar](const QModelIndex&, int first, int last) {
+                     if (!*isAtEnd) bar->setValue(bar->value() - (last - first + 1));
+                   });
+}
+
 }  // namespace
 
 InspectorView::InspectorView(InspectorLog* log)
@@ -95,7 +118,7 @@ InspectorView::InspectorView(InspectorLog* log)
 
 void InspectorView::setUpTable() {
   constexpr int kRowGap = 6;
-  keepPlace();
+  keepPlace(m_table, m_filter);
   m_table->setModel(m_filter);
   m_table->setSelectionBehavior(QTableView::SelectRows);
   m_table->setShowGrid(false);
@@ -116,26 +139,6 @@ void InspectorView::setUpTable() {
           &InspectorView::showDetails);
   auto* shortcut = new QShortcut(QKeySequence::Copy, m_table, nullptr, nullptr, Qt::WidgetShortcut);
   connect(shortcut, &QShortcut::activated, this, &InspectorView::copy);
-}
-
-// The list follows its end unless the reader has scrolled away from it; then what is read stays where it is
-// when rows above it go. Call it before the list gets its model, which would choose a neighbour of a row that
-// goes.
-void InspectorView::keepPlace() {
-  QScrollBar* bar = m_table->verticalScrollBar();
-  connect(bar, &QScrollBar::valueChanged, this, [this, bar](int row) { m_isAtEnd = row == bar->maximum(); });
-  connect(bar, &QScrollBar::rangeChanged, this, [this, bar] {
-    if (m_isAtEnd) bar->setValue(bar->maximum());
-  });
-  connect(m_filter, &QAbstractItemModel::rowsAboutToBeRemoved, this,
-          [this](const QModelIndex&, int first, int last) {
-            const int current = m_table->currentIndex().row();
-            if (current >= first && current <= last) m_table->selectionModel()->clearCurrentIndex();
-          });
-  connect(m_filter, &QAbstractItemModel::rowsRemoved, this,
-          [this, bar](const QModelIndex&, int first, int last) {
-            if (!m_isAtEnd) bar->setValue(bar->value() - (last - first + 1));
-          });
 }
 
 QWidget* InspectorView::createBoxes() {

@@ -24,7 +24,6 @@ class InspectorView final : public QWidget {
 
  private:
   void setUpTable();
-  void keepPlace();
   QWidget* createBoxes();
   QWidget* createBar();
   QWidget* createLists();
@@ -39,5 +38,4 @@ class InspectorView final : public QWidget {
   QTableView* m_table;
   QPlainTextEdit* m_details;
   QPushButton* m_pause = nullptr;
-  bool m_isAtEnd = true;  // the list follows its end
 };

@@ -4,8 +4,8 @@
 
 #include "host/KZFoundation/KZHostExport.h"
 
-// A notice inside a pane: a coloured strip with an icon and a text that wraps. It takes its parent's width
-// and the height that the text needs, at the parent's upper edge.
+// A notice inside a pane: a coloured strip with an icon and a text that wraps. It is at its parent's upper
+// edge, as wide as the parent and as high as the text needs.
 class KZ_HOST_EXPORT MarigoldWarningView : public QWidget {
   Q_OBJECT
 

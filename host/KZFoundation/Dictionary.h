@@ -13,12 +13,12 @@
 // and is never stored under a key.
 using Dictionary = QVariantMap;
 
-// What accompanies a command: a dictionary, or nothing at all.
+// The content of a command or notification: a dictionary, or none.
 using Content = std::optional<Dictionary>;
 
 KZ_HOST_EXPORT bool isMissing(const QVariant& value);
 
-// Pairs in order, up to the first missing value.
+// The pairs before the first missing value.
 KZ_HOST_EXPORT Dictionary dictionaryWithPairs(std::initializer_list<std::pair<QString, QVariant>> pairs);
 
 // Readers of contents from outside: a value of another type counts as absent.

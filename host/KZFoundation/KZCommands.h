@@ -42,8 +42,8 @@ enum class KZNotify : quint32 {
 
 enum class KZDirection { ToPlugin, ToHost };
 
-// Every command and notification between host and plug-in, with the name that hosts print and what the host
-// guide's tables say. A command that is sent both ways has two rows.
+// Every command and notification between host and plug-in, with its printed name and its row in the host
+// guide's tables. A command that is sent both ways has two rows.
 struct KZCommandRow {
   KZCommand number;
   const char* name;
@@ -62,5 +62,5 @@ struct KZNotifyRow {
 KZ_HOST_EXPORT std::span<const KZCommandRow> kzCommandTable();
 KZ_HOST_EXPORT std::span<const KZNotifyRow> kzNotifyTable();
 
-// The name of that number, "" when it has none.
+// The command's name; "" for an unknown number.
 KZ_HOST_EXPORT const char* kzCommandName(quint64 number);

@@ -20,7 +20,7 @@ struct KZNotification {
 class KZ_HOST_EXPORT KZNotificationCenter {
  public:
   using Handler = std::function<void(const KZNotification&)>;
-  // The registration ends when the last copy of its token goes.
+  // The registration ends when the last copy of its token is destroyed.
   using Token = std::shared_ptr<const Handler>;
 
   static KZNotificationCenter& defaultCenter();

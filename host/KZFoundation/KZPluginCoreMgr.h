@@ -21,7 +21,7 @@ class KZ_HOST_EXPORT KZPluginDelegate {
   quint32 m_delegateNameIdx = 0;  // the plug-in's identity in the host's event numbering
 };
 
-// The object of a plug-in that the host addresses first. Main thread only.
+// A plug-in's core, to which the host sends commands and notifications. Main thread only.
 class KZ_HOST_EXPORT KZPluginCoreMgr {
  public:
   KZPluginCoreMgr();
@@ -46,7 +46,7 @@ class KZ_HOST_EXPORT KZPluginCoreMgr {
   KZPluginDelegate* m_delegate = nullptr;
 };
 
-// What QPluginLoader::instance() answers for a plug-in of this family.
+// A plug-in's root object, which QPluginLoader::instance() returns.
 class KZ_HOST_EXPORT KZPluginFactory {
  public:
   KZPluginFactory();
@@ -56,8 +56,8 @@ class KZ_HOST_EXPORT KZPluginFactory {
   // The plug-in's one core, made on the first call. Owned by the plug-in.
   virtual KZPluginCoreMgr* core() = 0;
 
-  // Destroys the core with all windows. Call before the application object goes; the host drops its pointer
-  // first.
+  // Destroys the core with all windows. Call it before the application object is destroyed; pointers to the
+  // core are invalid afterwards.
   virtual void shutDown() = 0;
 };
 

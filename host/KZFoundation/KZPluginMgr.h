@@ -6,7 +6,8 @@
 
 class KZPluginCoreMgr;
 
-// A plug-in's principal object: receives what the host sends. Main thread only; always answers 0.
+// A plug-in's principal object: receives the host's commands and notifications. Main thread only; always
+// returns 0.
 class KZ_HOST_EXPORT KZPluginMgr {
  public:
   explicit KZPluginMgr(KZPluginCoreMgr* core);

@@ -4,17 +4,20 @@
 
 #include "host/KZFoundation/Dictionary.h"
 
-// The token cache as the plug-in's root object offers it to hosts, beside KZPluginFactory. Main thread only.
+// Access to the plug-in's token cache, which its root object implements beside KZPluginFactory. Main thread
+// only.
 class KZTokenLookup {
  public:
   KZTokenLookup() = default;
   virtual ~KZTokenLookup() = default;
   Q_DISABLE_COPY_MOVE(KZTokenLookup)
 
-  // What the cache answers for that account; empty when it holds no token. A null text is a missing one.
+  // The cached access token of that account with its state; empty when there is none. Either text may be
+  // null.
   virtual Dictionary getAccessTokenByEmail(const QString& email, const QString& username) = 0;
 
-  // Forgets every token, in the keychain too. On failure false, with the reason in `error` when it is given.
+  // Removes every token, from the keychain too. False on failure, with the reason in `error` unless it is
+  // null.
   [[nodiscard]] virtual bool clearCacheWithError(QString* error) = 0;
 };
 

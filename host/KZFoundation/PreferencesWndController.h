@@ -3,7 +3,7 @@
 #include "host/KZFoundation/Dictionary.h"
 #include "host/KZFoundation/KZHostExport.h"
 
-// A preferences window of the host's own, from before plug-ins had theirs. Main thread only.
+// A preferences window that the host implements; from before plug-ins had their own. Main thread only.
 class KZ_HOST_EXPORT PreferencesWndController {
  public:
   PreferencesWndController();

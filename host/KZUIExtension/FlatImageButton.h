@@ -5,7 +5,7 @@
 
 #include "host/KZFoundation/KZHostExport.h"
 
-// A button that is nothing but an image for each of its states.
+// A button that shows an image for each of its states and nothing else.
 class KZ_HOST_EXPORT FlatImageButton : public QAbstractButton {
   Q_OBJECT
 
@@ -20,7 +20,7 @@ class KZ_HOST_EXPORT FlatImageButton : public QAbstractButton {
 
   FlatImageButton();
 
-  // Names of images below that folder; see KZRetinaHelper. A name without image draws nothing.
+  // Names of images below that folder; see KZRetinaHelper. Nothing is drawn for a name without an image.
   void setImageNames(const ImageNames& names, const QString& imageBundle);
   const ImageNames& imageNames() const { return m_names; }
 

@@ -21,7 +21,7 @@ bool isDarkWindow(const QPalette& palette) {
   return qGray(activeRgb(palette, QPalette::Window)) < qGray(activeRgb(palette, QPalette::WindowText));
 }
 
-// The same rule by which the look chooses its high contrast palettes.
+// The same rule as lookSchemeFor in platform/, which this library cannot include.
 bool isHighContrastWindow(const QPalette& palette) {
   const QRgb back = activeRgb(palette, QPalette::Window);
   if (back != 0xff000000 && back != 0xffffffff) return false;

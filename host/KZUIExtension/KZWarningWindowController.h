@@ -13,16 +13,16 @@ class KZ_HOST_EXPORT KZWarningWindowController {
  public:
   using Observer = std::function<void(const QString& title, const QString& message)>;
 
-  // The delegate is part of the signature that plug-ins use; the window needs nothing of it.
+  // The delegate is ignored; plug-ins pass one.
   explicit KZWarningWindowController(const void* delegate);
   ~KZWarningWindowController();
   Q_DISABLE_COPY_MOVE(KZWarningWindowController)
 
-  // Shown again, the one window takes the new texts. Plain text; a missing message shows as none; a long one
-  // is scrolled.
+  // Shows the window, or changes the texts of the one that is open. Plain text; a null message is left out, a
+  // long one scrolls.
   void showWithTitle(const QString& title, const QString& message);
 
-  // Called at every showing in this process; an empty function ends that.
+  // Called each time this process shows a warning; an empty function removes the observer.
   static void setObserver(Observer observer);
 
  private:

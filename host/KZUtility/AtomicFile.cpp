@@ -38,7 +38,7 @@ bool writeAll(int descriptor, QByteArrayView bytes) {
   return true;
 }
 
-// Some file systems cannot do it; the file is in place all the same.
+// A failure is ignored: some file systems cannot sync a folder, and the file is in place.
 void syncFolder(const QString& folder) {
   const Descriptor place(::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (place.isOpen()) (void)::fsync(place.get());
@@ -63,8 +63,8 @@ int replaceFile(const QString& folder, const QString& name, const QByteArray& by
     ::unlink(temporary.constData());
     return reason;
   }
-  // A first file must still have its name after a power cut. A later one may be the old or the new file then,
-  // both whole, which is not worth doubling the wait at every change.
+  // The folder is synced for a new file only, whose name could be lost in a power cut. A replaced file is the
+  // old or the new one then, both complete, and syncing at every change would double its time.
   if (isFirst) syncFolder(folder);
   return 0;
 }

@@ -3,8 +3,9 @@
 #include <QByteArray>
 #include <QString>
 
-// Replaces the file as a whole or not at all, readable by its owner alone; on the disk when this returns. The
-// system's error number when it failed, else 0; a failure leaves no temporary file.
+// Replaces the file completely or not at all, with mode 0600. Its contents are on the disk when this returns;
+// a power cut may still bring the replaced file back. Returns 0, or the system's error number; a failure
+// leaves no temporary file.
 [[nodiscard]] int replaceFile(const QString& folder, const QString& name, const QByteArray& bytes);
 
 // Removes what a process that died in the middle of `replaceFile` left behind.

@@ -2,7 +2,7 @@
 
 #include "host/KZFoundation/KZHostExport.h"
 
-// What the host knows of the signed-in user's site. Main thread only.
+// What the host knows about the signed-in user's site. Main thread only.
 class KZ_HOST_EXPORT KZApplicationHelper {
  public:
   static KZApplicationHelper& sharedInstance();

@@ -16,7 +16,7 @@ using Answer = KZKeychainBackend::Answer;
 using Status = KZKeychainBackend::Status;
 
 const QString kService = QStringLiteral("Brenn Mivra Meetings");
-// One item for the pair, so that a name is never stored with the password of another one.
+// User name and password are one item, so that a name is never stored with another one's password.
 const Item kOnpremiseItem{kService, QStringLiteral("OutlookAccount(Onpremise)")};
 const Item kOnlineItem{kService, QStringLiteral("OutlookAccount(Online)")};
 const QString kUsername = QStringLiteral("username");
@@ -31,7 +31,7 @@ struct KZKeyChainHandle::Private {
   QMutex mutex;
   std::shared_ptr<KZKeychainBackend> backend;  // null while everything is in memory
   bool hasFailed = false;
-  // All secrets without a backend, else what is known of the backend's.
+  // Without a backend all secrets, otherwise those read from it or written to it.
   QMap<std::pair<QString, QString>, QByteArray> memory;
 
   std::shared_ptr<KZKeychainBackend> currentBackend() {
@@ -102,7 +102,7 @@ struct KZKeyChainHandle::Private {
 };
 
 KZKeyChainHandle& KZKeyChainHandle::sharedInstance() {
-  // Never destroyed: a keychain may answer after the application object is gone.
+  // Never destroyed: a keychain may respond after the application object is destroyed.
   static KZKeyChainHandle* const handle = new KZKeyChainHandle;
   return *handle;
 }

@@ -9,10 +9,10 @@
 #include "host/KZFoundation/KZHostExport.h"
 #include "host/KZUtility/KZKeychainBackend.h"
 
-// The host's keychain. Secrets are kept in the platform's keychain. Once that is missing, locked or silent,
-// they live in memory until the run ends, with one warning trace, also when the keychain comes back: its
-// items then stay as they were, and what this run has read from it is still known. Never in a file. Any
-// thread.
+// The host's keychain. Secrets are kept in the platform's keychain. Once that is missing, locked or does not
+// respond, they stay in memory until the process ends, with one warning trace, even when the keychain becomes
+// available again: its items are not changed any more, and those that were read stay known. Secrets are never
+// written to a file. Any thread.
 class KZ_HOST_EXPORT KZKeyChainHandle : public QObject {
   Q_OBJECT
 
@@ -21,10 +21,10 @@ class KZ_HOST_EXPORT KZKeyChainHandle : public QObject {
 
   static KZKeyChainHandle& sharedInstance();
 
-  // Memory until the host chooses. Choosing again forgets what was in memory, and tries the keychain again.
+  // Memory is the default. A new choice removes the secrets in memory and tries the keychain again.
   void useStorage(Storage storage);
-  void useBackend(std::shared_ptr<KZKeychainBackend> backend);  // another keychain than these two
-  // Whether the keychain that was chosen last has failed, so that what is committed lasts for this run only.
+  void useBackend(std::shared_ptr<KZKeychainBackend> backend);  // a keychain of the host's own
+  // Whether the keychain that was chosen last has failed, so that secrets are kept for this run only.
   bool hasFailed() const;
 
   // The saved on-premise credential; each text is null when absent. Committing two missing texts removes it.

@@ -16,7 +16,7 @@ const QString kCdnUrl = QStringLiteral("cdnUrl");
 const QString kUserName = QStringLiteral("userName");
 const QString kDisplayName = QStringLiteral("displayName");
 
-// Stricter than QVariant's own comparison, which finds true equal to 1, also inside.
+// Stricter than QVariant's comparison, for which true equals 1, also inside dictionaries and lists.
 bool isSameValue(const QVariant& left, const QVariant& right) {
   if (left.metaType() != right.metaType()) return false;
   if (left.metaType() == QMetaType::fromType<Dictionary>()) {
@@ -89,7 +89,7 @@ void KZPlistFileHandle::setValue(const QString& key, const QVariant& value) {
   const bool isChanged = !isSameValue(before, after);
   if (isChanged && after.isValid()) m_values.insert(key, after);
   if (isChanged && !after.isValid()) m_values.remove(key);
-  // An unchanged value is a chance to write what an earlier failure left out.
+  // After a failure, even an unchanged value is written, to save what the file lacks.
   if (m_file && (isChanged || saveProblem() != KZSaveProblem::None)) {
     m_file->write(m_values);
     reportProblem();

@@ -20,16 +20,15 @@ class KZ_HOST_EXPORT KZPlistFileHandle : public QObject {
   static KZPlistFileHandle& sharedInstance();
 
   // Locks that folder, which is made when missing, and reads the store in it; a folder that was open before
-  // is left as by `close`. False when another process has locked the folder: nothing is read or written
-  // there, and the store is in memory only, as before the first call. A folder that cannot be made or locked
-  // for another reason is used without a lock. The lock ends with `close` or with the process, however that
-  // ends.
+  // is closed first. False when another process has locked the folder: nothing is read or written there, and
+  // the store is in memory only, as before the first call. A folder that cannot be made or locked for another
+  // reason is used without a lock. The lock ends with `close` or with the process, even a killed one.
   [[nodiscard]] bool open(const QString& folder);
-  // Forgets everything and is in memory only again; the file stays.
+  // Removes all values from memory, which is the only store from then on; the file stays.
   void close();
   QString filePath() const;  // null while in memory only
-  // None while the file has all that was set, or there is none. What it lacks is written with the next change
-  // that succeeds.
+  // None while the file has all values, or while they are in memory only. Values that could not be saved are
+  // written with the next change that succeeds.
   KZSaveProblem saveProblem() const;
   // Where `open` moved a file that it could not read, so that the settings start empty. Null when it could.
   QString setAsidePath() const { return m_setAsidePath; }
@@ -59,14 +58,14 @@ class KZ_HOST_EXPORT KZPlistFileHandle : public QObject {
   void setUserName(const QString& name);
   void setDisplayName(const QString& name);
 
-  // False when absent; ask `isPlistKeyExist` with KZLaunchAtLogin or KZEnableOutlookKZPlugin first.
+  // False when absent; check `isPlistKeyExist` with KZLaunchAtLogin or KZEnableOutlookKZPlugin first.
   bool launchAtLogin() const;
   bool enableOutlookKZPlugin() const;
   void setLaunchAtLogin(bool isOn);
   void setEnableOutlookKZPlugin(bool isOn);
 
  Q_SIGNALS:
-  // After the value is in force, whether or not the disk took it.
+  // After the change, whether or not it could be saved.
   void valueChanged(const QString& key, const QVariant& before, const QVariant& after);
   // Before `valueChanged`; `open` and `close` emit it too.
   void saveProblemChanged(KZSaveProblem problem);

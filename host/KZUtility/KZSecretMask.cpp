@@ -16,7 +16,7 @@ constexpr int kDeepestMasked = 64;
 constexpr QStringView kMask = u"***";
 constexpr QStringView kSecretKeys[] = {u"QRT_CredentialContent", u"code", u"code_verifier", u"client_secret"};
 constexpr QStringView kSecretWords[] = {u"password", u"token"};
-// Secrets in the address of a sign-in only: elsewhere these are common words.
+// Secret only as parameters of an address: elsewhere these are common words.
 constexpr QStringView kSignInParameters[] = {u"state", u"nonce", u"code_challenge"};
 
 bool isSecretKey(QStringView key) {
@@ -42,7 +42,7 @@ bool isBetweenKeyAndValue(QChar sign) {
   return sign.isSpace() || sign == u'"' || sign == u'\'' || sign == u'\\';
 }
 
-// Whether something that reads as a secret's key stands before a colon or an equals sign.
+// Whether the text has a secret's key before a colon or an equals sign.
 bool namesSecret(QStringView text) {
   for (qsizetype at = 0; at < text.size(); ++at) {
     if (text[at] != u':' && text[at] != u'=') continue;
@@ -63,7 +63,7 @@ QString decoded(const QString& part) {
 
 // Replaces the values of secret parameters and the password before the host's name.
 QVariant replacedInAddress(const QVariant& value, const Replacement& replacement) {
-  // The value stands in a lookahead, so that another parameter is found inside an open one.
+  // The value is matched by a lookahead, so that parameters inside a value that is no secret are found too.
   static const QRegularExpression part(
       QStringLiteral("(?|[?&#;]([^?&#;=]+)=(?=([^&#]*))|(://)[^/?#@:]*:([^/?#@]*)@)"));
   const QString address = value.toString();

@@ -15,7 +15,7 @@
 namespace {
 
 void writeToStandardError(const KZTraceRecord& record) {
-  // A record stays one line whatever is in its values.
+  // Keeps the record on one line.
   QString text = record.text;
   text.replace(QLatin1Char('\n'), QLatin1String("\\n")).replace(QLatin1Char('\r'), QLatin1String("\\r"));
   const QByteArray line =

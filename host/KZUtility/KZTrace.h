@@ -11,7 +11,7 @@
 #include "host/KZFoundation/Dictionary.h"
 #include "host/KZFoundation/KZHostExport.h"
 
-// The trace. Formats know %@ (a text, dictionary, object or value), %d (a number or flag) and %s (a C
+// The trace. A format may have %@ (a text, dictionary, object or value), %d (a number or flag) and %s (a C
 // string); they are checked against their arguments when they are compiled. Values under keys that hold
 // secrets print as "***". Any thread.
 
@@ -26,10 +26,10 @@ struct KZTraceRecord {
 
 using KZTraceSink = std::function<void(const KZTraceRecord&)>;
 
-// Where records go from now on; an empty function restores the default, one line a record on standard error.
+// Sets where records go; an empty function restores the default, one line for each record on standard error.
 KZ_HOST_EXPORT void setKZTraceSink(KZTraceSink sink);
 
-// Records go nowhere, and nothing is formatted, until a sink is set again.
+// Drops all records unformatted until a sink is set again.
 KZ_HOST_EXPORT void muteKZTrace();
 
 // "info", "warning" or "error".
@@ -39,11 +39,10 @@ KZ_HOST_EXPORT const char* kzTraceLevelName(KZTraceLevel level);
 // in texts that hold JSON and in the parameters of addresses. For hosts that show contents.
 KZ_HOST_EXPORT Dictionary kzMaskSecrets(const Dictionary& dictionary);
 
-// What stands in a secret's place: asked with the value, or with a whole text that names a secret and is no
-// JSON.
+// Returns the replacement of a secret: of its value, or of a whole text that names a secret and is not JSON.
 using KZSecretReplacement = std::function<QVariant(const QVariant& secret)>;
 
-// The same with other replacements. For hosts that keep contents.
+// The same with the given replacements. For hosts that store contents.
 KZ_HOST_EXPORT Dictionary kzReplaceSecrets(const Dictionary& dictionary,
                                            const KZSecretReplacement& replacement);
 
@@ -109,7 +108,7 @@ KZ_HOST_EXPORT void write(KZTraceLevel level, const char* module, const char* me
 
 }  // namespace kztrace
 
-// "Class::method" of a Q_FUNC_INFO text; for a lambda, the method that holds it.
+// "Class::method" of a Q_FUNC_INFO text; for a lambda, of the method that contains it.
 KZ_HOST_EXPORT QString kzMethodName(const char* functionInfo);
 
 // The method form: module, Q_FUNC_INFO, format, arguments.

@@ -21,11 +21,11 @@ class KZ_HOST_EXPORT KZUtility {
   void setKZMemCacheData(const QString& key, const QVariant& value);
 
   // The value of a JSON text, a scalar too; invalid when it is malformed, larger than 4 MiB, or nested deeper
-  // than 64 levels. A null is an invalid value and never stands under a key; whole numbers are qlonglong. Any
-  // thread.
+  // than 64 levels. A null is an invalid value and is never stored under a key; whole numbers are qlonglong.
+  // Any thread.
   static QVariant JSONValueFromString(const QString& text);
 
-  // At most 128 characters, cut at the end without splitting a character.
+  // The text cut to at most 128 UTF-16 units, without splitting a character.
   static QString getLengthLimitationStringValue(const QString& text);
 
   // One "@" with a name before it and a domain with a dot after it; no blanks or control characters.

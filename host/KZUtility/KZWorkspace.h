@@ -12,10 +12,10 @@ class KZ_HOST_EXPORT KZWorkspace {
 
   static KZWorkspace& sharedWorkspace();
 
-  // False when nothing opened it. An invalid or relative address, or one without a scheme, is refused.
+  // False when nothing opened it. An invalid address, or one without a scheme, is refused.
   bool openURL(const QUrl& url);
 
-  // What opens addresses from now on; an empty function restores the desktop's own opener.
+  // Sets what opens addresses; an empty function restores the desktop's own opener.
   void setOpener(Opener opener) { m_opener = std::move(opener); }
 
  private:

@@ -13,8 +13,8 @@ std::optional<Dictionary> parsedPropertyList(const QByteArray& xml);
 
 struct PropertyListXml {
   QByteArray xml;
-  // False when a value was left out that has no place in a property list, or a character that XML cannot
-  // carry was replaced by U+FFFD.
+  // False when a value was left out because property lists have no type for it, or a character that XML
+  // cannot contain was replaced by U+FFFD.
   bool isExact = true;
 };
 PropertyListXml xmlOfPropertyList(const Dictionary& dictionary);

@@ -51,7 +51,7 @@ QString PropertyListFile::path() const {
   return QDir(m_folder).filePath(kPropertyListName);
 }
 
-// The folder itself: that needs no room on the disk, leaves nothing behind, and ends with the process.
+// Locks the folder itself: that needs no disk space, leaves no lock file, and ends with the process.
 bool PropertyListFile::lock() {
   makeFolder();
   m_lock = ::open(QFile::encodeName(m_folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
@@ -94,7 +94,7 @@ void PropertyListFile::write(const Dictionary& values) {
   m_problem = KZSaveProblem::None;
 }
 
-// A folder that cannot be made shows at the first write.
+// A failure is reported by the first write.
 void PropertyListFile::makeFolder() const {
   const QFileInfo folder(m_folder);
   if (folder.exists()) return;

@@ -5,7 +5,7 @@
 #include "host/KZFoundation/Dictionary.h"
 #include "host/KZUtility/KZSaveProblem.h"
 
-// One XML property list on the disk, as KZPlistFileHandle promises it.
+// The property list file of KZPlistFileHandle.
 class PropertyListFile final {
  public:
   explicit PropertyListFile(const QString& folder);
@@ -13,9 +13,9 @@ class PropertyListFile final {
   Q_DISABLE_COPY_MOVE(PropertyListFile)
 
   QString path() const;
-  // As the last reading or writing left it.
+  // Of the last read or write.
   KZSaveProblem problem() const { return m_problem; }
-  // Where the file lies now that could not be read; null when there was none.
+  // Where a file that could not be read was moved; null when there was none.
   QString setAsidePath() const { return m_setAsidePath; }
 
   // Makes the folder when missing and locks it while this object lives. False when another process has it:
@@ -37,5 +37,5 @@ class PropertyListFile final {
   int m_lock = -1;
   QString m_setAsidePath;
   KZSaveProblem m_problem = KZSaveProblem::None;
-  bool m_isExact = true;  // the last writing left nothing out
+  bool m_isExact = true;  // the last write left nothing out
 };

@@ -59,11 +59,11 @@ class Attempt final {
 
   bool isFailed() const { return m_error != nullptr; }
 
-  // A locked collection would answer with a prompt, which must never be shown from here.
+  // False for a locked collection: using it would show a prompt.
   bool connect() {
     m_service.reset(secret_service_get_sync(SECRET_SERVICE_OPEN_SESSION, m_cancellable, &m_error));
     if (!m_service) return false;
-    // By default the process exits with the bus.
+    // By default the process exits when the bus closes the connection.
     g_dbus_connection_set_exit_on_close(bus(), FALSE);
     const QByteArray collection = defaultCollection();
     return !collection.isEmpty() && isUnlocked(collection);

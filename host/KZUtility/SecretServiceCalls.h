@@ -18,7 +18,7 @@ using Cancellable = std::unique_ptr<GCancellable, CancellableDeleter>;
 Cancellable newCancellable();
 void cancel(GCancellable* cancellable);
 
-// While one lives, the library's callbacks for this thread run in `dispatch`, not in the host's event loop.
+// While it exists, the library's callbacks for this thread run in `dispatch`, not in the host's event loop.
 class OwnContext final {
  public:
   OwnContext();

@@ -47,8 +47,8 @@ class SecretServiceKeychain::Worker final {
     bool isAbandoned = false;
   };
 
-  // Shared by the callers and the thread, so that a thread whose call never returns keeps what it may still
-  // use.
+  // Shared by the callers and the thread, so that it outlives the worker for a thread whose call never
+  // returns.
   struct Queue {
     std::mutex mutex;
     std::condition_variable wake;

@@ -5,9 +5,8 @@
 
 #include "host/KZUtility/KZKeychainBackend.h"
 
-// The desktop's Secret Service. Every call is made on one worker thread and given up at the deadline,
-// whatever the service does; nothing is ever prompted for: a locked or missing default collection is
-// unavailable. Any thread.
+// The desktop's Secret Service. Every call runs on one worker thread and is cancelled at the deadline. It
+// never prompts: a locked or missing default collection is unavailable. Any thread.
 class KZ_HOST_EXPORT SecretServiceKeychain final : public KZKeychainBackend {
  public:
   explicit SecretServiceKeychain(std::chrono::milliseconds deadline = std::chrono::seconds(1));

@@ -70,7 +70,7 @@ TEST_F(ADRefreshTest, InvalidGrantIsTriedAgainOnceOnly) {
   EXPECT_EQ(authority->tokenRequests().size(), 2);
 }
 
-TEST_F(ADRefreshTest, TokenThatIsNotStoredTakesNoStrangersToken) {
+TEST_F(ADRefreshTest, ATokenThatIsNotStoredIsNotReplacedByAnotherUsers) {
   store({refreshItem("bob@example.com", authority->address(), authority->grantRefreshToken("client-1"))});
   Result result;
   refresh(result, "refresh-unknown");

@@ -14,7 +14,7 @@ QString asked(const QUrlQuery& query, const char* name) {
   return query.queryItemValue(QLatin1String(name), QUrl::FullyDecoded);
 }
 
-TEST_F(ADSignInTest, RunsWholeWithEitherGenerationAndWithoutConfiguration) {
+TEST_F(ADSignInTest, SucceedsWithEitherGenerationAndWithoutConfiguration) {
   struct Case {
     Authority::Generation generation;
     bool hasConfiguration;

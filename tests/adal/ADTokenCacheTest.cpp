@@ -14,7 +14,7 @@ QByteArray withCheckSum(const QByteArray& body) {
   return body + QCryptographicHash::hash(body, QCryptographicHash::Sha256);
 }
 
-TEST(ADTokenCacheTest, StoredItemsComeBackWhole) {
+TEST(ADTokenCacheTest, StoredItemsAreReadBackUnchanged) {
   ADTokenCache cache;
   ASSERT_FALSE(cache.replaceAllItems(twoItems()));
   ADTokenCache other;

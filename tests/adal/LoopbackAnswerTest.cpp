@@ -73,7 +73,7 @@ TEST_F(LoopbackAnswerTest, IdleConnectionsDoNotKeepTheBrowserOut) {
   EXPECT_EQ(result->status, ADAuthenticationStatus::Succeeded);
 }
 
-TEST_F(LoopbackAnswerTest, SecondAnswerFindsNobody) {
+TEST_F(LoopbackAnswerTest, ASecondAnswerFindsTheListenerClosed) {
   QTcpSocket early;
   early.connectToHost("127.0.0.1", static_cast<quint16>(redirect.port()));
   ASSERT_TRUE(QTest::qWaitFor([&] { return early.state() == QAbstractSocket::ConnectedState; }));

@@ -10,7 +10,7 @@ namespace {
 
 constexpr int installTimeout = 240000;
 
-// What a program says on standard output; nothing when it is not there or fails.
+// A program's standard output; nothing when it is missing or fails.
 std::optional<QByteArray> outputOf(const QString& program, const QStringList& arguments,
                                    int timeout = 20000) {
   QProcess process;
@@ -20,7 +20,7 @@ std::optional<QByteArray> outputOf(const QString& program, const QStringList& ar
   return process.readAllStandardOutput();
 }
 
-// Puts the provider into the build folder, once. Why it cannot run here, or nothing.
+// Installs the provider into the build folder, once. Returns why that is not possible, or a null text.
 QString whyNotInstalled(const QDir& folder) {
   const QByteArray version = outputOf("node", {"--version"}).value_or(QByteArray());
   if (version.sliced(version.isEmpty() ? 0 : 1).split('.').first().toInt() < 20)
@@ -57,7 +57,7 @@ class OidcProviderTest : public SignInFixture {
     if (provider.state() != QProcess::NotRunning && !provider.waitForFinished(5000)) provider.kill();
   }
 
-  // The page that the browser ends on. The cookies of the way are kept.
+  // Follows redirects, with cookies, to the page at which a browser would end.
   QNetworkReply* finished(QNetworkReply* reply) {
     EXPECT_TRUE(QTest::qWaitFor([reply] { return reply->isFinished(); }));
     reply->deleteLater();
@@ -73,7 +73,7 @@ class OidcProviderTest : public SignInFixture {
   QProcess provider;
 };
 
-TEST_F(OidcProviderTest, SignsInAndRefreshesWhole) {
+TEST_F(OidcProviderTest, SignsInAndRefreshes) {
   Result signedIn;
   signIn(signedIn);
   ASSERT_TRUE(waitForBrowser());

@@ -17,7 +17,7 @@
 #include "sandbox/Authority.h"
 #include "sandbox/HttpServer.h"
 
-// A place outside this process where the default cache is kept.
+// A storage of the default cache that other processes can change.
 class OutsideStorage final : public ADTokenCacheDelegate {
  public:
   void willAccessCache(ADTokenCache& cache) override;
@@ -25,7 +25,7 @@ class OutsideStorage final : public ADTokenCacheDelegate {
   void willWriteCache(ADTokenCache& cache) override;
   void didWriteCache(ADTokenCache& cache) override;
 
-  // What another process stores behind our back.
+  // Stores these items as another process would.
   void replace(const QList<ADTokenCacheItem>& items);
 
   std::optional<QByteArray> data;
@@ -35,7 +35,7 @@ class OutsideStorage final : public ADTokenCacheDelegate {
 ADTokenCacheItem accessItem(const QString& user, const QString& authority);
 ADTokenCacheItem refreshItem(const QString& user, const QString& authority, const QString& refreshToken);
 
-// A sandbox authority, a browser that only remembers what it was asked to open, and an empty cache.
+// A sandbox authority, a browser that only collects the addresses to open, and an empty cache.
 class SignInFixture : public testing::Test {
  protected:
   using Result = std::optional<ADAuthenticationResult>;
@@ -47,12 +47,12 @@ class SignInFixture : public testing::Test {
   void signIn(Result& result, const QUrl& redirectUri);
   void refresh(Result& result, const QString& refreshToken);
 
-  // Goes where a user's browser would, redirects included.
+  // Loads the address as a user's browser would, redirects included.
   QNetworkReply* visit(const QUrl& address);
-  // Sends bytes to the callback port; what came back before it was closed, or nothing when nobody listens.
+  // Sends bytes to the callback port and returns the response; nothing when the port is closed.
   static std::optional<QByteArray> sendRaw(const QString& host, int port, const QByteArray& bytes);
 
-  // The address that the page at this one would send the answer to.
+  // The redirect address in the address of a sign-in page.
   static QUrl redirectOf(const QUrl& page);
   static QString queryValue(const QUrl& address, const char* name);
 

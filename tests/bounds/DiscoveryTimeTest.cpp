@@ -17,7 +17,7 @@ qint64 median(QList<qint64> values) {
 
 class DiscoveryTimeTest : public DiscoveryFixture {
  protected:
-  // The same requests without anything of ours between them: what network and server take.
+  // The same requests alone: the time of network and server.
   void askBare() {
     QNetworkAccessManager network;
     const QString usual("autodiscover.corp.sandbox.example");
@@ -27,7 +27,7 @@ class DiscoveryTimeTest : public DiscoveryFixture {
     askOne(network, usual, right);
   }
 
-  // Qt Test's own waiting sleeps between looks, and the server runs in this thread.
+  // Qt Test's own waiting sleeps between its checks, and the server runs in this thread.
   static void spinUntil(const std::function<bool()>& isDone) {
     while (!isDone()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
   }
@@ -44,18 +44,18 @@ class DiscoveryTimeTest : public DiscoveryFixture {
  private:
   void askOne(QNetworkAccessManager& network, const QString& host, const QByteArray& authorization) {
     bool isDone = false;
-    HttpCall call(network, configuration.network);
-    call.start({.address = QUrl("https://" + host + "/autodiscover/autodiscover.xml"),
-                .body = autodiscoverRequest("onprem@corp.sandbox.example"),
-                .authorization = authorization},
-               [&isDone](const HttpResponse&) { isDone = true; });
+    const HttpCall call(network, configuration.network,
+                        {.address = QUrl("https://" + host + "/autodiscover/autodiscover.xml"),
+                         .body = autodiscoverRequest("onprem@corp.sandbox.example"),
+                         .authorization = authorization},
+                        [&isDone](const HttpResponse&) { isDone = true; });
     spinUntil([&isDone] { return isDone; });
   }
 };
 
 TEST_F(DiscoveryTimeTest, CostsLittleBesideItsRequests) {
-  configuration.limits.stagger = std::chrono::seconds(5);
-  // Each round against itself: whatever else the machine does meets both of its halves.
+  configuration.stagger = std::chrono::seconds(5);
+  // Both halves of a round are measured together, so that other load on the machine slows both.
   QList<qint64> bare, beyond;
   QElapsedTimer clock;
   for (int round = 0; round <= kRounds; ++round) {
@@ -64,7 +64,7 @@ TEST_F(DiscoveryTimeTest, CostsLittleBesideItsRequests) {
     const qint64 alone = clock.nsecsElapsed() / 1000;
     clock.restart();
     discover();
-    if (round == 0) continue;  // TLS becomes ready in it
+    if (round == 0) continue;  // it initialises TLS
     bare.append(alone);
     beyond.append(clock.nsecsElapsed() / 1000 - alone);
   }

@@ -21,7 +21,7 @@ qint64 numberAfter(const QByteArray& text, const QByteArray& key) {
   return at < 0 ? 0 : text.mid(at + key.size()).trimmed().split('\n').first().toLongLong();
 }
 
-// What a process and those that it started have done so far.
+// The activity so far of a process and those that it started.
 struct Activity {
   qint64 wakeUps = 0;
   qint64 clockTicks = 0;
@@ -54,7 +54,7 @@ TEST(IdleCompanion, SleepsWithItsWindowsOpen) {
   const QTemporaryDir state;
   const QTemporaryDir runtime;
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-  // Offscreen it would play its demonstration.
+  // With the offscreen platform it would play its demonstration.
   environment.insert("QT_QPA_PLATFORM", "minimal");
   environment.insert("XDG_RUNTIME_DIR", runtime.path());
   QProcess companion;
@@ -62,7 +62,7 @@ TEST(IdleCompanion, SleepsWithItsWindowsOpen) {
   companion.start(COMPANION, {"--plugin", PREFERENCES, "--state", state.path()});
   ASSERT_TRUE(companion.waitForStarted());
   const QString processId = QString::number(companion.processId());
-  // The start is over at some time; from then on nothing happens by itself.
+  // The start ends at some time; after that nothing happens without input.
   Activity before;
   Activity after = Activity::of(processId);
   int attempt = 0;

@@ -9,7 +9,7 @@
 
 namespace {
 
-// Generous bounds, for what they would catch is time that grows with the list.
+// Generous bounds, which fail when the time for an event grows with the list.
 TEST(InspectorTime, ManyEventsCostLittle) {
   constexpr int kEvents = 30'000;
   InspectorLog log;

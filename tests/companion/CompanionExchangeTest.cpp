@@ -33,8 +33,8 @@ QMessageBox* openQuestion() {
   return nullptr;
 }
 
-// A companion whose fake plug-in sends back every command that it does not know, so that a test can play the
-// plug-in's part, and an authenticator in place of the plug-in's own.
+// A companion with a fake plug-in, which sends back every command that it does not know, so that a test can
+// send the plug-in's commands. An authenticator replaces the plug-in's.
 class CompanionExchangeTest : public testing::Test {
  protected:
   void SetUp() override {
@@ -46,7 +46,7 @@ class CompanionExchangeTest : public testing::Test {
 
   void loadFakePlugin() {
     ASSERT_TRUE(host.load(FAKE_PLUGIN));
-    // After the fake plug-in's own, whose answer it replaces.
+    // Added after the fake plug-in's observer, whose credential it replaces.
     authenticator = KZNotificationCenter::defaultCenter().addObserver(
         "HTTPAuthenticationRequired", [this](const KZNotification& challenge) { onChallenge(challenge); });
   }
@@ -84,7 +84,7 @@ class CompanionExchangeTest : public testing::Test {
     return shown;
   }
 
-  // The latest notification once there are that many; empty when they do not come.
+  // Waits for that many notifications and returns the latest; empty when they do not come.
   QString notificationNumber(qsizetype count) {
     const bool hasCome = QTest::qWaitFor([&] { return notifications().size() >= count; }, 8000);
     return hasCome ? notifications().at(count - 1) : QString();
@@ -152,7 +152,7 @@ TEST_F(CompanionExchangeTest, TheUserDecidesWhereTheSearchGoesOn) {
   }
 }
 
-TEST_F(CompanionExchangeTest, SaysWhyItDoesNotSearch) {
+TEST_F(CompanionExchangeTest, ReportsWhyItDoesNotSearch) {
   ASSERT_NO_FATAL_FAILURE(loadFakePlugin());
   detect("onprem@corp.sandbox.example");
   EXPECT_TRUE(notifications().isEmpty()) << "answered while the command was still under way";

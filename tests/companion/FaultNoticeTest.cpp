@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <QLabel>
 #include <QTest>
 #include <QThread>
 #include <memory>
@@ -22,10 +23,10 @@ struct FaultNoticeTest : testing::Test {
 
   const TraceCollector traces;
   QWidget window;
-  FaultNotice* notice = new FaultNotice(&window);
+  QLabel* notice = createFaultNotice(&window);
 };
 
-TEST_F(FaultNoticeTest, TellsOfAFullDiskUntilAWriteSucceeds) {
+TEST_F(FaultNoticeTest, ShowsAFullDiskUntilAWriteSucceeds) {
   const StoreFolder folder;
   EXPECT_FALSE(notice->isVisibleTo(&window));
   {
@@ -56,24 +57,24 @@ TEST_F(FaultNoticeTest, NamesThePlaceToMend) {
     folder.reopen();
     StoreFolder::store().setSiteName("any");
     EXPECT_TRUE(says(row.what)) << qPrintable(notice->text());
-    // Also a window that is made later tells.
-    EXPECT_EQ(FaultNotice(&window).text(), notice->text());
+    // A notice created later shows it too.
+    EXPECT_EQ(createFaultNotice(&window)->text(), notice->text());
     ASSERT_EQ(::chmod(folder.folder().toUtf8().constData(), 0700), 0);
   }
 }
 
-TEST_F(FaultNoticeTest, TellsWhereDamagedSettingsAreInTheRunThatFoundThem) {
+TEST_F(FaultNoticeTest, ShowsWhereDamagedSettingsAreInTheRunThatFoundThem) {
   const StoreFolder folder;
   folder.openWith("damaged");
-  const FaultNotice found(&window);
+  const QLabel& found = *createFaultNotice(&window);
   EXPECT_TRUE(found.isVisibleTo(&window));
   EXPECT_TRUE(found.text().contains("preferences.plist.damaged-")) << qPrintable(found.text());
   EXPECT_TRUE(QFile::exists(StoreFolder::store().setAsidePath()));
   folder.reopen();
-  EXPECT_FALSE(FaultNotice(&window).isVisibleTo(&window));
+  EXPECT_FALSE(createFaultNotice(&window)->isVisibleTo(&window));
 }
 
-TEST_F(FaultNoticeTest, TellsOfALostKeychainWhicheverThreadFindsOut) {
+TEST_F(FaultNoticeTest, ShowsAFailedKeychainFromAnyThread) {
   const QByteArray before = qgetenv("DBUS_SESSION_BUS_ADDRESS");
   qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent/bus");
   KZKeyChainHandle& keychain = KZKeyChainHandle::sharedInstance();

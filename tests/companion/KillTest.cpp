@@ -27,7 +27,7 @@ QByteArray lineOf(const QJsonObject& step) {
   return QJsonDocument(step).toJson(QJsonDocument::Compact) + '\n';
 }
 
-// Writes one number after the other and says each one once its write has returned.
+// A script that writes one number after the other and prints each when its write has returned.
 QByteArray countingScript(int from, const std::function<QJsonObject(int)>& write) {
   QByteArray script;
   for (int number = from; number < from + kStepsInScript; ++number) {
@@ -36,8 +36,8 @@ QByteArray countingScript(int from, const std::function<QJsonObject(int)>& write
   return script;
 }
 
-// Plays the script, kills it at some moment after the first confirmed number, and answers with the last one;
-// 0 when it did not get that far.
+// Plays the script, kills the program some time after the first confirmed number, and returns the last
+// confirmed one; 0 when there was none.
 int lastConfirmed(const QStringList& options, const QByteArray& script) {
   const QTemporaryDir folder;
   QFile file(folder.filePath("script"));
@@ -51,7 +51,7 @@ int lastConfirmed(const QStringList& options, const QByteArray& script) {
   session.kill();
   if (!session.waitForFinished()) return 0;
   const QList<QByteArray> lines = session.readAllStandardOutput().split('\n');
-  // What follows the last line's end was cut off.
+  // The text after the last line feed is incomplete.
   return lines.size() < 2 ? 0 : QJsonDocument::fromJson(lines.at(lines.size() - 2)).object()["echo"].toInt();
 }
 
@@ -85,7 +85,7 @@ TEST(Killed, LosesNoSettingThatWasConfirmed) {
     const int confirmed = lastConfirmed({"--state", state.path()}, countingScript(number, write));
     ASSERT_GE(confirmed, number);
     ASSERT_TRUE(store.open(state.path()));
-    // A write may be done before its confirmation is.
+    // The last write may be complete without its confirmation.
     const int kept = store.siteName().toInt();
     EXPECT_TRUE(kept == confirmed || kept == confirmed + 1) << kept << " instead of " << confirmed;
     EXPECT_LE(filesIn(state.path()).size(), 1 + round);

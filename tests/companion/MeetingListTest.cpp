@@ -28,8 +28,8 @@
 
 namespace {
 
-// The whole way with the real plug-in: an account is applied in its window, and its meetings are listed. A
-// browser that follows where it is led stands in for the user's.
+// The whole flow with the real plug-in: an account is applied in its window, and its meetings are listed. A
+// fake browser follows the redirects of a sign-in.
 class MeetingListTest : public testing::Test {
  protected:
   void SetUp() override {
@@ -55,7 +55,7 @@ class MeetingListTest : public testing::Test {
     KZPlistFileHandle::sharedInstance().close();
   }
 
-  // One that signs everybody in without asking.
+  // A sandbox that signs every user in without asking.
   void startSandbox() {
     QFile script(folder.filePath("sandbox"));
     ASSERT_TRUE(script.open(QIODevice::WriteOnly));
@@ -89,7 +89,7 @@ class MeetingListTest : public testing::Test {
     if (QWidget* field = shown(name)) QTest::keyClicks(field, text);
   }
 
-  // Whether the Preferences window says that, as a text of its own.
+  // Whether the Preferences window has a label with that text.
   bool reads(const QString& text) const {
     for (const QLabel* label : window->findChildren<QLabel*>()) {
       if (label->isVisible() && label->text() == text) return true;
@@ -155,9 +155,9 @@ TEST_F(MeetingListTest, ListsAnOnlineAccountAfterASignInInTheBrowser) {
   EXPECT_TRUE(lists("Stand-up")) << listText().toStdString();
 }
 
-// Whatever goes wrong in the browser or behind it: the pane says that it failed and lets the user try again,
-// and nothing of the account is kept.
-TEST_F(MeetingListTest, AnOnlineSignInThatFailsIsToldAndKeepsNothing) {
+// After a failure in the browser or at a server, the pane shows the failure, the user can try again, and
+// nothing of the account is stored.
+TEST_F(MeetingListTest, AFailedOnlineSignInIsShownAndStoresNothing) {
   if (IsSkipped()) return;
   click("m_outlookRadioBtn");
   for (const char* email :
@@ -177,7 +177,7 @@ TEST_F(MeetingListTest, AnOnlineSignInThatFailsIsToldAndKeepsNothing) {
   EXPECT_TRUE(lists("Stand-up")) << listText().toStdString();
 }
 
-TEST_F(MeetingListTest, NobodyIsAskedWhileNobodyWatches) {
+TEST_F(MeetingListTest, AHiddenPageSendsNoRequests) {
   if (IsSkipped()) return;
   QSignalSpy changed(&services.meetings(), &NextMeetings::changed);
   view.hide();

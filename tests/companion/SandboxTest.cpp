@@ -10,7 +10,7 @@
 
 namespace {
 
-// The line of a process's status with that name; empty when the process is gone.
+// The value of that name in a process's status; empty when the process has ended.
 QByteArray statusOf(const QString& processId, const QByteArray& name) {
   QFile status("/proc/" + processId + "/status");
   if (!status.open(QIODevice::ReadOnly)) return {};
@@ -20,7 +20,7 @@ QByteArray statusOf(const QString& processId, const QByteArray& name) {
   return {};
 }
 
-// A dead process may wait for its parent to look.
+// An ended process stays a zombie until its parent has read its status.
 bool isAlive(const QString& processId) {
   const QByteArray state = statusOf(processId, "State");
   return !state.isEmpty() && !state.startsWith('Z');
@@ -46,7 +46,7 @@ TEST(Sandbox, EndsWithItsObject) {
   EXPECT_TRUE(failed.isEmpty());
 }
 
-TEST(Sandbox, SaysThatItCannotBeStarted) {
+TEST(Sandbox, ReportsThatItCannotBeStarted) {
   for (const char* path : {"", "/nowhere/kz-sandbox", "/bin/true", "/bin/echo"}) {
     Sandbox sandbox;
     QSignalSpy failed(&sandbox, &Sandbox::failed);
@@ -61,7 +61,7 @@ TEST(Companion, LeavesNoSandboxBehindWhenItIsKilled) {
   const QTemporaryDir folder;
   QProcess companion;
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-  // Offscreen it would play its demonstration, which needs no sandbox.
+  // With the offscreen platform it would play its demonstration, which needs no sandbox.
   environment.insert("QT_QPA_PLATFORM", "minimal");
   companion.setProcessEnvironment(environment);
   companion.start(COMPANION, {"--plugin", FAKE_PLUGIN, "--state", folder.path()});

@@ -21,7 +21,7 @@ using namespace std::chrono_literals;
 
 constexpr int kStartMilliseconds = 30'000;
 
-// With a folder of its own for sockets, and one for the state.
+// A fixture with temporary folders for sockets and for the state.
 class SingleInstanceTest : public testing::Test {
  protected:
   SingleInstanceTest() { qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtime.path())); }
@@ -34,7 +34,7 @@ class SingleInstanceTest : public testing::Test {
   }
   Q_DISABLE_COPY_MOVE(SingleInstanceTest)
 
-  // A second one asks in another thread, while this one's events run.
+  // A second instance asks in another thread, while this one handles events.
   static bool askBeside(const QString& folder, std::chrono::milliseconds patience = 5s) {
     bool isAnswered = false;
     const std::unique_ptr<QThread> other(
@@ -116,12 +116,12 @@ TEST_F(SingleInstanceTest, AFolderForSocketsThatIsAnotherUsersIsNotUsed) {
   EXPECT_TRUE(socketFile().isNull());
 }
 
-// The companion itself; Preferences are the fake plug-in's.
+// With the companion itself and the fake plug-in.
 class SecondCompanionTest : public SingleInstanceTest {
  protected:
   static void start(QProcess* companion, const QString& folder) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    // Offscreen it would play its demonstration.
+    // With the offscreen platform it would play its demonstration.
     environment.insert("QT_QPA_PLATFORM", "minimal");
     companion->setProcessEnvironment(environment);
     companion->start(COMPANION, {"--plugin", FAKE_PLUGIN, "--state", folder});
@@ -139,7 +139,7 @@ class SecondCompanionTest : public SingleInstanceTest {
     return {second.exitCode(), second.readAllStandardOutput(), second.readAllStandardError()};
   }
 
-  // A killed one leaves its socket's file, so only an answering socket tells.
+  // A killed instance leaves its socket's file, so the socket must respond.
   bool waitUntilListening() {
     const auto isListening = [this] {
       if (m_path.isNull()) m_path = socketFile();
@@ -174,7 +174,7 @@ TEST_F(SecondCompanionTest, EndsWithOneLineUntilTheFirstIsKilled) {
   }
 }
 
-TEST_F(SecondCompanionTest, SaysThatAHungFirstDoesNotAnswer) {
+TEST_F(SecondCompanionTest, ReportsAFirstInstanceThatDoesNotRespond) {
   QProcess first;
   start(&first, state.path());
   ASSERT_TRUE(waitUntilListening());

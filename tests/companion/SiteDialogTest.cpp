@@ -57,7 +57,7 @@ TEST_F(SiteDialogTest, ASiteThatAnswersIsTaken) {
   EXPECT_EQ(storedSite(), "current.sandbox.example");
 }
 
-TEST_F(SiteDialogTest, ASiteThatFailsSaysWhyAndIsTakenOnlyWhenTheUserInsists) {
+TEST_F(SiteDialogTest, AFailedSiteShowsWhyAndIsUsedOnlyWhenTheUserInsists) {
   enter("error.meetings.sandbox.example");
   button("Change")->click();
   ASSERT_TRUE(showsFailure());
@@ -84,7 +84,7 @@ TEST_F(SiteDialogTest, WhatIsNoNameCannotBeUsedAnyway) {
 }
 
 TEST_F(SiteDialogTest, AnAnswerAfterTheOldSiteWasKeptChangesNothing) {
-  // The answer may come between the click and the end of the dialog: that is drawn out here.
+  // The response may come between the click and the deletion of the dialog, which is prevented here.
   dialog->setAttribute(Qt::WA_DeleteOnClose, false);
   dialog->ask("current.sandbox.example");
   button("Keep the old site")->click();

@@ -72,7 +72,7 @@ TEST_F(TryOutViewTest, ASiteIsChosenByButtonAndByReturn) {
   EXPECT_EQ(chosen.at(1).first().toString(), "silent.sandbox.example");
 }
 
-TEST_F(TryOutViewTest, SaysWhenThereIsNothingToTry) {
+TEST_F(TryOutViewTest, ShowsWhenThereIsNothingToTry) {
   const auto* introduction = view.findChild<QLabel*>();
   EXPECT_FALSE(introduction->text().contains("not running"));
   view.setSites({});

@@ -2,7 +2,7 @@
 #include "companion/runtime/Application.h"
 #include "tests/kit/TestRun.h"
 
-// With the companion's own application object and look: what fails only with them fails here too.
+// Uses the companion's application object and look, to find faults that occur only with them.
 int main(int argc, char** argv) {
   const TestSurroundings surroundings;
   const Application application(argv);

@@ -13,7 +13,7 @@ QStringList linesOf(const QString& name) {
   return QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
 }
 
-// "..." in what is expected stands for anything.
+// "..." in an expected line matches any text.
 bool isLike(const QString& line, const QString& expected) {
   const QStringList parts = expected.split(QStringLiteral("..."));
   if (parts.size() == 1) return line == expected;

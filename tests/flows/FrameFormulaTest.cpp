@@ -22,10 +22,10 @@ QJsonObject viewCalled(const QJsonObject& view, const QString& name) {
   return {};
 }
 
-// Opens both variants and compares the frames of their panes with what the measured texts demand.
+// Opens both variants and compares the frames of their panes with the formulas for the measured texts.
 class FrameFormulaTest : public testing::Test {
  protected:
-  // One run: the texts are measured, then each pane's window is asked for.
+  // One run of prefs-session: measures the texts, then gets the window with each pane.
   void play(bool isGuest, const QStringList& panes) {
     QStringList script{QStringLiteral(R"({"set": "store", "values": {"displayName": "%1", "siteName": "%2",)"
                                       R"("userName": "%3"}})")
@@ -84,7 +84,7 @@ class FrameFormulaTest : public testing::Test {
   double guestGeneralWidth() const {
     return 32 + system("Start Brenn Mivra Meetings when my computer starts") + 32 + 20;
   }
-  // What both variants share.
+  // The width that both variants share.
   double commonWidth() const {
     const double minutes =
         std::max(label("minutes before scheduled start time."), label("minutes after Snooze.")) + 4;

@@ -7,7 +7,7 @@
 #include <QtGlobal>
 #include <csignal>
 
-// Permissions bind nobody who runs as root, as build machines do.
+// Makes the process an ordinary user while it exists: permissions do not bind root, which build machines use.
 class OrdinaryUser final {
  public:
   OrdinaryUser() : m_before(::geteuid()) {
@@ -22,7 +22,7 @@ class OrdinaryUser final {
   const uid_t m_before;
 };
 
-// A disk on which a file can grow no longer than this.
+// Limits the size of files, like a full disk.
 class FullDisk final {
  public:
   explicit FullDisk(rlim_t bytes) {

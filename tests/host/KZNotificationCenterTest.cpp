@@ -7,65 +7,65 @@
 
 TEST(KZNotificationCenter, CallsEachObserverOfTheNameInOrderOnThePostingThread) {
   KZNotificationCenter center;
-  QStringList heard;
+  QStringList received;
   std::thread::id thread;
   const auto first = center.addObserver("a", [&](const KZNotification& notification) {
-    heard.append("1" + notification.userInfo.value("k").toString());
+    received.append("1" + notification.userInfo.value("k").toString());
     thread = std::this_thread::get_id();
   });
-  const auto second = center.addObserver("a", [&](const KZNotification&) { heard.append("2"); });
-  const auto other = center.addObserver("b", [&](const KZNotification&) { heard.append("b"); });
+  const auto second = center.addObserver("a", [&](const KZNotification&) { received.append("2"); });
+  const auto other = center.addObserver("b", [&](const KZNotification&) { received.append("b"); });
   std::thread worker([&] { center.post({.name = "a", .userInfo = {{"k", "v"}}}); });
   const std::thread::id expected = worker.get_id();
   worker.join();
-  EXPECT_EQ(heard, (QStringList{"1v", "2"}));
+  EXPECT_EQ(received, (QStringList{"1v", "2"}));
   EXPECT_EQ(thread, expected);
 }
 
 TEST(KZNotificationCenter, EndsARegistrationWithItsLastToken) {
   KZNotificationCenter center;
-  int heard = 0;
-  auto token = center.addObserver("a", [&](const KZNotification&) { ++heard; });
+  int received = 0;
+  auto token = center.addObserver("a", [&](const KZNotification&) { ++received; });
   auto copy = token;
   token.reset();
   center.post({.name = "a", .userInfo = {}});
   copy.reset();
   center.post({.name = "a", .userInfo = {}});
-  EXPECT_EQ(heard, 1);
+  EXPECT_EQ(received, 1);
 }
 
 TEST(KZNotificationCenter, LetsAHandlerPostObserveAndEndItself) {
   KZNotificationCenter center;
-  QStringList heard;
+  QStringList received;
   KZNotificationCenter::Token added;
   KZNotificationCenter::Token self;
   self = center.addObserver("a", [&](const KZNotification&) {
-    heard.append("self");
+    received.append("self");
     self.reset();
-    added = center.addObserver("a", [&](const KZNotification&) { heard.append("added"); });
+    added = center.addObserver("a", [&](const KZNotification&) { received.append("added"); });
     center.post({.name = "b", .userInfo = {}});
   });
-  const auto other = center.addObserver("b", [&](const KZNotification&) { heard.append("b"); });
+  const auto other = center.addObserver("b", [&](const KZNotification&) { received.append("b"); });
   center.post({.name = "a", .userInfo = {}});
-  EXPECT_EQ(heard, (QStringList{"self", "b"}));
+  EXPECT_EQ(received, (QStringList{"self", "b"}));
   center.post({.name = "a", .userInfo = {}});
-  EXPECT_EQ(heard, (QStringList{"self", "b", "added"}));
+  EXPECT_EQ(received, (QStringList{"self", "b", "added"}));
 }
 
 TEST(KZNotificationCenter, SurvivesObserversThatComeAndGoWhileOthersPost) {
   KZNotificationCenter center;
-  std::atomic<int> heard = 0;
+  std::atomic<int> received = 0;
   std::atomic<bool> isOver = false;
   std::thread poster([&] {
     while (!isOver) center.post({.name = "a", .userInfo = {}});
   });
   for (int turn = 0; turn < 2000; ++turn) {
-    const auto token = center.addObserver("a", [&heard](const KZNotification&) { ++heard; });
+    const auto token = center.addObserver("a", [&received](const KZNotification&) { ++received; });
     if (turn == 0) {
-      while (heard == 0) std::this_thread::yield();
+      while (received == 0) std::this_thread::yield();
     }
   }
   isOver = true;
   poster.join();
-  EXPECT_GT(heard, 0);
+  EXPECT_GT(received, 0);
 }

@@ -109,7 +109,8 @@ TEST(KZPlistFileFault, WritesNothingWhereItMayNot) {
     KZSaveProblem problem;
   };
   const QByteArray good = StoreFolder::plist("<key>siteName</key><string>a</string>");
-  // Readable: each failed write shows. Damaged and stuck, or out of sight: said once, and nothing is tried.
+  // A readable file: each failed write is traced. A file that cannot be read or moved: traced once, and
+  // nothing is written.
   const Row rows[] = {{0500, good, 2, KZSaveProblem::NotAllowed},
                       {0500, "damaged", 1, KZSaveProblem::FileUnusable},
                       {0000, good, 1, KZSaveProblem::FileUnusable}};
@@ -136,7 +137,7 @@ TEST(KZPlistFileFault, KeepsAValueThatTheDiskRefusedAndTriesAgain) {
   const StoreFolder folder;
   const TraceCollector watch;
   KZPlistFileHandle& store = StoreFolder::store();
-  QSignalSpy told(&store, &KZPlistFileHandle::saveProblemChanged);
+  QSignalSpy changes(&store, &KZPlistFileHandle::saveProblemChanged);
   store.setSiteName("old");
   const QByteArray before = folder.bytes();
   {
@@ -146,13 +147,13 @@ TEST(KZPlistFileFault, KeepsAValueThatTheDiskRefusedAndTriesAgain) {
     EXPECT_EQ(watch.count(KZTraceLevel::Error), 2);
   }
   EXPECT_EQ(store.saveProblem(), KZSaveProblem::DiskFull);
-  EXPECT_EQ(told.size(), 1);
+  EXPECT_EQ(changes.size(), 1);
   EXPECT_EQ(store.siteName(), "new");
   EXPECT_EQ(folder.bytes(), before);
   EXPECT_EQ(folder.names(), QStringList{"preferences.plist"});
   store.setSiteName("new");
   EXPECT_EQ(store.saveProblem(), KZSaveProblem::None);
-  EXPECT_EQ(told.size(), 2);
+  EXPECT_EQ(changes.size(), 2);
   folder.reopen();
   EXPECT_EQ(store.siteName(), "new");
   EXPECT_EQ(store.cdnUrl(), "also");

@@ -79,7 +79,7 @@ TEST(KZPlistFileHandle, RemovesMissingValuesAndReadsWrongTypesAsAbsent) {
   EXPECT_TRUE(store.calendarIntegration().isEmpty());
 }
 
-TEST(KZPlistFileHandle, WritesAndTellsOnlyADifference) {
+TEST(KZPlistFileHandle, WritesAndReportsOnlyADifference) {
   const StoreFolder folder;
   KZPlistFileHandle& store = StoreFolder::store();
   QSignalSpy changed(&store, &KZPlistFileHandle::valueChanged);
@@ -91,7 +91,7 @@ TEST(KZPlistFileHandle, WritesAndTellsOnlyADifference) {
   store.setSiteName(QString());
   EXPECT_EQ(stateOf(folder.file()).st_ino, written.st_ino);
   EXPECT_EQ(changed.size(), 1);
-  // An equal number is another value than a flag.
+  // A number is a different value than an equal flag.
   store.setMeetingNotification({{"flag", 1}});
   ASSERT_EQ(changed.size(), 2);
   EXPECT_EQ(changed[1][1].toMap().value("flag"), QVariant(true));
@@ -155,7 +155,7 @@ TEST(KZPlistFileHandle, StaysInMemoryWhileAnotherProcessHasTheFolder) {
   store.close();
   const QTemporaryDir before;
   ASSERT_TRUE(store.open(before.path()));
-  // A lock on a descriptor of its own is to the system as another process's.
+  // For the system, a lock on another descriptor is like another process's.
   const int theirs = ::open(folder.folder().toUtf8().constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   ASSERT_EQ(::flock(theirs, LOCK_EX | LOCK_NB), 0);
   EXPECT_FALSE(store.open(folder.folder()));
@@ -165,7 +165,7 @@ TEST(KZPlistFileHandle, StaysInMemoryWhileAnotherProcessHasTheFolder) {
   ::close(theirs);
   ASSERT_TRUE(store.open(folder.folder()));
   EXPECT_EQ(store.siteName(), "theirs");
-  // Nothing stays locked but the folder that is open.
+  // Only the open folder stays locked.
   const int next = ::open(before.path().toUtf8().constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   EXPECT_EQ(::flock(next, LOCK_EX | LOCK_NB), 0);
   ::close(next);

@@ -65,9 +65,9 @@ TEST(KZTrace, PrintsEachKindOfValue) {
 
 TEST(KZTrace, FormatsByDirectiveAndNamesTheMethodInBothForms) {
   const TraceCollector watch;
-  const void* nobody = nullptr;
+  const void* nullObject = nullptr;
   MVRNSErrorFuncTraceIMPL("Test", "void A::b(int)", "flag:%d text:%@, delegate:%@, c:%s.", true,
-                          QString("100%d"), nobody, "é");
+                          QString("100%d"), nullObject, "é");
   MVRNSWarningTraceIMPL("Test", "%s, number:%d", "void A::c()", 42);
   const auto records = watch.records();
   ASSERT_EQ(records.size(), 2U);
@@ -95,9 +95,9 @@ TEST(KZTrace, FormatsNothingWhileMuted) {
 }
 
 TEST(KZTrace, LetsASinkTraceAndReplaceItselfWhileOthersTrace) {
-  std::atomic<int> heard = 0;
+  std::atomic<int> received = 0;
   setKZTraceSink([&](const KZTraceRecord& record) {
-    ++heard;
+    ++received;
     if (record.text == "nested") return;
     MVRNSInfoFuncTraceIMPL("Test", "void A::b()", "nested");
   });
@@ -108,7 +108,7 @@ TEST(KZTrace, LetsASinkTraceAndReplaceItselfWhileOthersTrace) {
     });
   }
   for (std::thread& thread : threads) thread.join();
-  EXPECT_EQ(heard, 2 * 4 * 200);
+  EXPECT_EQ(received, 2 * 4 * 200);
   setKZTraceSink([](const KZTraceRecord&) { muteKZTrace(); });
   MVRNSInfoFuncTraceIMPL("Test", "void A::b()", "last");
   EXPECT_FALSE(kztrace::isEnabled());

@@ -6,5 +6,3 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
-
-#include "cmake/Precompiled.h"

@@ -5,7 +5,7 @@
 #include <QString>
 #include <QStringList>
 
-// One run of prefs-session over a script.
+// A run of prefs-session with a script.
 struct SessionRun {
   int status = -1;
   QStringList lines;  // of standard output
@@ -17,8 +17,8 @@ struct SessionRun {
   QJsonObject result() const { return last().value("result").toObject(); }
 };
 
-// Over the real plug-in; the script's lines come on standard input.
+// With the real plug-in; the script is passed on standard input.
 SessionRun runSession(const QStringList& script, const QStringList& options = {});
 
-// Over the plug-in in that file.
+// With the plug-in in that file.
 SessionRun runSessionWith(const QString& plugin, const QStringList& script, const QStringList& options = {});

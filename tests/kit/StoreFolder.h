@@ -5,7 +5,7 @@
 
 #include "host/KZUtility/KZPlistFileHandle.h"
 
-// A fresh folder with the host's store in it; the store is in memory only again when it goes.
+// A new folder with the host's store in it. Afterwards the store is in memory only.
 class StoreFolder final {
  public:
   StoreFolder();
@@ -16,7 +16,7 @@ class StoreFolder final {
 
   // The store as the next run finds it.
   void reopen() const;
-  // Replaces the file, and reads it.
+  // Replaces the file and opens the store again.
   void openWith(const QByteArray& bytes) const;
   static QByteArray plist(const QByteArray& entries);
 

@@ -11,8 +11,8 @@
 
 class Window;
 
-// A host around the plug-in's classes in this process: an empty store in a file, no secrets, and a record of
-// all that the plug-in sends, shows and traces. The plug-in is shut down with it.
+// A host for the plug-in's classes in this process, with an empty store in a file and no secrets. It collects
+// what the plug-in sends, shows and traces, and shuts the plug-in down at its end.
 class TestHost : public KZPluginDelegate {
  public:
   TestHost();
@@ -32,7 +32,7 @@ class TestHost : public KZPluginDelegate {
   QStringList takeTrace();  // `Class::method text`
 
   KZPluginCoreMgr* m_core;
-  std::function<void()> m_onNextSent;  // what the host does inside the next command that it receives
+  std::function<void()> m_onNextSent;  // called once, from within the next command that the host receives
   QStringList m_warnings;
 
  private:

@@ -2,8 +2,8 @@
 
 #include <QTemporaryDir>
 
-// What a test program and those that it starts find: no display, English texts, and folders of their own for
-// what a user keeps, which are removed at the end. Make it before the application object.
+// The environment of a test program and those that it starts: no display, English texts, and temporary
+// folders for a user's files. Create it before the application object.
 class TestSurroundings final {
  public:
   TestSurroundings();
@@ -13,5 +13,5 @@ class TestSurroundings final {
   QTemporaryDir m_home;
 };
 
-// Runs the tests that the arguments ask for; what main returns. Needs the application object.
+// Runs the tests that the arguments select and returns the exit status. Needs the application object.
 int runTests(int argc, char** argv);

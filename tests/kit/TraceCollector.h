@@ -6,7 +6,7 @@
 
 #include "host/KZUtility/KZTrace.h"
 
-// Collects what is traced while it lives, from any thread. One at a time.
+// Collects the trace records of all threads while it exists. One at a time.
 class TraceCollector final {
  public:
   TraceCollector();

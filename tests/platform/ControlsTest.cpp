@@ -47,7 +47,7 @@ QString toolTipOf(QWidget* view) {
   return QToolTip::text();
 }
 
-TEST(StaticText, ElidesWhatDoesNotFitAndTellsItInATip) {
+TEST(StaticText, ElidesATextThatDoesNotFitAndShowsItInAToolTip) {
   QWidget parent;
   parent.resize(400, 40);
   const QString longName = QStringLiteral("A <b>name</b> that is far too long for its place");

@@ -54,7 +54,7 @@ TEST(Recording, SaysWhatBecomesOfIt) {
   const QString path = folder.filePath("record.jsonl");
   PluginHost host;
   Recording recording(&host);
-  QSignalSpy noticed(&recording, &Recording::noticed);
+  QSignalSpy noticed(&recording, &Recording::message);
   QSignalSpy changed(&recording, &Recording::changed);
   EXPECT_FALSE(recording.start("/nowhere/at/all"));
   EXPECT_TRUE(noticed.takeFirst().first().toString().contains("Choose another place"));

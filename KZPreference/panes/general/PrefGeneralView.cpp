@@ -23,7 +23,7 @@ void PrefGeneralView::initOutlookIntegratingState() {
 void PrefGeneralView::initOutlookIntegratingCheckbox() {
   m_outlookIntegratingBtn = addCheckbox(this, "m_outlookIntegratingBtn", rectOutlookIntegrationButton(),
                                         outlookIntegratingString());
-  // Where the site does not allow it, the stored choice stays as it is.
+  // The stored choice is not changed when the site does not allow it.
   m_outlookIntegratingBtn->setChecked(m_isOutlookIntegrating && m_isSiteEnableOutlookIntegrating);
   m_outlookIntegratingBtn->setEnabled(m_isSiteEnableOutlookIntegrating);
   connect(m_outlookIntegratingBtn, &QCheckBox::clicked, this, &PrefGeneralView::onOutlookIntegratingButton);
@@ -56,7 +56,7 @@ void PrefGeneralView::addWarningView() {
   m_warningView->setIsInfo(true);
   m_warningView->setWarningText(
       getLocalizedString("Your setting changes will take effect after you restart Microsoft Outlook."));
-  // The pane grows downwards by the notice's height, so that the notice stands above the check boxes.
+  // The pane grows downwards by the notice's height, so that the notice is above the check boxes.
   Frame pane = frameOf(this);
   const double height = m_warningView->heightForWidth(int(pane.width));
   addSubview(this, m_warningView, {0, pane.height, pane.width, height});

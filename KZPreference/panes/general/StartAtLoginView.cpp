@@ -26,7 +26,7 @@ void StartAtLoginView::initStartCheckingCheckbox(const Frame& frame, const QStri
 }
 
 Frame StartAtLoginView::checkboxFrame(double y) const {
-  // The right margin on the left too; both are 32, so the pane lines up with the others.
+  // Starts at the right margin instead of the left one; both are 32 points.
   return {.x = marginAtRightEdge,
           .y = y,
           .width = frameOf(this).width - marginAtLeftEdge - marginAtRightEdge,

@@ -2,7 +2,7 @@
 
 #include "host/KZFoundation/Dictionary.h"
 
-// What the store and the keychain say about the calendar settings, read at each call. Main thread only.
+// Reads the calendar settings from the store and the keychain, at each call. Main thread only.
 class CalendarIntegrationAssist {
  public:
   Dictionary getCalendarIntegrationPrefs() const;

@@ -118,7 +118,7 @@ void CalendarIntegrationGroup::initSpinner() {
 void CalendarIntegrationGroup::initErrorText() {
   m_messageTxt = addLabel(this, "m_messageTxt", Frame(), QString());
   m_messageTxt->setSystemColor(SystemColor::Red);
-  // The line covers the user name field, whose text must not show through.
+  // The line covers the user name field, whose text must not be visible.
   m_messageTxt->setAutoFillBackground(true);
   m_messageTxt->hide();
   m_message.setMessageTxt(m_messageTxt);

@@ -29,7 +29,7 @@ class CalendarIntegrationGroup : public View, public OutlookAccountAuthDelegate 
   void setOLAccountAuthenticator(OLAccountAuthenticator* authenticator);
 
   virtual void setCalendarPreference(const Dictionary& preference) = 0;
-  // Until the window closes, a successful result closes it.
+  // From now until the window closes, a successful result closes it.
   void setOpeningByDashboard() { m_isOpeningByDashboard = true; }
 
   virtual void windowDidBecomeKey();
@@ -51,7 +51,7 @@ class CalendarIntegrationGroup : public View, public OutlookAccountAuthDelegate 
   virtual void initRadioButtons() = 0;
   QRadioButton* addRadioButton(const char* name, int row, const QString& title);
   double sourceRowY(int row) const;
-  // For a new height of the group.
+  // Call after the group's height changed.
   void relayoutAfterResize();
 
   // Shows whether an account is applied, for which it reads the keychain.
@@ -64,7 +64,7 @@ class CalendarIntegrationGroup : public View, public OutlookAccountAuthDelegate 
   // The user chose this source.
   void reportSource(const QString& source, const QString& featureName);
 
-  // For the closing window: reports a changed source.
+  // Called when the window closes, to report a changed source.
   virtual void reportSourceOnClose(bool isApplied) = 0;
 
   CalendarIntegrationAssist m_assist;

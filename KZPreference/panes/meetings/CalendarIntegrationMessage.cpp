@@ -7,7 +7,7 @@
 
 namespace {
 
-// Screen readers announce a notification when it shows; a plain text they do not.
+// Screen readers announce a notification when it is shown, but not a label.
 class StatusLineAccessible final : public QAccessibleWidget {
  public:
   explicit StatusLineAccessible(StaticText* line) : QAccessibleWidget(line, QAccessible::Notification) {}
@@ -54,7 +54,7 @@ void CalendarIntegrationMessage::show(const QString& text, SystemColor color) {
   m_messageTxt->setSystemColor(color);
   m_messageTxt->show();
   if (!isReplaced) return;
-  // Showing a hidden line announces it already.
+  // A line that was hidden is announced because it is shown.
   QAccessibleEvent announcement(m_messageTxt, QAccessible::ObjectShow);
   QAccessible::updateAccessibility(&announcement);
 }

@@ -5,8 +5,7 @@
 #include "host/KZFoundation/Dictionary.h"
 #include "platform/StaticText.h"
 
-// The status line of a calendar group. Each message shown is announced to screen readers.
-// Main thread only.
+// The status line of a calendar group, announced to screen readers. Main thread only.
 class CalendarIntegrationMessage {
  public:
   // Not owned; nullptr is ignored.

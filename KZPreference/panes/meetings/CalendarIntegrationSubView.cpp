@@ -20,7 +20,7 @@ void CalendarIntegrationSubView::initRadioButtons() {
   m_mivraRadioBtn = addRadioButton("m_mivraRadioBtn", 1, localizedString("Mivra"));
   m_googleRadioBtn = addRadioButton("m_googleRadioBtn", 2, localizedString("Google"));
   m_outlookRadioBtn = addRadioButton("m_outlookRadioBtn", 3, localizedString("Microsoft Outlook"));
-  // Until an option record enables it.
+  // Until a preference record enables it.
   m_googleRadioBtn->setEnabled(false);
   for (const auto& [button, source] : buttonsWithSources())
     connect(button, &QRadioButton::toggled, this, &CalendarIntegrationSubView::updateTabStop);
@@ -37,7 +37,7 @@ std::array<std::pair<QRadioButton*, QString>, 4> CalendarIntegrationSubView::but
            {m_outlookRadioBtn, kKZCalendarIntegrationSourceOutlook}}};
 }
 
-// Tab stops at the chosen source only; the arrow keys move on from there.
+// Tab stops at the chosen source only; the arrow keys move from there.
 void CalendarIntegrationSubView::updateTabStop(bool isOn) {
   if (!isOn) return;
   for (const auto& [button, source] : buttonsWithSources())

@@ -89,8 +89,8 @@ void MeetingSubView::placeCopyButtons() {
   place(m_copySipurlBtn, m_sipurl, 0);
 }
 
-// The group's width leaves out the gaps, so a link may reach beyond it. The widget extends to the pane's edge
-// to show it.
+// The group's width does not include the gaps, so a link may reach beyond it. The widget extends to the
+// pane's edge to show the link.
 void MeetingSubView::resizeEvent(QResizeEvent* event) {
   View::resizeEvent(event);
   if (parentWidget()) resize(std::max(width(), parentWidget()->width() - x()), height());
@@ -163,7 +163,7 @@ void MeetingSubView::onCopySipurlButton() {
   QTimer::singleShot(kCopiedTime, this, &MeetingSubView::resetCopySipUrlBtn);
 }
 
-// The width is measured in the title's font and stays when the text goes back to "Copy".
+// The width is measured in the title's font, and stays when the text is "Copy" again.
 void MeetingSubView::setCopiedUrlBtn(BRNHyperlinkTextField* button) {
   const QString copied = localizedString("Copied");
   Frame frame = frameOf(button);

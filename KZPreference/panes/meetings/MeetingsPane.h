@@ -8,7 +8,7 @@ class CalendarSubView;
 class OLAccountAuthenticator;
 class SplitLineView;
 
-// What both Meetings panes share: the calendar groups, and the calls that are passed on to them.
+// The part that both Meetings panes share: the calendar groups, and the calls that are passed to them.
 class MeetingsPane : public View, public CalendarPreferenceReceiver {
   Q_OBJECT
 
@@ -28,7 +28,7 @@ class MeetingsPane : public View, public CalendarPreferenceReceiver {
     Frame calendar;
     Frame integration;
   };
-  // The calendar days stand above the integration group, which stands at the pane's bottom.
+  // The calendar group is above the integration group, which is at the bottom of the pane.
   static GroupFrames groupFrames(const Size& integration);
 
   void addCalendarView(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate);

@@ -60,7 +60,7 @@ double PrefMeetingViewVisible::applyButtonWidth() {
   return systemTextWidth(applyBtnTitle()) + 20.0 + 20.0;
 }
 
-// Leaves out the gaps between label, address and link.
+// Does not include the gaps between label, address and link.
 Size PrefMeetingViewVisible::caculateMeetingSubViewSize() {
   const Dictionary info = KZPlistFileHandle::sharedInstance().preferenceInfo();
   const QString pmrurl = textValue(info, QRT_Preference_PMRUrl);

@@ -38,7 +38,7 @@ void NotificationRow::initMinutes() {
       this, "m_minutesBtn", {secondMarginAtLeftEdge, 0, popupButtonWidth, popupButtonHeight}, m_kind.minutes);
   m_minutesBtn->setAccessibleName(m_kind.minutesLabel);
   connect(m_minutesBtn, &PopUpButton::chosen, this, &NotificationRow::onMinutesButton);
-  // As wide as the row, so that the text is never cut before the pane ends.
+  // As wide as the row, so that the text is not cut before the pane's edge.
   addLabel(this, "m_minutesTxt", {kMinutesTextX, 3, frameOf(this).width, commonLabelHeight},
            m_kind.minutesLabel);
 }

@@ -15,7 +15,7 @@ class NotificationRow : public View {
   // The size of a row with that text after its pop-up button.
   static Size sizeWith(const QString& minutesLabel);
 
-  // Shows these settings; without any, the last ones again.
+  // Shows these settings; for std::nullopt, the previous ones again.
   void setPreference(const Content& preference);
 
  protected:

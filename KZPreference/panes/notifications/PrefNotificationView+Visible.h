@@ -6,7 +6,8 @@
 #include "KZPreference/panes/notifications/MeetingCardSubView+Visible.h"
 #include "KZPreference/panes/notifications/SnoozeSubView+Visible.h"
 
-// The size of the Notifications pane, which is as wide as its widest kind of row, shown or not.
+// The size of the Notifications pane, which is as wide as the widest of all three rows, although it shows
+// one.
 class PrefNotificationViewVisible {
  public:
   static Size caculateViewSize() {

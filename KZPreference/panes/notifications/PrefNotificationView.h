@@ -17,8 +17,7 @@ class PrefNotificationView final : public View, public PrefNotificationViewVisib
 
   void setPreference(const Content& preference);
 
-  // Each writes the sender's value to the store under the key of older versions. No control of this pane uses
-  // them.
+  // Each writes the sender's value to the store under its key of older versions. No control calls them.
   void onMeetingAlertsButton(const QCheckBox* sender);
   void onMeetingAlertsMinutesButton(const PopUpButton* sender);
   void onSnoozeButton(const QCheckBox* sender);

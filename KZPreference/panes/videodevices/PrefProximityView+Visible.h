@@ -9,7 +9,7 @@ class PrefProximityViewVisible {
   static QString autodetectLabel() { return localizedString("Automatically discover nearby devices"); }
 
   static Size caculateViewSize() {
-    // For the check box's box. The General panes measure in another font and take 20.
+    // The check box's indicator. The General panes measure in another font, with 20 points for it.
     constexpr double boxWidth = 18;
     return {
         .width = commonLabelWidth(autodetectLabel()) + (marginAtLeftEdge + boxWidth) + 4 + marginAtRightEdge,

@@ -13,7 +13,7 @@ class PrefProximityView final : public View, public PrefProximityViewVisible {
  public:
   PrefProximityView(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate);  // not owned
 
-  // Shows these settings; without any, the last ones again.
+  // Shows these settings; for std::nullopt, the previous ones again.
   void setPreference(const Content& preference);
 
  protected:

@@ -16,7 +16,7 @@
 
 namespace {
 
-// Posts a challenge on a thread of its own, which the destructor joins.
+// Posts a challenge on its own thread, which the destructor joins.
 class Worker {
  public:
   explicit Worker(const QVariant& kind)
@@ -107,7 +107,8 @@ TEST_F(OLAccountAuthenticatorTest, AnswersByKindAndByWhatIsKnown) {
   EXPECT_TRUE(host.takeTrace().filter("kc").isEmpty());
 }
 
-// First the group shows the failure, then comes the empty answer, and a tenth of a second later the command.
+// First the group shows the failure, then the empty credential is posted, and 100 ms later the command is
+// sent.
 TEST_F(OLAccountAuthenticatorTest, ARefusedCredentialIsReportedInOrderAndNotSentAgain) {
   collect(QStringLiteral("ann"), QStringLiteral("pw"));
   PreferenceHost::challenge(1);
@@ -157,7 +158,7 @@ TEST_F(OLAccountAuthenticatorTest, AWorkerComesBackWhileTheWindowCloses) {
   EXPECT_EQ(happened, QStringList("/"));
 }
 
-// The main thread does not return to its event loop, and the waiting threads continue all the same.
+// The waiting threads continue although the main thread does not return to its event loop.
 TEST_F(OLAccountAuthenticatorTest, WorkersComeBackWhenThePlugInShutsDown) {
   {
     auto authenticator = std::make_unique<OLAccountAuthenticator>(nullptr);

@@ -91,7 +91,7 @@ TEST_F(HostileContentTest, AStoreOfWrongTypesOpensWithTheDefaults) {
   }
 }
 
-// A profile of a megabyte: every pane opens, fades, and the window stays on the screen.
+// With a profile of a megabyte every pane opens and fades, and the window stays on the screen.
 TEST_F(HostileContentTest, AMegabyteOfTextOpensInTime) {
   const QString huge(1024 * 1024, u'W');
   auto& store = KZPlistFileHandle::sharedInstance();

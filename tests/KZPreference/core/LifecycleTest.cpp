@@ -56,10 +56,10 @@ TEST_F(LifecycleTest, ThePluginMayShutDownWithEverythingOpen) {
   command(3);
   command(1);
   command(2);
-  clickPane("Account");  // its fade runs on while the fixture shuts the plug-in down
+  clickPane("Account");  // its fade is still running while the fixture shuts the plug-in down
 }
 
-TEST_F(LifecycleTest, ARecordIsSavedWhateverItAsksFor) {
+TEST_F(LifecycleTest, ARecordIsSavedWhateverActionItHas) {
   const struct {
     QVariant customInfo;
     bool isShown;

@@ -19,7 +19,7 @@ class CoreSender final : public PluginCommandSender {
   KZPluginCoreMgr* m_core;
 };
 
-// A test with a plug-in and a host around it.
+// A fixture with a plug-in and its host.
 class RecordingHost : public testing::Test, public TestHost {
  protected:
   static void settle() { kit::settle(); }

@@ -96,7 +96,7 @@ TEST_F(GuestAccountPaneTest, AnotherPaneEndsTheEdit) {
 
 class AccountPaneTest : public RecordingHost {};
 
-TEST_F(AccountPaneTest, TheLinkAsksForAnotherSite) {
+TEST_F(AccountPaneTest, TheLinkSendsTheChangeSiteCommand) {
   command(2, Dictionary{{"kOpenPrefsViewType", "kPrefsAccountView"}});
   takeSent();
   kit::click(*find<BRNHyperlinkTextField>("m_changeSiteBtn"));

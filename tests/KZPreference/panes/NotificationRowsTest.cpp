@@ -27,7 +27,7 @@ class NotificationRowsTest : public RecordingHost {
     button->setFocus();
     QTest::keyClick(button, key);
   }
-  // What a row of that class does with its controls, and what is in the store then.
+  // Uses the controls of a row of that class, and checks what is sent and stored.
   template <typename Row>
   void use(const QStringList& items, const QString& stateKey, const QString& minutesKey) {
     Row row({0, 0, 300, 48}, &m_delegate);

@@ -134,7 +134,7 @@ TEST_F(MultiPaneWindowTest, ASecondSwitchInMidFlightEndsOnTheLastPane) {
   animation()->setCurrentTime(20);
   click("Tall");
   animation()->pause();
-  click("Tall");  // asked for already: the fade goes on
+  click("Tall");  // the pane that is fading in: the fade continues
   EXPECT_TRUE(isFading());
   animation()->setCurrentTime(250);
   expectSettledOn("Tall240", 240);

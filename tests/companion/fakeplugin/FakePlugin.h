@@ -8,7 +8,7 @@
 #include "host/KZFoundation/KZTokenLookup.h"
 #include "tests/companion/fakeplugin/FakeWindow.h"
 
-// A core that answers every word of a script with something that can be seen from outside.
+// A core that responds to every step of a script with a visible effect.
 class FakeCore final : public KZPluginCoreMgr {
  public:
   FakeCore();

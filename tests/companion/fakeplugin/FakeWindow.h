@@ -11,7 +11,7 @@ class QToolBar;
 
 using FakeSender = std::function<void(quint64 command, const Content& content)>;
 
-// A pane with one control of every kind; each reports what happened to it as a command.
+// A pane with one control of every kind; each sends a command when it is used.
 class FakePane final : public View {
   Q_OBJECT
 
@@ -28,7 +28,7 @@ class FakePane final : public View {
   FakeSender m_send;
 };
 
-// The smallest window that looks to a host like the Preferences window.
+// The smallest window that a host takes for the Preferences window.
 class FakeWindowController final : public WindowController {
   Q_OBJECT
 

@@ -2,9 +2,9 @@
 //   silent  never answers
 //   locked  its default collection is locked
 //   absent  it has no default collection
-//   slow    answers each call long after anybody waits for it
+//   slow    answers each call long after the deadline
 //   dies    ends in the middle of a call
-// It prints "ready" once it owns the name, and "prompt" when it is asked for anything that a user would see.
+// It prints "ready" once it owns the name, and "prompt" when a call would prompt the user.
 
 #include <gio/gio.h>
 #include <unistd.h>
@@ -40,7 +40,7 @@ GVariant* answerTo(const Fake& fake, std::string_view member) {
   return nullptr;
 }
 
-// Only the plain session is spoken; the library then asks again without encryption.
+// Only the plain session is supported; the library then asks again without encryption.
 bool isEncryptedSession(GDBusMessage* message, std::string_view member) {
   if (member != "OpenSession") return false;
   const gchar* algorithm = nullptr;

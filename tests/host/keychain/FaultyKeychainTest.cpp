@@ -16,7 +16,7 @@ constexpr qint64 kMargin = 300;
 
 const KZKeychainBackend::Item kAnyItem{QStringLiteral("test"), QStringLiteral("any")};
 
-// The whole of what a host does with its secrets, while the keychain is of no use.
+// All that a host does with its secrets, while the keychain does not work.
 void expectMemoryAfterOneWarning() {
   const TraceCollector watch;
   KZKeyChainHandle& handle = KZKeyChainHandle::sharedInstance();
@@ -30,7 +30,7 @@ void expectMemoryAfterOneWarning() {
   QString username;
   QString password;
   handle.getOutlookUsername(&username, &password);
-  // The first call waits, and no other.
+  // Only the first call waits.
   EXPECT_LT(timer.elapsed(), kDeadline.count() + kMargin);
   EXPECT_EQ(username, "anna");
   EXPECT_EQ(password, "s3cr3t");
@@ -49,7 +49,7 @@ void expectMemoryAfterOneWarning() {
   EXPECT_LT(timer.elapsed(), kDeadline.count() + kMargin);
 }
 
-// Each kind of call by itself, each within the deadline.
+// Each kind of call fails within the deadline.
 void expectUnavailable() {
   using Status = KZKeychainBackend::Status;
   SecretServiceKeychain keychain(kDeadline);

@@ -30,7 +30,7 @@ ServiceProcess::ServiceProcess() {
   m_process.closeWriteChannel();
   QElapsedTimer timer;
   timer.start();
-  // Waiting for the process also hands it the password.
+  // Waiting for the process also sends it the password.
   while (!isNameOwned() && timer.elapsed() < kStartMilliseconds) m_process.waitForFinished(20);
 }
 

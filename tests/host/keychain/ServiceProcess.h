@@ -2,7 +2,7 @@
 
 #include <QProcess>
 
-// A Secret Service on the test's bus for as long as it lives.
+// Runs a Secret Service on the test's bus while it exists.
 class ServiceProcess final {
  public:
   // The fake one; it prints a line once it owns the name.
@@ -13,7 +13,7 @@ class ServiceProcess final {
   Q_DISABLE_COPY_MOVE(ServiceProcess)
 
   void kill();
-  // What the fake one said since it started.
+  // The output of the fake one since its start.
   QByteArray said();
 
  private:

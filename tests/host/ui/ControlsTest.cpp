@@ -93,11 +93,11 @@ TEST(HostControls, LookDifferentInEachState) {
 
 TEST(HostControls, AScreenReaderHearsALink) {
   Shown shown(newLink());
-  QAccessibleInterface* heard = QAccessible::queryAccessibleInterface(shown.button);
-  ASSERT_NE(heard, nullptr);
-  EXPECT_EQ(heard->text(QAccessible::Name), "Change");
-  EXPECT_EQ(heard->role(), QAccessible::Button);
-  EXPECT_TRUE(heard->state().focusable);
+  QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(shown.button);
+  ASSERT_NE(accessible, nullptr);
+  EXPECT_EQ(accessible->text(QAccessible::Name), "Change");
+  EXPECT_EQ(accessible->role(), QAccessible::Button);
+  EXPECT_TRUE(accessible->state().focusable);
 }
 
 TEST(HostControls, AnImageButtonWithoutImageIsHarmless) {

@@ -36,7 +36,7 @@ QPalette plainPalette(const QColor& back, const QColor& fore) {
   return palette;
 }
 
-// The pixel of the icon's frame that is ink in every picture.
+// The pixel of the icon's frame that is drawn in every picture.
 QColor inkOf(const QImage& picture) {
   return picture.pixelColor(12, 9);
 }

@@ -66,7 +66,7 @@ TEST(KZWarningWindowControllerTest, ShowsTextsLiterallyWhateverTheyAre) {
   EXPECT_TRUE(message->focusPolicy() & Qt::TabFocus);
 }
 
-TEST(KZWarningWindowControllerTest, TellsItsObserverOfEveryShowing) {
+TEST(KZWarningWindowControllerTest, CallsItsObserverAtEveryShowing) {
   QStringList seen;
   KZWarningWindowController::setObserver(
       [&seen](const QString& title, const QString& message) { seen.append(title + '|' + message); });

@@ -4,7 +4,7 @@
 
 #include "platform/Look.h"
 
-// Palettes as a host application might have them; none is one of the look's own.
+// Palettes of a host application; none is one of the look's own.
 inline QPalette hostPalette(LookScheme scheme) {
   switch (scheme) {
     case LookScheme::Light:

@@ -45,7 +45,7 @@ TEST(LookScheme, TextsAreLegibleInEveryScheme) {
     };
     for (const auto& pair : pairs)
       EXPECT_GE(contrast(pair.text, pair.back), 4.5) << schemeName(scheme) << ' ' << pair.name;
-    // What is no text but tells a state.
+    // Colours that show a state and are not text.
     EXPECT_GE(contrast(palette.color(QPalette::Highlight), window), 3.0) << schemeName(scheme);
     EXPECT_GE(contrast(colors.glyph, palette.color(QPalette::Highlight)), 3.0) << schemeName(scheme);
   }

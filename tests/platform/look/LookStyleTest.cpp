@@ -57,7 +57,7 @@ bool hasColorNear(const QImage& picture, const QColor& color) {
   return false;
 }
 
-// The bounds of what is drawn on that ground.
+// The bounds of the pixels that differ from that background.
 QRect drawnOn(const QColor& ground, const QImage& picture, const QRect& area) {
   QRect found;
   for (int y = area.top(); y <= area.bottom(); ++y)
@@ -184,7 +184,7 @@ TEST_F(LookStyleTest, APopUpShowsItsTextUncut) {
   show();
   const QRect room(2, 3, 30, 16);
   const QRect ink = drawnOn(Qt::white, popUp->grab().toImage(), room);
-  // Two digits, whole, and not running into the tile.
+  // Both digits are whole and do not overlap the tile.
   EXPECT_GE(ink.width(), popUp->fontMetrics().tightBoundingRect("14").width() - 2);
   EXPECT_LT(ink.right(), room.right());
   EXPECT_GE(ink.height(), 8);

@@ -8,7 +8,7 @@
 
 inline const QString kSampleImages = QStringLiteral(":/sample/images");
 
-// A toolbar as a preferences window has it; the third item is chosen.
+// A toolbar like that of a preferences window, with the third item selected.
 inline QToolBar* sampleToolbar(QWidget* window) {
   auto* toolbar = new QToolBar(window);
   toolbar->setMovable(false);

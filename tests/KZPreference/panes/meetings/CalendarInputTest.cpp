@@ -14,7 +14,7 @@ namespace {
 
 using Variant = PreferenceHost::Variant;
 
-// The value of that key in the last thing that was sent.
+// The value of that key in the last command that was sent.
 QString sentText(PreferenceHost& host, const QString& key) {
   const QString last = host.takeSent().value(0);
   return QJsonDocument::fromJson(last.mid(last.indexOf(u' ')).toUtf8()).object().value(key).toString();
@@ -30,7 +30,7 @@ QString everyPlane() {
   return text;
 }
 
-// What the Exchange client gets for a challenge during discovery.
+// The credential that the Exchange client gets for a challenge during discovery.
 Dictionary answerToChallenge() {
   Dictionary answer;
   const auto token = KZNotificationCenter::defaultCenter().addObserver(
@@ -101,7 +101,7 @@ TEST_F(CalendarInput, CredentialsArePassedOnExactlyAndPasswordsNeverTraced) {
   }
 }
 
-TEST_F(CalendarInput, TheAuthenticatorAsksTheOpenWindowsGroupOnly) {
+TEST_F(CalendarInput, TheAuthenticatorUsesTheOpenWindowsGroupOnly) {
   const auto answered = [] { return textValue(answerToChallenge(), QStringLiteral("Username")); };
   const auto typeUser = [this](const QString& name) {
     detect(QStringLiteral("ann@brenn.example"));

@@ -13,7 +13,7 @@ namespace {
 
 using Variant = PreferenceHost::Variant;
 
-// To the control that has the focus.
+// Sends the key to the control that has the focus.
 void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
   QTest::keyClick(PreferenceHost::window()->windowHandle(), key, modifiers);
 }
@@ -28,7 +28,7 @@ QString focused() {
   return widget ? widget->objectName() : QString();
 }
 
-// Tab, until that control has the focus; the names on the way, that one included.
+// Presses Tab until that control has the focus; returns the names of the focused controls, that one included.
 QStringList tabTo(const QString& name) {
   QStringList way;
   do {
@@ -38,7 +38,7 @@ QStringList tabTo(const QString& name) {
   return way;
 }
 
-QStringList s_announced;  // what the status line said when it showed
+QStringList s_announced;  // the texts of the status line when it was shown
 
 void noteUpdate(QAccessibleEvent* event) {
   if (event->type() != QAccessible::ObjectShow || !event->object()) return;
@@ -100,7 +100,7 @@ TEST_P(CalendarKeyboard, TheWholeExchangeFlowNeedsNoMouse) {
   EXPECT_TRUE(QApplication::focusWidget() && QApplication::focusWidget()->isVisible());
 }
 
-// Only a platform with a bridge to screen readers sends these events.
+// Only platforms with a bridge to screen readers send these events.
 TEST_P(CalendarKeyboard, TheStatusLineIsAnnounced) {
   if (!QAccessible::isActive()) GTEST_SKIP();
   s_announced.clear();

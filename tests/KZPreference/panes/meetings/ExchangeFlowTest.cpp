@@ -37,9 +37,9 @@ QString busyPlace() {
   return isBeside("m_applyBtn", 2) ? QStringLiteral("applying") : QStringLiteral("astray");
 }
 
-// What the flow decides, in one line: `idle d--- blue Applied successfully`; the letters stand for
-// what is shown and enabled: detect, user name, password, apply (a capital letter: shown but disabled, "-":
-// hidden).
+// The group's state in one line, such as `idle d--- blue Applied successfully`. The letters are the detect
+// button, user name, password and apply button: lower case for enabled, upper case for disabled, "-" for
+// hidden.
 QString shows() {
   QString line = busyPlace() + u' ' + (PreferenceHost::control("m_detectBtn").isEnabled() ? u'd' : u'D');
   for (const auto& [name, letter] :
@@ -155,7 +155,7 @@ TEST_P(ExchangeFlow, EveryTransitionShowsAndSendsWhatItShould) {
       {"detecting", "credential", "idle duPA", {}},
       {"detecting", "failure", "idle d--- red " + failed, {}},
       {"detecting", "failure without text", "idle d---", {}},
-      // Nothing was typed for the keychain, so the account does not count as applied.
+      // No credential was typed, so the account does not count as applied.
       {"detecting", "success", "idle D--- blue Applied successfully", {kSourceChanged}},
       {"credential wanted", "apply", "idle duPA", {}},
       {"credential wanted", "Return in user name", "idle duPA", {}},

@@ -29,7 +29,7 @@ class MeetingSubViewTest : public RecordingHost {
   BRNHyperlinkTextField& link(const char* name) const {
     return *view->findChild<BRNHyperlinkTextField*>(name);
   }
-  // What is drawn below the title, each text with its place.
+  // The texts drawn below the title, with their positions.
   QStringList drawn() const {
     QStringList lines;
     for (const DrawnText& text : view->drawnTexts().mid(1))
@@ -98,7 +98,7 @@ TEST_F(MeetingSubViewTest, TheGroupsSizeFollowsTheStoredAddresses) {
   }
 }
 
-TEST_F(MeetingSubViewTest, TheEditLinkAsksForTheMeetingSettings) {
+TEST_F(MeetingSubViewTest, TheEditLinkRequestsTheMeetingSettings) {
   takeSent();
   QTest::mouseClick(&link("m_editBtn"), Qt::LeftButton);
   const QStringList sent = takeSent();
@@ -106,7 +106,7 @@ TEST_F(MeetingSubViewTest, TheEditLinkAsksForTheMeetingSettings) {
   EXPECT_TRUE(sent.value(1).contains("Click_EditMeetingNowSettings")) << qPrintable(sent.value(1));
 }
 
-TEST_F(MeetingSubViewTest, CopyPutsTheAddressOnTheClipboardAndSaysSoForASecond) {
+TEST_F(MeetingSubViewTest, CopyPutsTheAddressOnTheClipboardAndShowsCopiedForASecond) {
   view->setPMRUrl(kRoom, kVideo);
   BRNHyperlinkTextField& room = link("m_copyPmrurlBtn");
   BRNHyperlinkTextField& video = link("m_copySipurlBtn");
@@ -122,7 +122,7 @@ TEST_F(MeetingSubViewTest, CopyPutsTheAddressOnTheClipboardAndSaysSoForASecond) 
 
   QTest::mouseClick(&video, Qt::LeftButton);
   EXPECT_EQ(QGuiApplication::clipboard()->text(), kVideo);
-  // A second click within the second copies again; the first click's reset still comes in its time.
+  // A second click within the second copies again; the first click's reset still happens at its time.
   QTest::mouseClick(&room, Qt::LeftButton);
   EXPECT_EQ(QGuiApplication::clipboard()->text(), kRoom);
   EXPECT_TRUE(kit::waitUntil([&] { return room.stringValue() + video.stringValue() == "CopyCopy"; }, 1500));

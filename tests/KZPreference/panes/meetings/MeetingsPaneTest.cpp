@@ -31,7 +31,7 @@ class MeetingsPaneTest : public RecordingHost {
   PreferenceActionDelegate delegate{&sender};
 };
 
-// How far the shown source buttons are below the group's upper edge, in order.
+// The distances of the visible source buttons from the group's upper edge, in order.
 QList<double> sourceRows(const QWidget& pane) {
   QList<double> rows;
   for (const auto* button : pane.findChildren<QRadioButton*>())
@@ -50,7 +50,7 @@ int firstInkOf(QWidget* view) {
   return -1;
 }
 
-// The heading's frame grows to the right with every record, its text is right-aligned and does not move.
+// The heading's frame grows to the right with every record, but its right-aligned text does not move.
 TEST_F(MeetingsPaneTest, TheHeadingStaysInLineWithTheOthers) {
   const auto pane = signedInPane();
   auto* heading = pane->findChild<QWidget*>("m_integrationTxt");
@@ -106,7 +106,7 @@ TEST_F(MeetingsPaneTest, OptionRecordsPackTheSourcesAndGrowThePane) {
 }
 
 TEST_F(MeetingsPaneTest, ManyRecordsAndUpdatesLeaveNothingBehind) {
-  muteKZTrace();  // what is collected would count
+  muteKZTrace();  // collected records would count as memory
   const auto pane = signedInPane();
   const auto round = [&pane] {
     pane->setCalendarIntergrationOption({.isEnableNone = true, .isEnableGoogle = true});

@@ -9,7 +9,7 @@
 // The command for a changed source, as takeSent() returns it.
 inline const QString kSourceChanged = QStringLiteral("18 {}");
 
-// A host whose user works in the Meetings pane.
+// A host with helpers for the Meetings pane.
 class PreferenceHost final : public TestHost {
  public:
   enum class Variant { SignedIn, Guest };
