@@ -5,36 +5,43 @@
 #include "companion/runtime/PluginHost.h"
 
 CompanionExchange::CompanionExchange(PluginHost* host, ServiceNetwork* network)
-    : m_network(network), m_discovery({}) {
+    : m_host(host), m_network(network) {
   host->handle(KZCommand::KZCmdApplyOutlookAccount, this,
-               [this](const Content& content) { m_discovery.start(content.value_or(Dictionary())); });
-  host->handle(KZCommand::KZCmdCancelApplyOutlookAccount, this,
-               [this](const Content&) { m_discovery.cancel(); });
-  host->handle(KZCommand::KZCmdSinkOutlookAccountCredential, this, [this](const Content& content) {
-    m_discovery.sinkCredential(content.value_or(Dictionary()));
+               [this](const Content& content) { start(content.value_or(Dictionary())); });
+  host->handle(KZCommand::KZCmdCancelApplyOutlookAccount, this, [this](const Content&) {
+    if (m_discovery) m_discovery->cancel();
   });
-  host->handle(KZCommand::KZCmdExchDiscoverAuthFailure, this,
-               [this](const Content&) { m_discovery.notifyAuthFailure(); });
-  connect(&m_discovery, &ExchangeDiscovery::notified, this,
-          [host](KZNotify index, const Dictionary& content) { host->notify(index, content); });
-  connect(&m_discovery, &ExchangeDiscovery::message, this, &CompanionExchange::message);
-  connect(network, &ServiceNetwork::changed, this, &CompanionExchange::useNetwork);
-  useNetwork();
+  host->handle(KZCommand::KZCmdSinkOutlookAccountCredential, this, [this](const Content& content) {
+    if (m_discovery) m_discovery->sinkCredential(content.value_or(Dictionary()));
+  });
+  // The refusal has ended the discovery already; one that runs by now is another.
+  host->handle(KZCommand::KZCmdExchDiscoverAuthFailure, this, [this](const Content&) {
+    Q_EMIT message(QStringLiteral("Detect again to enter another user name or password."));
+  });
+  connect(network, &ServiceNetwork::changed, this, [this] {
+    if (!m_discovery || m_network->isReady()) return;
+    m_discovery->fail({.kind = FailureKind::Explained, .detail = m_network->missing()});
+  });
 }
 
 CompanionExchange::~CompanionExchange() {
   delete m_question.data();
 }
 
-void CompanionExchange::useNetwork() {
+void CompanionExchange::start(const Dictionary& content) {
+  if (m_discovery) {
+    m_discovery->stop();
+    // A signal of its own may have led here.
+    m_discovery.release()->deleteLater();
+  }
   ExchangeConfiguration configuration = m_network->exchange();
   configuration.prompt = {
       .ask = [this](const QUrl& target,
                     const RedirectPrompt::Answer& answer) { askAboutRedirect(target, answer); },
       .withdraw = [this] { delete m_question.data(); }};
-  m_discovery.setConfiguration(configuration);
-  if (m_network->isReady()) return;
-  m_discovery.fail({.kind = FailureKind::Explained, .detail = m_network->missing()});
+  m_discovery = std::make_unique<ExchangeDiscovery>(configuration, content);
+  connect(m_discovery.get(), &ExchangeDiscovery::notified, m_host, &PluginHost::notify);
+  connect(m_discovery.get(), &ExchangeDiscovery::message, this, &CompanionExchange::message);
 }
 
 void CompanionExchange::askAboutRedirect(const QUrl& target, const RedirectPrompt::Answer& answer) {

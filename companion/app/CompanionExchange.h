@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
+#include <memory>
 
 #include "companion/exchange/ExchangeDiscovery.h"
 #include "companion/services/ServiceNetwork.h"
@@ -24,10 +25,11 @@ class CompanionExchange final : public QObject {
   void message(const QString& text);  // for the user
 
  private:
-  void useNetwork();
+  void start(const Dictionary& content);
   void askAboutRedirect(const QUrl& target, const RedirectPrompt::Answer& answer);
 
+  PluginHost* m_host;
   ServiceNetwork* m_network;
   QPointer<QMessageBox> m_question;
-  ExchangeDiscovery m_discovery;
+  std::unique_ptr<ExchangeDiscovery> m_discovery;  // the last one
 };

@@ -8,7 +8,6 @@
 #include <chrono>
 
 #include "companion/app/ListTable.h"
-#include "companion/services/MeetingAccount.h"
 #include "companion/services/NextMeetings.h"
 
 namespace {

@@ -1,5 +1,6 @@
 #include "companion/exchange/AutodiscoverAttempt.h"
 
+#include <QPointer>
 #include <utility>
 
 #include "companion/network/WebAddress.h"
@@ -23,15 +24,9 @@ void AutodiscoverAttempt::start(Mode mode, const QUrl& address, Done done) {
   call({.address = address}, [this](const HttpResponse& response) { readProbe(response); });
 }
 
-void AutodiscoverAttempt::stop() {
-  m_done = {};
-  m_call.reset();
-  m_context.consent.forget(this);
-}
-
 void AutodiscoverAttempt::call(const HttpRequest& request, HttpCall::Done done) {
-  m_call = std::make_unique<HttpCall>(m_context.network, m_context.configuration.network);
-  m_call->start(request, std::move(done));
+  m_call = std::make_unique<HttpCall>(m_context.network, m_context.configuration.network, request,
+                                      std::move(done));
 }
 
 void AutodiscoverAttempt::readProbe(const HttpResponse& response) {
@@ -46,7 +41,7 @@ bool AutodiscoverAttempt::isUsable(const QUrl& address) {
     fail(FailureKind::Unsafe);
     return false;
   }
-  if (m_visited.contains(address) || m_visited.size() > m_context.configuration.limits.hops) {
+  if (m_visited.contains(address) || m_visited.size() > kMostHops) {
     fail(FailureKind::TooManyRedirects);
     return false;
   }
@@ -55,7 +50,7 @@ bool AutodiscoverAttempt::isUsable(const QUrl& address) {
 
 void AutodiscoverAttempt::ifAllowed(const QUrl& target, Question question,
                                     const std::function<void()>& next) {
-  m_context.consent.ask(target, question, this, [this, target, next](bool isAllowed) {
+  m_context.consent.ask(target, question, [this, target, next](bool isAllowed) {
     m_address = target;
     isAllowed ? next() : fail(FailureKind::Declined);
   });
@@ -71,9 +66,10 @@ void AutodiscoverAttempt::visit(const QUrl& address) {
 
 void AutodiscoverAttempt::authorizedPost(const QUrl& address) {
   if (!m_context.consent.isTrusted(address.host())) return fail(FailureKind::Declined);
+  const QPointer<AutodiscoverAttempt> self(this);
   const Authorization authorization = m_context.authorize();
-  // The challenge runs through the plug-in's code, which may have stopped this attempt.
-  if (!m_done) return;
+  // The challenge runs through the plug-in's code, which may have ended this attempt.
+  if (self == nullptr) return;
   if (authorization.header.isEmpty()) return fail(authorization.missing);
   post(address, authorization.header);
 }
@@ -139,7 +135,7 @@ void AutodiscoverAttempt::fail(FailureKind kind, const QString& detail) {
 }
 
 void AutodiscoverAttempt::finish(const AutodiscoverOutcome& outcome) {
+  const QUrl address = m_address;
   const Done done = std::exchange(m_done, {});
-  m_call.reset();
-  if (done) done(m_address, outcome);
+  done(address, outcome);
 }

@@ -9,6 +9,7 @@
 #include <variant>
 
 #include "companion/exchange/AutodiscoverMessage.h"
+#include "companion/exchange/CredentialChallenge.h"
 #include "companion/exchange/RedirectConsent.h"
 #include "companion/network/HttpCall.h"
 
@@ -22,11 +23,7 @@ struct OtherEmail {
 using AutodiscoverOutcome =
     std::variant<NetworkFailure, ExchangeServices, CredentialNeeded, OtherEmail, OnlineService>;
 
-// The header that carries a credential, or why there is none.
-struct Authorization {
-  QByteArray header;
-  FailureKind missing = FailureKind::NoCredential;
-};
+constexpr qsizetype kMostHops = 10;
 
 // What every attempt of one discovery shares. All of it outlives the attempts.
 struct DiscoveryContext {
@@ -38,7 +35,8 @@ struct DiscoveryContext {
   bool isOnline = false;  // the service is known to be online already
 };
 
-// Requests the services of an email from one address and follows where it leads.
+// Requests the services of an email from one address and follows where it leads. Deleting it ends it without
+// an outcome.
 class AutodiscoverAttempt final : public QObject {
  public:
   enum class Mode {
@@ -52,9 +50,8 @@ class AutodiscoverAttempt final : public QObject {
   AutodiscoverAttempt(const DiscoveryContext& context, const QString& email)
       : m_context(context), m_email(email) {}
 
-  // Calls `done` once, unless the attempt is stopped.
+  // Calls `done` once, possibly before this returns; it may delete the attempt.
   void start(Mode mode, const QUrl& address, Done done);
-  void stop();
 
  private:
   using Question = RedirectConsent::Question;

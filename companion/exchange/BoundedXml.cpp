@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr int kDeepestLevel = 64;
+constexpr qsizetype kLongestPath = 1000;
 
 }  // namespace
 
@@ -18,9 +18,9 @@ bool walkBoundedXml(const QByteArray& xml, const XmlElementEnd& end) {
       case QXmlStreamReader::EntityReference:
         return false;
       case QXmlStreamReader::StartElement:
-        if (path.count(QLatin1Char('/')) >= kDeepestLevel) return false;
         path += QLatin1Char('/');
         path += reader.name();
+        if (path.size() > kLongestPath) return false;
         text.clear();
         break;
       case QXmlStreamReader::Characters:

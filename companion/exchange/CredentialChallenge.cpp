@@ -12,26 +12,25 @@ KZNotification challengeFor(CredentialPurpose purpose) {
 
 }  // namespace
 
-OfferedCredential askForCredential(CredentialPurpose purpose) {
-  OfferedCredential offered;
+Authorization askForCredential(CredentialPurpose purpose) {
+  QString username;
+  QString password;
   auto& center = KZNotificationCenter::defaultCenter();
-  const auto token = center.addObserver(QStringLiteral("HTTPAuthenticationDatasource"),
-                                        [&offered](const KZNotification& answer) {
-                                          offered = {textValue(answer.userInfo, QStringLiteral("Username")),
-                                                     textValue(answer.userInfo, QStringLiteral("Password"))};
-                                        });
+  const auto token =
+      center.addObserver(QStringLiteral("HTTPAuthenticationDatasource"), [&](const KZNotification& answer) {
+        username = textValue(answer.userInfo, QStringLiteral("Username"));
+        password = textValue(answer.userInfo, QStringLiteral("Password"));
+      });
   center.post(challengeFor(purpose));
-  return offered;
+  if (username.isEmpty() || password.isEmpty()) return {.missing = FailureKind::NoCredential};
+  // The first colon ends the user name, so a name with a colon would lose its end to the password.
+  if (username.contains(QLatin1Char(':'))) return {.missing = FailureKind::BadUsername};
+  return {.header = "Basic " + (username + QLatin1Char(':') + password).toUtf8().toBase64(),
+          .username = username};
 }
 
 void reportRefusedCredential(CredentialPurpose purpose) {
   KZNotification challenge = challengeFor(purpose);
   challenge.userInfo.insert(QStringLiteral("ShowWarningMsg"), QStringLiteral("true"));
   KZNotificationCenter::defaultCenter().post(challenge);
-}
-
-QByteArray basicAuthorization(const OfferedCredential& credential) {
-  // The first colon ends the user name, so a name with a colon would lose its end to the password.
-  if (credential.username.contains(QLatin1Char(':'))) return {};
-  return "Basic " + (credential.username + QLatin1Char(':') + credential.password).toUtf8().toBase64();
 }

@@ -30,14 +30,9 @@ struct RedirectPrompt {
   std::function<void()> withdraw;                              // the open question matters no more
 };
 
-struct ExchangeLimits {
-  std::chrono::milliseconds stagger{250};  // between the starts of two candidates
-  int hops = 10;
-};
-
 struct ExchangeConfiguration {
   NetworkConfiguration network = {};
-  ExchangeLimits limits = {};
+  std::chrono::milliseconds stagger{250};  // between the starts of two candidates
   QList<OnlineService> onlineServices = {};
   ServiceLookup services = {};
   RedirectPrompt prompt = {};

@@ -1,39 +1,38 @@
 #pragma once
 
 #include <QList>
-#include <QObject>
-#include <QPointer>
 #include <QSet>
 #include <QString>
 #include <QUrl>
 #include <functional>
+#include <memory>
 
 #include "companion/exchange/ExchangeConfiguration.h"
 
 // The hosts that one discovery may use: those of its mail domain and those that the user allowed. Asks one
 // question at a time.
-class RedirectConsent final : public QObject {
+class RedirectConsent final {
  public:
   using Answer = std::function<void(bool isAllowed)>;
   enum class Question { UnlessTrusted, Always };
 
   explicit RedirectConsent(RedirectPrompt prompt) : m_prompt(std::move(prompt)) {}
-  ~RedirectConsent() override;
+  ~RedirectConsent() { dropQuestions(); }
+  Q_DISABLE_COPY_MOVE(RedirectConsent)
 
   void trustDomain(const QString& domain) { m_domains.append(domain); }
   // Nothing else from now on; the user is not asked any more.
   void trustOnly(const QStringList& domains);
   bool isTrusted(const QString& host) const;
 
-  // Answers at once where it is known, else when the user has answered; never after `context` is gone.
-  void ask(const QUrl& target, Question question, QObject* context, Answer answer);
-  // Drops the questions of that context.
-  void forget(const QObject* context);
+  // Answers at once where it is known, else when the user has answered.
+  void ask(const QUrl& target, Question question, Answer answer);
+  // No question asked so far is answered.
+  void dropQuestions();
 
  private:
   struct Pending {
     QUrl target;
-    QPointer<QObject> context;
     Answer answer;
   };
 
@@ -45,6 +44,5 @@ class RedirectConsent final : public QObject {
   QSet<QString> m_allowed;
   QSet<QString> m_declined;
   QList<Pending> m_pending;
-  quint64 m_open = 0;  // the number of the question that is open; 0 for none
-  quint64 m_lastNumber = 0;
+  std::shared_ptr<const char> m_open;  // identifies the question that is open; null for none
 };

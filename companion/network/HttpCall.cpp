@@ -9,10 +9,13 @@
 #include <algorithm>
 #include <utility>
 
+#include "companion/network/WebAddress.h"
+
 namespace {
 
 // Below this, errors are about the connection; above, about what the server said.
 constexpr int kFirstResponseError = 100;
+constexpr qsizetype kMostRedirects = 10;
 
 // The body of a request that can be read once, so that it cannot be sent again without our knowledge.
 class SingleUseBody final : public QIODevice {
@@ -54,16 +57,21 @@ QList<QByteArray> schemesOf(const QByteArray& challenge) {
 
 FailureKind failureOfStatus(int status) {
   if (status == 200) return FailureKind::None;
-  if (status == 403) return FailureKind::Forbidden;
+  if (status == 401 || status == 403) return FailureKind::Forbidden;
   return status >= 500 ? FailureKind::ServerError : FailureKind::NotFound;
 }
 
 }  // namespace
 
-HttpCall::HttpCall(QNetworkAccessManager& network, const NetworkConfiguration& configuration)
-    : m_network(network), m_configuration(configuration) {
+HttpCall::HttpCall(QNetworkAccessManager& network, const NetworkConfiguration& configuration,
+                   const HttpRequest& request, Done done)
+    : m_network(network), m_configuration(configuration), m_request(request), m_done(std::move(done)) {
   m_deadline.setSingleShot(true);
   connect(&m_deadline, &QTimer::timeout, this, [this] { fail(FailureKind::TooSlow); });
+  const auto begin = [this] {
+    m_request.redirects == Redirects::Follow ? follow(m_request.address) : this->request();
+  };
+  QMetaObject::invokeMethod(this, begin, Qt::QueuedConnection);
 }
 
 HttpCall::~HttpCall() {
@@ -71,17 +79,21 @@ HttpCall::~HttpCall() {
   settle({});
 }
 
-void HttpCall::start(const HttpRequest& request, Done done) {
-  m_address = request.address;
-  m_done = std::move(done);
-  const QString refusal = m_configuration.refusal ? m_configuration.refusal(m_address) : QString();
-  if (!refusal.isEmpty()) {
-    const HttpResponse refused{.failure = {.kind = FailureKind::Explained, .detail = refusal}};
-    QMetaObject::invokeMethod(
-        this, [this, refused] { settle(refused); }, Qt::QueuedConnection);
-    return;
+void HttpCall::follow(const QUrl& address) {
+  if (!isSafeStep(m_request.address, address)) return fail(FailureKind::Unsafe);
+  m_request.address = address;
+  if (m_visited.contains(address) || m_visited.size() > kMostRedirects) {
+    return fail(FailureKind::TooManyRedirects);
   }
-  m_reply = send(request);
+  m_visited.insert(address);
+  request();
+}
+
+void HttpCall::request() {
+  const auto& refusal = m_configuration.refusal;
+  const QString reason = refusal ? refusal(m_request.address) : QString();
+  if (!reason.isEmpty()) return settle({.failure = {.kind = FailureKind::Explained, .detail = reason}});
+  m_reply = send();
   // The reply stops reading from the socket one byte past the limit.
   m_reply->setReadBufferSize(m_configuration.limits.responseBytes + 1);
   connect(m_reply, &QNetworkReply::sslErrors, this, [this](const QList<QSslError>& errors) {
@@ -97,22 +109,22 @@ void HttpCall::start(const HttpRequest& request, Done done) {
   m_deadline.start(m_configuration.limits.request);
 }
 
-QNetworkReply* HttpCall::send(const HttpRequest& request) {
-  QNetworkRequest networkRequest = networkRequestFor(request);
-  if (request.body.isEmpty()) return m_network.get(networkRequest);
-  if (request.authorization.isEmpty()) return m_network.post(networkRequest, request.body);
+QNetworkReply* HttpCall::send() {
+  QNetworkRequest sent = networkRequest();
+  if (m_request.body.isEmpty()) return m_network.get(sent);
+  if (m_request.authorization.isEmpty()) return m_network.post(sent, m_request.body);
   // A password is sent once: on a connection of its own, and never again when that breaks.
   m_network.clearConnectionCache();
-  networkRequest.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true);
-  networkRequest.setHeader(QNetworkRequest::ContentLengthHeader, request.body.size());
-  auto* const body = new SingleUseBody(request.body);
-  QNetworkReply* const reply = m_network.post(networkRequest, body);
+  sent.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true);
+  sent.setHeader(QNetworkRequest::ContentLengthHeader, m_request.body.size());
+  auto* const body = new SingleUseBody(m_request.body);
+  QNetworkReply* const reply = m_network.post(sent, body);
   body->setParent(reply);
   return reply;
 }
 
-QNetworkRequest HttpCall::networkRequestFor(const HttpRequest& request) const {
-  QUrl address = request.address;
+QNetworkRequest HttpCall::networkRequest() const {
+  QUrl address = m_request.address;
   QNetworkRequest result;
   const auto endpoint = m_configuration.endpoint ? m_configuration.endpoint(address) : std::nullopt;
   if (endpoint) {
@@ -134,8 +146,10 @@ QNetworkRequest HttpCall::networkRequestFor(const HttpRequest& request) const {
         QNetworkRequest::AuthenticationReuseAttribute}) {
     result.setAttribute(attribute, QNetworkRequest::Manual);
   }
-  if (!request.body.isEmpty()) result.setHeader(QNetworkRequest::ContentTypeHeader, request.contentType);
-  if (!request.authorization.isEmpty()) result.setRawHeader("Authorization", request.authorization);
+  if (!m_request.body.isEmpty()) {
+    result.setHeader(QNetworkRequest::ContentTypeHeader, QStringLiteral("text/xml; charset=utf-8"));
+  }
+  if (!m_request.authorization.isEmpty()) result.setRawHeader("Authorization", m_request.authorization);
   // A compressed response would be unpacked before its size can be seen.
   result.setRawHeader("Accept-Encoding", "identity");
   return result;
@@ -147,16 +161,17 @@ bool HttpCall::isTooLong() const {
 
 HttpResponse HttpCall::response() const {
   const auto failed = [this](FailureKind kind) {
-    return HttpResponse{.failure = {.kind = kind, .host = m_address.host()}};
+    return HttpResponse{.failure = {.kind = kind, .host = m_request.address.host()}};
   };
   if (isTooLong()) return failed(FailureKind::BadResponse);
   if (const FailureKind kind = connectionFailure(); kind != FailureKind::None) return failed(kind);
   const int status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-  if (status == 401) {
+  if (status == 401 && m_request.redirects == Redirects::Report) {
     return {.isChallenge = true, .challengeSchemes = schemesOf(m_reply->rawHeader("WWW-Authenticate"))};
   }
   const QUrl location = QUrl::fromEncoded(m_reply->rawHeader("Location"));
-  if (status >= 300 && status < 400 && location.isValid()) return {.redirect = m_address.resolved(location)};
+  if (status >= 300 && status < 400 && location.isValid())
+    return {.redirect = m_request.address.resolved(location)};
   if (const FailureKind kind = failureOfStatus(status); kind != FailureKind::None) return failed(kind);
   return {.body = m_reply->readAll()};
 }
@@ -172,7 +187,7 @@ FailureKind HttpCall::connectionFailure() const {
   return isWhole ? FailureKind::None : FailureKind::Unreachable;
 }
 
-void HttpCall::settle(const HttpResponse& response) {
+void HttpCall::settle(HttpResponse response) {
   m_deadline.stop();
   if (m_reply != nullptr) {
     m_reply->disconnect(this);
@@ -180,6 +195,9 @@ void HttpCall::settle(const HttpResponse& response) {
     m_reply->deleteLater();
     m_reply = nullptr;
   }
+  const bool isFollowed = m_request.redirects == Redirects::Follow && !response.redirect.isEmpty();
+  if (isFollowed) return follow(response.redirect);
+  response.address = m_request.address;
   const Done done = std::exchange(m_done, {});
   if (done) done(response);
 }

@@ -4,6 +4,7 @@
 #include <QNetworkAccessManager>
 #include <QObject>
 #include <QPointer>
+#include <QSet>
 #include <QTimer>
 #include <QUrl>
 #include <functional>
@@ -14,47 +15,52 @@
 class QNetworkReply;
 class QNetworkRequest;
 
+// Whether a redirect is reported, or followed as long as that is safe and not too far.
+enum class Redirects { Report, Follow };
+
 struct HttpRequest {
   QUrl address;
   QByteArray body = {};  // empty: the address is only read
-  QByteArray contentType = QByteArrayLiteral("text/xml; charset=utf-8");
   QByteArray authorization = {};
+  Redirects redirects = Redirects::Report;
 };
 
 // Exactly one of these came: a failure, a challenge, a redirect, or a body (which may be empty).
 struct HttpResponse {
   NetworkFailure failure = {};
-  bool isChallenge = false;
+  bool isChallenge = false;                 // a failure where redirects are followed
   QList<QByteArray> challengeSchemes = {};  // the ways to sign in that it offers, in lower case
   QUrl redirect = {};                       // absolute
   QByteArray body = {};
+  QUrl address = {};  // where it came from in the end
 };
 
-// One request, bounded in time and size. Follows no redirect, keeps no cookies and answers no challenge, so
-// that what is sent stays with the host it was meant for and is sent once. Deleting the call ends it without
-// a response.
+// One request, bounded in time and size. Keeps no cookies and answers no challenge, so that what is sent
+// stays with the host it was meant for and is sent once. Deleting the call ends it without a response.
 class HttpCall final : public QObject {
  public:
   using Done = std::function<void(const HttpResponse&)>;
 
-  HttpCall(QNetworkAccessManager& network, const NetworkConfiguration& configuration);
+  // `done` is called later, and may delete the call. The network must outlive it.
+  HttpCall(QNetworkAccessManager& network, const NetworkConfiguration& configuration,
+           const HttpRequest& request, Done done);
   ~HttpCall() override;
 
-  // Returns before `done` is called.
-  void start(const HttpRequest& request, Done done);
-
  private:
-  QNetworkReply* send(const HttpRequest& request);
-  QNetworkRequest networkRequestFor(const HttpRequest& request) const;
+  void follow(const QUrl& address);
+  void request();
+  QNetworkReply* send();
+  QNetworkRequest networkRequest() const;
   bool isTooLong() const;
   HttpResponse response() const;
   FailureKind connectionFailure() const;
-  void fail(FailureKind kind) { settle({.failure = {.kind = kind, .host = m_address.host()}}); }
-  void settle(const HttpResponse& response);
+  void fail(FailureKind kind) { settle({.failure = {.kind = kind, .host = m_request.address.host()}}); }
+  void settle(HttpResponse response);
 
   QNetworkAccessManager& m_network;
-  const NetworkConfiguration& m_configuration;
-  QUrl m_address;
+  const NetworkConfiguration m_configuration;
+  HttpRequest m_request;
+  QSet<QUrl> m_visited;
   QTimer m_deadline;
   QPointer<QNetworkReply> m_reply;
   bool m_isOtherName = false;

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "companion/runtime/PluginHost.h"
-#include "companion/services/MeetingAccount.h"
+#include "companion/services/NextMeetings.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"

@@ -4,7 +4,7 @@ CompanionServices::CompanionServices(PluginHost* host, const Settings& settings)
     : m_network(settings.reach, settings.exchange),
       m_site(host, &m_network, settings.record),
       m_updates(host, &m_network),
-      m_telemetry(host, TelemetryFile(settings.dataFolder)),
+      m_telemetry(host, settings.dataFolder),
       m_general(host, settings.autostart),
       m_meetings(host, &m_network),
       m_changes(host) {

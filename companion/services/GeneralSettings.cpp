@@ -1,9 +1,93 @@
 #include "companion/services/GeneralSettings.h"
 
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+#include <QSaveFile>
+#include <QStandardPaths>
+
 #include "companion/runtime/PluginHost.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
+
+namespace {
+
+const QString kEntryName = QStringLiteral("brenn-mivra-companion.desktop");
+
+// A value of the type string: the backslash escapes.
+QString escaped(QString text) {
+  return text.replace(QLatin1Char('\\'), QLatin1String("\\\\"))
+      .replace(QLatin1Char('\n'), QLatin1String("\\n"))
+      .replace(QLatin1Char('\t'), QLatin1String("\\t"))
+      .replace(QLatin1Char('\r'), QLatin1String("\\r"));
+}
+
+// One argument of a command: quoted as a whole, with what a shell would act on behind a backslash, and the
+// per cent signs doubled, which would otherwise be field codes.
+QString quotedArgument(const QString& argument) {
+  QString quoted;
+  for (const QChar character : argument) {
+    if (QStringLiteral("\"`$\\").contains(character)) quoted += QLatin1Char('\\');
+    if (character == QLatin1Char('%')) quoted += character;
+    quoted += character;
+  }
+  return QLatin1Char('"') + quoted + QLatin1Char('"');
+}
+
+// Desktops look for the first word of a command as it is written, with its doubled per cent signs, and an
+// equals sign is not allowed in it. A shell in front takes the program as an argument like any other.
+QStringList startable(const QStringList& command) {
+  static const QRegularExpression inTheWay(QStringLiteral("[%=]"));
+  if (!command.first().contains(inTheWay)) return command;
+  return QStringList{QStringLiteral("/bin/sh"), QStringLiteral("-c"), QStringLiteral("exec \"$0\" \"$@\"")} +
+         command;
+}
+
+}  // namespace
+
+AutostartEntry::AutostartEntry(const QString& folder, const QString& program, const QStringList& arguments)
+    : m_folder(folder), m_command(QStringList(program) + arguments) {}
+
+QString AutostartEntry::userFolder() {
+  const QDir configuration(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+  return configuration.filePath(QStringLiteral("autostart"));
+}
+
+QString AutostartEntry::path() const {
+  return QDir(m_folder).filePath(kEntryName);
+}
+
+QByteArray AutostartEntry::content() const {
+  QStringList command;
+  for (const QString& argument : startable(m_command)) command.append(quotedArgument(argument));
+  const QStringList lines = {QStringLiteral("[Desktop Entry]"),
+                             QStringLiteral("Type=Application"),
+                             QStringLiteral("Name=Brenn Mivra Meetings"),
+                             QStringLiteral("Comment=Starts after login; switched in Preferences, General"),
+                             QStringLiteral("TryExec=") + escaped(m_command.first()),
+                             QStringLiteral("Exec=") + escaped(command.join(QLatin1Char(' '))),
+                             QStringLiteral("Icon=brenn-mivra-companion"),
+                             QStringLiteral("Terminal=false"),
+                             QString()};
+  return lines.join(QLatin1Char('\n')).toUtf8();
+}
+
+QString AutostartEntry::write() const {
+  QFile present(path());
+  if (present.open(QIODevice::ReadOnly) && present.readAll() == content()) return {};
+  if (!QDir().mkpath(m_folder)) return QStringLiteral("the folder cannot be made");
+  QSaveFile file(path());
+  const bool isWritten = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
+                         file.write(content()) == content().size() && file.commit();
+  return isWritten ? QString() : file.errorString();
+}
+
+QString AutostartEntry::remove() const {
+  QFile present(path());
+  if (!present.exists() || present.remove()) return {};
+  return present.errorString();
+}
 
 GeneralSettings::GeneralSettings(PluginHost* host, const AutostartEntry& autostart) : m_autostart(autostart) {
   host->handle(KZCommand::KZCmdUpdateGeneralSetting, this,

@@ -1,11 +1,34 @@
 #pragma once
 
+#include <QByteArray>
 #include <QObject>
+#include <QString>
+#include <QStringList>
 
-#include "companion/services/AutostartEntry.h"
 #include "host/KZFoundation/Dictionary.h"
 
 class PluginHost;
+
+// The desktop's entry that starts this program after login.
+class AutostartEntry final {
+ public:
+  // `folder` is where the desktop looks for such entries; `program` an absolute path.
+  AutostartEntry(const QString& folder, const QString& program, const QStringList& arguments = {});
+
+  static QString userFolder();
+
+  // The reason when the entry could not be written or removed, else null. What is right already is left
+  // alone.
+  [[nodiscard]] QString write() const;
+  [[nodiscard]] QString remove() const;
+
+  QString path() const;
+  QByteArray content() const;
+
+ private:
+  QString m_folder;
+  QStringList m_command;
+};
 
 // Does what the user chose in the General pane. Main thread only.
 class GeneralSettings final : public QObject {

@@ -1,6 +1,6 @@
 #include "companion/services/NextMeetings.h"
 
-#include <chrono>
+#include <algorithm>
 
 #include "companion/runtime/PluginHost.h"
 #include "host/KZFoundation/KZCommands.h"
@@ -9,33 +9,56 @@
 
 namespace {
 
-using namespace std::chrono_literals;
+constexpr std::chrono::minutes kRefreshTime(5);
+constexpr int kMostDays = 31;
 
-constexpr auto kRefreshTime = 5min;
+// Why the account cannot be listed, in a sentence; null where it can.
+QString missingText(const QString& source, const Dictionary& account) {
+  if (source == kKZCalendarIntegrationSourceGoogle || source == kKZCalendarIntegrationSourceMivRa) {
+    return QStringLiteral(
+        "The meetings of your calendar are not listed here: this companion reads Microsoft Outlook only. "
+        "Choose it in Preferences, Meetings.");
+  }
+  if (source != kKZCalendarIntegrationSourceOutlook) {
+    return QStringLiteral(
+        "No calendar is chosen. Choose Microsoft Outlook in Preferences, Meetings, to see your next "
+        "meetings.");
+  }
+  if (meetingAddress(account).isEmpty()) {
+    return QStringLiteral("No account is applied yet. Enter your email address in Preferences, Meetings.");
+  }
+  // Sending the refused password again could lock the account.
+  const bool isRefused = !flagValue(account, kKZCalendarIntegrationOnpremiseCredValid).value_or(true);
+  return isRefused ? refusedPasswordText() : QString();
+}
 
 }  // namespace
 
-NextMeetings::NextMeetings(PluginHost* host, ServiceNetwork* network) : m_network(network), m_token(host) {
+NextMeetings::NextMeetings(PluginHost* host, ServiceNetwork* network, std::chrono::milliseconds tokenTime)
+    : m_host(host), m_network(network) {
   m_soon.setSingleShot(true);
-  m_soon.setInterval(0ms);
+  m_soon.setInterval(0);
   m_again.setInterval(kRefreshTime);
+  m_tokenDeadline.setSingleShot(true);
+  m_tokenDeadline.setInterval(tokenTime);
   connect(&m_soon, &QTimer::timeout, this, &NextMeetings::request);
   connect(&m_again, &QTimer::timeout, this, &NextMeetings::refresh);
-  connect(&m_token, &TokenRequest::failed, this, [this](const QString& reason) { show({}, reason); });
-  connect(&m_token, &TokenRequest::got, this, &NextMeetings::list);
+  connect(&m_tokenDeadline, &QTimer::timeout, this, [this] {
+    show({},
+         QStringLiteral("The sign-in of %1 was not renewed in time. Refresh, or detect the account again.")
+             .arg(m_tokenEmail));
+  });
   connect(network, &ServiceNetwork::changed, this, &NextMeetings::refresh);
-  watchStore();
-  watchHost(host);
-}
-
-void NextMeetings::watchStore() {
   connect(&KZPlistFileHandle::sharedInstance(), &KZPlistFileHandle::valueChanged, this,
           [this](const QString& key) {
             if (key == QLatin1String("calendarIntegration")) refresh();
           });
+  watch(host);
 }
 
-void NextMeetings::watchHost(PluginHost* host) {
+void NextMeetings::watch(PluginHost* host) {
+  host->handle(KZCommand::KZCmdExchOnlineTokenGot, this,
+               [this](const Content& content) { takeToken(content.value_or(Dictionary())); });
   host->handle(KZCommand::KZCmdCalendarIntegrationSourceChanged, this, [this](const Content&) { refresh(); });
   // The same account may have been applied with another password.
   m_observing = host->addObserver([this](const PluginEvent& event, PluginHost::Phase phase) {
@@ -60,28 +83,55 @@ void NextMeetings::refresh() {
 }
 
 void NextMeetings::request() {
-  m_token.cancel();
+  m_tokenEmail.clear();
+  m_tokenDeadline.stop();
   m_exchange.reset();
-  m_account = readMeetingAccount();
-  if (!m_account.missing.isEmpty()) return show({}, m_account.missing);
+  const Dictionary calendar = KZPlistFileHandle::sharedInstance().calendarIntegration();
+  m_account = dictionaryValue(calendar, kKZCalendarIntegrationExchange);
+  m_days = std::clamp(textValue(calendar, kKZCalendarIntegrationDays).toInt(), 1, kMostDays);
+  const QString missing = missingText(textValue(calendar, kKZCalendarIntegrationSource), m_account);
+  if (!missing.isEmpty()) return show({}, missing);
   // The request of a token would already reach an online service.
-  const QString refusal = m_network->refusalOf(meetingAddress(m_account.exchange));
+  const QString refusal = m_network->refusalOf(meetingAddress(m_account));
   if (!refusal.isEmpty()) return show({}, refusal);
   m_isAsking = true;
   Q_EMIT changed();
-  m_account.isOnline ? m_token.ask(m_account.exchange) : list({});
+  isSet(m_account, kKZCalendarIntegrationIsOnline) ? requestToken() : list({});
+}
+
+void NextMeetings::requestToken() {
+  m_tokenEmail = textValue(m_account, kKZCalendarIntegrationExchangeEmail);
+  m_tokenDeadline.start();
+  m_host->trigger(
+      KZCommand::KZCmdGetExchOnlineToken,
+      Dictionary{{kKZCalendarIntegration, Dictionary{{kKZCalendarIntegrationExchange, m_account}}}});
+}
+
+void NextMeetings::takeToken(const Dictionary& values) {
+  const Dictionary calendar = dictionaryValue(values, kKZCalendarIntegration);
+  const Dictionary exchange = dictionaryValue(calendar, kKZCalendarIntegrationExchange);
+  // The response to an earlier request may come late.
+  const bool isAwaited = !m_tokenEmail.isNull() &&
+                         isEqualText(textValue(exchange, kKZCalendarIntegrationExchangeEmail), m_tokenEmail);
+  const bool isFailed = isSet(values, QStringLiteral("GetTokenFailed"));
+  if (!isAwaited || (!isFailed && isSet(values, QStringLiteral("isTokenExpired")))) return;
+  m_tokenDeadline.stop();
+  const QString email = std::exchange(m_tokenEmail, {});
+  const QString token = textValue(values, QRT_ListingMeeting_exchOnlineToken);
+  if (!isFailed && !token.isEmpty()) return list(token);
+  const QString reason = isFailed ? QStringLiteral("The sign-in of %1 could not be renewed.")
+                                  : QStringLiteral("Nobody is signed in as %1.");
+  show({}, QStringLiteral("%1 Detect the account again to sign in.").arg(reason.arg(email)));
 }
 
 // The token goes to the account that it was requested for, even if the store has changed since.
 void NextMeetings::list(const QString& token) {
-  m_exchange = std::make_unique<ExchangeMeetings>(m_network->exchange());
-  connect(m_exchange.get(), &ExchangeMeetings::listed, this, [this](const QList<ExchangeMeeting>& meetings) {
-    show(meetings,
-         meetings.isEmpty() ? QStringLiteral("No meetings in the days that you chose.") : QString());
-  });
-  connect(m_exchange.get(), &ExchangeMeetings::failed, this,
-          [this](const QString& reason) { show({}, reason); });
-  m_exchange->list(m_account.exchange, token, m_account.days);
+  m_exchange = std::make_unique<ExchangeMeetings>(
+      m_network->exchange(), [this](const QList<ExchangeMeeting>& meetings, const QString& failure) {
+        const bool isNone = meetings.isEmpty() && failure.isEmpty();
+        show(meetings, isNone ? QStringLiteral("No meetings in the days that you chose.") : failure);
+      });
+  m_exchange->list(m_account, token, m_days);
 }
 
 void NextMeetings::show(const QList<ExchangeMeeting>& meetings, const QString& text) {
@@ -89,4 +139,16 @@ void NextMeetings::show(const QList<ExchangeMeeting>& meetings, const QString& t
   m_meetings = meetings;
   m_text = text;
   Q_EMIT changed();
+}
+
+QString refusedPasswordText() {
+  return QStringLiteral(
+      "Exchange did not accept the saved user name and password. Detect the account again in Preferences, "
+      "Meetings.");
+}
+
+int announcedMinutes() {
+  const Dictionary settings = KZPlistFileHandle::sharedInstance().meetingNotification();
+  if (!isSet(settings, kKZMeetintNotificationToast)) return 0;
+  return textValue(settings, kKZMeetintNotificationToastMinutes).toInt();
 }

@@ -4,12 +4,11 @@
 #include <QObject>
 #include <QString>
 #include <QTimer>
+#include <chrono>
 #include <memory>
 
 #include "companion/exchange/ExchangeMeetings.h"
-#include "companion/services/MeetingAccount.h"
 #include "companion/services/ServiceNetwork.h"
-#include "companion/services/TokenRequest.h"
 
 class PluginHost;
 
@@ -19,8 +18,10 @@ class NextMeetings final : public QObject {
   Q_OBJECT
 
  public:
-  // The two are not owned and must outlive this.
-  NextMeetings(PluginHost* host, ServiceNetwork* network);
+  // The two are not owned and must outlive this. `tokenTime` is how long the plug-in may take to renew the
+  // token of an online account before the user is told; a later one is still used.
+  NextMeetings(PluginHost* host, ServiceNetwork* network,
+               std::chrono::milliseconds tokenTime = std::chrono::minutes(1));
 
   // Whether the meetings are on the screen; at first they are not.
   void setWatched(bool isWatched);
@@ -35,15 +36,19 @@ class NextMeetings final : public QObject {
   void changed();
 
  private:
-  void watchStore();
-  void watchHost(PluginHost* host);
+  void watch(PluginHost* host);
   void request();
+  void requestToken();
+  void takeToken(const Dictionary& values);
   void list(const QString& token);
   void show(const QList<ExchangeMeeting>& meetings, const QString& text);
 
+  PluginHost* m_host;
   ServiceNetwork* m_network;
-  TokenRequest m_token;
-  MeetingAccount m_account;  // of the current request
+  Dictionary m_account;  // of the current request
+  int m_days = 0;
+  QString m_tokenEmail;  // the account whose token is awaited; null for none
+  QTimer m_tokenDeadline;
   std::unique_ptr<ExchangeMeetings> m_exchange;
   std::shared_ptr<const void> m_observing;
   QTimer m_soon;
@@ -53,3 +58,9 @@ class NextMeetings final : public QObject {
   QList<ExchangeMeeting> m_meetings;
   QString m_text;
 };
+
+// What to do about an account whose saved password is refused.
+QString refusedPasswordText();
+
+// The minutes before its start in which a meeting is announced; 0: none is.
+int announcedMinutes();

@@ -38,8 +38,10 @@ ExchangeConfiguration ServiceNetwork::exchange() const {
   return m_sandbox.addedTo(std::move(configuration));
 }
 
-std::unique_ptr<WebFetch> ServiceNetwork::fetch() const {
-  return std::make_unique<WebFetch>(exchange().network);
+std::unique_ptr<HttpCall> ServiceNetwork::fetch(const QUrl& address, HttpCall::Done done) {
+  return std::make_unique<HttpCall>(m_network, exchange().network,
+                                    HttpRequest{.address = address, .redirects = Redirects::Follow},
+                                    std::move(done));
 }
 
 QString openInBrowser(const QUrl& page) {

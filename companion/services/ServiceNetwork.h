@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "companion/exchange/SandboxDescription.h"
-#include "companion/network/WebFetch.h"
+#include "companion/network/HttpCall.h"
 
 // How the companion reaches servers, and which of them it may ask now. Main thread only.
 class ServiceNetwork final : public QObject {
@@ -26,7 +26,7 @@ class ServiceNetwork final : public QObject {
 
   // Both reach what may be asked now, and must not outlive this.
   ExchangeConfiguration exchange() const;
-  std::unique_ptr<WebFetch> fetch() const;
+  std::unique_ptr<HttpCall> fetch(const QUrl& address, HttpCall::Done done);
 
  Q_SIGNALS:
   void changed();
@@ -34,6 +34,7 @@ class ServiceNetwork final : public QObject {
  private:
   const NetworkReach m_reach;
   const ExchangeConfiguration m_configuration;
+  QNetworkAccessManager m_network;
   SandboxDescription m_sandbox;  // empty while it is not running
   QString m_missing;
 };

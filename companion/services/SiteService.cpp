@@ -1,5 +1,7 @@
 #include "companion/services/SiteService.h"
 
+#include <algorithm>
+
 #include "companion/network/WebAddress.h"
 #include "companion/runtime/PluginHost.h"
 #include "companion/runtime/PreferencesWindow.h"
@@ -12,52 +14,90 @@
 
 namespace {
 
+constexpr qsizetype kLongestText = 1000;
 constexpr int kMeetingSettings = 1;
 constexpr int kJoinByNumber = 2;
+
+// The text under the key, which is shown to the user; null where it would break a line or fill the screen.
+QString plainText(const Dictionary& record, const char* key) {
+  const QString text = textValue(record, QLatin1String(key));
+  const bool isPlain = text.size() <= kLongestText &&
+                       std::all_of(text.begin(), text.end(), [](QChar c) { return c.isPrint(); });
+  return isPlain && !text.isEmpty() ? text : QString();
+}
+
+QUrl ownLink(const Dictionary& links, const char* key, const QString& host) {
+  const QUrl link(plainText(links, key), QUrl::StrictMode);
+  return isOwnPage(link, host) ? link : QUrl();
+}
+
+Dictionary preferenceRecord(const Dictionary& description) {
+  Dictionary record;
+  const std::pair<QString, const char*> texts[] = {{QRT_Preference_PMRUrl, "pmrUrl"},
+                                                   {QRT_Preference_PMRSipUrl, "pmrSipUrl"}};
+  for (const auto& [key, name] : texts) {
+    const QString text = plainText(description, name);
+    if (!text.isNull()) record.insert(key, text);
+  }
+  for (const char* name : {"disableCalendarIntegration", "enableListGoogleCalendarMeeting"}) {
+    const auto flag = flagValue(description, QLatin1String(name));
+    if (flag) record.insert(QLatin1String(name), *flag);
+  }
+  return record;
+}
 
 KZPlistFileHandle& siteStore() {
   return KZPlistFileHandle::sharedInstance();
 }
 
-SiteService::Result readSite(const QString& site, const WebPage& page) {
+SiteService::Result readSite(const QString& site, const HttpResponse& response) {
   if (siteAddress(site).isEmpty()) {
     return {
         .failure =
             QStringLiteral("\"%1\" is no name of a site. Enter one such as meetings.example.com.").arg(site)};
   }
-  if (page.failure) return {.failure = page.failure.message()};
-  const auto described = readMeetingSite(site, page.body);
+  if (response.failure) return {.failure = response.failure.message()};
+  const auto described = readMeetingSite(site, response.body);
   if (described) return {.site = described};
-  const NetworkFailure failure{.kind = FailureKind::BadResponse, .host = page.address.host()};
+  const NetworkFailure failure{.kind = FailureKind::BadResponse, .host = response.address.host()};
   return {.failure = failure.message()};
 }
 
-// `pattern` is a sentence about the site.
-QString siteNotice(const QString& pattern) {
+QString noPageText(const QString& purpose) {
   const QString site = siteStore().siteName();
   if (site.isEmpty()) return QStringLiteral("No site is known. Choose one in Preferences, Account.");
-  return pattern.arg(site);
-}
-
-void askSite(WebFetch& fetch, const QString& site, const SiteService::Done& done) {
-  fetch.start(siteAddress(site).resolved(QUrl(QStringLiteral("companion/site.json"))),
-              [site, done](const WebPage& page) { done(readSite(site, page)); });
+  return QStringLiteral("%1 names no page %2. Ask your administrator for its address.").arg(site, purpose);
 }
 
 }  // namespace
+
+std::optional<MeetingSite> readMeetingSite(const QString& site, const QByteArray& json) {
+  const QVariant value = KZUtility::JSONValueFromString(QString::fromUtf8(json));
+  if (value.metaType() != QMetaType::fromType<Dictionary>()) return {};
+  const Dictionary description = value.toMap();
+  const Dictionary links = dictionaryValue(description, QStringLiteral("links"));
+  const QUrl address = siteAddress(site);
+  const QString host = address.host();
+  const QString downloads = plainText(description, "downloads");
+  return MeetingSite{
+      .site = site,
+      .name = plainText(description, "name"),
+      .downloads = isSafeStep(address, QUrl(downloads, QUrl::StrictMode)) ? downloads : QString(),
+      .isOutlookEnabled = flagValue(description, QStringLiteral("outlook")),
+      .meetingSettings = ownLink(links, "meetingSettings", host),
+      .joinByNumber = ownLink(links, "joinByNumber", host),
+      .preference = preferenceRecord(dictionaryValue(description, QStringLiteral("preference")))};
+}
 
 SiteService::SiteService(PluginHost* host, ServiceNetwork* network, const Dictionary& fallback)
     : m_host(host), m_network(network), m_fallback(fallback) {
   host->handle(KZCommand::KZCmdChangeSite, this, [this](const Content&) { Q_EMIT siteWanted(); });
   host->handle(KZCommand::KZCmdRequireLink, this, [this](const Content& content) {
-    openPage(content.value_or(Dictionary()).value(QRT_Require_Link_Action_Type).toInt());
+    const int page = content.value_or(Dictionary()).value(QRT_Require_Link_Action_Type).toInt();
+    if (page == kMeetingSettings) openMeetingSettings();
+    if (page == kJoinByNumber) joinByNumber();
   });
   connect(network, &ServiceNetwork::changed, this, &SiteService::refresh);
-}
-
-void SiteService::openPage(int page) {
-  if (page == kMeetingSettings) openMeetingSettings();
-  if (page == kJoinByNumber) joinByNumber();
 }
 
 Dictionary SiteService::record() const {
@@ -78,25 +118,19 @@ void SiteService::sendRecord(const Dictionary& record) {
                  Dictionary{{kKZResult, kKZSuccess}, {QStringLiteral("kz"), record}});
 }
 
+std::unique_ptr<HttpCall> SiteService::ask(const QString& site, const Done& done) {
+  return m_network->fetch(siteAddress(site).resolved(QUrl(QStringLiteral("companion/site.json"))),
+                          [site, done](const HttpResponse& response) { done(readSite(site, response)); });
+}
+
 void SiteService::refresh() {
   if (!m_network->isReady() || siteStore().siteName().isEmpty()) return m_refresh.reset();
-  m_refresh = m_network->fetch();
-  askSite(*m_refresh, siteStore().siteName(), [this](const Result& result) {
-    if (result.site) renew(*result.site);
-    if (!result.site) Q_EMIT message(result.failure);
+  m_refresh = ask(siteStore().siteName(), [this](const Result& result) {
+    const Dictionary before = record();
+    result.site ? take(*result.site) : Q_EMIT message(result.failure);
+    if (m_isSignedIn && record() != before) showNewRecord();
     Q_EMIT refreshed();
   });
-}
-
-void SiteService::lookUp(const QString& site, const Done& done) {
-  m_lookUp = m_network->fetch();
-  askSite(*m_lookUp, site, done);
-}
-
-void SiteService::renew(const MeetingSite& site) {
-  const Dictionary before = record();
-  take(site);
-  if (m_isSignedIn && record() != before) showNewRecord();
 }
 
 void SiteService::take(const MeetingSite& site) {
@@ -144,8 +178,7 @@ void SiteService::showNewRecord() {
 
 void SiteService::openMeetingSettings() {
   if (!m_site || m_site->meetingSettings.isEmpty()) {
-    return Q_EMIT message(siteNotice(
-        QStringLiteral("%1 names no page of meeting settings. Ask your administrator for its address.")));
+    return Q_EMIT message(noPageText(QStringLiteral("of meeting settings")));
   }
   const QString failure = openInBrowser(m_site->meetingSettings);
   if (!failure.isEmpty()) Q_EMIT message(failure);
@@ -153,8 +186,7 @@ void SiteService::openMeetingSettings() {
 
 void SiteService::joinByNumber() {
   if (!KZUtility::sharedInstance().getKZMemCacheData(kPreferences_JoinByNumberLink).isValid()) {
-    return Q_EMIT message(siteNotice(
-        QStringLiteral("%1 names no page for joining by number. Ask your administrator for its address.")));
+    return Q_EMIT message(noPageText(QStringLiteral("for joining by number")));
   }
   // The record replaces the stored one, so a guest's is sent as it is.
   Dictionary wanted = m_isSignedIn ? record() : siteStore().preferenceInfo();

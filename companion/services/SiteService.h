@@ -1,15 +1,30 @@
 #pragma once
 
+#include <QByteArray>
 #include <QObject>
 #include <QString>
+#include <QUrl>
 #include <functional>
 #include <memory>
 #include <optional>
 
-#include "companion/services/MeetingSite.h"
 #include "companion/services/ServiceNetwork.h"
 
 class PluginHost;
+
+// What a meeting site publishes about itself.
+struct MeetingSite {
+  QString site;            // its host name
+  QString name = {};       // null where it has none
+  QString downloads = {};  // the address of its updates; null: its own
+  std::optional<bool> isOutlookEnabled = {};
+  QUrl meetingSettings = {};  // empty where there is no such page, or none that may be opened
+  QUrl joinByNumber = {};
+  Dictionary preference = {};  // the user's record, as the plug-in wants it
+};
+
+// Nothing where the text is no such description. Addresses that the site may not name are left out.
+std::optional<MeetingSite> readMeetingSite(const QString& site, const QByteArray& json);
 
 // The user's meeting site: what it publishes about itself and the user, for the plug-in and for this host.
 // Main thread only.
@@ -36,7 +51,7 @@ class SiteService final : public QObject {
 
   // Requests a site's description without adopting it; calls back later. One at a time, a new one ends the
   // one before.
-  void lookUp(const QString& site, const Done& done);
+  void lookUp(const QString& site, const Done& done) { m_lookUp = ask(site, done); }
   void cancelLookUp() { m_lookUp.reset(); }
 
   // Makes it the user's site, in the store and for the plug-in.
@@ -54,8 +69,7 @@ class SiteService final : public QObject {
   void changed();                     // another site, or another download address
 
  private:
-  void openPage(int page);
-  void renew(const MeetingSite& site);
+  std::unique_ptr<HttpCall> ask(const QString& site, const Done& done);
   void take(const MeetingSite& site);
   void sendRecord(const Dictionary& record);
   void moveTo(const MeetingSite& site);
@@ -66,7 +80,7 @@ class SiteService final : public QObject {
   ServiceNetwork* m_network;
   const Dictionary m_fallback;
   std::optional<MeetingSite> m_site;
-  std::unique_ptr<WebFetch> m_lookUp;
-  std::unique_ptr<WebFetch> m_refresh;
+  std::unique_ptr<HttpCall> m_lookUp;
+  std::unique_ptr<HttpCall> m_refresh;
   bool m_isSignedIn = false;
 };

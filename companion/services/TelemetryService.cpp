@@ -1,7 +1,11 @@
 #include "companion/services/TelemetryService.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <algorithm>
 
 #include "companion/runtime/PluginHost.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
@@ -12,6 +16,7 @@ namespace {
 
 const QString kIsTelemetryOnKey = QStringLiteral("companionTelemetry");
 constexpr qsizetype kLongestValue = 100;
+constexpr auto kOwnerOnly = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
 
 // Only what is known to say nothing about a person.
 QByteArray lineOf(const Dictionary& content) {
@@ -49,7 +54,8 @@ TelemetryRecord recordOf(const QByteArray& line) {
 
 }  // namespace
 
-TelemetryService::TelemetryService(PluginHost* host, const TelemetryFile& file) : m_file(file) {
+TelemetryService::TelemetryService(PluginHost* host, const QString& folder, qint64 fileBytes)
+    : m_folder(folder), m_fileBytes(fileBytes) {
   host->handle(KZCommand::KZCmdWriteTelemetry, this, [this](const Content& content) {
     if (content && isOn()) keep(*content);
   });
@@ -66,7 +72,7 @@ void TelemetryService::setOn(bool isOn) {
 }
 
 void TelemetryService::keep(const Dictionary& record) {
-  const QString reason = m_file.append(lineOf(record));
+  const QString reason = append(lineOf(record) + '\n');
   // Once until it works again: every click would say it.
   if (!reason.isEmpty() && !m_isFailing) {
     Q_EMIT message(QStringLiteral("Telemetry cannot be kept in %1: %2. Free some space, or switch it off.")
@@ -76,16 +82,44 @@ void TelemetryService::keep(const Dictionary& record) {
   Q_EMIT changed();
 }
 
+QString TelemetryService::path() const {
+  return QDir(m_folder).filePath(QStringLiteral("telemetry.jsonl"));
+}
+
+QString TelemetryService::append(const QByteArray& line) const {
+  if (!QDir().mkpath(m_folder)) return QStringLiteral("the folder cannot be made");
+  const qint64 present = QFileInfo(path()).size();
+  if (present > 0 && present + line.size() > m_fileBytes) {
+    QFile::remove(olderPath());
+    if (!QFile::rename(path(), olderPath())) return QStringLiteral("its folder cannot be changed");
+  }
+  QFile file(path());
+  if (!file.open(QIODevice::Append | QIODevice::Unbuffered, kOwnerOnly)) return file.errorString();
+  const qint64 before = file.size();
+  if (file.write(line) == line.size()) return {};
+  const QString reason = file.errorString();
+  // Half a line would spoil the next one.
+  (void)file.resize(before);
+  return reason;
+}
+
 QList<TelemetryRecord> TelemetryService::newest(int count) const {
+  QList<QByteArray> lines;
+  for (const QString& one : {olderPath(), path()}) {
+    QFile file(one);
+    if (file.open(QIODevice::ReadOnly)) lines.append(file.read(m_fileBytes).split('\n'));
+  }
+  lines.removeAll(QByteArray());
+  std::reverse(lines.begin(), lines.end());
   QList<TelemetryRecord> records;
-  for (const QByteArray& line : m_file.newest(count)) records.append(recordOf(line));
+  for (const QByteArray& line : lines.mid(0, count)) records.append(recordOf(line));
   return records;
 }
 
 void TelemetryService::deleteAll() {
-  if (!m_file.removeAll()) {
-    Q_EMIT message(
-        QStringLiteral("%1 cannot be deleted. Make its folder writable and try again.").arg(path()));
+  for (const QString& one : {olderPath(), path()}) {
+    if (!QFile::exists(one) || QFile::remove(one)) continue;
+    Q_EMIT message(QStringLiteral("%1 cannot be deleted. Make its folder writable and try again.").arg(one));
   }
   Q_EMIT changed();
 }

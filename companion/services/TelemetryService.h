@@ -5,7 +5,6 @@
 #include <QObject>
 #include <QString>
 
-#include "companion/services/TelemetryFile.h"
 #include "host/KZFoundation/Dictionary.h"
 
 class PluginHost;
@@ -16,12 +15,16 @@ struct TelemetryRecord {
   QString details;
 };
 
-// Keeps the plug-in's telemetry in files on this machine. Main thread only.
+// Keeps the plug-in's telemetry on this machine, a record a line. A full file becomes the older one of two,
+// whose place it takes. Main thread only.
 class TelemetryService final : public QObject {
   Q_OBJECT
 
  public:
-  TelemetryService(PluginHost* host, const TelemetryFile& file);  // the host is not owned
+  static constexpr qint64 kFileBytes = 512 * 1024;
+
+  // The host is not owned.
+  TelemetryService(PluginHost* host, const QString& folder, qint64 fileBytes = kFileBytes);
 
   // Kept in the store; on where nothing is said.
   bool isOn() const;
@@ -29,7 +32,7 @@ class TelemetryService final : public QObject {
 
   QList<TelemetryRecord> newest(int count) const;
   void deleteAll();
-  QString path() const { return m_file.path(); }
+  QString path() const;
 
  Q_SIGNALS:
   void changed();
@@ -37,7 +40,11 @@ class TelemetryService final : public QObject {
 
  private:
   void keep(const Dictionary& record);
+  // The reason when the line could not be written whole, else null; nothing of it stays then.
+  [[nodiscard]] QString append(const QByteArray& line) const;
+  QString olderPath() const { return path() + QStringLiteral(".1"); }
 
-  const TelemetryFile m_file;
+  const QString m_folder;
+  const qint64 m_fileBytes;
   bool m_isFailing = false;
 };

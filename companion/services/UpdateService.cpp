@@ -76,14 +76,14 @@ void UpdateService::checkQuietly() {
 void UpdateService::start(Check check, const Dictionary& content) {
   m_check = check;
   if (check == Check::Asked) Q_EMIT message(QStringLiteral("Checking for updates."));
-  m_fetch = m_network->fetch();
-  m_fetch->start(manifestAddress(content), [this](const WebPage& page) { read(page); });
+  m_fetch =
+      m_network->fetch(manifestAddress(content), [this](const HttpResponse& response) { read(response); });
 }
 
-void UpdateService::read(const WebPage& page) {
-  if (page.failure) return fail(page.failure);
-  const auto manifest = readUpdateManifest(page.address, page.body);
-  if (!manifest) return fail({.kind = FailureKind::BadResponse, .host = page.address.host()});
+void UpdateService::read(const HttpResponse& response) {
+  if (response.failure) return fail(response.failure);
+  const auto manifest = readUpdateManifest(response.address, response.body);
+  if (!manifest) return fail({.kind = FailureKind::BadResponse, .host = response.address.host()});
   const QVersionNumber current = readVersion(QCoreApplication::applicationVersion());
   const bool isNewer = manifest->version.normalized() > current.normalized();
   setOffer(isNewer ? manifest : std::nullopt);

@@ -50,7 +50,7 @@ class UpdateService final : public QObject {
   enum class Check { None, Asked, Quiet };
 
   void start(Check check, const Dictionary& content);
-  void read(const WebPage& page);
+  void read(const HttpResponse& response);
   void setOffer(const std::optional<UpdateManifest>& manifest);
   void fail(const NetworkFailure& failure);
 
@@ -58,6 +58,6 @@ class UpdateService final : public QObject {
   ServiceNetwork* m_network;
   QTimer m_daily;
   Check m_check = Check::None;
-  std::unique_ptr<WebFetch> m_fetch;
+  std::unique_ptr<HttpCall> m_fetch;
   std::optional<UpdateManifest> m_offer;
 };

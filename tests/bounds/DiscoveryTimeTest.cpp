@@ -44,17 +44,17 @@ class DiscoveryTimeTest : public DiscoveryFixture {
  private:
   void askOne(QNetworkAccessManager& network, const QString& host, const QByteArray& authorization) {
     bool isDone = false;
-    HttpCall call(network, configuration.network);
-    call.start({.address = QUrl("https://" + host + "/autodiscover/autodiscover.xml"),
-                .body = autodiscoverRequest("onprem@corp.sandbox.example"),
-                .authorization = authorization},
-               [&isDone](const HttpResponse&) { isDone = true; });
+    const HttpCall call(network, configuration.network,
+                        {.address = QUrl("https://" + host + "/autodiscover/autodiscover.xml"),
+                         .body = autodiscoverRequest("onprem@corp.sandbox.example"),
+                         .authorization = authorization},
+                        [&isDone](const HttpResponse&) { isDone = true; });
     spinUntil([&isDone] { return isDone; });
   }
 };
 
 TEST_F(DiscoveryTimeTest, CostsLittleBesideItsRequests) {
-  configuration.limits.stagger = std::chrono::seconds(5);
+  configuration.stagger = std::chrono::seconds(5);
   // Both halves of a round are measured together, so that other load on the machine slows both.
   QList<qint64> bare, beyond;
   QElapsedTimer clock;

@@ -58,16 +58,15 @@ TEST(LongDay, TelemetryLeavesMemoryFlatAndTheFilesBounded) {
   const QTemporaryDir folder;
   PluginHost host([](const QUrl&) { return true; });
   ASSERT_TRUE(host.load(FAKE_PLUGIN));
-  TelemetryService telemetry(&host, TelemetryFile(folder.path()));
+  TelemetryService telemetry(&host, folder.path());
   const Dictionary content{
       {TelemetryKey_Values, Dictionary{{TelemetryKey_FeatureName, "TelemetryValue_FeatureName_Any"}}}};
   const auto write = [&] { host.trigger(KZCommand::KZCmdWriteTelemetry, content); };
   EXPECT_LT(growthOfADay(kClicksOfADay, write), kMostGrowth);
   qint64 bytes = 0;
   for (const QFileInfo& file : QDir(folder.path()).entryInfoList(QDir::Files)) bytes += file.size();
-  const TelemetryFile::Limits limits;
-  EXPECT_LE(bytes, limits.files * limits.fileBytes);
-  EXPECT_GT(bytes, limits.fileBytes);
+  EXPECT_LE(bytes, 2 * TelemetryService::kFileBytes);
+  EXPECT_GT(bytes, TelemetryService::kFileBytes);
   EXPECT_EQ(telemetry.newest(10).size(), 10);
 }
 

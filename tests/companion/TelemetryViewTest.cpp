@@ -39,7 +39,7 @@ class TelemetryViewTest : public testing::Test {
 
   const QTemporaryDir folder;
   PluginHost host;
-  TelemetryService service{&host, TelemetryFile(folder.filePath("data"), {.fileBytes = 1000, .files = 2})};
+  TelemetryService service{&host, folder.filePath("data"), 1000};
   TelemetryView view{&service};
   QTableWidget* table = view.findChild<QTableWidget*>();
   QCheckBox* isOn = view.findChild<QCheckBox*>();

@@ -4,7 +4,7 @@
 
 #include <QXmlStreamReader>
 
-#include "companion/exchange/MeetingMessage.h"
+#include "companion/exchange/ExchangeMeetings.h"
 
 namespace {
 

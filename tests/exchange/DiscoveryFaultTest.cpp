@@ -134,7 +134,7 @@ TEST_F(DiscoveryResponseTest, SendsAPasswordNowhereElseAfterARedirect) {
 }
 
 TEST_F(DiscoveryResponseTest, SendsAPasswordOnceWhenTheServerHangsUp) {
-  configuration.limits.stagger = std::chrono::seconds(5);
+  configuration.stagger = std::chrono::seconds(5);
   response = {.status = 401, .headers = {{"WWW-Authenticate", "Basic realm=\"x\""}}};
   detect("x@evil.example");
   ASSERT_FALSE(waitFor(KZNotify::KZNotifyExchangeResolvingNeedCredential).isEmpty());

@@ -38,19 +38,17 @@ ExchangeConfiguration DiscoveryFixture::quickConfiguration() {
   using namespace std::chrono_literals;
   ExchangeConfiguration quick;
   quick.network.limits.request = 400ms;
-  quick.limits.stagger = 50ms;
+  quick.stagger = 50ms;
   return quick;
 }
 
 void DiscoveryFixture::detect(const QString& email) {
-  if (!discovery) {
-    discovery = std::make_unique<ExchangeDiscovery>(configuration);
-    QObject::connect(discovery.get(), &ExchangeDiscovery::notified, discovery.get(),
-                     [this](KZNotify index, const Dictionary& content) {
-                       notified.append({index, content});
-                     });
-  }
-  discovery->start({{QRT_ExchangeDiscover_Email, email}});
+  discovery =
+      std::make_unique<ExchangeDiscovery>(configuration, Dictionary{{QRT_ExchangeDiscover_Email, email}});
+  QObject::connect(discovery.get(), &ExchangeDiscovery::notified, discovery.get(),
+                   [this](KZNotify index, const Dictionary& content) {
+                     notified.append({index, content});
+                   });
 }
 
 void DiscoveryFixture::sinkPassword() {

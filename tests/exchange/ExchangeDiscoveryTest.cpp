@@ -44,7 +44,6 @@ TEST_F(ExchangeDiscoveryTest, AsksAWrongPasswordOnceAndReportsItAsAChallenge) {
   sinkPassword();
   ASSERT_TRUE(QTest::qWaitFor([this] { return challenges.size() == 2; }));
   EXPECT_EQ(challenges.last(), (Dictionary{{"AuthRequiringType", 1}, {"ShowWarningMsg", "true"}}));
-  discovery->notifyAuthFailure();
   sinkPassword();  // of a user who presses Apply once more
   expectNothingMore();
   ASSERT_EQ(authorizedVisits().size(), 1);
@@ -175,7 +174,7 @@ INSTANTIATE_TEST_SUITE_P(Ways, ConsentTest,
                          [](const auto& test) { return test.param.name; });
 
 TEST_F(ExchangeDiscoveryTest, TakesTheServiceRecordOfLowestPriority) {
-  configuration.limits.stagger = std::chrono::seconds(5);
+  configuration.stagger = std::chrono::seconds(5);
   detect("named@named.sandbox.example");
   ASSERT_FALSE(waitFor(KZNotify::KZNotifyExchangeResolvingNeedCredential).isEmpty());
   EXPECT_EQ(visitsOf("exchange.named.sandbox.example"), 1);

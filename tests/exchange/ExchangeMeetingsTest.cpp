@@ -8,13 +8,11 @@ namespace {
 class ExchangeMeetingsTest : public DiscoveryFixture {
  protected:
   void list(const Dictionary& exchange, const QString& token = QString()) {
-    meetings = std::make_unique<ExchangeMeetings>(configuration);
-    QObject::connect(meetings.get(), &ExchangeMeetings::listed, meetings.get(),
-                     [this](const QList<ExchangeMeeting>& rows) {
-                       for (const ExchangeMeeting& row : rows) subjects.append(row.subject);
-                     });
-    QObject::connect(meetings.get(), &ExchangeMeetings::failed, meetings.get(),
-                     [this](const QString& message) { failures.append(message); });
+    meetings = std::make_unique<ExchangeMeetings>(
+        configuration, [this](const QList<ExchangeMeeting>& rows, const QString& failure) {
+          for (const ExchangeMeeting& row : rows) subjects.append(row.subject);
+          if (!failure.isEmpty()) failures.append(failure);
+        });
     meetings->list(exchange, token, 7);
     EXPECT_TRUE(QTest::qWaitFor([this] { return !subjects.isEmpty() || !failures.isEmpty(); }, 2000));
   }

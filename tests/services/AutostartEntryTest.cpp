@@ -1,4 +1,4 @@
-#include "companion/services/AutostartEntry.h"
+#include "companion/services/GeneralSettings.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,6 @@
 #include <QTest>
 
 #include "companion/runtime/PluginHost.h"
-#include "companion/services/GeneralSettings.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 #include "tests/kit/FromPlugin.h"

@@ -1,4 +1,4 @@
-#include "companion/services/MeetingSite.h"
+#include "companion/services/SiteService.h"
 
 #include <gtest/gtest.h>
 
