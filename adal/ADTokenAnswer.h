@@ -23,7 +23,7 @@ struct ADTokenAnswerOrError {
   std::optional<ADError> error;
 };
 
-// What the tokens of an answer are stored for.
+// The account and resource that tokens are stored for.
 struct ADTokenTarget {
   QString userId;
   QString authority;

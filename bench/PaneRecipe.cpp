@@ -37,7 +37,7 @@ ControlRecipe recipeOfPopUp(const PopUpButton& popUp) {
   return recipe;
 }
 
-// Nothing for a view that only holds others.
+// Nothing for a view that only contains others.
 std::optional<ControlRecipe> recipeOfControl(const QWidget& view) {
   if (const auto* button = qobject_cast<const QAbstractButton*>(&view)) return recipeOfButton(*button);
   if (const auto* field = qobject_cast<const QLineEdit*>(&view)) return recipeOfField(*field);

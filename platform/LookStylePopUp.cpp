@@ -47,7 +47,7 @@ QSize size(const QStyleOptionComboBox& option, const QSize& contents) {
 void draw(const QStyleOptionComboBox& option, QPainter* painter) {
   const LookColors& colors = lookColorsOf(option);
   const LookStates states = lookStatesOf(option);
-  // A taller control leaves a point above and below, which the focus ring takes.
+  // A taller control has a free point above and below, for the focus ring.
   const qreal spare = option.rect.height() > kPopUpHeight ? 1 : 0;
   const QRectF rect = QRectF(option.rect).adjusted(0, spare, 0, -spare);
   const bool isOpen = states.isEnabled && (option.state & QStyle::State_On);

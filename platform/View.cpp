@@ -41,6 +41,6 @@ void View::paintEvent(QPaintEvent* event) {
 
 void View::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
-  // A spontaneous event comes when a minimised window is restored, which was never hidden.
+  // A minimised window, which was never hidden, gets a spontaneous event when it is restored.
   if (!event->spontaneous()) viewDidUnhide();
 }

@@ -9,12 +9,12 @@
 class MainThreadInvoker;
 class PreferenceActionDelegateProtocol;
 
-// Asks the user for an Exchange credential. Main thread only.
+// A view in which the user types an Exchange credential. Main thread only.
 class OutlookAccountAuthDelegate {
  public:
   virtual ~OutlookAccountAuthDelegate() = default;
 
-  // What the user has typed so far.
+  // The texts that the user has typed so far.
   virtual QString username() const = 0;
   virtual QString password() const = 0;
   // The server refused the last credential.

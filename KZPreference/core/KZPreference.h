@@ -75,7 +75,7 @@ class KZPreference final : public KZPluginMgr, public PluginCommandSender {
   void savePreferenceInfo(const Dictionary& record);
   void writeTelemetryData(const QString& featureName, const QString& actionFrom);
 
-  // In this order because they are destroyed in reverse, users before what they use.
+  // Destroyed in reverse order, so that each object is destroyed before those that it uses.
   std::unique_ptr<ADAuthenticationWrapper> m_ADAuthWrapper;
   std::unique_ptr<PreferenceActionDelegate> m_preferenceActionDelegate;
   std::unique_ptr<OLAccountAuthenticator> m_olaccountAuthenticator;

@@ -53,7 +53,7 @@ class KZ_HOST_EXPORT KZPluginFactory {
   virtual ~KZPluginFactory();
   Q_DISABLE_COPY_MOVE(KZPluginFactory)
 
-  // The plug-in's one core, made on the first call. Owned by the plug-in.
+  // The plug-in's only core, created on the first call. Owned by the plug-in.
   virtual KZPluginCoreMgr* core() = 0;
 
   // Destroys the core with all windows. Call it before the application object is destroyed; pointers to the

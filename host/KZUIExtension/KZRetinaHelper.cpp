@@ -115,7 +115,7 @@ class KZImageEngine final : public QIconEngine {
 }  // namespace
 
 KZRetinaHelper& KZRetinaHelper::shareInstance() {
-  // Never destroyed: icons may be asked for until the last window is gone.
+  // Never destroyed: icons may be used until the last window is destroyed.
   static KZRetinaHelper* const instance = new KZRetinaHelper;
   return *instance;
 }

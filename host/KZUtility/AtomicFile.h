@@ -8,5 +8,5 @@
 // leaves no temporary file.
 [[nodiscard]] int replaceFile(const QString& folder, const QString& name, const QByteArray& bytes);
 
-// Removes what a process that died in the middle of `replaceFile` left behind.
+// Removes temporary files older than a minute, which processes left that were killed in `replaceFile`.
 void removeAbandonedFiles(const QString& folder, const QString& name);

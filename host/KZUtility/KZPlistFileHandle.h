@@ -19,10 +19,11 @@ class KZ_HOST_EXPORT KZPlistFileHandle : public QObject {
  public:
   static KZPlistFileHandle& sharedInstance();
 
-  // Locks that folder, which is made when missing, and reads the store in it; a folder that was open before
-  // is closed first. False when another process has locked the folder: nothing is read or written there, and
-  // the store is in memory only, as before the first call. A folder that cannot be made or locked for another
-  // reason is used without a lock. The lock ends with `close` or with the process, even a killed one.
+  // Locks that folder, which is created when missing, and reads the store in it; a folder that was open
+  // before is closed first. False when another process has locked the folder: nothing is read or written
+  // there, and the store is in memory only, as before the first call. A folder that cannot be created or
+  // locked for another reason is used without a lock. The lock ends with `close` or with the process, even a
+  // killed one.
   [[nodiscard]] bool open(const QString& folder);
   // Removes all values from memory, which is the only store from then on; the file stays.
   void close();

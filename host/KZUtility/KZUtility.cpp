@@ -95,7 +95,7 @@ QVariant KZUtility::JSONValueFromString(const QString& text) {
   if (text.size() > kLargestJson) return {};
   const QByteArray json = text.toUtf8();
   if (json.size() > kLargestJson || !isShallowEnough(json)) return {};
-  // The reader takes no scalars at the top, so the text becomes the only item of a list.
+  // QJsonDocument accepts no scalars at the top, so the text becomes the only item of a list.
   QJsonParseError error;
   const QJsonArray array = QJsonDocument::fromJson('[' + json + ']', &error).array();
   if (error.error != QJsonParseError::NoError || array.size() != 1) return {};

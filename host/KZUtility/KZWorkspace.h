@@ -15,7 +15,7 @@ class KZ_HOST_EXPORT KZWorkspace {
   // False when nothing opened it. An invalid address, or one without a scheme, is refused.
   bool openURL(const QUrl& url);
 
-  // Sets what opens addresses; an empty function restores the desktop's own opener.
+  // Sets the function that opens addresses; an empty function restores the desktop's own opener.
   void setOpener(Opener opener) { m_opener = std::move(opener); }
 
  private:

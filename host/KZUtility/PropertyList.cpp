@@ -7,7 +7,8 @@
 
 namespace {
 
-// Levels of elements, the root and the top dictionary included: what is written must be readable again.
+// Levels of elements, the root and the top dictionary included; the same for writing, so that every written
+// file can be read.
 constexpr int kDeepestPropertyList = 64;
 constexpr int kTopLevel = 2;
 

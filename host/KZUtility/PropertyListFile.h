@@ -18,12 +18,12 @@ class PropertyListFile final {
   // Where a file that could not be read was moved; null when there was none.
   QString setAsidePath() const { return m_setAsidePath; }
 
-  // Makes the folder when missing and locks it while this object lives. False when another process has it:
+  // Creates the folder when missing and locks it while this object exists. False when another process has it:
   // then nothing may be read or written.
   [[nodiscard]] bool lock();
-  // What the file holds. A file that cannot be read is set aside; where that fails, nothing is ever written.
+  // The file's values. A file that cannot be read is set aside; when that fails, nothing is written any more.
   Dictionary read();
-  // Replaces what the file holds.
+  // Replaces the file's values.
   void write(const Dictionary& values);
 
  private:

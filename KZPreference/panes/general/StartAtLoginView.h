@@ -5,7 +5,8 @@
 
 class QCheckBox;
 
-// What both General panes share: the start-at-login choice, stored and sent to the host at each click.
+// The part that both General panes share: the start-at-login choice, stored and sent to the host at each
+// click.
 class StartAtLoginView : public View {
   Q_OBJECT
 

@@ -12,9 +12,9 @@ class QPushButton;
 class QRadioButton;
 class Spinner;
 
-// What both calendar integration groups share: applying an Exchange account (detect, credential, result,
-// rejection, cancel), with the controls, the rules that enable them, and the status line. A variant adds its
-// calendar sources. Main thread only.
+// The part that both calendar integration groups share: applying an Exchange account (detect, credential,
+// result, rejection, cancel), with the controls, the rules that enable them, and the status line. A variant
+// adds its calendar sources. Main thread only.
 class CalendarIntegrationGroup : public View, public OutlookAccountAuthDelegate {
   Q_OBJECT
 

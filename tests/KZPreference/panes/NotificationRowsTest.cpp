@@ -27,7 +27,7 @@ class NotificationRowsTest : public RecordingHost {
     button->setFocus();
     QTest::keyClick(button, key);
   }
-  // Uses the controls of a row of that class, and checks what is sent and stored.
+  // Uses the controls of a row of that class, and checks the shown and the stored values.
   template <typename Row>
   void use(const QStringList& items, const QString& stateKey, const QString& minutesKey) {
     Row row({0, 0, 300, 48}, &m_delegate);

@@ -209,7 +209,7 @@ TEST_P(ExchangeFlow, EnablingFollowsWhatIsTyped) {
   }
 }
 
-// Without a credential step the fields are empty, and so is what is stored.
+// Without a credential step the fields are empty, and empty texts are stored.
 TEST_P(ExchangeFlow, SuccessWithoutAUserNameStoresEmptyTexts) {
   detect();
   host.resolveWith(kEmail);
