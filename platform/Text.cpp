@@ -29,16 +29,14 @@ class FontTable {
   double height(FontKind kind) { return entry(kind).height; }
 
   double width(const QString& text, FontKind kind) {
-    const std::pair key(text, kind);
+    const std::pair key(text.left(mostDrawnCharacters), kind);
     if (const auto known = m_widths.constFind(key); known != m_widths.cend()) return *known;
-    if (m_widths.size() >= kMostTexts || m_characters >= kMostCharacters) forgetWidths();
-    m_characters += text.size();
-    return *m_widths.insert(key, QFontMetricsF(font(kind)).horizontalAdvance(text));
+    if (m_widths.size() >= kMostTexts) m_widths.clear();
+    return *m_widths.insert(key, QFontMetricsF(font(kind)).horizontalAdvance(key.first));
   }
 
  private:
   static constexpr qsizetype kMostTexts = 2000;
-  static constexpr qsizetype kMostCharacters = 4'000'000;
 
   struct Entry {
     QFont font;
@@ -48,12 +46,7 @@ class FontTable {
   void startWith(const QFont& base) {
     m_base = base;
     m_entries.clear();
-    forgetWidths();
-  }
-
-  void forgetWidths() {
     m_widths.clear();
-    m_characters = 0;
   }
 
   const Entry& entry(FontKind kind) {
@@ -74,7 +67,6 @@ class FontTable {
   QFont m_base;
   QHash<FontKind, Entry> m_entries;
   QHash<std::pair<QString, FontKind>, double> m_widths;
-  qsizetype m_characters = 0;  // in m_widths
 };
 
 }  // namespace

@@ -16,11 +16,11 @@ inline constexpr double systemFontSize = 13;  // the platform's default size, in
 
 PLATFORM_EXPORT QFont fontFor(FontRole role, double size);
 
-// Width as measured, height rounded up. An empty text has no width.
-PLATFORM_EXPORT Size sizeOfText(const QString& text, FontRole role, double size);
-
-// More than any screen shows of one line; drawing the rest would only take time.
+// More than any screen shows of one line; measuring and drawing the rest would only take time.
 inline constexpr qsizetype mostDrawnCharacters = 4000;
+
+// Width as measured, of the characters that are drawn; height rounded up. An empty text has no width.
+PLATFORM_EXPORT Size sizeOfText(const QString& text, FontRole role, double size);
 
 // One line in the painter's font and pen, in the middle of the box. A fallback font for characters that the
 // painter's font lacks does not move the line.

@@ -73,7 +73,7 @@ Companion::Companion(const CompanionOptions& options)
 
 Companion::~Companion() {
   m_recording.stop();
-  // What the plug-in sends at its end is reported to observers that still exist.
+  // The plug-in sends events while it is shut down, so the observers must still exist.
   m_host.shutDown();
 }
 
@@ -82,7 +82,7 @@ void Companion::createPages() {
   m_window.addPage(QStringLiteral("Try out"), [this] { return createTryOut(); });
   m_window.addPage(QStringLiteral("Inspector"), [this] {
     auto* inspector = new InspectorView(&m_log);
-    connect(inspector, &InspectorView::noticed, &m_window, &CompanionWindow::showNotice);
+    connect(inspector, &InspectorView::message, &m_window, &CompanionWindow::showNotice);
     return inspector;
   });
   m_window.addPage(QStringLiteral("Telemetry"),
@@ -132,7 +132,7 @@ void Companion::toggleRecording() {
   dialog->open();
 }
 
-// A record begins with a fresh Preferences window, because it must hold how the window came about.
+// A record begins with a fresh Preferences window, because it must contain the steps that open the window.
 void Companion::recordAnew(const QString& path) {
   if (m_recording.start(path)) m_window.startOver();
 }

@@ -11,8 +11,8 @@
 
 class PluginHost;
 
-// Finds Exchange services for the plug-in: receives its commands and answers them. Where the search is
-// redirected the user is asked; the rest of the program stays usable meanwhile. Main thread only.
+// Finds Exchange services for the plug-in: handles its commands and notifies it of the result. When the
+// search is redirected, it asks the user without blocking the rest of the program. Main thread only.
 class CompanionExchange final : public QObject {
   Q_OBJECT
 

@@ -5,7 +5,7 @@
 
 #include "companion/network/NetworkConfiguration.h"
 
-// What the command line asks for.
+// The options of the command line.
 struct CompanionOptions {
   bool isDemo = false;
   bool isDemoAsked = false;
@@ -20,6 +20,6 @@ struct CompanionOptions {
   QString stateFolder;  // empty: the user's own
   QString pluginPath;
 
-  // Ends the program where the command line asks for help or cannot be followed.
+  // Ends the program after --help or an invalid command line.
   static CompanionOptions read(const QStringList& arguments);
 };

@@ -16,7 +16,7 @@ class QPushButton;
 class QRadioButton;
 class SiteDialog;
 
-// The companion's own window: the user, what a host can ask of its plug-in, and a page for each service.
+// The companion's own window: the user, buttons for the plug-in's commands, and a page for each service.
 class CompanionWindow final : public QWidget {
   Q_OBJECT
 
@@ -26,7 +26,7 @@ class CompanionWindow final : public QWidget {
   // Before anything is done in the window; once. Not owned; must outlive the window.
   void useServices(CompanionServices* services);
 
-  // Also tells the plug-in, as a host does after a sign-in or when it starts for a guest.
+  // Triggers the commands that a host sends after a sign-in, or when it starts for a guest.
   void become(demouser::Variant variant);
   void showPreferences();
   void comeToFront();
@@ -38,7 +38,7 @@ class CompanionWindow final : public QWidget {
   // first page is in front. After useServices.
   using PageMaker = std::function<QWidget*()>;
   void addPage(const QString& title, const PageMaker& make);
-  // Asks the site, and belongs to it from then on.
+  // Requests the site's data and uses that site from then on.
   void useSite(const QString& site);
 
  Q_SIGNALS:

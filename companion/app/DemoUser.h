@@ -2,8 +2,8 @@
 
 #include "host/KZFoundation/Dictionary.h"
 
-// Who uses the companion: an invented person, signed in or as a guest. The identity lives in the settings
-// store, where the plug-in reads it; what a guest edits is kept over a sign-in.
+// The example user of the companion, signed in or as a guest. The identity is in the settings store, where
+// the plug-in reads it; a guest's changes are kept during a sign-in.
 namespace demouser {
 
 enum class Variant { SignedIn, Guest };

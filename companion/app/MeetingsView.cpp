@@ -59,7 +59,7 @@ MeetingsView::MeetingsView(NextMeetings* meetings)
   m_table->setColumnWidth(StartColumn, 160);
   m_table->setColumnWidth(NoteColumn, 160);
   m_table->horizontalHeader()->setSectionResizeMode(SubjectColumn, QHeaderView::Stretch);
-  // Only the words for a time go out of date; nobody is asked.
+  // Only the words for a time change; no request is made.
   m_minute.setInterval(1min);
   connect(&m_minute, &QTimer::timeout, this, &MeetingsView::showMeetings);
   connect(m_refresh, &QPushButton::clicked, meetings, &NextMeetings::refresh);

@@ -8,7 +8,7 @@ class QLabel;
 class QPushButton;
 class QTableWidget;
 
-// The next meetings, the first on top; one that starts soon stands out.
+// The next meetings, the first on top; one that starts soon is highlighted.
 class MeetingsView final : public QWidget {
   Q_OBJECT
 

@@ -15,7 +15,7 @@ class Recording final : public QObject {
   explicit Recording(PluginHost* host) : m_host(host) {}  // not owned, must outlive this
 
   bool isRunning() const { return m_recorder != nullptr; }
-  // False when the file cannot be made; the user is told why. What was being recorded before ends.
+  // Ends the current record first. False when the file cannot be created; the reason is shown to the user.
   [[nodiscard]] bool start(const QString& path);
   void stop();
 

@@ -30,7 +30,7 @@ Sandbox::Sandbox() {
 Sandbox::~Sandbox() {
   m_process.disconnect(this);
   if (m_process.state() == QProcess::NotRunning) return;
-  // It removes its certificates when it may end by itself; the process object kills what is left.
+  // Closing its input lets it exit by itself; the process object kills it otherwise.
   m_process.closeWriteChannel();
   m_process.waitForFinished(kEndMilliseconds);
 }

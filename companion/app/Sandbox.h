@@ -6,8 +6,8 @@
 
 #include "companion/exchange/SandboxDescription.h"
 
-// The program kz-sandbox as a child. It ends with this object, and also when this process dies otherwise.
-// Main thread only.
+// The program kz-sandbox as a child. It ends with this object, and also when this process is killed. Main
+// thread only.
 class Sandbox final : public QObject {
   Q_OBJECT
 

@@ -80,7 +80,7 @@ void SiteDialog::askChosen() {
   m_text->setText(QStringLiteral("Asking the site."));
   m_service->lookUp(site(), [this](const SiteService::Result& result) {
     if (!result.site) return showFailure(result.failure);
-    // The dialog may be gone with the last line of this.
+    // The last line may destroy the dialog.
     SiteService* const service = m_service;
     accept();
     service->adopt(*result.site);

@@ -7,7 +7,7 @@ class QLineEdit;
 class QPushButton;
 class SiteService;
 
-// Asks for another site and looks it up before it is used; one that does not answer may be used all the same.
+// Asks for another site and looks it up before it is used; one that does not respond may be used anyway.
 class SiteDialog final : public QDialog {
   Q_OBJECT
 

@@ -9,7 +9,7 @@ class QPushButton;
 class QTableWidget;
 class TelemetryService;
 
-// What is known of the user's choices: to read, to switch off and to delete.
+// Shows the telemetry records, and lets the user switch them off and delete them.
 class TelemetryView final : public QWidget {
   Q_OBJECT
 

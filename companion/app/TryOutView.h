@@ -9,7 +9,7 @@ class QLabel;
 class QTableWidget;
 class QVBoxLayout;
 
-// What the sandbox offers to try: its accounts and its sites, with what each shows. Main thread only.
+// The accounts and sites of the sandbox, each with its behaviour. Main thread only.
 class TryOutView final : public QWidget {
   Q_OBJECT
 

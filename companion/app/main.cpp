@@ -57,8 +57,8 @@ int playDemo(Companion* companion, const CompanionOptions& options) {
   return 1;
 }
 
-// Opens the state folder. When another companion has it, that one comes to the front, and this one's exit
-// status is returned.
+// Opens the state folder. When another companion uses it, brings that one to the front and returns this one's
+// exit status.
 std::optional<int> openOrAskFirst(SingleInstance* instance, const QString& folder) {
   const QDeadlineTimer deadline(kAnswerPatience);
   do {
@@ -80,7 +80,7 @@ std::optional<int> openOrAskFirst(SingleInstance* instance, const QString& folde
   return kAlreadyRunning;
 }
 
-// Once what is painted has reached the display; at once, because whoever measures waits for the line.
+// After the painted frame has reached the display. Flushed at once: a benchmark waits for the line.
 void sayWhenShown(const char* line) {
   QCoreApplication::processEvents();
   qGuiApp->sync();

@@ -19,13 +19,13 @@ struct OtherEmail {
   QString email;
 };
 
-// What one attempt comes to.
+// The result of one attempt.
 using AutodiscoverOutcome =
     std::variant<NetworkFailure, ExchangeServices, CredentialNeeded, OtherEmail, OnlineService>;
 
 constexpr qsizetype kMostHops = 10;
 
-// What every attempt of one discovery shares. All of it outlives the attempts.
+// Shared by all attempts of one discovery, and outlives them.
 struct DiscoveryContext {
   QNetworkAccessManager& network;
   const ExchangeConfiguration& configuration;

@@ -58,7 +58,7 @@ AutodiscoverResponse readAutodiscoverResponse(const QByteArray& xml) {
   }
   if (action != QLatin1String("settings")) return {};
   const QUrl external = safeUrl(webServices.value(QStringLiteral("EXPR")));
-  // The newer form of EXPR, which goes first where both are there.
+  // The newer form of EXPR, preferred when both are there.
   const QUrl newer = safeUrl(webServices.value(QStringLiteral("EXHTTP")));
   return {.kind = Kind::Services,
           .services = {.externalUrl = external.isEmpty() ? newer : external,

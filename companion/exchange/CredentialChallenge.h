@@ -5,8 +5,8 @@
 
 #include "companion/network/NetworkFailure.h"
 
-// What the credential is for that an Exchange server asks for. The challenge goes through the process's
-// notification centre; the plug-in answers it.
+// The purpose of the credential that an Exchange server requests. The challenge is posted in the process's
+// notification centre, and the plug-in responds to it.
 enum class CredentialPurpose { Discovery = 1, MeetingListing = 2 };
 
 // The Authorization header, or why there is none.

@@ -21,8 +21,8 @@ struct OnlineService {
   QString redirectUri;
 };
 
-// How the user is asked whether an address outside the mail domain may be used. One question at a time; the
-// answer may come at any later moment, or never.
+// Asks the user whether an address outside the mail domain may be used. One question at a time; the response
+// may come at any later time, or never.
 struct RedirectPrompt {
   using Answer = std::function<void(bool isAllowed)>;
 

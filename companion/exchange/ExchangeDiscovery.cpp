@@ -23,7 +23,7 @@ QUrl autodiscoverUrl(const char* scheme, const QString& host, int port = -1) {
   return url;
 }
 
-// Another server would only ask for the same credential again, and a second refusal could lock the account.
+// Another server would only request the same credential again, and a second refusal could lock the account.
 bool isFinal(FailureKind kind) {
   return kind == FailureKind::NoCredential || kind == FailureKind::BadUsername ||
          kind == FailureKind::CredentialRefused || kind == FailureKind::Explained;
@@ -163,7 +163,7 @@ void ExchangeDiscovery::handle(const OtherEmail& other, const QUrl& address) {
     return handle(NetworkFailure{.kind = kind, .host = address.host()}, address);
   }
   stopSearch();
-  // An online service is signed in to in the browser: no password goes there.
+  // The user signs in to an online service in the browser, so no password is sent to it.
   if (m_configuration.onlineServiceOf(domain)) return moveTo(other.email, domain);
   m_consent.ask(autodiscoverUrl("https", domain), RedirectConsent::Question::UnlessTrusted,
                 [this, email = other.email, domain](bool isAllowed) {
@@ -202,7 +202,7 @@ void ExchangeDiscovery::goOnWithToken(const QString& username, const QString& to
     return Authorization{.header = token.isEmpty() ? QByteArray() : "Bearer " + token.toUtf8(),
                          .missing = FailureKind::TokenRefused};
   };
-  // From here on only the service's own hosts are asked.
+  // From here on requests go to the service's own hosts only.
   m_consent.trustOnly(m_online.hostSuffixes);
   m_worst = {.kind = FailureKind::HostUnknown, .host = m_online.autodiscover.host()};
   m_waiting = {{.mode = Mode::Authorized, .address = m_online.autodiscover}};

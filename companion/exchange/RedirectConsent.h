@@ -21,7 +21,7 @@ class RedirectConsent final {
   Q_DISABLE_COPY_MOVE(RedirectConsent)
 
   void trustDomain(const QString& domain) { m_domains.append(domain); }
-  // Nothing else from now on; the user is not asked any more.
+  // Allows no further host, without asking the user.
   void trustOnly(const QStringList& domains);
   bool isTrusted(const QString& host) const;
 

@@ -8,7 +8,7 @@
 
 #include "companion/exchange/ExchangeConfiguration.h"
 
-// What kz-sandbox prints first: where its hosts are, and what there is to try.
+// The description that kz-sandbox prints first: its hosts, accounts and sites.
 struct SandboxDescription {
   struct Account {
     QString email;

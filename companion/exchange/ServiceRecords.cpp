@@ -35,7 +35,7 @@ void lookUpServices(const QString& name, QObject* context, ServicesFound found) 
 }
 
 QList<ServiceRecord> inOrderOfTrial(QList<ServiceRecord> records, QRandomGenerator& random) {
-  // A lone dot says that there is no such service.
+  // A single dot means that there is no such service.
   records.removeIf([](const ServiceRecord& record) {
     return record.target.isEmpty() || record.target == QLatin1String(".") || record.port == 0;
   });

@@ -15,11 +15,11 @@ struct ServiceRecord {
 };
 
 using ServicesFound = std::function<void(const QList<ServiceRecord>&)>;
-// Calls back at most once, with nothing where there is none or the lookup failed, and never after `context`
-// is gone.
+// Calls back at most once, with an empty list when there is none or the lookup failed; never after `context`
+// is destroyed.
 using ServiceLookup = std::function<void(const QString& name, QObject* context, ServicesFound found)>;
 
-// Asks the domain name system; a ServiceLookup.
+// A ServiceLookup that uses the domain name system.
 void lookUpServices(const QString& name, QObject* context, ServicesFound found);
 
 // In the order in which they are to be tried: lowest priority first, within one priority drawn by weight.

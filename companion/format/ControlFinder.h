@@ -20,7 +20,7 @@ class ControlFinder final {
     QString error;  // why there is none
   };
 
-  // "m_field", or with parents in front where that is not unique: "Group/m_field". A parent is said by its
+  // "m_field", or with parents in front where that is not unique: "Group/m_field". A parent is given by its
   // name or its class, or left out. A name in the pane in front comes before the same name in a pane that is
   // fading away, and that before one in a pane that is not in the window.
   Found find(const QString& name) const;

@@ -15,8 +15,8 @@ const QHash<QString, QString>& storeKeys();
 QJsonObject store(valuecodec::Form form = valuecodec::Form::Printed);  // every value that is set
 QJsonObject keychain();
 QJsonObject host();
-// The default token cache's items. In the exact form they expire in a number of whole seconds, as the step
-// that sets them says it.
+// The default token cache's items. In the exact form they expire in a number of whole seconds, as in the step
+// that sets them.
 QJsonArray tokens(valuecodec::Form form = valuecodec::Form::Printed);
 
 }  // namespace hoststate

@@ -13,6 +13,6 @@ using Line = QList<std::pair<QString, QJsonValue>>;
 
 QByteArray lineText(const Line& line);  // without the line's end
 
-// What is printed of an event that came out of the plug-in, or of a write; empty for every other event. A
-// secret of the keychain is never part of it.
+// The line for an event from the plug-in, or for a write; empty for every other event. It never contains a
+// secret of the keychain.
 Line eventLine(const PluginEvent& event);

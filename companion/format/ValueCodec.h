@@ -18,7 +18,8 @@ struct [[nodiscard]] Decoded {
 
 Decoded decode(const QJsonValue& value);
 
-// As results are printed, or so that `decode` makes the same of it again, constants' very objects included.
+// Encodes a value as in printed results, or exactly, so that `decode` restores it with the identity of
+// constants.
 enum class Form { Printed, Exact };
 
 QJsonValue encode(const QVariant& value, Form form = Form::Printed);

@@ -8,7 +8,7 @@
 // One event between the host and its plug-in, as text that is fit to show: without secrets and of bounded
 // length.
 struct InspectorEvent {
-  // What a reader shows and hides together.
+  // The groups of events that a user shows and hides.
   enum class Group { Commands, Notifications, SignIn, Warnings, Store, Telemetry, Traces };
   static constexpr qsizetype mostBytes = 64 * 1024;  // of the content
 

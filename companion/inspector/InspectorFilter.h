@@ -10,7 +10,7 @@ class InspectorFilter final : public QSortFilterProxyModel {
  public:
   explicit InspectorFilter(InspectorLog* log) : m_log(log) { setSourceModel(log); }  // not owned, outlives it
 
-  // To lay the rows out anew takes far less time than to remove and insert them one by one.
+  // Resetting the model is much faster than removing and inserting rows one by one.
   void setShown(InspectorEvent::Group group, bool isShown) {
     if (isShown) {
       m_hidden.erase(group);

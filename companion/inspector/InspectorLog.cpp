@@ -18,7 +18,7 @@ constexpr qsizetype kKeptEvents = InspectorLog::mostEvents / 40 * 39;
 constexpr qsizetype kKeptBytes = InspectorLog::mostBytes / 40 * 39;
 constexpr qsizetype kLongestCell = 300;  // more is never in sight
 
-// What passes between host and plug-in stands out from the traces between.
+// Events between host and plug-in are distinguished from traces.
 QColor colorOf(const InspectorEvent& event) {
   const QPalette palette = QApplication::palette();
   const LookScheme scheme = lookSchemeFor(palette);
@@ -28,7 +28,7 @@ QColor colorOf(const InspectorEvent& event) {
   return event.isFromPlugin ? lookColor(SystemColor::Blue, scheme) : palette.color(QPalette::Text);
 }
 
-// Without what would break the line or begin a column.
+// Without control characters and line separators.
 QString onOneLine(QString text) {
   for (QChar& sign : text) {
     const bool isBreak = sign.category() == QChar::Other_Control || sign == QChar::LineSeparator ||

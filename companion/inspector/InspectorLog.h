@@ -22,7 +22,7 @@ class InspectorLog final : public QAbstractTableModel {
   using QAbstractTableModel::QAbstractTableModel;
 
   // Any thread. The event has a row once the main thread's loop has turned.
-  void record(const PluginEvent& recorded);
+  void record(const PluginEvent& event);
   void clear();
   void setFlow(Flow flow);
   Flow flow() const { return m_flow; }

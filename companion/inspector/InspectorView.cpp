@@ -221,15 +221,15 @@ void InspectorView::copy() {
   QString text;
   for (const int row : rows) text += InspectorLog::lineOf(*m_filter->eventAt(row)) + u'\n';
   QGuiApplication::clipboard()->setText(text);
-  Q_EMIT noticed(QStringLiteral("The events are copied, without passwords and tokens."));
+  Q_EMIT message(QStringLiteral("The events are copied, without passwords and tokens."));
 }
 
 void InspectorView::exportTo(const QString& path) {
   const QString reason = writeEvents(path, *m_filter);
   if (reason.isEmpty()) {
-    Q_EMIT noticed(QStringLiteral("The events are in %1, without passwords and tokens.").arg(path));
+    Q_EMIT message(QStringLiteral("The events are in %1, without passwords and tokens.").arg(path));
   } else {
-    Q_EMIT noticed(QStringLiteral("The events could not be written to %1 (%2). Choose another folder.")
+    Q_EMIT message(QStringLiteral("The events could not be written to %1 (%2). Choose another folder.")
                        .arg(path, reason));
   }
 }

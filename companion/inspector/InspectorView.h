@@ -20,7 +20,7 @@ class InspectorView final : public QWidget {
   void exportTo(const QString& path);  // every row that is shown
 
  Q_SIGNALS:
-  void noticed(const QString& text);  // for the user
+  void message(const QString& text);  // for the user
 
  private:
   void setUpTable();

@@ -13,7 +13,7 @@
 
 namespace {
 
-// Below this, errors are about the connection; above, about what the server said.
+// Errors below this are of the connection, the others of the server's response.
 constexpr int kFirstResponseError = 100;
 constexpr qsizetype kMostRedirects = 10;
 

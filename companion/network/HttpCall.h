@@ -25,7 +25,7 @@ struct HttpRequest {
   Redirects redirects = Redirects::Report;
 };
 
-// Exactly one of these came: a failure, a challenge, a redirect, or a body (which may be empty).
+// Exactly one of these is set: a failure, a challenge, a redirect, or a body (which may be empty).
 struct HttpResponse {
   NetworkFailure failure = {};
   bool isChallenge = false;                 // a failure where redirects are followed

@@ -4,8 +4,7 @@
 
 #include "host/KZFoundation/Dictionary.h"
 
-// Why what the user wanted of a server came to nothing. The later in this list, the more it explains: of
-// several failures the last one is shown.
+// Why a request failed. Later values explain more: of several failures the highest one is shown.
 enum class FailureKind {
   None,
   HostUnknown,

@@ -3,12 +3,13 @@
 #include <QString>
 #include <QUrl>
 
-// What is checked of names and addresses from outside before they are used.
+// Checks of names and addresses from outside.
 
 // Encrypted, or on this machine; with a host and without a user name.
 bool isSafeAddress(const QUrl& address);
 
-// Whether what came from one address may lead to the other: safe, and from outside never to this machine.
+// Whether one address may lead to the other, which must be safe, and may be on this machine only if the first
+// one is.
 bool isSafeStep(const QUrl& from, const QUrl& to);
 
 // Whether a page may be opened for the host that named it: safe, and at that host, below it or on this
@@ -19,8 +20,8 @@ bool isOwnPage(const QUrl& page, const QString& host);
 // text.
 QUrl siteAddress(const QString& site);
 
-// Whether the host is the domain or lies below it.
+// Whether the host is the domain or a subdomain.
 bool isWithinDomain(const QString& host, const QString& domain);
 
-// The domain of an email as it stands in a host name, in lower case; empty where it has none that can.
+// The domain of an email address in the form of a host name, in lower case; empty when it has no valid one.
 QString emailDomain(const QString& email);

@@ -19,7 +19,7 @@ QJsonObject readTokens() {
   return items.isEmpty() ? QJsonObject() : QJsonObject{{"items", items}};
 }
 
-// The values that differ; null for those that are gone. What is absent is as good as null.
+// The values that differ; null for removed ones. An absent value equals null.
 QJsonObject changedValues(const QJsonObject& before, const QJsonObject& after) {
   QJsonObject changed;
   for (const QString& key : before.keys()) {

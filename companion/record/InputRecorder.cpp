@@ -199,7 +199,7 @@ void InputRecorder::onKey(const QKeyEvent& key) {
   write(step);
 }
 
-// The text is written as a whole, once something else follows or something comes of it.
+// The text is written as one step when another input or an effect follows.
 void InputRecorder::expectTyping(QWidget* widget) {
   auto* field = qobject_cast<QLineEdit*>(widget);
   const QString name = field ? pluginwindow::nameOf(*m_window, field) : QString();
@@ -245,7 +245,7 @@ void InputRecorder::flush() {
   if (m_typedText) {
     const QString text = *std::exchange(m_typedText, {});
     m_textBefore = text;
-    // A field that is gone may have been one for a password.
+    // A destroyed field may have been a password field.
     const bool isSecret = !m_field || m_field->echoMode() != QLineEdit::Normal;
     if (isSecret) {
       m_writer->writePassword(m_fieldName, text);

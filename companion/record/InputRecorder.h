@@ -13,8 +13,8 @@
 #include "platform/PopUpButton.h"
 #include "platform/WindowController.h"
 
-// Writes what the user does in the plug-in's window as the steps that do it again. A text, a click and a
-// choice are pending until it is known what they are. Needs an `Application`. Main thread only.
+// Writes what the user does in the plug-in's window as the steps that do it again. A text, a click or a
+// choice is pending until it is complete. Needs an `Application`. Main thread only.
 class InputRecorder final : public QObject, private InputListener {
   Q_OBJECT
 

@@ -9,7 +9,7 @@ class QObject;
 class QWidget;
 class Window;
 
-// What the user's input is for, in the words of a session.
+// The target of the user's input, as a session names it.
 namespace pluginwindow {
 
 // The widget that the display server's window shows; nullptr when there is none.
@@ -31,8 +31,8 @@ QString nameOf(const Window& window, QWidget* control);
 // none.
 QString clickableNameOf(const Window& window, QWidget* widget);
 
-// Says what an input did in a window that the plug-in opens beside its own, for which there are no steps:
-// where it was done, never what was typed. Null for other windows, and when there is nothing to say.
+// Describes an input in another window of the plug-in, for which there are no steps: where it was, never what
+// was typed. Null for other windows, and for inputs without an effect.
 QString inputElsewhere(const QWidget& target, const QEvent& event);
 
 }  // namespace pluginwindow

@@ -4,9 +4,9 @@
 #include <QFile>
 #include <QString>
 
-// The file that a record is written to, readable by its user alone. Each line is with the system before
-// `write` returns, and only whole lines stay: a record ends well wherever its program ends. One thread at a
-// time.
+// The file that a record is written to, readable by its user alone. Each line is passed to the system before
+// `write` returns, and only complete lines are kept, so that a record is valid even when its program is
+// killed. One thread at a time.
 class RecordFile final {
  public:
   // An existing file is replaced. False when the file cannot be made; `errorText` says why.

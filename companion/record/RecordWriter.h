@@ -9,26 +9,27 @@
 #include "companion/format/Line.h"
 #include "companion/record/SecretNames.h"
 
-// Writes the lines of a record: steps, what came out as comments between them, and the pauses. Secrets are
-// replaced in every line. Any thread.
+// Writes the lines of a record: steps, results as comments between them, and pauses. Secrets are replaced in
+// every line. Any thread.
 class RecordWriter final {
  public:
   // Takes a line without its end; false ends the record. On the thread that writes.
   using Sink = std::function<bool(const QByteArray& line)>;
   using Clock = std::function<std::chrono::milliseconds()>;
 
-  // What the lines begin with that say what came out.
+  // The prefix of lines with results.
   static constexpr char outputMark[] = "# <- ";
 
-  // `slack` is added to every pause, so that what came at its end comes again before what followed.
+  // `slack` is added to every pause, so that an event at its end comes before the next step when the record
+  // is played.
   RecordWriter(Sink sink, Clock clock, std::chrono::milliseconds slack);
 
-  // The first line: what recorded it, and where.
+  // The first line: the recording program and its platform.
   void writeHeader();
   void writeStep(const Line& step);
   void writeOutput(const Line& output);
   void writePassword(const QString& field, const QString& text);
-  // What the user did that no step says. Not again where it is the last line already.
+  // An action of the user for which there is no step. Not repeated when it is the last line already.
   void writeUnnamed(const QString& what);
   // Waits for a line that is being written; from then on nothing is.
   void close();

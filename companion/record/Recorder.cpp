@@ -22,7 +22,7 @@ Line postStep(const QString& name, const Dictionary& userInfo) {
   return {{"post", name}, {"userInfo", valuecodec::encodeContent(userInfo, Form::Exact)}};
 }
 
-// The step of an event that the host makes; empty for what comes out of the plug-in.
+// The step for an event of the host; empty for events of the plug-in.
 Line stepOf(const PluginEvent& event, const void* hostPoster) {
   return std::visit(
       Overloaded{[](const CommandToPlugin& triggered) {
@@ -105,7 +105,7 @@ void Recorder::onEvent(const PluginEvent& event, PluginHost::Phase phase) {
   writeEvent(*m_writer, event, stepOf(event, m_hostPoster));
 }
 
-// What changes while the plug-in is not at work is the host's doing.
+// A change while the plug-in does not run is the host's.
 void Recorder::begin(Actor actor) {
   if (!isPluginAtWork()) {
     writeHostChanges();

@@ -10,8 +10,8 @@
 #include "companion/record/RecordWriter.h"
 #include "companion/runtime/PluginHost.h"
 
-// Writes what a host and its user do to the plug-in as the steps of a session, and what comes out of it as
-// comments in between. Secrets are replaced before they are written. Make it on the main thread.
+// Writes the actions of a host and its user as the steps of a session, and the results as comments in
+// between. Secrets are replaced before they are written. Create it on the main thread.
 class Recorder final : public QObject {
   Q_OBJECT
 

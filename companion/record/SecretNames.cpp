@@ -61,7 +61,7 @@ QString SecretNames::nameOf(const QString& secret) {
     } while (m_names.contains(name));
   }
   m_names.insert(secret, name);
-  // What is part of a name would be found in names.
+  // A part of a name would be replaced in names.
   if (secret.size() < kShortestInTexts || name.contains(secret)) return name;
   QList<qsizetype>& lengths = m_lengths[beginningOf(secret)];
   if (!lengths.contains(secret.size())) lengths.append(secret.size());

@@ -6,17 +6,16 @@
 #include <QString>
 #include <QVariant>
 
-// Gives every secret a name of its own, "secret-1" and so on, and puts the names in the secrets' places. A
-// text that is such a name stands for itself, so that a record of a played record has the same names. One
-// thread at a time.
+// Replaces every secret by a name: "secret-1" and so on. A secret that is such a name keeps it, so that a
+// record of a played record has the same names. One thread at a time.
 class SecretNames final {
  public:
   // The secret's name; from then on the secret is also replaced inside other texts. An empty text is no
   // secret.
   QString nameOf(const QString& secret);
 
-  // The value of a line's member without secrets: those that kzReplaceSecrets finds, and known ones. What
-  // names a step, a control or an item stays, whatever the passwords are.
+  // The value of a line's member without secrets: those that kzReplaceSecrets finds, and known ones. The
+  // names of steps, controls and items are never replaced.
   QJsonValue withoutSecrets(const QString& member, const QJsonValue& value);
 
  private:

@@ -69,7 +69,7 @@ bool Application::notify(QObject* receiver, QEvent* event) {
                           isInput(*receiver, *event) && theInputListener->inputBegins(receiver, event);
   const int listenerCount = theListenerCount;
   const bool isAccepted = QApplication::notify(receiver, event);
-  // A listener that was set meanwhile has not seen the beginning.
+  // A listener that was set during the input has not seen its beginning.
   if (isListened && theInputListener && listenerCount == theListenerCount) theInputListener->inputEnded();
   return isAccepted;
 }

@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QStringList>
 
-// Sees what may come from the user before and after it has its effect. Inputs may nest.
+// Observes possible input events of the user, before and after their effect. Inputs may nest.
 class InputListener {
  public:
   virtual ~InputListener() = default;
@@ -18,14 +18,14 @@ class InputListener {
 class Application final : public QApplication {
  public:
   // Qt would take some of the program's own options (--plugin) for itself, so it gets the program's name
-  // alone; `commandLine` has them all, the program first. What Qt's platform plug-ins say about themselves on
-  // standard error is dropped. `argv` must outlive the application.
+  // alone; `commandLine` has them all, the program first. Messages of Qt's platform plug-ins on standard
+  // error are dropped. `argv` must outlive the application.
   explicit Application(char** argv);
 
   static QStringList commandLine(int argc, char** argv);
 
-  // One at a time, not owned; nullptr: none. A listener that comes or goes in the middle of an input gets
-  // nothing more of that one.
+  // One at a time, not owned; nullptr for none. A listener that is set or removed during an input gets no
+  // more calls for that input.
   static void setInputListener(InputListener* listener);
 
   bool notify(QObject* receiver, QEvent* event) override;

@@ -8,8 +8,8 @@
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZUtility/KZTrace.h"
 
-// What happens between a host and its plug-in, as it is: secrets included. A number without a row in the
-// tables of KZCommands.h travels as a value of the enum without a name.
+// An event between a host and its plug-in, with its secrets. A number without a row in the tables of
+// KZCommands.h is an unnamed value of the enum.
 
 struct PluginLoad {
   QString path;
@@ -49,7 +49,7 @@ struct CredentialResponse {
   const void* poster = nullptr;  // only to be compared
 };
 
-// The plug-in asked for an address to be opened.
+// The plug-in opened an address.
 struct AddressRequest {
   QString address;
 };

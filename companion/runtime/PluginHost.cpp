@@ -143,7 +143,7 @@ void PluginHost::setPersonalRoom(const QString& joinUrl, const QString& sipUrl) 
 quint64 PluginHost::sendPluginCommand(const KZEventIdentify& event, const Content& content) {
   const CommandToHost sent = {static_cast<KZCommand>(event.m_componentEventIndex), content};
   report(sent);
-  // A handler may register others, or end what a later one belongs to.
+  // A handler may register others, or destroy the context of a later one.
   const std::vector<RegisteredHandler> handlers = m_handlers;
   for (const RegisteredHandler& registered : handlers) {
     if (registered.command == sent.command && registered.context) registered.handler(content);

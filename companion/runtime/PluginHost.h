@@ -32,20 +32,21 @@ class PluginHost final : public QObject, public KZPluginDelegate {
   // Holds the registration: without the last copy the observer is not called any more.
   using Token = std::shared_ptr<const Observer>;
 
-  // `opener` opens the addresses that the plug-in asks for.
+  // `opener` opens addresses for the plug-in.
   explicit PluginHost(Opener opener = [](const QUrl&) { return true; });
   ~PluginHost() override;
 
-  // False when the file is no plug-in of ours; `errorText` says why. Load at most once.
+  // False when the file is not such a plug-in; `errorText` has the reason. Load at most once.
   [[nodiscard]] bool load(const QString& path);
   const QString& errorText() const { return m_errorText; }
-  // Destroys the plug-in's core and windows; what they still send is dropped. The destructor does it too.
+  // Destroys the plug-in's core and windows; commands that they send meanwhile are dropped. The destructor
+  // does it too.
   void shutDown();
 
   // Called on the thread of the event, in the order of registration.
   [[nodiscard]] Token addObserver(Observer observer);
-  // What the host does about a command of the plug-in, after the observers have seen it and within the call
-  // that sent it; as long as `context` lives. A command may have several handlers.
+  // Registers a handler for a command of the plug-in. It runs after the observers, within the call that sends
+  // the command, while `context` exists. A command may have several handlers.
   void handle(KZCommand command, const QObject* context, CommandHandler handler);
 
   // Without a loaded plug-in these are reported and have no effect.
@@ -84,6 +85,6 @@ class PluginHost final : public QObject, public KZPluginDelegate {
   QString m_errorText;
 };
 
-// Where the plug-in lies, seen from the program: beside it in a build folder, or below lib/ where it is
+// The plug-in's path, relative to the program: beside it in a build folder, or below lib/ where it is
 // installed. The first place when there is none, so that the loader's reason names it.
 QString defaultPluginPath();

@@ -6,8 +6,8 @@
 
 class QLocalSocket;
 
-// By which a second companion on a state folder asks the first one to come to the front. Which one is the
-// first is decided by the settings store's lock. Main thread only.
+// Lets a second companion on a state folder ask the first one to come to the front. The settings store's lock
+// decides which one is the first. Main thread only.
 class SingleInstance final : public QObject {
   Q_OBJECT
 
@@ -20,7 +20,7 @@ class SingleInstance final : public QObject {
   void listen();
 
  Q_SIGNALS:
-  // A second one asks this one to come to the front.
+  // A second companion requested this one to come to the front.
   void asked();
 
  private:

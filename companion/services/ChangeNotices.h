@@ -7,7 +7,7 @@
 
 class PluginHost;
 
-// Explains to the user what a change in Preferences means here. Main thread only.
+// Shows the user the effect of a change in Preferences. Main thread only.
 class ChangeNotices final : public QObject {
   Q_OBJECT
 

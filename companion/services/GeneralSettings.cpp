@@ -23,8 +23,8 @@ QString escaped(QString text) {
       .replace(QLatin1Char('\r'), QLatin1String("\\r"));
 }
 
-// One argument of a command: quoted as a whole, with what a shell would act on behind a backslash, and the
-// per cent signs doubled, which would otherwise be field codes.
+// One quoted argument of a command, with backslashes before special characters and doubled per cent signs,
+// which would otherwise be field codes.
 QString quotedArgument(const QString& argument) {
   QString quoted;
   for (const QChar character : argument) {

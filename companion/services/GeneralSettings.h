@@ -17,8 +17,8 @@ class AutostartEntry final {
 
   static QString userFolder();
 
-  // The reason when the entry could not be written or removed, else null. What is right already is left
-  // alone.
+  // The reason when the entry could not be written or removed, else null. A correct entry is not written
+  // again.
   [[nodiscard]] QString write() const;
   [[nodiscard]] QString remove() const;
 
@@ -30,7 +30,7 @@ class AutostartEntry final {
   QStringList m_command;
 };
 
-// Does what the user chose in the General pane. Main thread only.
+// Applies the user's choices in the General pane. Main thread only.
 class GeneralSettings final : public QObject {
   Q_OBJECT
 

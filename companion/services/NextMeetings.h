@@ -59,7 +59,7 @@ class NextMeetings final : public QObject {
   QString m_text;
 };
 
-// What to do about an account whose saved password is refused.
+// The advice for an account whose saved password is refused.
 QString refusedPasswordText();
 
 // The minutes before its start in which a meeting is announced; 0: none is.

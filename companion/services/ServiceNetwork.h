@@ -7,24 +7,24 @@
 #include "companion/exchange/SandboxDescription.h"
 #include "companion/network/HttpCall.h"
 
-// How the companion reaches servers, and which of them it may ask now. Main thread only.
+// The companion's network, and which servers it may use now. Main thread only.
 class ServiceNetwork final : public QObject {
   Q_OBJECT
 
  public:
-  // With NetworkReach::Sandbox nothing outside the sandbox is asked. `configuration` is for the rest.
+  // With NetworkReach::Sandbox no request leaves the sandbox. `configuration` is for the other servers.
   explicit ServiceNetwork(NetworkReach reach, ExchangeConfiguration configuration = {});
 
   void useSandbox(const SandboxDescription& sandbox);
   void loseSandbox(const QString& reason);  // a sentence
 
-  // Whether anything may be asked. While it is not, `missing` is the reason, in a sentence.
+  // Whether requests are possible now. If not, `missing` is the reason, in a sentence.
   bool isReady() const { return m_reach == NetworkReach::Network || !m_sandbox.isEmpty(); }
   const QString& missing() const { return m_missing; }
-  // Why this address must not be asked, in a sentence; empty where it may be.
+  // Why this address must not be used, in a sentence; empty when it may be.
   QString refusalOf(const QUrl& address) const;
 
-  // Both reach what may be asked now, and must not outlive this.
+  // Both are limited to the servers that may be used now, and must not outlive this object.
   ExchangeConfiguration exchange() const;
   std::unique_ptr<HttpCall> fetch(const QUrl& address, HttpCall::Done done);
 

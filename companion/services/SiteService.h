@@ -12,7 +12,7 @@
 
 class PluginHost;
 
-// What a meeting site publishes about itself.
+// The data that a meeting site publishes.
 struct MeetingSite {
   QString site;            // its host name
   QString name = {};       // null where it has none
@@ -26,13 +26,13 @@ struct MeetingSite {
 // Nothing where the text is no such description. Addresses that the site may not name are left out.
 std::optional<MeetingSite> readMeetingSite(const QString& site, const QByteArray& json);
 
-// The user's meeting site: what it publishes about itself and the user, for the plug-in and for this host.
-// Main thread only.
+// The user's meeting site: the data that it publishes about itself and the user, for the plug-in and this
+// host. Main thread only.
 class SiteService final : public QObject {
   Q_OBJECT
 
  public:
-  // What a site published, or a sentence that says why there is nothing.
+  // The site's data, or a sentence with the reason of the failure.
   struct Result {
     std::optional<MeetingSite> site = {};
     QString failure = {};

@@ -18,7 +18,7 @@ const QString kIsTelemetryOnKey = QStringLiteral("companionTelemetry");
 constexpr qsizetype kLongestValue = 100;
 constexpr auto kOwnerOnly = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
 
-// Only what is known to say nothing about a person.
+// Only values that are known to contain no personal data.
 QByteArray lineOf(const Dictionary& content) {
   const Dictionary said = dictionaryValue(content, TelemetryKey_Values);
   QJsonObject values;
@@ -35,7 +35,7 @@ QByteArray lineOf(const Dictionary& content) {
   return QJsonDocument(record).toJson(QJsonDocument::Compact);
 }
 
-// The names say first what kind of name they are.
+// The names begin with their kind.
 QString shownValue(const QJsonValue& value) {
   return value.toString().section(QLatin1Char('_'), -1);
 }
@@ -73,7 +73,7 @@ void TelemetryService::setOn(bool isOn) {
 
 void TelemetryService::keep(const Dictionary& record) {
   const QString reason = append(lineOf(record) + '\n');
-  // Once until it works again: every click would say it.
+  // Traced once until it works again, not at every click.
   if (!reason.isEmpty() && !m_isFailing) {
     Q_EMIT message(QStringLiteral("Telemetry cannot be kept in %1: %2. Free some space, or switch it off.")
                        .arg(path(), reason));

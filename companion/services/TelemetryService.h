@@ -26,7 +26,7 @@ class TelemetryService final : public QObject {
   // The host is not owned.
   TelemetryService(PluginHost* host, const QString& folder, qint64 fileBytes = kFileBytes);
 
-  // Kept in the store; on where nothing is said.
+  // Stored in the settings; on when absent.
   bool isOn() const;
   void setOn(bool isOn);
 

@@ -62,7 +62,7 @@ void UpdateService::check() {
   }
   trigger(*m_host, KZCommand::KZCmdCheckForUpdates);
   if (m_check == Check::Asked) return;
-  // Without a site the plug-in asks for nothing and leaves its flag to its host.
+  // Without a site the plug-in sends no command, and the host must clear its flag.
   KZUtility::sharedInstance().cleanCheckForUpdatesInProgressFlag();
   Q_EMIT message(
       QStringLiteral("No site is known that could have updates. Choose one in Preferences, Account."));

@@ -13,7 +13,7 @@
 
 class PluginHost;
 
-// What a site offers for download.
+// The version that a site offers for download.
 struct UpdateManifest {
   QVersionNumber version;
   QUrl page = {};  // where the user gets it; empty where the site names none that may be opened
@@ -30,7 +30,7 @@ class UpdateService final : public QObject {
   // The two are not owned and must outlive this.
   UpdateService(PluginHost* host, ServiceNetwork* network);
 
-  // As the user asks for it, through the plug-in.
+  // Checks for the user, through the plug-in.
   void check();
   // Now and then once a day; reports only a newer version.
   void checkQuietly();

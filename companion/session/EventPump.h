@@ -5,8 +5,8 @@
 // Runs the event loop for a script. Main thread only.
 namespace eventpump {
 
-// Until nothing is pending: posted events, queued calls, deferred deletes, and what the display server has
-// sent. Timers and animations that are not due are not waited for.
+// Handles events until none is pending: posted events, queued calls, deferred deletes, and the display
+// server's events. Timers and animations that are not due are not waited for.
 void settle();
 
 // For that long, then until nothing is pending.

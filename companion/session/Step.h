@@ -9,7 +9,7 @@
 #include "companion/format/Line.h"
 #include "host/KZFoundation/Dictionary.h"
 
-// What comes of a step: the line that is printed for it (empty: none), or the reason why it cannot be played.
+// The result of a step: the line that is printed for it (empty: none), or the reason why it cannot be played.
 // A control that a user could not use is no failure: a refusal is printed.
 struct [[nodiscard]] StepResult {
   Line line = {};
@@ -21,7 +21,7 @@ struct [[nodiscard]] StepResult {
 };
 
 // The values of one step. The first that is missing or of a wrong type is remembered and everything after it
-// reads as a default, so that a step reads all it needs and then asks once.
+// reads as a default, so that a step reads all its values and then checks once.
 class Step final {
  public:
   explicit Step(const QJsonObject& values) : m_values(values) {}

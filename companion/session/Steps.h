@@ -6,7 +6,7 @@
 #include "companion/session/Step.h"
 #include "companion/session/UserInput.h"
 
-// What the steps of a session share. Its address marks the notifications that a script posts.
+// The state that the steps of a session share. Its address marks the notifications that a script posts.
 struct StepContext {
   PluginHost* host;  // not owned
   UserInput input = {};
@@ -17,13 +17,13 @@ using StepFunction = StepResult(Step& step, StepContext& context);
 
 namespace steps {
 
-// What a host does to its plug-in.
+// Actions of a host.
 StepFunction command;
 StepFunction notify;
 StepFunction post;
 StepFunction personalRoom;
 
-// What a user does in the plug-in's window.
+// Actions of a user in the plug-in's window.
 StepFunction click;
 StepFunction type;
 StepFunction key;
@@ -32,11 +32,11 @@ StepFunction pane;
 StepFunction close;
 StepFunction activate;
 
-// What the host owns, and what the window shows.
+// The host's state and the window's contents.
 StepFunction get;
 StepFunction set;
 
-// What belongs to the script itself.
+// Steps that concern the script only.
 StepFunction wait;
 StepFunction echo;
 StepFunction measure;

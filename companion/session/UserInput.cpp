@@ -20,7 +20,8 @@
 
 namespace {
 
-// A field lays its whole text out for each key: what follows comes in one piece, as from an input method.
+// A field lays out its whole text at every key, so the rest of a long text is sent at once, as from an input
+// method.
 constexpr qsizetype kKeyByKeyLimit = 2000;
 
 constexpr std::pair<Qt::KeyboardModifier, Qt::Key> kModifierKeys[] = {
@@ -106,7 +107,7 @@ void typeText(const WindowPointer& window, const QString& text) {
   if (place < text.size()) pressKey(window, Qt::Key_unknown, {}, text.mid(place));
 }
 
-// What keeps a user from using the control, wherever it is scrolled to; null when nothing does.
+// The reason why a user could not use the control, even after scrolling; null when there is none.
 QString obstacleTo(const QWidget& control, const QString& name) {
   if (!control.isVisible()) return QStringLiteral("%1 is hidden").arg(name);
   if (!control.isEnabled()) return QStringLiteral("%1 is disabled").arg(name);

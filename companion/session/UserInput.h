@@ -9,8 +9,8 @@ class QAction;
 class QLineEdit;
 class Window;
 
-// Does what a user does: events enter at the window, as the display server's do, so that they hit, focus and
-// close what they would for a user. Every call answers why nothing happened; null when it did. Main thread
+// Simulates a user: events are sent to the window, as by the display server, so that they reach the same
+// controls as a user's. Every call returns the reason why it had no effect; null when it had one. Main thread
 // only.
 class UserInput final {
  public:

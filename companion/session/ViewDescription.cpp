@@ -128,7 +128,7 @@ bool takesTab(const QWidget& view) {
   return view.focusPolicy() & Qt::TabFocus;
 }
 
-// Where Tab goes from the view; nullptr when it stays.
+// The view that Tab moves to; nullptr when the focus stays.
 const QWidget* nextControlOf(const QWidget& view) {
   if (const QWidget* next = nextKeyViewOf(&view)) return next;
   if (!takesTab(view)) return nullptr;

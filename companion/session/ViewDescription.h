@@ -4,6 +4,6 @@
 
 class Window;
 
-// What a script sees of a window: exact frames, texts and states, children in the order in which they were
-// added. Null for no window.
+// The description of a window for scripts: exact frames, texts and states, children in the order in which
+// they were added. Null for no window.
 QJsonValue describeWindow(const Window* window);

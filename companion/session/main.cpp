@@ -68,8 +68,8 @@ bool openScript(const QString& path, QFile* script) {
   return script->open(QIODevice::ReadOnly);
 }
 
-// What to exit with. What the plug-in does while it is unloaded belongs to no step: it is neither printed nor
-// recorded.
+// Returns the exit status. Events while the plug-in is unloaded belong to no step: they are neither printed
+// nor recorded.
 int playScript(const QCommandLineParser& options, QIODevice* script, Record* record) {
   PluginHost host;
   Session session(&host,
@@ -102,7 +102,7 @@ int runSession(const QCommandLineParser& options) {
   }
   Record record;
   record.isKept = options.isSet("check");
-  // What is expected is read before anything is played: the new record may take the file's place.
+  // The expected results are read before the first step, because the new record may replace the file.
   QBuffer checked;
   if (record.isKept) checked.setData(file.readAll());
   const QString recordPath = options.value("record");

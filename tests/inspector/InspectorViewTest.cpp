@@ -181,7 +181,7 @@ TEST_F(InspectorViewTest, AnExportHoldsWhatIsShown) {
 }
 
 TEST_F(InspectorViewTest, SaysThatAnExportFailed) {
-  QSignalSpy noticed(&m_view, &InspectorView::noticed);
+  QSignalSpy noticed(&m_view, &InspectorView::message);
   m_view.exportTo("/nowhere/at/all/events.jsonl");
   ASSERT_EQ(noticed.size(), 1);
   EXPECT_TRUE(noticed.at(0).at(0).toString().contains("could not be written"));
