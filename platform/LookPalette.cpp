@@ -16,7 +16,6 @@ struct LookRoles {
   QRgb accent;
   QRgb onAccent;  // texts; selected ones too
   QRgb link;
-  QRgb linkVisited;
   QRgb notice;
   QRgb noticeText;
   QRgb disabledAccent;
@@ -33,7 +32,6 @@ constexpr LookRoles kLightRoles{.window = 0xf5f5f7,
                                 .accent = 0x1473e6,
                                 .onAccent = 0xffffff,
                                 .link = 0x0b5fd1,
-                                .linkVisited = 0x0b5fd1,
                                 .notice = 0xfff2cf,
                                 .noticeText = 0x1d1d1f,
                                 .disabledAccent = 0xd2d2d6};
@@ -49,7 +47,6 @@ constexpr LookRoles kDarkRoles{.window = 0x2b2c30,
                                .accent = 0x3b8cff,
                                .onAccent = 0x00122b,
                                .link = 0x5aa2ff,
-                               .linkVisited = 0x5aa2ff,
                                .notice = 0x4b3d16,
                                .noticeText = 0xfff6dd,
                                .disabledAccent = 0x4a4c51};
@@ -65,7 +62,6 @@ constexpr LookRoles kContrastLightRoles{.window = 0xffffff,
                                         .accent = 0x0000c8,
                                         .onAccent = 0xffffff,
                                         .link = 0x0000c8,
-                                        .linkVisited = 0x0000c8,
                                         .notice = 0xffffff,
                                         .noticeText = 0x000000,
                                         .disabledAccent = 0xffffff};
@@ -81,7 +77,6 @@ constexpr LookRoles kContrastDarkRoles{.window = 0x000000,
                                        .accent = 0x1aebff,
                                        .onAccent = 0x000000,
                                        .link = 0x1aebff,
-                                       .linkVisited = 0x1aebff,
                                        .notice = 0x000000,
                                        .noticeText = 0xffffff,
                                        .disabledAccent = 0x000000};
@@ -103,7 +98,7 @@ QPalette paletteFromRoles(const LookRoles& roles) {
   set(QPalette::Highlight, roles.accent);
   set(QPalette::HighlightedText, roles.onAccent);
   set(QPalette::Link, roles.link);
-  set(QPalette::LinkVisited, roles.linkVisited);
+  set(QPalette::LinkVisited, roles.link);
   set(QPalette::ToolTipBase, roles.notice);
   set(QPalette::ToolTipText, roles.noticeText);
   set(QPalette::Mid, roles.separator);
