@@ -1,12 +1,12 @@
 #include <gtest/gtest.h>
 
 #include <QLineEdit>
-#include <QProxyStyle>
 #include <QTest>
 #include <QToolBar>
 #include <QVariantAnimation>
 
 #include "KZPreference/windows/LWPrefsWindowController.h"
+#include "bench/ReducedMotion.h"
 #include "host/KZUtility/KZTrace.h"
 #include "platform/FrameLayout.h"
 #include "platform/PopUpButton.h"
@@ -15,14 +15,6 @@
 #include "tests/kit/Input.h"
 
 namespace {
-
-class StillStyle final : public QProxyStyle {
- public:
-  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                QStyleHintReturn* answer) const override {
-    return hint == SH_Widget_Animate ? 0 : QProxyStyle::styleHint(hint, option, widget, answer);
-  }
-};
 
 class Controller final : public LWPrefsWindowController {
  public:
@@ -165,17 +157,21 @@ TEST_F(MultiPaneWindowTest, ShiftSlowsTheFade) {
   }
 }
 
-TEST_F(MultiPaneWindowTest, SwitchesAtOnceWithoutFadeAndWithReducedMotion) {
+TEST_F(MultiPaneWindowTest, WithoutFadeTheSizeIsAnimatedAndWithReducedMotionNothing) {
   show();
   m_controller.setCrossFade(false);
   click("Tall");
+  ASSERT_TRUE(isFading());
+  animation()->pause();
+  animation()->setCurrentTime(125);
+  EXPECT_EQ(shown(), QList<QWidget*>{pane("Tall240")});
+  EXPECT_NEAR(window()->height(), m_toolbarHeight + 150, 1);
+  animation()->setCurrentTime(250);
   expectSettledOn("Tall240", 240);
   m_controller.setCrossFade(true);
-  StillStyle still;
-  window()->setStyle(&still);
+  reduceMotion(window());
   click("Middle");
   expectSettledOn("Middle120", 120);
-  window()->setStyle(nullptr);
 }
 
 TEST_F(MultiPaneWindowTest, OnlyCommandAndASmallWCloses) {
