@@ -1,7 +1,6 @@
 #include "platform/FrameLayout.h"
 
 #include <QEvent>
-#include <QGuiApplication>
 #include <QPointer>
 #include <QScreen>
 #include <QVariant>
@@ -56,7 +55,7 @@ double screenHeight(const QWidget* window) {
 bool canMoveItself(const QWidget* window) {
   const auto* titled = qobject_cast<const Window*>(window);
   const bool isPlaced = window->isVisible() && (!titled || titled->isOnScreen());
-  return isPlaced && !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+  return isPlaced && !isOnWayland();
 }
 
 // Places the subviews of one view by their frames.
@@ -169,10 +168,8 @@ void setWindowSize(QWidget* window, const Size& size) {
   placement.frame.width = size.width;
   placement.frame.height = size.height;
   keep(window, placement);
-  const auto* titled = qobject_cast<const Window*>(window);
-  if (titled && !titled->decidesItsSize()) return;
   // The user cannot resize a window; a view without a parent must stay resizable.
-  if (titled) {
+  if (qobject_cast<Window*>(window)) {
     window->setFixedSize(roundedSize(placement.frame));
   } else {
     window->resize(roundedSize(placement.frame));

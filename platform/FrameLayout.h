@@ -22,8 +22,7 @@ PLATFORM_EXPORT void removeFromSuperview(QWidget* view);
 // A window that is not on the screen, or that the platform does not let move itself, takes the size only.
 PLATFORM_EXPORT void setFrame(QWidget* view, const Frame& frame);
 
-// The upper left corner stays where the window manager has it. While the window manager decides the size,
-// the window stays as it is.
+// The upper left corner stays where the window manager has it.
 PLATFORM_EXPORT void setWindowSize(QWidget* window, const Size& size);
 
 // Where the window's frame can be so that its decoration too is in the available part of its screen.

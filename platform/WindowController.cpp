@@ -1,8 +1,10 @@
 #include "platform/WindowController.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
+#include <QTimer>
 #include <QTimerEvent>
 #include <QWindow>
 
@@ -12,6 +14,7 @@ namespace {
 
 // Under X11 an answer to an earlier size may come after the last one was asked for.
 constexpr int kResizeMilliseconds = 200;
+constexpr int kRemapMilliseconds = 1000;
 
 }  // namespace
 
@@ -52,6 +55,10 @@ void WindowController::keyDown(QKeyEvent* event) {
   event->ignore();
 }
 
+bool isOnWayland() {
+  return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
+
 Window::Window() {
   setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                  Qt::WindowCloseButtonHint);
@@ -62,14 +69,13 @@ bool Window::isOnScreen() const {
   return windowHandle() && windowHandle()->isExposed();
 }
 
-bool Window::decidesItsSize() const {
-  return !(windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen));
-}
-
 bool Window::event(QEvent* event) {
   const bool isHandled = QWidget::event(event);
   switch (event->type()) {
     case QEvent::WindowActivate:
+      // Qt would give the focus to the first view that takes it.
+      if (!focusWidget() && m_initialFirstResponder)
+        m_initialFirstResponder->setFocus(Qt::ActiveWindowFocusReason);
       if (m_controller) m_controller->windowDidBecomeKey();
       break;
     case QEvent::WinIdChange:
@@ -77,12 +83,9 @@ bool Window::event(QEvent* event) {
       break;
     case QEvent::Resize:
       m_resizeTimer.start(kResizeMilliseconds, this);
-      [[fallthrough]];
-    case QEvent::Move:
-      noticeRoom(decidesItsSize() ? foreignSize() : size());
       break;
-    case QEvent::WindowStateChange:
-      noticeRoom(decidesItsSize() ? QSize() : size());
+    case QEvent::Move:
+      noticeRoom(foreignSize());
       break;
     default:
       break;
@@ -91,11 +94,31 @@ bool Window::event(QEvent* event) {
 }
 
 bool Window::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::Expose && watched == windowHandle()) noticeRoom(foreignSize());
-  return QWidget::eventFilter(watched, event);
+  if (watched != windowHandle()) return QWidget::eventFilter(watched, event);
+  if (event->type() == QEvent::Expose) noticeRoom(foreignSize());
+  if (event->type() == QEvent::WindowStateChange) refuseMaximizing();
+  return false;
+}
+
+// A window of fixed size cannot be maximised, but some platforms offer it all the same. A Wayland compositor
+// may end a program whose maximised window has another size than it said, so nothing more is shown of this
+// one, and it is made anew. A compositor that maximises that too gets its way.
+void Window::refuseMaximizing() {
+  const Qt::WindowStates states = windowHandle()->windowStates();
+  if (!states.testFlag(Qt::WindowMaximized)) return;
+  windowHandle()->setWindowStates(states & ~Qt::WindowMaximized);
+  if (!isOnWayland() || m_remapTimer.isActive()) return;
+  m_remapTimer.start(kRemapMilliseconds, this);
+  setUpdatesEnabled(false);
+  QTimer::singleShot(0, this, [this] {
+    hide();
+    setUpdatesEnabled(true);
+    show();
+  });
 }
 
 void Window::timerEvent(QTimerEvent* event) {
+  if (event->timerId() == m_remapTimer.timerId()) return m_remapTimer.stop();
   if (event->timerId() != m_resizeTimer.timerId()) return QWidget::timerEvent(event);
   m_resizeTimer.stop();
   noticeRoom(size() == minimumSize() ? QSize() : size());

@@ -44,6 +44,9 @@ class PLATFORM_EXPORT WindowController : public QObject {
   QPointer<Window> m_window;
 };
 
+// The compositor places and decorates windows.
+PLATFORM_EXPORT bool isOnWayland();
+
 // A titled, closable window that the user cannot resize. Its frame is in screen points, y up, without the
 // window manager's decoration. Main thread only.
 class PLATFORM_EXPORT Window : public QWidget {
@@ -59,8 +62,6 @@ class PLATFORM_EXPORT Window : public QWidget {
 
   // False until the window is painted first, and while it is hidden or minimised.
   bool isOnScreen() const;
-  // False while the window manager decides, as for a maximised window; setting a size then has no effect.
-  bool decidesItsSize() const;
   // The size that the window manager gave it instead of its own; invalid when it did not.
   QSize foreignSize() const { return m_room ? m_room->foreignSize : QSize(); }
   // The controller is told of the window's room again, as soon as the window is on the screen.
@@ -86,10 +87,12 @@ class PLATFORM_EXPORT Window : public QWidget {
     bool operator==(const Room&) const = default;
   };
 
+  void refuseMaximizing();
   void noticeRoom(const QSize& foreignSize);
 
   WindowController* m_controller = nullptr;
   QPointer<QWidget> m_initialFirstResponder;
   std::optional<Room> m_room;
   QBasicTimer m_resizeTimer;
+  QBasicTimer m_remapTimer;
 };
