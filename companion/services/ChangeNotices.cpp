@@ -21,7 +21,8 @@ QString roomNotice(const QString& room) {
 }
 
 QString sourceNotice() {
-  const Dictionary calendar = KZPlistFileHandle::sharedInstance().calendarIntegration();
+  const Dictionary calendar =
+      KZPlistFileHandle::sharedInstance().calendarIntegration().value_or(Dictionary());
   const QString source = textValue(calendar, kKZCalendarIntegrationSource);
   if (source == kKZCalendarIntegrationSourceOutlook) {
     return QStringLiteral("Meetings come from Microsoft Outlook now.");

@@ -189,7 +189,7 @@ void SiteService::joinByNumber() {
     return Q_EMIT message(noPageText(QStringLiteral("for joining by number")));
   }
   // The record replaces the stored one, so a guest's is sent as it is.
-  Dictionary wanted = m_isSignedIn ? record() : siteStore().preferenceInfo();
+  Dictionary wanted = m_isSignedIn ? record() : siteStore().preferenceInfo().value_or(Dictionary());
   wanted.insert(QStringLiteral("customInfo"),
                 QStringLiteral("{\"AppActionType\":\"%1\"}").arg(AppActionType_JoinByNumber));
   sendRecord(wanted);

@@ -36,7 +36,7 @@ void CalendarSubView::initDays() {
 }
 
 void CalendarSubView::setCalendarPreference(const Dictionary& preference) {
-  const QString days = textValue(preference, kKZCalendarIntegrationDays);
+  const QString days = countValue(preference, kKZCalendarIntegrationDays);
   m_daysBtn->setTitle(days.isNull() ? kKZCalendarIntegrationDaysDefault : days);
 }
 

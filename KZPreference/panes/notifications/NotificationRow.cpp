@@ -46,7 +46,7 @@ void NotificationRow::initMinutes() {
 void NotificationRow::setPreference(const Content& preference) {
   if (preference) m_prefs = *preference;
   const bool isOn = flagValue(m_prefs, m_kind.stateKey).value_or(true);
-  const QString minutes = textValue(m_prefs, m_kind.minutesKey);
+  const QString minutes = countValue(m_prefs, m_kind.minutesKey);
   m_checkbox->setChecked(isOn);
   m_minutesBtn->setTitle(minutes.isNull() ? kDefaultMinutes : minutes);
   m_minutesBtn->setEnabled(isOn);
