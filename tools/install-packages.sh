@@ -12,6 +12,8 @@ packages=(
   librsvg2-bin fonts-inter fonts-noto-cjk fontconfig
   # Qt's own texts in other languages
   qt6-translations-l10n
+  # the tests switch accessibility on
+  qt6-base-private-dev
   # a keychain for the tests, on a bus of its own
   dbus gnome-keyring
   # the Debian package
