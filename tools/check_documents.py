@@ -8,7 +8,7 @@ from project_files import ROOT, finish, project_files, read
 FENCE = re.compile(r"^```.*?^```$", re.MULTILINE | re.DOTALL)
 LINK = re.compile(r"\]\(([^)#\s]+)(?:#[^)]*)?\)|src(?:set)?=\"([^\"]+)\"")
 CODE = re.compile(r"`([^`\n]+)`")
-MAKE = re.compile(r"\bmake ([a-z-]+)")
+MAKE = re.compile(r"\bmake ([a-z0-9-]+)")
 NAME = re.compile(r"^~?[A-Za-z_]\w*(?:::\w+)*(?:\(\))?$")
 FOLDER = re.compile(r"^(?:adal|bench|cmake|companion|docs|host|KZPreference|platform|sandbox|tests|tools|\.ci)/")
 # Names from outside the project.
