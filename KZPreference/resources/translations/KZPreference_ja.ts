@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>DOMAIN\username or Email</source>
-        <translation>ドメイン\ユーザー名またはメールアドレス</translation>
+        <translation>ドメイン\ユーザー名またはメール</translation>
     </message>
     <message>
         <source>Password</source>
