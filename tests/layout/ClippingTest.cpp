@@ -64,6 +64,7 @@ QList<QRect> boxesIn(const QWidget& root) {
 
 // What is wrong with the texts of the view; empty when nothing is.
 QStringList faultsOf(QWidget& view) {
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
   const QList<PaintedText> painted = paintedTexts(view);
   const bool isMirrored = QGuiApplication::isRightToLeft();
   QStringList faults;
@@ -115,8 +116,8 @@ class Clipping : public testing::Test {
 
   void fill(const Addresses& addresses) {
     KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
-    store.setDisplayName(QStringLiteral("Annegret Mustermann-Example"));
-    store.setUserName(QStringLiteral("annegret.mustermann@brenn.example"));
+    store.setDisplayName(QStringLiteral("Ann Mustermann"));
+    store.setUserName(QStringLiteral("ann@brenn.example"));
     store.setSiteName(QStringLiteral("meetings.brenn.example"));
     store.setPreferenceInfo(dictionaryWithPairs(
         {{QRT_Preference_PMRUrl, addresses.room}, {QRT_Preference_PMRSipUrl, addresses.video}}));

@@ -25,11 +25,20 @@ class TextEngine final : public QPaintEngine {
   }
 
   void drawTextItem(const QPointF& place, const QTextItem& item) override {
-    const QString text = item.text().trimmed();
-    if (text.isEmpty()) return;
+    const QString text = item.text();
+    if (text.trimmed().isEmpty()) return;
     const QPointF at = m_transform.map(place);
     const QRectF ink = QFontMetricsF(item.font()).tightBoundingRect(text).translated(at);
     const QRectF clip = systemClip().isEmpty() ? m_area : QRectF(systemClip().boundingRect());
+    // A text in several fonts comes in parts.
+    if (!m_texts.isEmpty() && m_texts.last().clip == clip && m_texts.last().baseline == at.y() &&
+        qAbs(m_texts.last().right - at.x()) < 1) {
+      PaintedText& whole = m_texts.last();
+      whole.text += text;
+      whole.right = at.x() + item.width();
+      whole.ink |= ink;
+      return;
+    }
     m_texts.append({.text = text,
                     .font = item.font(),
                     .color = m_pen.color(),
