@@ -42,8 +42,8 @@ QRect geometryIn(const QWidget* parent, const Frame& frame) {
   return {left, top, right - left, bottom - top};
 }
 
-// What a view needs beyond its frame is given to it where its superview has room: at its end, and above and below
-// alike; below only for a view that is filled from the top.
+// What a view needs beyond its frame is given to it where its superview has room: at its end, and above and
+// below alike; below only for a view that is filled from the top.
 QRect withNeededRoom(const QWidget* view, QRect place, bool isFilledFromTop) {
   const QSize least = view->minimumSizeHint();
   const QRect room = view->parentWidget()->rect();

@@ -89,8 +89,8 @@ void MeetingSubView::placeCopyButtons() {
   place(m_copySipurlBtn, m_sipurl, 0);
 }
 
-// The group's width does not include the gaps, so a link may reach beyond it, to the pane's edge; nor does its
-// height follow the title's.
+// The group's width does not include the gaps, so a link may reach beyond it, to the pane's edge; nor does
+// its height follow the title's.
 QSize MeetingSubView::minimumSizeHint() const {
   const int width = parentWidget() ? parentWidget()->width() - int(frameOf(this).x) : 0;
   return {width, int(titleTextSize(PrefMeetingViewVisible::meetingslabel()).height)};
