@@ -3,16 +3,19 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QFontInfo>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
 #include <QPushButton>
 #include <QToolBar>
+#include <QToolTip>
 
 #include "KZPreference/layout/PrefsViewDefine.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 #include "platform/FrameLayout.h"
+#include "platform/StaticText.h"
 #include "platform/View.h"
 #include "tests/KZPreference/panes/meetings/PreferenceHost.h"
 #include "tests/kit/Input.h"
@@ -221,6 +224,49 @@ TEST_F(Clipping, EveryTextIsWholeInEveryLanguageAndFont) {
       }
     }
   }
+}
+
+QString toolTipOf(QWidget* view) {
+  QToolTip::hideText();
+  QHelpEvent event(QEvent::ToolTip, QPoint(1, 1), view->mapToGlobal(QPoint(1, 1)));
+  QCoreApplication::sendEvent(view, &event);
+  return QToolTip::text();
+}
+
+// A frame as wide as the text is measured suffices, wherever its edges are between two pixels.
+TEST(StaticTextLayout, ElidesWhatIsWiderThanItsFrameAndShowsItInAToolTip) {
+  const QString name = QStringLiteral("Ada <b>Byron</b>, Countess of Lovelace");
+  const double measured = labelTextWidth(name);
+  for (const double x : {0.0, 0.3, 0.49, 0.5, 0.7}) {
+    for (const double spare : {-1.1, 0.0, 0.3, 0.5}) {
+      QWidget parent;
+      parent.resize(800, 40);
+      auto* text = new StaticText(name, FontRole::Label, labelFontSize);
+      addSubview(&parent, text, {x, 0, measured + spare, 22});
+      const bool isWhole = spare >= 0;
+      EXPECT_EQ(paintedTexts(*text).value(0).text == name, isWhole) << x << ", " << spare;
+      EXPECT_EQ(toolTipOf(text), isWhole ? QString() : name.toHtmlEscaped()) << x << ", " << spare;
+    }
+  }
+}
+
+// A text of the host that is longer than the group is high ends in "…" in its last line.
+TEST(StaticTextLayout, WrapsWithinItsSuperview) {
+  QWidget parent;
+  parent.resize(300, 100);
+  auto* text = new StaticText(QString(QStringLiteral("word ")).repeated(20), FontRole::Label, labelFontSize);
+  text->setWordWrap(true);
+  addSubview(&parent, text, {20, 70, 200, 20});
+  const auto lines = [&] {
+    setFrame(text, frameOf(text));
+    return paintedTexts(*text).size();
+  };
+  EXPECT_EQ(lines(), 4);
+  EXPECT_EQ(toolTipOf(text), QString());
+  text->setText(text->text().repeated(10));
+  EXPECT_EQ(lines(), 5);
+  EXPECT_TRUE(paintedTexts(*text).last().text.endsWith(u'…'));
+  EXPECT_EQ(toolTipOf(text), text->text());
 }
 
 }  // namespace
