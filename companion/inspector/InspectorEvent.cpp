@@ -170,7 +170,7 @@ QString InspectorEvent::wholeContent() const {
 QByteArray InspectorEvent::exportedLine() const {
   // Content that was cut is no JSON any more.
   const QJsonDocument json = QJsonDocument::fromJson(content.toUtf8());
-  const QJsonObject line{{"time", QDateTime::fromMSecsSinceEpoch(time, Qt::UTC).toString(Qt::ISODateWithMs)},
+  const QJsonObject line{{"time", QDateTime::fromMSecsSinceEpoch(time).toUTC().toString(Qt::ISODateWithMs)},
                          {"kind", kind},
                          {"name", title},
                          {"content", json.isObject() ? QJsonValue(json.object()) : QJsonValue(content)}};

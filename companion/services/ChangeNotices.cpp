@@ -22,7 +22,8 @@ QString roomNotice(const QString& room) {
 }
 
 QString sourceNotice() {
-  const Dictionary calendar = KZPlistFileHandle::sharedInstance().calendarIntegration();
+  const Dictionary calendar =
+      KZPlistFileHandle::sharedInstance().calendarIntegration().value_or(Dictionary());
   const QString source = textValue(calendar, kKZCalendarIntegrationSource);
   if (source == kKZCalendarIntegrationSourceOutlook) {
     return companionText("Meetings come from Microsoft Outlook now.");

@@ -86,9 +86,10 @@ void NextMeetings::request() {
   m_tokenEmail.clear();
   m_tokenDeadline.stop();
   m_exchange.reset();
-  const Dictionary calendar = KZPlistFileHandle::sharedInstance().calendarIntegration();
+  const Dictionary calendar =
+      KZPlistFileHandle::sharedInstance().calendarIntegration().value_or(Dictionary());
   m_account = dictionaryValue(calendar, kKZCalendarIntegrationExchange);
-  m_days = std::clamp(textValue(calendar, kKZCalendarIntegrationDays).toInt(), 1, kMostDays);
+  m_days = std::clamp(countValue(calendar, kKZCalendarIntegrationDays).toInt(), 1, kMostDays);
   const QString missing = missingText(textValue(calendar, kKZCalendarIntegrationSource), m_account);
   if (!missing.isEmpty()) return show({}, missing);
   // The request of a token would already reach an online service.
@@ -149,7 +150,8 @@ QString refusedPasswordText() {
 }
 
 int announcedMinutes() {
-  const Dictionary settings = KZPlistFileHandle::sharedInstance().meetingNotification();
-  if (!isSet(settings, kKZMeetintNotificationToast)) return 0;
-  return textValue(settings, kKZMeetintNotificationToastMinutes).toInt();
+  const Dictionary settings =
+      KZPlistFileHandle::sharedInstance().meetingNotification().value_or(Dictionary());
+  if (!flagValue(settings, kKZMeetintNotificationToast).value_or(true)) return 0;
+  return countValue(settings, kKZMeetintNotificationToastMinutes).toInt();
 }

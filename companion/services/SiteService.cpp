@@ -192,7 +192,7 @@ void SiteService::joinByNumber() {
         companionText("%1 names no page for joining by number. Ask your administrator for its address.")));
   }
   // The record replaces the stored one, so a guest's is sent as it is.
-  Dictionary wanted = m_isSignedIn ? record() : siteStore().preferenceInfo();
+  Dictionary wanted = m_isSignedIn ? record() : siteStore().preferenceInfo().value_or(Dictionary());
   wanted.insert(QStringLiteral("customInfo"),
                 QStringLiteral("{\"AppActionType\":\"%1\"}").arg(AppActionType_JoinByNumber));
   sendRecord(wanted);

@@ -63,8 +63,7 @@ TelemetryService::TelemetryService(PluginHost* host, const QString& folder, qint
 }
 
 bool TelemetryService::isOn() const {
-  const KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
-  return !store.isPlistKeyExist(kIsTelemetryOnKey) || store.value(kIsTelemetryOnKey).toBool();
+  return asFlag(KZPlistFileHandle::sharedInstance().value(kIsTelemetryOnKey)).value_or(true);
 }
 
 void TelemetryService::setOn(bool isOn) {
