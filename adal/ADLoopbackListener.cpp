@@ -101,7 +101,7 @@ void ADLoopbackListener::answerRequest(QTcpSocket* socket, const QByteArray& req
   }
   const ADParameters answer = mark < 0 ? ADParameters() : decodedParameters(words.at(1).sliced(mark + 1));
   if (m_receiver(answer) == Verdict::NotOurs) {
-    endWith(socket, callbackPage("400 Bad Request", "This is not the answer that is waited for."));
+    endWith(socket, callbackPage("400 Bad Request", "This is not the expected answer."));
     return;
   }
   m_server.close();

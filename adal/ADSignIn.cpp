@@ -192,7 +192,7 @@ void ADSignIn::onCodeEntered(const QString& entered) {
   if (onCallback(decodedParameters(entered.sliced(mark + 1).toUtf8())) ==
       ADLoopbackListener::Verdict::NotOurs) {
     m_dialog->showProblem(
-        ADAuthenticationSettings::sharedInstance().text("This is not the answer that is waited for."));
+        ADAuthenticationSettings::sharedInstance().text("This is not the expected answer."));
   }
 }
 

@@ -36,7 +36,7 @@ ADSignInDialog::ADSignInDialog(Kind kind, const QUrl& address) {
   auto* const rows = new QVBoxLayout(this);
   m_messageTxt = new QLabel(dialogText(
       kind == Kind::AskForCode
-          ? "Sign in with your browser. It shows you a code at the end: enter the code here to go on."
+          ? "Sign in in your browser. At the end it shows a code; enter it here to continue."
           : "Waiting for you to sign in with your browser. This window closes by itself when you are done."));
   m_messageTxt->setObjectName(QStringLiteral("m_messageTxt"));
   m_messageTxt->setWordWrap(true);

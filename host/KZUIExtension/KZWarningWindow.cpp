@@ -1,6 +1,5 @@
 #include "host/KZUIExtension/KZWarningWindow.h"
 
-#include <QCoreApplication>
 #include <QFontMetrics>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -12,6 +11,7 @@
 #include <QTextDocument>
 
 #include "host/KZUIExtension/KZRetinaHelper.h"
+#include "host/KZUtility/KZStringTable.h"
 
 namespace {
 
@@ -36,6 +36,11 @@ void makeMessageFlat(QPlainTextEdit* message) {
   message->viewport()->setAutoFillBackground(false);
 }
 
+QString warningText(const char* english) {
+  static KZStringTable table(QStringLiteral(":/KZHost/translations"), QStringLiteral("KZHost"));
+  return table.text(english);
+}
+
 }  // namespace
 
 KZWarningWindow::KZWarningWindow()
@@ -50,7 +55,7 @@ KZWarningWindow::KZWarningWindow()
   m_title->setWordWrap(true);
   m_title->setFixedWidth(kMessageWidth);
   makeMessageFlat(m_message);
-  m_ok->setText(QCoreApplication::translate("KZHost", "OK"));
+  m_ok->setText(warningText("OK"));
   m_ok->setDefault(true);
   m_ok->setMinimumWidth(76);
   connect(m_ok, &QPushButton::clicked, this, &QWidget::close);

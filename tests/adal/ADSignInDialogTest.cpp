@@ -64,7 +64,7 @@ TEST_F(ADSignInDialogTest, PastedAddressOfAnotherRequestIsNotTaken) {
   press("m_continueBtn");
   EXPECT_FALSE(result);
   ASSERT_EQ(dialogs().size(), 1);
-  EXPECT_TRUE(control<QLabel>("m_messageTxt")->text().contains("not the answer"));
+  EXPECT_TRUE(control<QLabel>("m_messageTxt")->text().contains("not the expected answer"));
   EXPECT_TRUE(authority->tokenRequests().isEmpty());
 }
 

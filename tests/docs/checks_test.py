@@ -46,26 +46,29 @@ class LayersTest(unittest.TestCase):
 
 
 class TranslationsTest(unittest.TestCase):
-    CODE = r'addText(localizedString("Email:")); add(m_pane, "Gen\"eral\"", icon); log("not shown");'
+    CODE = r'text(localizedString("Email:")); add(m_pane, "Gen\"eral\"", icon); f(text("%1 of %2")); log("not shown");'
 
     def test_what_is_not_complete_is_found(self):
-        general, email = ('Gen"eral"', "Allgemein", ""), ("Email:", "E-Mail:", "")
+        general, email, count = ('Gen"eral"', "Allgemein", ""), ("Email:", "E-Mail:", ""), ("%1 of %2", "%2: %1", "")
         cases = [
-            (None, [general, email]),
-            (None, [general, ("Email:", "メール：", "")]),
-            ("missing", [general]),
-            ("empty", [general, ("Email:", "", "")]),
-            ("colon", [general, ("Email:", "E-Mail", "")]),
-            ("unfinished", [general, ("Email:", "E-Mail:", ' type="unfinished"')]),
-            ("twice", [general, general, email]),
-            ("no longer used", [general, email, ("Gone", "Weg", "")]),
+            (None, "de", [general, email, count]),
+            (None, "ja", [general, ("Email:", "メール：", ""), ("%1 of %2", "%2/%1", "")]),
+            ("missing", "de", [general, count]),
+            ("empty", "de", [general, ("Email:", "", ""), count]),
+            ("colon at the end", "de", [general, ("Email:", "E-Mail", ""), count]),
+            ("the language's", "fr", [general, ("Email:", "E-mail :", ""), ("%1 of %2", "%1\u00a0: %2", "")]),
+            ("unfinished", "de", [general, ("Email:", "E-Mail:", ' type="unfinished"'), count]),
+            ("twice", "de", [general, general, email, count]),
+            ("no longer used", "de", [general, email, count, ("Gone", "Weg", "")]),
+            ("placeholders", "de", [general, email, ("%1 of %2", "%1 von %1", "")]),
+            ("mnemonic", "de", [('Gen"eral"', "&amp;Allgemein", ""), email, count]),
         ]
-        keys = check_translations.keys_in(self.CODE)
-        for reason, messages in cases:
+        keys = check_translations.keys_in(self.CODE, check_translations.TABLES[0][2])
+        for reason, language, messages in cases:
             content = "".join(f"<message><source>{source}</source><translation{mark}>{text}</translation></message>"
                               for source, text, mark in messages)
             with self.subTest(reason=reason):
-                found = list(check_translations.language_findings("xx.ts", f"<TS>{content}</TS>", keys,
+                found = list(check_translations.language_findings(f"x_{language}.ts", f"<TS>{content}</TS>", keys,
                                                                   keys | {"not shown"}))
                 self.assertEqual(len(found), 1 if reason else 0, found)
                 self.assertIn(reason or "", "".join(found))

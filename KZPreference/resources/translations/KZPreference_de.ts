@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>Notifications</source>
-        <translation>Mitteilungen</translation>
+        <translation>Benachrichtigungen</translation>
     </message>
     <message>
         <source>Video devices</source>
@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>Schedule or start Mivra meetings from Microsoft Outlook</source>
-        <translation>Mivra-Besprechungen aus Microsoft Outlook planen oder starten</translation>
+        <translation>Mivra-Besprechungen in Microsoft Outlook planen oder starten</translation>
     </message>
     <message>
         <source>Your setting changes will take effect after you restart Microsoft Outlook.</source>
@@ -73,7 +73,7 @@
     </message>
     <message>
         <source>Save</source>
-        <translation>Sichern</translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>Invalid email address</source>
@@ -85,7 +85,7 @@
     </message>
     <message>
         <source>Video address:</source>
-        <translation>Adresse für Video:</translation>
+        <translation>Videoadresse:</translation>
     </message>
     <message>
         <source>Copy</source>
@@ -149,15 +149,15 @@
     </message>
     <message>
         <source>Invalid email or password</source>
-        <translation>E-Mail oder Passwort ungültig</translation>
+        <translation>E-Mail-Adresse oder Passwort ungültig</translation>
     </message>
     <message>
         <source>Applied successfully</source>
-        <translation>Erfolgreich angewendet</translation>
+        <translation>Erfolgreich übernommen</translation>
     </message>
     <message>
         <source>Meeting notifications</source>
-        <translation>Besprechungsmitteilungen</translation>
+        <translation>Besprechungsbenachrichtigungen</translation>
     </message>
     <message>
         <source>minutes before scheduled start time.</source>
@@ -165,11 +165,11 @@
     </message>
     <message>
         <source>Snooze</source>
-        <translation>Schlummern</translation>
+        <translation>Später erinnern</translation>
     </message>
     <message>
         <source>minutes after Snooze.</source>
-        <translation>Minuten nach dem Schlummern.</translation>
+        <translation>Minuten nach der ersten Erinnerung.</translation>
     </message>
     <message>
         <source>Upcoming Meeting card on dashboard</source>
@@ -181,11 +181,11 @@
     </message>
     <message>
         <source>Sign in</source>
-        <translation>Anmelden</translation>
+        <translation>Anmeldung</translation>
     </message>
     <message>
-        <source>Sign in with your browser. It shows you a code at the end: enter the code here to go on.</source>
-        <translation>Melden Sie sich in Ihrem Browser an. Am Ende zeigt er einen Code: Geben Sie ihn hier ein, um fortzufahren.</translation>
+        <source>Sign in in your browser. At the end it shows a code; enter it here to continue.</source>
+        <translation>Melden Sie sich in Ihrem Browser an. Am Ende zeigt er einen Code; geben Sie ihn hier ein, um fortzufahren.</translation>
     </message>
     <message>
         <source>Waiting for you to sign in with your browser. This window closes by itself when you are done.</source>
@@ -216,12 +216,12 @@
         <translation>Weiter</translation>
     </message>
     <message>
-        <source>This is not the answer that is waited for.</source>
+        <source>This is not the expected answer.</source>
         <translation>Das ist nicht die erwartete Antwort.</translation>
     </message>
     <message>
         <source>Your answer has arrived. You can close this page.</source>
-        <translation>Ihre Antwort ist angekommen. Sie können diese Seite schließen.</translation>
+        <translation>Ihre Anmeldung ist eingegangen. Sie können diese Seite schließen.</translation>
     </message>
     <message>
         <source>This request is too long.</source>

@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Email address:</source>
-        <translation>Dirección de correo:</translation>
+        <translation>Correo electrónico:</translation>
     </message>
     <message>
         <source>Change</source>
@@ -65,7 +65,7 @@
     </message>
     <message>
         <source>Your email address:</source>
-        <translation>Su dirección de correo:</translation>
+        <translation>Su correo electrónico:</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -77,11 +77,11 @@
     </message>
     <message>
         <source>Invalid email address</source>
-        <translation>Dirección de correo no válida</translation>
+        <translation>Correo electrónico no válido</translation>
     </message>
     <message>
         <source>Personal Room:</source>
-        <translation>Mi sala personal:</translation>
+        <translation>Su sala personal:</translation>
     </message>
     <message>
         <source>Video address:</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Email:</source>
-        <translation>Correo:</translation>
+        <translation>Correo electrónico:</translation>
     </message>
     <message>
         <source>Password:</source>
@@ -137,11 +137,11 @@
     </message>
     <message>
         <source>Email address</source>
-        <translation>Dirección de correo</translation>
+        <translation>Correo electrónico</translation>
     </message>
     <message>
         <source>DOMAIN\username or Email</source>
-        <translation>DOMINIO\usuario o correo</translation>
+        <translation>DOMINIO\usuario o correo electrónico</translation>
     </message>
     <message>
         <source>Password</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>Invalid email or password</source>
-        <translation>Correo o contraseña no válidos</translation>
+        <translation>Correo electrónico o contraseña no válidos</translation>
     </message>
     <message>
         <source>Applied successfully</source>
@@ -181,19 +181,19 @@
     </message>
     <message>
         <source>Sign in</source>
-        <translation>Iniciar sesión</translation>
+        <translation>Inicio de sesión</translation>
     </message>
     <message>
-        <source>Sign in with your browser. It shows you a code at the end: enter the code here to go on.</source>
-        <translation>Inicie sesión en el navegador. Al final muestra un código: introdúzcalo aquí para continuar.</translation>
+        <source>Sign in in your browser. At the end it shows a code; enter it here to continue.</source>
+        <translation>Inicie sesión en el navegador. Al final, el navegador mostrará un código; introdúzcalo aquí para continuar.</translation>
     </message>
     <message>
         <source>Waiting for you to sign in with your browser. This window closes by itself when you are done.</source>
-        <translation>Esperando a que inicie sesión en el navegador. Esta ventana se cierra sola cuando termine.</translation>
+        <translation>Esperando a que inicie sesión en el navegador. Esta ventana se cerrará sola cuando termine.</translation>
     </message>
     <message>
         <source>If no browser opened, open this &amp;address yourself:</source>
-        <translation>Si no se abrió ningún navegador, abra usted esta &amp;dirección:</translation>
+        <translation>Si no se abrió ningún navegador, abra esta &amp;dirección manualmente:</translation>
     </message>
     <message>
         <source>C&amp;opy</source>
@@ -201,7 +201,7 @@
     </message>
     <message>
         <source>&amp;Code:</source>
-        <translation>C&amp;ódigo:</translation>
+        <translation>Códi&amp;go:</translation>
     </message>
     <message>
         <source>Open the browser again</source>
@@ -216,7 +216,7 @@
         <translation>Continuar</translation>
     </message>
     <message>
-        <source>This is not the answer that is waited for.</source>
+        <source>This is not the expected answer.</source>
         <translation>Esta no es la respuesta esperada.</translation>
     </message>
     <message>

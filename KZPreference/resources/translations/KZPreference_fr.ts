@@ -45,27 +45,27 @@
     </message>
     <message>
         <source>Full name:</source>
-        <translation>Nom complet :</translation>
+        <translation>Nom complet :</translation>
     </message>
     <message>
         <source>Mivra site URL:</source>
-        <translation>URL du site Mivra :</translation>
+        <translation>URL du site Mivra :</translation>
     </message>
     <message>
         <source>Email address:</source>
-        <translation>Adresse e-mail :</translation>
+        <translation>Adresse e-mail :</translation>
     </message>
     <message>
         <source>Change</source>
-        <translation>Modifier</translation>
+        <translation>Changer</translation>
     </message>
     <message>
         <source>Your name:</source>
-        <translation>Votre nom :</translation>
+        <translation>Votre nom :</translation>
     </message>
     <message>
         <source>Your email address:</source>
-        <translation>Votre adresse e-mail :</translation>
+        <translation>Votre adresse e-mail :</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -81,11 +81,11 @@
     </message>
     <message>
         <source>Personal Room:</source>
-        <translation>Salle personnelle :</translation>
+        <translation>Salle personnelle :</translation>
     </message>
     <message>
         <source>Video address:</source>
-        <translation>Adresse vidéo :</translation>
+        <translation>Adresse vidéo :</translation>
     </message>
     <message>
         <source>Copy</source>
@@ -101,7 +101,7 @@
     </message>
     <message>
         <source>Number of days to show in meetings list:</source>
-        <translation>Nombre de jours dans la liste des réunions :</translation>
+        <translation>Nombre de jours dans la liste des réunions :</translation>
     </message>
     <message>
         <source>Calendar integration</source>
@@ -129,11 +129,11 @@
     </message>
     <message>
         <source>Email:</source>
-        <translation>E-mail :</translation>
+        <translation>E-mail :</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation>Mot de passe :</translation>
+        <translation>Mot de passe :</translation>
     </message>
     <message>
         <source>Email address</source>
@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>Applied successfully</source>
-        <translation>Appliqué avec succès</translation>
+        <translation>Compte appliqué</translation>
     </message>
     <message>
         <source>Meeting notifications</source>
@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>Snooze</source>
-        <translation>Rappel différé</translation>
+        <translation>Reporter</translation>
     </message>
     <message>
         <source>minutes after Snooze.</source>
@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>Upcoming Meeting card on dashboard</source>
-        <translation>Carte de la prochaine réunion dans le tableau de bord</translation>
+        <translation>Carte de la prochaine réunion sur le tableau de bord</translation>
     </message>
     <message>
         <source>Automatically discover nearby devices</source>
@@ -181,19 +181,19 @@
     </message>
     <message>
         <source>Sign in</source>
-        <translation>Se connecter</translation>
+        <translation>Connexion</translation>
     </message>
     <message>
-        <source>Sign in with your browser. It shows you a code at the end: enter the code here to go on.</source>
-        <translation>Connectez-vous dans votre navigateur. Il affiche un code à la fin : saisissez-le ici pour continuer.</translation>
+        <source>Sign in in your browser. At the end it shows a code; enter it here to continue.</source>
+        <translation>Connectez-vous dans votre navigateur. Il affiche un code à la fin ; saisissez-le ici pour continuer.</translation>
     </message>
     <message>
         <source>Waiting for you to sign in with your browser. This window closes by itself when you are done.</source>
-        <translation>En attente de votre connexion dans le navigateur. Cette fenêtre se ferme d’elle-même ensuite.</translation>
+        <translation>En attente de votre connexion dans le navigateur. Cette fenêtre se fermera ensuite d’elle-même.</translation>
     </message>
     <message>
         <source>If no browser opened, open this &amp;address yourself:</source>
-        <translation>Si aucun navigateur ne s’est ouvert, ouvrez cette &amp;adresse vous-même :</translation>
+        <translation>Si aucun navigateur ne s’est ouvert, ouvrez cette &amp;adresse vous-même :</translation>
     </message>
     <message>
         <source>C&amp;opy</source>
@@ -201,7 +201,7 @@
     </message>
     <message>
         <source>&amp;Code:</source>
-        <translation>&amp;Code :</translation>
+        <translation>&amp;Code :</translation>
     </message>
     <message>
         <source>Open the browser again</source>
@@ -216,7 +216,7 @@
         <translation>Continuer</translation>
     </message>
     <message>
-        <source>This is not the answer that is waited for.</source>
+        <source>This is not the expected answer.</source>
         <translation>Ce n’est pas la réponse attendue.</translation>
     </message>
     <message>

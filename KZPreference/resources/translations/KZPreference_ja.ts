@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>Start Brenn Mivra Meetings when my computer starts</source>
-        <translation>コンピュータの起動時に Brenn Mivra Meetings を開く</translation>
+        <translation>コンピューターの起動時に Brenn Mivra Meetings を開く</translation>
     </message>
     <message>
         <source>Schedule or start Mivra meetings from Microsoft Outlook</source>
@@ -45,15 +45,15 @@
     </message>
     <message>
         <source>Full name:</source>
-        <translation>氏名:</translation>
+        <translation>氏名：</translation>
     </message>
     <message>
         <source>Mivra site URL:</source>
-        <translation>Mivra サイト URL:</translation>
+        <translation>Mivra サイト URL：</translation>
     </message>
     <message>
         <source>Email address:</source>
-        <translation>メールアドレス:</translation>
+        <translation>メールアドレス：</translation>
     </message>
     <message>
         <source>Change</source>
@@ -61,11 +61,11 @@
     </message>
     <message>
         <source>Your name:</source>
-        <translation>お名前:</translation>
+        <translation>お名前：</translation>
     </message>
     <message>
         <source>Your email address:</source>
-        <translation>メールアドレス:</translation>
+        <translation>メールアドレス：</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -77,15 +77,15 @@
     </message>
     <message>
         <source>Invalid email address</source>
-        <translation>メールアドレスが無効です</translation>
+        <translation>メールアドレスが正しくありません</translation>
     </message>
     <message>
         <source>Personal Room:</source>
-        <translation>パーソナル会議室:</translation>
+        <translation>パーソナルルーム：</translation>
     </message>
     <message>
         <source>Video address:</source>
-        <translation>ビデオアドレス:</translation>
+        <translation>ビデオアドレス：</translation>
     </message>
     <message>
         <source>Copy</source>
@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>Copied</source>
-        <translation>コピー済</translation>
+        <translation>コピー済み</translation>
     </message>
     <message>
         <source>Calendar</source>
@@ -101,11 +101,11 @@
     </message>
     <message>
         <source>Number of days to show in meetings list:</source>
-        <translation>ミーティングリストに表示する日数:</translation>
+        <translation>ミーティングリストに表示する日数：</translation>
     </message>
     <message>
         <source>Calendar integration</source>
-        <translation>カレンダーの統合</translation>
+        <translation>カレンダー連携</translation>
     </message>
     <message>
         <source>None</source>
@@ -129,11 +129,11 @@
     </message>
     <message>
         <source>Email:</source>
-        <translation>メール:</translation>
+        <translation>メール：</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation>パスワード:</translation>
+        <translation>パスワード：</translation>
     </message>
     <message>
         <source>Email address</source>
@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>DOMAIN\username or Email</source>
-        <translation>ドメイン\ユーザー名またはメール</translation>
+        <translation>ドメイン\ユーザー名またはメールアドレス</translation>
     </message>
     <message>
         <source>Password</source>
@@ -149,11 +149,11 @@
     </message>
     <message>
         <source>Invalid email or password</source>
-        <translation>メールまたはパスワードが無効です</translation>
+        <translation>メールアドレスまたはパスワードが正しくありません</translation>
     </message>
     <message>
         <source>Applied successfully</source>
-        <translation>正常に適用されました</translation>
+        <translation>適用しました</translation>
     </message>
     <message>
         <source>Meeting notifications</source>
@@ -161,7 +161,7 @@
     </message>
     <message>
         <source>minutes before scheduled start time.</source>
-        <translation>分前に通知（予定の開始時刻より）</translation>
+        <translation>分前（開始予定時刻を基準）</translation>
     </message>
     <message>
         <source>Snooze</source>
@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>Upcoming Meeting card on dashboard</source>
-        <translation>ダッシュボードの次のミーティングカード</translation>
+        <translation>ダッシュボードに次のミーティングのカードを表示</translation>
     </message>
     <message>
         <source>Automatically discover nearby devices</source>
@@ -184,16 +184,16 @@
         <translation>サインイン</translation>
     </message>
     <message>
-        <source>Sign in with your browser. It shows you a code at the end: enter the code here to go on.</source>
-        <translation>ブラウザでサインインしてください。最後にコードが表示されるので、ここに入力して続けてください。</translation>
+        <source>Sign in in your browser. At the end it shows a code; enter it here to continue.</source>
+        <translation>ブラウザーでサインインしてください。最後にコードが表示されます。続けるには、ここに入力してください。</translation>
     </message>
     <message>
         <source>Waiting for you to sign in with your browser. This window closes by itself when you are done.</source>
-        <translation>ブラウザでのサインインを待っています。完了すると、このウインドウは自動的に閉じます。</translation>
+        <translation>ブラウザーでのサインインを待っています。完了すると、このウィンドウは自動的に閉じます。</translation>
     </message>
     <message>
         <source>If no browser opened, open this &amp;address yourself:</source>
-        <translation>ブラウザが開かない場合は、このアドレスを開いてください(&amp;A):</translation>
+        <translation>ブラウザーが開かない場合は、このアドレスを開いてください(&amp;A)：</translation>
     </message>
     <message>
         <source>C&amp;opy</source>
@@ -201,11 +201,11 @@
     </message>
     <message>
         <source>&amp;Code:</source>
-        <translation>コード(&amp;C):</translation>
+        <translation>コード(&amp;C)：</translation>
     </message>
     <message>
         <source>Open the browser again</source>
-        <translation>ブラウザをもう一度開く</translation>
+        <translation>ブラウザーをもう一度開く</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -216,12 +216,12 @@
         <translation>続ける</translation>
     </message>
     <message>
-        <source>This is not the answer that is waited for.</source>
-        <translation>これは待っている応答ではありません。</translation>
+        <source>This is not the expected answer.</source>
+        <translation>想定した応答ではありません。</translation>
     </message>
     <message>
         <source>Your answer has arrived. You can close this page.</source>
-        <translation>応答を受け取りました。このページを閉じてかまいません。</translation>
+        <translation>サインインの応答を受け取りました。このページは閉じてかまいません。</translation>
     </message>
     <message>
         <source>This request is too long.</source>

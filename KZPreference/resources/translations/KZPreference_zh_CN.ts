@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>Account</source>
-        <translation>帐户</translation>
+        <translation>账户</translation>
     </message>
     <message>
         <source>Meetings</source>
@@ -45,11 +45,11 @@
     </message>
     <message>
         <source>Full name:</source>
-        <translation>全名：</translation>
+        <translation>姓名：</translation>
     </message>
     <message>
         <source>Mivra site URL:</source>
-        <translation>Mivra 站点 URL：</translation>
+        <translation>Mivra 站点网址：</translation>
     </message>
     <message>
         <source>Email address:</source>
@@ -153,7 +153,7 @@
     </message>
     <message>
         <source>Applied successfully</source>
-        <translation>应用成功</translation>
+        <translation>已成功应用</translation>
     </message>
     <message>
         <source>Meeting notifications</source>
@@ -161,7 +161,7 @@
     </message>
     <message>
         <source>minutes before scheduled start time.</source>
-        <translation>分钟（在预定开始时间之前）。</translation>
+        <translation>分钟前（按预定开始时间计）。</translation>
     </message>
     <message>
         <source>Snooze</source>
@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>Upcoming Meeting card on dashboard</source>
-        <translation>仪表板上的即将开始的会议卡片</translation>
+        <translation>仪表板上的下一场会议卡片</translation>
     </message>
     <message>
         <source>Automatically discover nearby devices</source>
@@ -184,7 +184,7 @@
         <translation>登录</translation>
     </message>
     <message>
-        <source>Sign in with your browser. It shows you a code at the end: enter the code here to go on.</source>
+        <source>Sign in in your browser. At the end it shows a code; enter it here to continue.</source>
         <translation>请在浏览器中登录。登录结束时会显示一个代码，请在此输入以继续。</translation>
     </message>
     <message>
@@ -216,12 +216,12 @@
         <translation>继续</translation>
     </message>
     <message>
-        <source>This is not the answer that is waited for.</source>
-        <translation>这不是所等待的应答。</translation>
+        <source>This is not the expected answer.</source>
+        <translation>这不是预期的登录结果。</translation>
     </message>
     <message>
         <source>Your answer has arrived. You can close this page.</source>
-        <translation>已收到您的应答。您可以关闭此页面。</translation>
+        <translation>已收到您的登录结果。您可以关闭此页面。</translation>
     </message>
     <message>
         <source>This request is too long.</source>
