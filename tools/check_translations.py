@@ -7,6 +7,8 @@ from project_files import ROOT, finish, project_files, read
 
 LITERAL = r'"((?:[^"\\]|\\.)*)"'
 ANY_LITERAL = re.compile(LITERAL)
+# A long text stands in several literals, which the compiler joins.
+BETWEEN_PARTS = re.compile(r'(?<!\\)"\s*\n\s*"')
 
 
 def first_argument_of(*functions):
@@ -69,7 +71,7 @@ def language_findings(name, content, keys, literals):
 def main():
     found = []
     for tables, code_files, patterns in TABLES:
-        code = [read(path) for path in project_files(*code_files)]
+        code = [BETWEEN_PARTS.sub("", read(path)) for path in project_files(*code_files)]
         keys = set().union(*(keys_in(text, patterns) for text in code))
         literals = {unescaped(literal) for text in code for literal in ANY_LITERAL.findall(text)}
         for path in project_files(tables):

@@ -18,8 +18,8 @@ class InputListener {
 // The application object of a host that can record what its user does. Main thread only.
 class Application final : public QApplication {
  public:
-  // Qt takes its own options (-platform, -style, -reverse ...); `arguments()` has the others, the program first.
-  // Messages of Qt's platform plug-ins on standard error are dropped.
+  // Qt takes its own options (-platform, -style, -reverse ...); `arguments()` has the others, the program
+  // first. Messages of Qt's platform plug-ins on standard error are dropped.
   Application(int argc, char** argv);
 
   // One at a time, not owned; nullptr for none. A listener that is set or removed during an input gets no
