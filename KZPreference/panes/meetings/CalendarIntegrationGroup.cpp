@@ -47,7 +47,10 @@ void CalendarIntegrationGroup::showAppliedState(bool isApplied) {
   loadEmailFromPreferences();
   m_detectBtn->setEnabled(true);
   hideCredentialControls();
-  isOnpremiseCredValid() ? m_message.showSuccessMessage() : m_message.showInvalidAccountMessage();
+  // Known for long, so not announced.
+  constexpr auto quietly = CalendarIntegrationMessage::Announce::No;
+  isOnpremiseCredValid() ? m_message.showSuccessMessage(quietly)
+                         : m_message.showInvalidAccountMessage(quietly);
 }
 
 bool CalendarIntegrationGroup::isOnpremiseCredValid() const {

@@ -8,6 +8,7 @@
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 #include "tests/KZPreference/panes/meetings/PreferenceHost.h"
+#include "tests/kit/AssistiveTechnology.h"
 
 namespace {
 
@@ -38,16 +39,6 @@ QStringList tabTo(const QString& name) {
   return way;
 }
 
-QStringList s_announced;  // the texts of the status line when it was shown
-
-void noteUpdate(QAccessibleEvent* event) {
-  if (event->type() != QAccessible::ObjectShow || !event->object()) return;
-  if (event->object()->objectName() != QLatin1String("m_messageTxt")) return;
-  QAccessibleInterface* line = event->accessibleInterface();
-  s_announced.append(line->role() == QAccessible::Notification ? line->text(QAccessible::Name)
-                                                               : "not announced");
-}
-
 class CalendarKeyboard : public testing::TestWithParam<Variant> {
  protected:
   CalendarKeyboard() {
@@ -58,10 +49,7 @@ class CalendarKeyboard : public testing::TestWithParam<Variant> {
                             Dictionary{{QStringLiteral("disableCalendarIntegration"), true},
                                        {QStringLiteral("enableListGoogleCalendarMeeting"), true}}}});
     host.openMeetings(GetParam());
-    QAccessible::installUpdateHandler(noteUpdate);
-    s_announced.clear();
   }
-  ~CalendarKeyboard() override { QAccessible::installUpdateHandler(nullptr); }
 
   PreferenceHost host;
 };
@@ -100,13 +88,13 @@ TEST_P(CalendarKeyboard, TheWholeExchangeFlowNeedsNoMouse) {
   EXPECT_TRUE(QApplication::focusWidget() && QApplication::focusWidget()->isVisible());
 }
 
-// Only platforms with a bridge to screen readers send these events.
-TEST_P(CalendarKeyboard, TheStatusLineIsAnnounced) {
-  if (!QAccessible::isActive()) GTEST_SKIP();
-  s_announced.clear();
+TEST_P(CalendarKeyboard, TheStatusLineIsAnnouncedOnce) {
+  kit::AssistiveTechnology reader;
   host.fail(QStringLiteral("No service there"));
   host.fail(QStringLiteral("Still none"));
-  EXPECT_EQ(s_announced, QStringList({"No service there", "Still none"}));
+  host.resolveWith(QStringLiteral("ann@brenn.example"));
+  host.openMeetings();
+  EXPECT_EQ(reader.takeAnnounced(), QStringList({"No service there", "Still none", "Applied successfully"}));
 }
 
 TEST_P(CalendarKeyboard, EveryControlHasARoleAndAName) {
@@ -122,7 +110,6 @@ TEST_P(CalendarKeyboard, EveryControlHasARoleAndAName) {
       {"m_passwordInputTxt", QAccessible::EditableText, "Password"},
       {"m_detectBtn", QAccessible::Button, "Apply"},
       {"m_applyBtn", QAccessible::Button, "Apply"},
-      {"m_messageTxt", QAccessible::Notification, ""},
       {"m_integrationTxt", QAccessible::StaticText, "Calendar integration"},
   };
   for (const auto& tried : cases) {

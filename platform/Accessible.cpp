@@ -1,0 +1,94 @@
+#include "platform/Accessible.h"
+
+#include <QAccessibleWidget>
+#include <QCoreApplication>
+#include <QLabel>
+#include <QPointer>
+#include <QTimer>
+#include <QVariant>
+#include <chrono>
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr char kAccessibleRoleProperty[] = "platformAccessibleRole";
+
+class RoleAccessible final : public QAccessibleWidget {
+ public:
+  using QAccessibleWidget::QAccessibleWidget;
+
+  QString text(QAccessible::Text kind) const override {
+    const QString known = QAccessibleWidget::text(kind);
+    const auto* label = qobject_cast<const QLabel*>(widget());
+    return kind == QAccessible::Name && known.isEmpty() && label ? label->text() : known;
+  }
+};
+
+QAccessibleInterface* accessibleWithRole(const QString& /*className*/, QObject* object) {
+  const QVariant role = object ? object->property(kAccessibleRoleProperty) : QVariant();
+  if (!role.isValid() || !object->isWidgetType()) return nullptr;
+  return new RoleAccessible(static_cast<QWidget*>(object), QAccessible::Role(role.toInt()));
+}
+
+#if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
+
+// Screen readers ask for the text only after they were told, and may be slow.
+constexpr auto kAnnouncementTime = 10s;
+
+// Without an event for announcements: screen readers speak a notification that appears.
+class AnnouncementAccessible final : public QAccessibleObject {
+ public:
+  AnnouncementAccessible(QObject* announcement, QWidget* source, QString text)
+      : QAccessibleObject(announcement), m_source(source), m_text(std::move(text)) {}
+
+  QAccessibleInterface* parent() const override {
+    return QAccessible::queryAccessibleInterface(
+        m_source ? m_source->window() : static_cast<QObject*>(QCoreApplication::instance()));
+  }
+  QAccessibleInterface* child(int) const override { return nullptr; }
+  int childCount() const override { return 0; }
+  int indexOfChild(const QAccessibleInterface*) const override { return -1; }
+  QString text(QAccessible::Text kind) const override {
+    return kind == QAccessible::Name ? m_text : QString();
+  }
+  QAccessible::Role role() const override { return QAccessible::Notification; }
+  QAccessible::State state() const override { return {}; }
+
+ private:
+  QPointer<QWidget> m_source;
+  QString m_text;
+};
+
+#endif
+
+}  // namespace
+
+void setAccessibleRole(QWidget* view, QAccessible::Role role) {
+  static const bool isInstalled = [] {
+    QAccessible::installFactory(accessibleWithRole);
+    return true;
+  }();
+  Q_UNUSED(isInstalled);
+  view->setProperty(kAccessibleRoleProperty, int(role));
+  if (!QAccessible::isActive()) return;
+  // The next query makes a new one, with this role.
+  QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(QAccessible::queryAccessibleInterface(view)));
+}
+
+void setAccessibleLabel(QWidget* view, QLabel* label) {
+  label->setBuddy(view);
+}
+
+void announce(QWidget* source, const QString& text) {
+  if (!QAccessible::isActive() || text.isEmpty()) return;
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+  QAccessibleAnnouncementEvent event(source, text);
+#else
+  auto* announcement = new QObject(QCoreApplication::instance());
+  QTimer::singleShot(kAnnouncementTime, announcement, &QObject::deleteLater);
+  QAccessible::registerAccessibleInterface(new AnnouncementAccessible(announcement, source, text));
+  QAccessibleEvent event(announcement, QAccessible::ObjectShow);
+#endif
+  QAccessible::updateAccessibility(&event);
+}

@@ -1,0 +1,56 @@
+#include "tests/kit/AssistiveTechnology.h"
+
+#include <qpa/qplatformaccessibility.h>
+#include <qpa/qplatformintegration.h>
+
+#include <private/qguiapplication_p.h>
+#include <QAccessible>
+#include <utility>
+
+namespace {
+
+QStringList s_announced;
+QString s_typed;
+
+void note(QAccessibleEvent* event) {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+  if (event->type() == QAccessible::Announcement)
+    s_announced.append(static_cast<QAccessibleAnnouncementEvent*>(event)->message());
+#endif
+  if (event->type() == QAccessible::TextInserted)
+    s_typed.append(static_cast<QAccessibleTextInsertEvent*>(event)->textInserted());
+  if (event->type() != QAccessible::ObjectShow) return;
+  const QAccessibleInterface* shown = event->accessibleInterface();
+  if (shown && shown->role() == QAccessible::Notification) s_announced.append(shown->text(QAccessible::Name));
+}
+
+// Before all handlers of the tested code, which pass on to it.
+[[maybe_unused]] const QAccessible::UpdateHandler s_installed = QAccessible::installUpdateHandler(note);
+
+void setActive(bool isActive) {
+  QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(isActive);
+}
+
+}  // namespace
+
+namespace kit {
+
+AssistiveTechnology::AssistiveTechnology() {
+  setActive(true);
+}
+
+AssistiveTechnology::~AssistiveTechnology() {
+  setActive(false);
+  s_announced.clear();
+  s_typed.clear();
+}
+
+QStringList AssistiveTechnology::takeAnnounced() {
+  return std::exchange(s_announced, {});
+}
+
+QString AssistiveTechnology::takeTyped() {
+  return std::exchange(s_typed, {});
+}
+
+}  // namespace kit

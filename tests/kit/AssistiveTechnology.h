@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QStringList>
+
+namespace kit {
+
+// Assistive technology that listens while it lives. Only one at a time.
+class AssistiveTechnology {
+ public:
+  AssistiveTechnology();
+  ~AssistiveTechnology();
+
+  QStringList takeAnnounced();
+  QString takeTyped();  // what it was told of inserted texts
+};
+
+}  // namespace kit
