@@ -4,6 +4,7 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QDBusVariant>
 #include <QGuiApplication>
 #include <QStyleHints>
 
@@ -50,8 +51,7 @@ void DesktopColors::follow() {
   QDBusConnection bus = QDBusConnection::sessionBus();
   if (!bus.isConnected()) return;
   // Whoever the sender is: to look up the portal's owner, Qt would wait for the bus.
-  bus.connect({}, kPath, kSettings, QStringLiteral("SettingChanged"), this,
-              SLOT(takeChange(QString, QString, QDBusVariant)));
+  bus.connect({}, kPath, kSettings, QStringLiteral("SettingChanged"), this, SLOT(takeChange(QDBusMessage)));
   QDBusMessage call = QDBusMessage::createMethodCall(kPortal, kPath, kSettings, QStringLiteral("ReadAll"));
   call << QStringList{kAppearance};
   auto* answer = new QDBusPendingCallWatcher(bus.asyncCall(call), this);
@@ -63,8 +63,11 @@ void DesktopColors::follow() {
   });
 }
 
-void DesktopColors::takeChange(const QString& group, const QString& key, const QDBusVariant& value) {
-  if (group == kAppearance) take({{key, value.variant()}});
+void DesktopColors::takeChange(const QDBusMessage& change) {
+  if (change.signature() != QLatin1String("ssv")) return;
+  const QVariantList arguments = change.arguments();
+  if (arguments.at(0) != kAppearance) return;
+  take({{arguments.at(1).toString(), arguments.at(2).value<QDBusVariant>().variant()}});
 }
 
 void DesktopColors::take(const QVariantMap& settings) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QDBusVariant>
+#include <QDBusMessage>
 #include <QObject>
 #include <optional>
 
@@ -24,7 +24,7 @@ class DesktopColors final : public QObject {
   void changed();  // the scheme is another one
 
  private Q_SLOTS:
-  void takeChange(const QString& group, const QString& key, const QDBusVariant& value);
+  void takeChange(const QDBusMessage& change);
 
  private:
   void take(const QVariantMap& settings);
