@@ -5,10 +5,9 @@ import xml.etree.ElementTree as ElementTree
 
 from project_files import ROOT, finish, project_files, read
 
-LITERAL = r'"((?:[^"\\]|\\.)*)"'
+LITERAL = r'((?:"(?:[^"\\]|\\.)*"\s*)+)'  # in one piece or several
 ANY_LITERAL = re.compile(LITERAL)
-# A long text stands in several literals, which the compiler joins.
-BETWEEN_PARTS = re.compile(r'(?<!\\)"\s*\n\s*"')
+CHARACTER = re.compile(r"'(?:[^'\\]|\\.)'")
 
 
 def first_argument_of(*functions):
@@ -21,7 +20,7 @@ TABLES = [
     ("KZPreference/resources/translations/*.ts", ["KZPreference/*.h", "KZPreference/*.cpp", "adal/*.cpp"],
      [first_argument_of("(?:\\w*L|l)ocalizedString", "dialogText", "labelFor", "text"),
       re.compile(r"\badd\(m_\w+,\s*" + LITERAL),
-      re.compile(r"\bcallbackPage\(" + LITERAL.replace("(", "(?:", 1) + r",\s*" + LITERAL)]),
+      re.compile(r"\bcallbackPage\(" + LITERAL.replace("((", "(?:(", 1) + r",\s*" + LITERAL)]),
     ("host/resources/translations/*.ts", ["host/*.h", "host/*.cpp"], [first_argument_of("warningText")]),
     ("companion/resources/translations/*.ts", ["companion/*.h", "companion/*.cpp"],
      [first_argument_of("companionText", "textKey")]),
@@ -34,7 +33,7 @@ WRONG_COLON = {"fr": re.compile("[^\u00a0]:(?!//)"), "ja": re.compile(r":(?!//)"
 
 
 def unescaped(literal):
-    return re.sub(r"\\(.)", r"\1", literal)
+    return re.sub(r"\\(.)", r"\1", re.sub(r'(?<!\\)"\s*"|^"|"\s*$', "", literal))
 
 
 def keys_in(text, patterns):
@@ -71,7 +70,7 @@ def language_findings(name, content, keys, literals):
 def main():
     found = []
     for tables, code_files, patterns in TABLES:
-        code = [BETWEEN_PARTS.sub("", read(path)) for path in project_files(*code_files)]
+        code = [CHARACTER.sub("", read(path)) for path in project_files(*code_files)]
         keys = set().union(*(keys_in(text, patterns) for text in code))
         literals = {unescaped(literal) for text in code for literal in ANY_LITERAL.findall(text)}
         for path in project_files(tables):

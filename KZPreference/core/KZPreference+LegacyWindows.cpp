@@ -55,7 +55,7 @@ void KZPreference::showPreferenceWindow() {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
   const KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
   Dictionary data;
-  data.insert(QStringLiteral("kz"), store.preferenceInfo());
+  if (const Content info = store.preferenceInfo()) data.insert(QStringLiteral("kz"), *info);
   if (const QString site = store.siteName(); !site.isNull()) data.insert(QRT_Passport_site, site);
   if (const QString email = store.userName(); !email.isNull()) data.insert(QRT_Passport_email, email);
   showPreferenceWindowWithData(data);

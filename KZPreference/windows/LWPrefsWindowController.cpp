@@ -12,6 +12,7 @@
 #include "host/KZUtility/KZTrace.h"
 #include "platform/ContentView.h"
 #include "platform/FrameLayout.h"
+#include "platform/KeyView.h"
 #include "platform/View.h"
 #include "platform/ViewAnimation.h"
 
@@ -192,7 +193,7 @@ void LWPrefsWindowController::crossFadeView(View* newView, const QPixmap& oldPic
 
 void LWPrefsWindowController::animationDidEnd() {
   removeSubviewsBelowTop();
-  if (QWidget* focused = window()->focusWidget()) focused->clearFocus();
+  clearFirstResponder(window());
 }
 
 void LWPrefsWindowController::removeSubviewsBelowTop() {

@@ -1,9 +1,11 @@
 #include <QDeadlineTimer>
 #include <QDir>
+#include <QLibraryInfo>
 #include <QLocale>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QThread>
+#include <QTranslator>
 #include <chrono>
 #include <cstdio>
 #include <optional>
@@ -15,6 +17,7 @@
 #include "companion/app/Display.h"
 #include "companion/runtime/Application.h"
 #include "companion/runtime/SingleInstance.h"
+#include "companion/texts/CompanionText.h"
 #include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 
@@ -147,5 +150,9 @@ int main(int argc, char** argv) {
     desktop.follow();
   }
   if (!options.language.isEmpty()) QLocale::setDefault(QLocale(options.language));
+  // Qt's own texts: context menus, file dialogs, buttons. Without the file they are English.
+  QTranslator qtTexts;
+  if (qtTexts.load("qtbase_" + companionLanguage(), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    QApplication::installTranslator(&qtTexts);
   return runCompanion(options);
 }

@@ -17,7 +17,8 @@ PrefGeneralView::PrefGeneralView(const Frame& frame, PreferenceActionDelegatePro
 
 void PrefGeneralView::initOutlookIntegratingState() {
   m_isSiteEnableOutlookIntegrating = KZApplicationHelper::sharedInstance().siteEnableOutlook();
-  m_isOutlookIntegrating = storedChoice(KZEnableOutlookKZPlugin);
+  const KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
+  m_isOutlookIntegrating = !store.isPlistKeyExist(KZEnableOutlookKZPlugin) || store.enableOutlookKZPlugin();
 }
 
 void PrefGeneralView::initOutlookIntegratingCheckbox() {

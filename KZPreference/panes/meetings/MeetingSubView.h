@@ -22,7 +22,7 @@ class MeetingSubView final : public View {
 
  private:
   void initEditButton();
-  BRNHyperlinkTextField* createCopyButton(const char* name, const QString& label);
+  BRNHyperlinkTextField* createCopyButton(const char* name, const QString& spoken);
   void placeCopyButtons();
   void onEditButton();
   void onCopyPmrurlButton();

@@ -235,5 +235,41 @@
         <source>There is nothing here.</source>
         <translation>ここには何もありません。</translation>
     </message>
+    <message>
+        <source>Copy personal room</source>
+        <translation>パーソナルルームをコピー</translation>
+    </message>
+    <message>
+        <source>Copy video address</source>
+        <translation>ビデオアドレスをコピー</translation>
+    </message>
+    <message>
+        <source>Look up account</source>
+        <translation>アカウントを検索</translation>
+    </message>
+    <message>
+        <source>Looking up the account…</source>
+        <translation>アカウントを検索しています…</translation>
+    </message>
+    <message>
+        <source>Applying…</source>
+        <translation>アカウントを適用しています…</translation>
+    </message>
+    <message>
+        <source>Return looks up the account.</source>
+        <translation>Enter キーでアカウントを検索します。</translation>
+    </message>
+    <message>
+        <source>Return applies the account.</source>
+        <translation>Enter キーでアカウントを適用します。</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>ユーザー名</translation>
+    </message>
+    <message>
+        <source>Return saves, Escape cancels, Ctrl+Tab leaves the fields.</source>
+        <translation>Enter キーで保存、Esc キーでキャンセル、Ctrl+Tab キーで入力欄を離れます。</translation>
+    </message>
 </context>
 </TS>

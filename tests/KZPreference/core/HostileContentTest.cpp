@@ -69,7 +69,7 @@ TEST_F(HostileContentTest, WrongTypesEverywhereCountAsAbsent) {
     content.insert("kz", Dictionary(content));
     playAll(content);
   }
-  const Dictionary stored = KZPlistFileHandle::sharedInstance().preferenceInfo();
+  const Dictionary stored = KZPlistFileHandle::sharedInstance().preferenceInfo().value_or(Dictionary());
   for (const QVariant& address : stored) EXPECT_EQ(address.metaType(), QMetaType::fromType<QString>());
   EXPECT_EQ(controllerClass(), "SignInPreferenceWindowController");
   EXPECT_TRUE(window()->isVisible());

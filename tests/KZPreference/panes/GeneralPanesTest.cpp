@@ -19,12 +19,12 @@ class GeneralPanesTest : public RecordingHost {
   static void click(QCheckBox* box) { QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, 8)); }
 };
 
-TEST_F(GeneralPanesTest, StoredChoicesShowAndOthersCountAsOn) {
+TEST_F(GeneralPanesTest, AStoredChoiceIsShownAndNoneCountsAsOn) {
   auto& store = KZPlistFileHandle::sharedInstance();
   const struct {
     QVariant stored;
     bool isOn;
-  } rows[] = {{QVariant(), true}, {false, false}, {true, true}, {0, true}, {"false", true}};
+  } rows[] = {{QVariant(), true}, {false, false}, {true, true}, {0, false}, {1, true}, {"true", false}};
   for (const auto& row : rows) {
     store.setValue(KZLaunchAtLogin, row.stored);
     store.setValue(KZEnableOutlookKZPlugin, row.stored);
