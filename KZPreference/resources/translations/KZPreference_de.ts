@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>DOMAIN\username or Email</source>
-        <translation>DOMÄNE\Benutzername oder E-Mail</translation>
+        <translation>DOMÄNE\Name oder E-Mail</translation>
     </message>
     <message>
         <source>Password</source>

@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>DOMAIN\username or Email</source>
-        <translation>DOMINIO\usuario o correo electrónico</translation>
+        <translation>DOMINIO\usuario o correo</translation>
     </message>
     <message>
         <source>Password</source>
