@@ -11,6 +11,7 @@
 
 #include "companion/app/ListTable.h"
 #include "companion/app/Rows.h"
+#include "companion/texts/CompanionText.h"
 
 namespace {
 
@@ -35,21 +36,21 @@ QTableWidget* createWrappingTable(const QString& name, const QStringList& headin
 
 TryOutView::TryOutView()
     : m_introduction(createPlainLabel()),
-      m_accounts(createWrappingTable(QStringLiteral("Accounts to try"),
-                                     {QStringLiteral("Address"), QStringLiteral("User name"),
-                                      QStringLiteral("Password"), QStringLiteral("What it shows")})),
-      m_sites(createWrappingTable(QStringLiteral("Sites to try"),
-                                  {QStringLiteral("Site"), QStringLiteral("What it shows")})) {
-  auto* copy = new QPushButton(QStringLiteral("Copy"));
-  copy->setToolTip(QStringLiteral("Copies the selected address, user name or password"));
-  auto* use = new QPushButton(QStringLiteral("Use this site"));
+      m_accounts(createWrappingTable(companionText("Accounts to try"),
+                                     {companionText("Address"), companionText("User name"),
+                                      companionText("Password"), companionText("What it shows")})),
+      m_sites(createWrappingTable(companionText("Sites to try"),
+                                  {companionText("Site"), companionText("What it shows")})) {
+  QPushButton* copy = createButton(companionText("C&opy"));
+  copy->setToolTip(companionText("Copies the selected address, user name or password"));
+  QPushButton* use = createButton(companionText("Use t&his site"));
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(8);
   column->addWidget(m_introduction);
-  column->addWidget(createBar(QStringLiteral("Accounts, for Microsoft Outlook in Meetings:"), copy));
+  column->addWidget(createBar(companionText("Accounts, for Microsoft Outlook in Meetings:"), copy));
   column->addWidget(m_accounts, 3);
-  column->addWidget(createBar(QStringLiteral("Sites, the meeting service to belong to:"), use));
+  column->addWidget(createBar(companionText("Sites, the meeting service to belong to:"), use));
   column->addWidget(m_sites, 2);
   connect(copy, &QPushButton::clicked, this, &TryOutView::copySelected);
   connect(use, &QPushButton::clicked, this, &TryOutView::useSelectedSite);
@@ -88,10 +89,10 @@ void TryOutView::showIntroduction() {
   const bool isEmpty = m_accounts->rowCount() == 0 && m_sites->rowCount() == 0;
   m_introduction->setText(
       isEmpty
-          ? QStringLiteral("The sandbox is not running. While it runs, this page lists accounts and sites "
-                           "to try.")
-          : QStringLiteral("All of these are played by a sandbox on this computer. Copy an address, open "
-                           "Preferences, choose Microsoft Outlook in Meetings, paste it and press Return."));
+          ? companionText("The sandbox is not running. While it runs, this page lists accounts and sites "
+                          "to try.")
+          : companionText("All of these are played by a sandbox on this computer. Copy an address, open "
+                          "Preferences, choose Microsoft Outlook in Meetings, paste it and press Return."));
 }
 
 void TryOutView::copySelected() {
