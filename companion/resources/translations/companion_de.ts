@@ -585,27 +585,27 @@
     </message>
     <message>
         <source>Passwords cannot be kept: the keyring is locked or does not answer. They are known until Brenn Mivra Meetings quits. Unlock the keyring, then start again.</source>
-        <translation>Passwörter können nicht aufbewahrt werden: Der Schlüsselbund ist gesperrt oder antwortet nicht. Sie bleiben bekannt, bis Brenn Mivra Meetings beendet wird. Entsperren Sie den Schlüsselbund und starten Sie dann neu.</translation>
+        <translation>Passwörter können nicht aufbewahrt werden: Der Schlüsselbund ist gesperrt oder antwortet nicht. Bis Brenn Mivra Meetings beendet wird, bleiben sie bekannt. Entsperren Sie den Schlüsselbund und starten Sie dann neu.</translation>
     </message>
     <message>
         <source>Settings cannot be saved: %1 is read-only. They are kept until Brenn Mivra Meetings quits. Make the folder writable; the next change saves them all.</source>
-        <translation>Einstellungen können nicht gespeichert werden: %1 ist schreibgeschützt. Sie gelten, bis Brenn Mivra Meetings beendet wird. Machen Sie den Ordner beschreibbar; die nächste Änderung speichert alle.</translation>
+        <translation>Einstellungen können nicht gespeichert werden: %1 ist schreibgeschützt. Bis Brenn Mivra Meetings beendet wird, gelten sie weiter. Machen Sie den Ordner beschreibbar; die nächste Änderung speichert alle.</translation>
     </message>
     <message>
         <source>Settings cannot be saved: the disk is full. They are kept until Brenn Mivra Meetings quits. Free some space; the next change saves them all.</source>
-        <translation>Einstellungen können nicht gespeichert werden: Der Datenträger ist voll. Sie gelten, bis Brenn Mivra Meetings beendet wird. Schaffen Sie Platz; die nächste Änderung speichert alle.</translation>
+        <translation>Einstellungen können nicht gespeichert werden: Der Datenträger ist voll. Bis Brenn Mivra Meetings beendet wird, gelten sie weiter. Schaffen Sie Platz; die nächste Änderung speichert alle.</translation>
     </message>
     <message>
         <source>Settings cannot be saved in %1. They are kept until Brenn Mivra Meetings quits. Check the folder; the next change saves them all.</source>
-        <translation>Einstellungen können nicht in %1 gespeichert werden. Sie gelten, bis Brenn Mivra Meetings beendet wird. Prüfen Sie den Ordner; die nächste Änderung speichert alle.</translation>
+        <translation>Einstellungen können nicht in %1 gespeichert werden. Bis Brenn Mivra Meetings beendet wird, gelten sie weiter. Prüfen Sie den Ordner; die nächste Änderung speichert alle.</translation>
     </message>
     <message>
         <source>Settings could not be read and were set aside as %1. They start anew.</source>
-        <translation>Die Einstellungen waren nicht lesbar und wurden als %1 beiseitegelegt. Sie beginnen neu.</translation>
+        <translation>Die Einstellungen waren nicht lesbar und wurden als %1 beiseitegelegt. Es gelten wieder die Standardwerte.</translation>
     </message>
     <message>
         <source>Settings cannot be read or saved: %1 is damaged or belongs to somebody else. They are kept until Brenn Mivra Meetings quits. Move the file away, then start again.</source>
-        <translation>Einstellungen können nicht gelesen oder gespeichert werden: %1 ist beschädigt oder gehört jemand anderem. Sie gelten, bis Brenn Mivra Meetings beendet wird. Verschieben Sie die Datei und starten Sie dann neu.</translation>
+        <translation>Einstellungen können nicht gelesen oder gespeichert werden: %1 ist beschädigt oder gehört jemand anderem. Bis Brenn Mivra Meetings beendet wird, gelten sie weiter. Verschieben Sie die Datei und starten Sie dann neu.</translation>
     </message>
     <message>
         <source>Your next meetings:</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>Sites, the meeting service to belong to:</source>
-        <translation>Sites, also der Besprechungsdienst, zu dem man gehört:</translation>
+        <translation>Sites (der Besprechungsdienst, zu dem Sie gehören):</translation>
     </message>
     <message>
         <source>Accounts, for Microsoft Outlook in Meetings:</source>

@@ -601,7 +601,7 @@
     </message>
     <message>
         <source>Settings could not be read and were set aside as %1. They start anew.</source>
-        <translation>Los ajustes no se pudieron leer y se apartaron como %1. Empiezan de nuevo.</translation>
+        <translation>Los ajustes no se pudieron leer y se apartaron como %1. Vuelven a sus valores iniciales.</translation>
     </message>
     <message>
         <source>Settings cannot be read or saved: %1 is damaged or belongs to somebody else. They are kept until Brenn Mivra Meetings quits. Move the file away, then start again.</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>Sites, the meeting service to belong to:</source>
-        <translation>Sitios, el servicio de reuniones al que se pertenece:</translation>
+        <translation>Sitios (el servicio de reuniones al que pertenece):</translation>
     </message>
     <message>
         <source>Accounts, for Microsoft Outlook in Meetings:</source>

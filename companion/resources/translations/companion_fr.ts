@@ -601,7 +601,7 @@
     </message>
     <message>
         <source>Settings could not be read and were set aside as %1. They start anew.</source>
-        <translation>Les réglages étaient illisibles et ont été mis de côté dans %1. Ils repartent de zéro.</translation>
+        <translation>Les réglages étaient illisibles et ont été mis de côté dans %1. Les valeurs par défaut s’appliquent de nouveau.</translation>
     </message>
     <message>
         <source>Settings cannot be read or saved: %1 is damaged or belongs to somebody else. They are kept until Brenn Mivra Meetings quits. Move the file away, then start again.</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>Sites, the meeting service to belong to:</source>
-        <translation>Sites, le service de réunion auquel on appartient :</translation>
+        <translation>Sites (le service de réunion auquel vous appartenez) :</translation>
     </message>
     <message>
         <source>Accounts, for Microsoft Outlook in Meetings:</source>

@@ -149,11 +149,11 @@
     </message>
     <message>
         <source>Command to host</source>
-        <translation>ホストへのコマンド</translation>
+        <translation>ホスト宛コマンド</translation>
     </message>
     <message>
         <source>Command to plug-in</source>
-        <translation>プラグインへのコマンド</translation>
+        <translation>プラグイン宛コマンド</translation>
     </message>
     <message>
         <source>Commands</source>

@@ -409,7 +409,7 @@
     </message>
     <message>
         <source>Version %1 is available.</source>
-        <translation>版本 %1 已推出。</translation>
+        <translation>新版本 %1 可用。</translation>
     </message>
     <message>
         <source>Warning</source>
@@ -601,7 +601,7 @@
     </message>
     <message>
         <source>Settings could not be read and were set aside as %1. They start anew.</source>
-        <translation>无法读取设置，已将其另存为 %1。设置将重新开始。</translation>
+        <translation>无法读取设置，已将其另存为 %1。设置已恢复为默认值。</translation>
     </message>
     <message>
         <source>Settings cannot be read or saved: %1 is damaged or belongs to somebody else. They are kept until Brenn Mivra Meetings quits. Move the file away, then start again.</source>
