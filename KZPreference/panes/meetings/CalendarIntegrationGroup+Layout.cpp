@@ -46,13 +46,8 @@ void CalendarIntegrationGroup::initIntegratinLabel() {
       addTitle(this, "m_integrationTxt",
                {marginAtLeftEdge, frameOf(this).height - size.height, size.width + textPad, size.height},
                title, Qt::AlignRight);
-  alignTitle();
-}
-
-// The frame grows with each relayout; the margin keeps the text in line with the other titles.
-void CalendarIntegrationGroup::alignTitle() {
-  const double spare = frameOf(m_integrationTxt).width - titleTextSize(m_integrationTxt->text()).width;
-  m_integrationTxt->setContentsMargins(0, 0, static_cast<int>(spare), 0);
+  // The frame grows with each relayout, but the text stays in line with the other titles.
+  m_integrationTxt->setDrawnAlignment(Qt::AlignLeft);
 }
 
 double CalendarIntegrationGroup::sourceRowY(int row) const {
@@ -134,6 +129,9 @@ void CalendarIntegrationGroup::initSpinner() {
 void CalendarIntegrationGroup::initErrorText() {
   m_messageTxt = addLabel(this, "m_messageTxt", Frame(), QString());
   m_messageTxt->setSystemColor(SystemColor::Red);
+  // The frame ends beyond the group; a long text of the host wraps before the right margin.
+  m_messageTxt->setWordWrap(true);
+  m_messageTxt->setContentsMargins(0, 0, int(kFieldX) + marginAtRightEdge, 0);
   // The line covers the user name field, whose text must not be visible.
   m_messageTxt->setAutoFillBackground(true);
   m_messageTxt->hide();
@@ -159,6 +157,5 @@ void CalendarIntegrationGroup::relayoutAfterResize() {
   const Frame title = frameOf(m_integrationTxt);
   setFrame(m_integrationTxt,
            {marginAtLeftEdge, frameOf(this).height - title.height, title.width + textPad, title.height});
-  alignTitle();
   placeCredentialControls();
 }

@@ -90,11 +90,11 @@ void MeetingSubView::placeCopyButtons() {
   place(m_copySipurlBtn, m_sipurl, 0);
 }
 
-// The group's width does not include the gaps, so a link may reach beyond it. The widget extends to the
-// pane's edge to show the link.
-void MeetingSubView::resizeEvent(QResizeEvent* event) {
-  View::resizeEvent(event);
-  if (parentWidget()) resize(std::max(width(), parentWidget()->width() - x()), height());
+// The group's width does not include the gaps, so a link may reach beyond it, to the pane's edge; nor does
+// its height follow the title's.
+QSize MeetingSubView::minimumSizeHint() const {
+  const int width = parentWidget() ? parentWidget()->width() - int(frameOf(this).x) : 0;
+  return {width, int(titleTextSize(PrefMeetingViewVisible::meetingslabel()).height)};
 }
 
 QList<DrawnText> MeetingSubView::drawnTexts() const {

@@ -16,9 +16,7 @@ class MeetingSubView final : public View {
   void setPMRUrl(const QString& pmrurl, const QString& sipurl);
 
   QList<DrawnText> drawnTexts() const override;
-
- protected:
-  void resizeEvent(QResizeEvent* event) override;
+  QSize minimumSizeHint() const override;
 
  private:
   void initEditButton();

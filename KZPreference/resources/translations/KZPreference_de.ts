@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>DOMAIN\username or Email</source>
-        <translation>DOMÄNE\Benutzername oder E-Mail</translation>
+        <translation>DOMÄNE\Name oder E-Mail</translation>
     </message>
     <message>
         <source>Password</source>
@@ -270,6 +270,10 @@
     <message>
         <source>Return saves, Escape cancels, Ctrl+Tab leaves the fields.</source>
         <translation>Die Eingabetaste speichert, Esc bricht ab, Strg+Tab verlässt die Felder.</translation>
+    </message>
+    <message>
+        <source>Applied failed</source>
+        <translation>Übernehmen fehlgeschlagen</translation>
     </message>
 </context>
 </TS>

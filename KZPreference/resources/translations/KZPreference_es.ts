@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>DOMAIN\username or Email</source>
-        <translation>DOMINIO\usuario o correo electrónico</translation>
+        <translation>DOMINIO\usuario o correo</translation>
     </message>
     <message>
         <source>Password</source>
@@ -270,6 +270,10 @@
     <message>
         <source>Return saves, Escape cancels, Ctrl+Tab leaves the fields.</source>
         <translation>Intro guarda, Esc cancela y Ctrl+Tab sale de los campos.</translation>
+    </message>
+    <message>
+        <source>Applied failed</source>
+        <translation>No se pudo aplicar</translation>
     </message>
 </context>
 </TS>

@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>Copied</source>
-        <translation>コピー済み</translation>
+        <translation>コピー済</translation>
     </message>
     <message>
         <source>Calendar</source>
@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>DOMAIN\username or Email</source>
-        <translation>ドメイン\ユーザー名またはメールアドレス</translation>
+        <translation>ドメイン\ユーザー名/メール</translation>
     </message>
     <message>
         <source>Password</source>
@@ -270,6 +270,10 @@
     <message>
         <source>Return saves, Escape cancels, Ctrl+Tab leaves the fields.</source>
         <translation>Enter キーで保存、Esc キーでキャンセル、Ctrl+Tab キーで入力欄を離れます。</translation>
+    </message>
+    <message>
+        <source>Applied failed</source>
+        <translation>適用できませんでした</translation>
     </message>
 </context>
 </TS>
