@@ -42,7 +42,7 @@ def main():
     names = set()
     for source in project_files("*.h", "*.cpp", "*.txt", "*.cmake", "*.sh", "*.py", "Makefile"):
         names.update(re.findall(r"\w+", read(source)))
-    targets = set(re.findall(r"^([a-z-]+):", read("Makefile"), re.MULTILINE))
+    targets = set(re.findall(r"^([a-z0-9-]+):", read("Makefile"), re.MULTILINE))
     findings = []
     for path in project_files("*.md"):
         findings.extend(document_findings(path, read(path), lambda place: (ROOT / place).exists(), names, targets))
