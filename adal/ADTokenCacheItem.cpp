@@ -3,6 +3,7 @@
 #include <QCryptographicHash>
 #include <QDataStream>
 #include <QIODevice>
+#include <QTimeZone>
 #include <atomic>
 
 namespace {
@@ -43,7 +44,7 @@ ADTokenCacheItem readTokenItem(QDataStream& stream) {
   bool expires = false;
   qint64 expiresOn = 0;
   stream >> item.multiResource >> expires >> expiresOn;
-  if (expires) item.expiresOn = QDateTime::fromMSecsSinceEpoch(expiresOn, Qt::UTC);
+  if (expires) item.expiresOn = QDateTime::fromMSecsSinceEpoch(expiresOn, QTimeZone::utc());
   return item;
 }
 

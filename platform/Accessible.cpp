@@ -77,7 +77,9 @@ void setAccessibleRole(QWidget* view, QAccessible::Role role) {
 }
 
 void setAccessibleLabel(QWidget* view, QLabel* label) {
+  // Some screen readers read a pop-up button's title as its name; they find the label through the buddy.
   label->setBuddy(view);
+  if (!qobject_cast<QLabel*>(view)) view->setAccessibleName(label->text());
 }
 
 void announce(QWidget* source, const QString& text) {

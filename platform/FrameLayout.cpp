@@ -43,6 +43,30 @@ QRect geometryIn(const QWidget* parent, const Frame& frame) {
   return {left, top, right - left, bottom - top};
 }
 
+// What a view needs beyond its frame is given to it where its superview has room: at its end, and above and
+// below alike; below only for a view that is filled from the top.
+QRect withNeededRoom(const QWidget* view, QRect place, bool isFilledFromTop) {
+  const QSize least = view->minimumSizeHint();
+  const QRect room = view->parentWidget()->rect();
+  if (least.width() > 0) {
+    place.setWidth(qMax(place.width(), least.width()));
+    // As far as the part that is needed would leave the superview.
+    const int excess = qMin(place.left() + least.width() - (room.right() + 1), place.left());
+    if (excess > 0) place.translate(-excess, 0);
+  }
+  const int wrapped = view->hasHeightForWidth() ? view->heightForWidth(place.width()) : 0;
+  const int more = qMax(least.height(), wrapped) - place.height();
+  if (more <= 0) return place;
+  if (isFilledFromTop || wrapped > 0) {
+    place.setBottom(qMin(place.bottom() + more, qMax(place.bottom(), room.bottom())));
+    return place;
+  }
+  place.adjust(0, -(more / 2), 0, more - more / 2);
+  place.translate(0, qMin(0, room.bottom() - place.bottom()));
+  place.translate(0, qMax(0, -place.top()));
+  return place;
+}
+
 QSize roundedSize(const Frame& frame) {
   return {static_cast<int>(std::ceil(frame.width)), static_cast<int>(std::ceil(frame.height))};
 }
@@ -80,6 +104,11 @@ class Placer final : public QObject {
     m_children.removeIf([child](const QPointer<QWidget>& known) { return !known || known == child; });
   }
 
+  static void setGeometryOf(QWidget* view, const Frame& frame) {
+    const QRect place = geometryIn(view->parentWidget(), frame);
+    view->setGeometry(withNeededRoom(view, place, of(view) != nullptr));
+  }
+
   QList<QWidget*> children() const {
     QList<QWidget*> alive;
     for (const QPointer<QWidget>& child : m_children)
@@ -99,13 +128,15 @@ class Placer final : public QObject {
         placement->frame.y += growth;
         keep(child, *placement);
       }
-      child->setGeometry(geometryIn(m_view, placement->frame));
+      setGeometryOf(child, placement->frame);
     }
   }
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override {
-    if (event->type() == QEvent::Resize) place();
+    // A request comes from a child whose need of room changed.
+    const QEvent::Type type = event->type();
+    if (type == QEvent::Resize || type == QEvent::Show || type == QEvent::LayoutRequest) place();
     if (event->type() == QEvent::ChildRemoved) remove(static_cast<QChildEvent*>(event)->child());
     return QObject::eventFilter(watched, event);
   }
@@ -134,7 +165,7 @@ void addSubview(QWidget* parent, QWidget* child, const Frame& frame, VerticalAnc
   }
   keep(child, {.frame = frame, .anchor = anchor});
   placer.add(child);
-  child->setGeometry(geometryIn(parent, frame));
+  Placer::setGeometryOf(child, frame);
   child->raise();
   if (!isHidden) child->show();
 }
@@ -157,7 +188,7 @@ void setFrame(QWidget* view, const Frame& frame) {
     setWindowSize(view, frame.size());
     if (!shift.isNull() && canMoveItself(view)) view->move(view->pos() + shift);
   } else {
-    view->setGeometry(geometryIn(view->parentWidget(), frame));
+    Placer::setGeometryOf(view, frame);
   }
   // A hidden view gets its resize event only when it is shown.
   if (Placer* placer = Placer::of(view)) placer->place();

@@ -7,8 +7,8 @@
 #include "platform/PlatformExport.h"
 #include "platform/Text.h"
 
-// A one-line text that cannot be edited or selected. A text that does not fit ends in "…"; the tool tip shows
-// all of it.
+// A text that cannot be edited or selected, in one line; with word wrap in as many as it needs. What does not
+// fit ends in "…"; the tool tip shows all of it.
 class PLATFORM_EXPORT StaticText : public QLabel {
   Q_OBJECT
 
@@ -17,13 +17,26 @@ class PLATFORM_EXPORT StaticText : public QLabel {
 
   void setSystemColor(SystemColor color);
   SystemColor systemColor() const { return m_color; }
+  // Draws the text there instead of where its alignment says.
+  void setDrawnAlignment(Qt::Alignment alignment);
+
+  QSize minimumSizeHint() const override;
+  int heightForWidth(int width) const override;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
   bool event(QEvent* event) override;
 
  private:
-  QRect visiblePart() const;
+  struct Shown {
+    QStringList lines;
+    bool isWhole = true;
+  };
+
+  QRectF visiblePart() const;
+  Shown shown() const;
+  QStringList linesFor(double width) const;
 
   SystemColor m_color = SystemColor::Text;
+  Qt::Alignment m_drawnAlignment;
 };

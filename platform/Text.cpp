@@ -20,9 +20,14 @@ FontKind fontKind(FontRole role, double size) {
 class FontTable {
  public:
   static FontTable& current() {
-    static FontTable table;
+    FontTable& table = shared();
     if (table.m_base != QGuiApplication::font()) table.startWith(QGuiApplication::font());
     return table;
+  }
+
+  static void setTextFont(const TextFont& font) {
+    shared().m_textFont = font;
+    shared().startWith(QGuiApplication::font());
   }
 
   const QFont& font(FontKind kind) { return entry(kind).font; }
@@ -43,6 +48,11 @@ class FontTable {
     double height = 0;
   };
 
+  static FontTable& shared() {
+    static FontTable table;
+    return table;
+  }
+
   void startWith(const QFont& base) {
     m_base = base;
     m_entries.clear();
@@ -55,15 +65,16 @@ class FontTable {
     return *found;
   }
 
-  // The application's own family is used where Inter is missing.
+  // The application's own family is used where the preferred one is missing.
   Entry made(FontKind kind) const {
     QFont font = m_base;
-    font.setFamilies({QStringLiteral("Inter"), m_base.family()});
-    font.setPixelSize(kind.second);
+    font.setFamilies({m_textFont.family, m_base.family()});
+    font.setPixelSize(qRound(kind.second * m_textFont.enlargement));
     if (kind.first == static_cast<int>(FontRole::BoldSystem)) font.setWeight(QFont::Bold);
     return {.font = font, .height = std::ceil(QFontMetricsF(font).height())};
   }
 
+  TextFont m_textFont;
   QFont m_base;
   QHash<FontKind, Entry> m_entries;
   QHash<std::pair<QString, FontKind>, double> m_widths;
@@ -73,6 +84,10 @@ class FontTable {
 
 QFont fontFor(FontRole role, double size) {
   return FontTable::current().font(fontKind(role, size));
+}
+
+void setTextFont(const TextFont& font) {
+  FontTable::setTextFont(font);
 }
 
 Size sizeOfText(const QString& text, FontRole role, double size) {

@@ -16,6 +16,15 @@ inline constexpr double systemFontSize = 13;  // the platform's default size, in
 
 PLATFORM_EXPORT QFont fontFor(FontRole role, double size);
 
+// The family that texts are drawn in where it is installed, and how much larger than named.
+struct TextFont {
+  QString family = QStringLiteral("Inter");
+  double enlargement = 1;
+};
+
+// For what is created from now on. Tests of the layout use other fonts than the usual one.
+PLATFORM_EXPORT void setTextFont(const TextFont& font);
+
 // More than any screen shows of one line; measuring and drawing the rest would only take time.
 inline constexpr qsizetype mostDrawnCharacters = 4000;
 

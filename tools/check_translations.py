@@ -5,13 +5,17 @@ import xml.etree.ElementTree as ElementTree
 
 from project_files import ROOT, finish, project_files, read
 
-LITERAL = r'"((?:[^"\\]|\\.)*)"'
+LITERAL = r'((?:"(?:[^"\\]|\\.)*"\s*)+)'  # in one piece or several
 ANY_LITERAL = re.compile(LITERAL)
+CHARACTER = re.compile(r"'(?:[^'\\]|\\.)'")
 
 
 def first_argument_of(*functions):
     return re.compile(r"\b(?:" + "|".join(functions) + r")\(\s*" + LITERAL)
 
+
+# The last member of an account or a site of the sandbox, which the companion shows.
+SANDBOX_MEANING = re.compile(r'\{Case::\w+,\s*"[^"]*",\s*(?:"[^"]*",\s*"[^"]*",\s*)?' + LITERAL)
 
 # Per table: its files, the code that uses it, and where texts are looked up there or passed to a helper that does, such as
 # titles of panes, texts of the sign-in dialog and of the page that ends a sign-in.
@@ -19,10 +23,10 @@ TABLES = [
     ("KZPreference/resources/translations/*.ts", ["KZPreference/*.h", "KZPreference/*.cpp", "adal/*.cpp"],
      [first_argument_of("(?:\\w*L|l)ocalizedString", "dialogText", "labelFor", "text"),
       re.compile(r"\badd\(m_\w+,\s*" + LITERAL),
-      re.compile(r"\bcallbackPage\(" + LITERAL.replace("(", "(?:", 1) + r",\s*" + LITERAL)]),
+      re.compile(r"\bcallbackPage\(" + LITERAL.replace("((", "(?:(", 1) + r",\s*" + LITERAL)]),
     ("host/resources/translations/*.ts", ["host/*.h", "host/*.cpp"], [first_argument_of("warningText")]),
-    ("companion/resources/translations/*.ts", ["companion/*.h", "companion/*.cpp"],
-     [first_argument_of("companionText", "textKey")]),
+    ("companion/resources/translations/*.ts", ["companion/*.h", "companion/*.cpp", "sandbox/Cases.cpp"],
+     [first_argument_of("companionText", "textKey"), SANDBOX_MEANING]),
 ]
 COLONS = (":", "\uff1a")
 PLACEHOLDER = re.compile(r"%\d")
@@ -32,7 +36,7 @@ WRONG_COLON = {"fr": re.compile("[^\u00a0]:(?!//)"), "ja": re.compile(r":(?!//)"
 
 
 def unescaped(literal):
-    return re.sub(r"\\(.)", r"\1", literal)
+    return re.sub(r"\\(.)", r"\1", re.sub(r'(?<!\\)"\s*"|^"|"\s*$', "", literal))
 
 
 def keys_in(text, patterns):
@@ -69,7 +73,7 @@ def language_findings(name, content, keys, literals):
 def main():
     found = []
     for tables, code_files, patterns in TABLES:
-        code = [read(path) for path in project_files(*code_files)]
+        code = [CHARACTER.sub("", read(path)) for path in project_files(*code_files)]
         keys = set().union(*(keys_in(text, patterns) for text in code))
         literals = {unescaped(literal) for text in code for literal in ANY_LITERAL.findall(text)}
         for path in project_files(tables):

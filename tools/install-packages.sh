@@ -9,7 +9,9 @@ packages=(
   qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev
   libsecret-1-dev libgtest-dev libbenchmark-dev
   # pictures and fonts (the second has the Japanese and Chinese letters)
-  librsvg2-bin fonts-inter fonts-noto-cjk fontconfig
+  librsvg2-bin fonts-inter fonts-dejavu-core fonts-noto-cjk fontconfig
+  # Qt's own texts in other languages
+  qt6-translations-l10n
   # the tests switch accessibility on
   qt6-base-private-dev
   # a keychain for the tests, on a bus of its own

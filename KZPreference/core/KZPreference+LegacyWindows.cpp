@@ -39,11 +39,11 @@ void KZPreference::onHandleClosePreferenceWindow() {
 
 void KZPreference::onHandleShowPreferenceWindow(const Dictionary& content, const QString& actionFrom) {
   const QString meetingKey = hasHostInfo(content);
-  const auto found = dictHostInfoWndController.find(meetingKey);
-  PreferencesWndController* known =
-      found != dictHostInfoWndController.end() ? found->second.get() : myWindowController.get();
-  if (known) {
-    known->bringPreferenceWindowToTop();
+  if (!meetingKey.isNull()) {
+    const auto& ofMeeting = dictHostInfoWndController.at(meetingKey);
+    if (ofMeeting) ofMeeting->bringPreferenceWindowToTop();
+  } else if (myWindowController) {
+    myWindowController->bringPreferenceWindowToTop();
   } else {
     myDictPreferenceInfo = content;
     showPreferenceWindow();
@@ -55,7 +55,7 @@ void KZPreference::showPreferenceWindow() {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
   const KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
   Dictionary data;
-  data.insert(QStringLiteral("kz"), store.preferenceInfo());
+  if (const Content info = store.preferenceInfo()) data.insert(QStringLiteral("kz"), *info);
   if (const QString site = store.siteName(); !site.isNull()) data.insert(QRT_Passport_site, site);
   if (const QString email = store.userName(); !email.isNull()) data.insert(QRT_Passport_email, email);
   showPreferenceWindowWithData(data);

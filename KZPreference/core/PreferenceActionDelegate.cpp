@@ -15,7 +15,7 @@ KZPlistFileHandle& settings() {
 }
 
 void storeCalendarValue(const QString& key, const QVariant& value) {
-  Dictionary calendar = settings().calendarIntegration();
+  Dictionary calendar = settings().calendarIntegration().value_or(Dictionary());
   calendar.insert(key, value);
   settings().setCalendarIntegration(calendar);
 }
@@ -26,7 +26,7 @@ struct NotificationKeys {
 };
 
 void storeNotification(const NotificationKeys& keys, bool state, const QString& minutes) {
-  Dictionary notification = settings().meetingNotification();
+  Dictionary notification = settings().meetingNotification().value_or(Dictionary());
   notification.insert(keys.state, state);
   notification.insert(keys.minutes, minutes);
   settings().setMeetingNotification(notification);
@@ -83,7 +83,8 @@ void PreferenceActionDelegate::notifyListExchMeetingAuthFailure() {
 
 void PreferenceActionDelegate::setExchOnpremiseCredInvalid() {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
-  Dictionary exchange = dictionaryValue(settings().calendarIntegration(), kKZCalendarIntegrationExchange);
+  Dictionary exchange = dictionaryValue(settings().calendarIntegration().value_or(Dictionary()),
+                                        kKZCalendarIntegrationExchange);
   exchange.insert(kKZCalendarIntegrationOnpremiseCredValid, false);
   storeCalendarValue(kKZCalendarIntegrationExchange, exchange);
 }
@@ -116,7 +117,7 @@ void PreferenceActionDelegate::setCalendarDays(const QString& days) {
 
 void PreferenceActionDelegate::setCalendarIntegrationSource(const QString& source) {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "source:%@", source);
-  Dictionary calendar = settings().calendarIntegration();
+  Dictionary calendar = settings().calendarIntegration().value_or(Dictionary());
   const bool hasDays = calendar.contains(kKZCalendarIntegrationDays);
   calendar.insert(kKZCalendarIntegrationSource, source);
   if (!hasDays) calendar.insert(kKZCalendarIntegrationDays, kKZCalendarIntegrationDaysDefault);

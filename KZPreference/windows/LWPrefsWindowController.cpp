@@ -15,6 +15,7 @@
 #include "platform/Accessible.h"
 #include "platform/ContentView.h"
 #include "platform/FrameLayout.h"
+#include "platform/KeyView.h"
 #include "platform/View.h"
 #include "platform/ViewAnimation.h"
 
@@ -183,7 +184,7 @@ void LWPrefsWindowController::displayViewForIdentifier(const QString& identifier
   if (isFading) return crossFadeView(newView, oldPicture);
 
   m_viewAnimation->stop();
-  clearFirstResponder();
+  clearFocus();
   if (oldView) removeFromSuperview(oldView);
   if (animate == Animate::Yes) return crossFadeView(newView, QPixmap());
   fitToScreen(newView);
@@ -202,16 +203,18 @@ void LWPrefsWindowController::crossFadeView(View* newView, const QPixmap& oldPic
 }
 
 void LWPrefsWindowController::animationDidEnd() {
-  clearFirstResponder();
+  clearFocus();
   removeSubviewsBelowTop();
   windowRoomDidChange();
 }
 
-// Before a view is removed, because Qt would give its focus to another view. The toolbar keeps it, so that
-// the arrow keys go on choosing.
-void LWPrefsWindowController::clearFirstResponder() {
+// Called before views are removed, because Qt would give the focus of a view that goes to any other. The
+// toolbar keeps the focus, so that the arrow keys go on choosing.
+void LWPrefsWindowController::clearFocus() {
   QWidget* focused = window()->focusWidget();
-  if (focused && !m_toolbar->hasKeyboard()) focused->clearFocus();
+  if (!focused || m_toolbar->hasKeyboard()) return;
+  if (shownView()->isAncestorOf(focused)) return clearFirstResponder(window());
+  focused->clearFocus();
 }
 
 View* LWPrefsWindowController::shownView() const {

@@ -78,7 +78,7 @@ class LWPrefsWindowController : public WindowController {
   void displayViewForIdentifier(const QString& identifier, Animate animate);
   void crossFadeView(View* newView, const QPixmap& oldPicture);
   void animationDidEnd();
-  void clearFirstResponder();
+  void clearFocus();
   View* shownView() const;
   void removeSubviewsBelowTop();
   void fitToScreen(const View* view);

@@ -24,14 +24,15 @@ void PreferenceWindowController::setDefaultPreference() {
 }
 
 void PreferenceWindowController::setNotificationDefaultPreference() {
-  const Dictionary settings = KZPlistFileHandle::sharedInstance().meetingNotification();
+  const Dictionary settings =
+      KZPlistFileHandle::sharedInstance().meetingNotification().value_or(Dictionary());
   if (settings.contains(kKZMeetintNotificationToastMinutes)) return;
   m_prefsDelegate->setMeetingAlerts(true, QStringLiteral("15"));
 }
 
 void PreferenceWindowController::setVideoDeviceDefaultPreference() {
   KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
-  Dictionary settings = store.videoDevice();
+  Dictionary settings = store.videoDevice().value_or(Dictionary());
   if (settings.contains(kKZVideoDeviceAutodetect)) return;
   settings.insert(kKZVideoDeviceAutodetect, true);
   store.setVideoDevice(settings);
@@ -72,7 +73,7 @@ void PreferenceWindowController::createPreferenceViews() {
   m_accountView = createAccountView(frameFor(sizes.account));
   m_meetingView = createMeetingView(frameFor(sizes.meetings));
   m_meetingView->setOLAccountAuthenticator(m_olaccountAuthenticator);
-  m_meetingView->setCalendarPreference(store.calendarIntegration());
+  m_meetingView->setCalendarPreference(store.calendarIntegration().value_or(Dictionary()));
   m_notificationView = new PrefNotificationView(frameFor(notification), m_prefsDelegate);
   m_notificationView->setPreference(store.meetingNotification());
   m_proximityView = new PrefProximityView(frameFor(proximity), m_prefsDelegate);

@@ -37,7 +37,7 @@ View* SignInPreferenceWindowController::createAccountView(const Frame& frame) {
 
 MeetingsPane* SignInPreferenceWindowController::createMeetingView(const Frame& frame) {
   auto* view = new PrefMeetingView(frame, m_prefsDelegate);
-  const Dictionary info = KZPlistFileHandle::sharedInstance().preferenceInfo();
+  const Dictionary info = KZPlistFileHandle::sharedInstance().preferenceInfo().value_or(Dictionary());
   view->setPmrurl(textValue(info, QRT_Preference_PMRUrl), textValue(info, QRT_Preference_PMRSipUrl));
   view->setCalendarIntergrationOption(m_intergrationOption);
   return view;

@@ -30,7 +30,7 @@ void becomeSignedIn(KZPlistFileHandle& store) {
 
 void become(Variant variant) {
   KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
-  const bool wasGuest = store.value(kIsGuestKey).toBool();
+  const bool wasGuest = asFlag(store.value(kIsGuestKey)).value_or(false);
   const bool isGuest = variant == Variant::Guest;
   if (wasGuest && !isGuest) {
     store.setValue(kGuestKey, Dictionary{{kName, store.displayName()}, {kEmail, store.userName()}});
@@ -42,7 +42,7 @@ void become(Variant variant) {
 }
 
 Dictionary record() {
-  Dictionary record = KZPlistFileHandle::sharedInstance().preferenceInfo();
+  Dictionary record = KZPlistFileHandle::sharedInstance().preferenceInfo().value_or(Dictionary());
   if (record.isEmpty()) {
     record = {{QRT_Preference_PMRUrl, QStringLiteral("https://sandbox.example/meet/ada")},
               {QRT_Preference_PMRSipUrl, QStringLiteral("ada@sandbox.example")}};

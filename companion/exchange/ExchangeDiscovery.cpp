@@ -7,6 +7,7 @@
 
 #include "companion/exchange/ServiceRecords.h"
 #include "companion/network/WebAddress.h"
+#include "companion/texts/CompanionText.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZTrace.h"
 
@@ -79,7 +80,7 @@ void ExchangeDiscovery::startNext() {
 }
 
 void ExchangeDiscovery::startAttempt(const Candidate& candidate) {
-  Q_EMIT message(QStringLiteral("Asking %1.").arg(candidate.address.host()));
+  Q_EMIT message(companionText("Asking %1.").arg(candidate.address.host()));
   if (m_state == State::Over) return;
   auto* const attempt = new AutodiscoverAttempt(m_context, m_email);
   m_running.push_back({std::unique_ptr<AutodiscoverAttempt>(attempt), candidate});
@@ -126,7 +127,7 @@ void ExchangeDiscovery::handle(const CredentialNeeded& /*needed*/, const QUrl& a
   stopSearch();
   m_waiting = waiting;
   m_state = State::AwaitingCredential;
-  Q_EMIT message(QStringLiteral("%1 asks for a user name and password.").arg(address.host()));
+  Q_EMIT message(companionText("%1 asks for a user name and password.").arg(address.host()));
   Q_EMIT notified(KZNotify::KZNotifyExchangeResolvingNeedCredential,
                   {{kKZResult, kKZSuccess},
                    {QRT_ExchangeDiscover_ExchangeType, QRT_ExchangeDiscover_ExchangeTypeOnpremise}});
@@ -183,7 +184,7 @@ void ExchangeDiscovery::handle(const OnlineService& service, const QUrl& /*addre
   stopSearch();
   m_online = service;
   m_state = State::AwaitingToken;
-  Q_EMIT message(QStringLiteral("%1 is an Office 365 account.").arg(m_email));
+  Q_EMIT message(companionText("%1 is an Office 365 account.").arg(m_email));
   const QJsonObject parameters = {{QStringLiteral("authority"), service.authority},
                                   {QStringLiteral("resource"), service.resource},
                                   {QStringLiteral("clientId"), service.clientId},
@@ -238,7 +239,7 @@ void ExchangeDiscovery::fail(const NetworkFailure& failure) {
 void ExchangeDiscovery::cancel() {
   if (m_state == State::Over) return;
   stop();
-  Q_EMIT message(QStringLiteral("The search for an Exchange service was given up."));
+  Q_EMIT message(companionText("The search for an Exchange service was given up."));
 }
 
 void ExchangeDiscovery::stop() {

@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "companion/format/ValueCodec.h"
+#include "companion/texts/CompanionText.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 
 namespace {
@@ -54,7 +55,7 @@ InspectorEvent commandEvent(const char* kind, KZCommand command, const Content& 
 InspectorEvent telemetryEvent(const Content& content) {
   const Dictionary values = dictionaryValue(content.value_or(Dictionary()), TelemetryKey_Values);
   const QString feature = textValue(values, TelemetryKey_FeatureName);
-  return jsonEvent(Group::Telemetry, "Telemetry",
+  return jsonEvent(Group::Telemetry, textKey("Telemetry"),
                    feature.isEmpty() ? QStringLiteral("KZCmdWriteTelemetry") : feature,
                    values.isEmpty() ? content : Content(values));
 }
@@ -92,50 +93,51 @@ QString differenceOf(const StoreChange& change) {
 
 struct EventDescription {
   InspectorEvent operator()(const PluginLoad& load) const {
-    return textEvent(Group::Traces, "Trace", QStringLiteral("load"), load.path);
+    return textEvent(Group::Traces, textKey("Trace"), QStringLiteral("load"), load.path);
   }
   InspectorEvent operator()(const CommandToPlugin& triggered) const {
-    return commandEvent("Command to plug-in", triggered.command, triggered.content);
+    return commandEvent(textKey("Command to plug-in"), triggered.command, triggered.content);
   }
   InspectorEvent operator()(const CommandToHost& sent) const {
     if (sent.command == KZCommand::KZCmdWriteTelemetry) return telemetryEvent(sent.content);
-    return commandEvent("Command to host", sent.command, sent.content);
+    return commandEvent(textKey("Command to host"), sent.command, sent.content);
   }
   InspectorEvent operator()(const NotificationToPlugin& notified) const {
     const auto table = kzNotifyTable();
     const auto row = std::ranges::find(table, notified.index, &KZNotifyRow::index);
     const QString title = numbered(static_cast<quint64>(notified.index), row == table.end() ? "" : row->name);
-    return jsonEvent(Group::Notifications, "Notification", title, notified.content);
+    return jsonEvent(Group::Notifications, textKey("Notification"), title, notified.content);
   }
   InspectorEvent operator()(const PersonalRoomChange& room) const {
     const Dictionary given = {{"join", room.joinUrl}, {"sip", room.sipUrl}};
-    return jsonEvent(Group::Notifications, "Personal room", QStringLiteral("setPMRJoinUrl:sipUrl:"), given);
+    return jsonEvent(Group::Notifications, textKey("Personal room"), QStringLiteral("setPMRJoinUrl:sipUrl:"),
+                     given);
   }
   InspectorEvent operator()(const CredentialRequest& request) const {
-    return jsonEvent(Group::SignIn, "Challenge", request.name, request.userInfo);
+    return jsonEvent(Group::SignIn, textKey("Challenge"), request.name, request.userInfo);
   }
   InspectorEvent operator()(const CredentialResponse& response) const {
-    return jsonEvent(Group::SignIn, "Answer", response.name, response.userInfo);
+    return jsonEvent(Group::SignIn, textKey("Answer"), response.name, response.userInfo);
   }
   InspectorEvent operator()(const AddressRequest& request) const {
-    return textEvent(Group::SignIn, "Address", QStringLiteral("openURL"), request.address);
+    return textEvent(Group::SignIn, textKey("Address"), QStringLiteral("openURL"), request.address);
   }
   InspectorEvent operator()(const WarningShown& warning) const {
-    return textEvent(Group::Warnings, "Warning", masked(warning.title).toString(), warning.message);
+    return textEvent(Group::Warnings, textKey("Warning"), masked(warning.title).toString(), warning.message);
   }
   InspectorEvent operator()(const StoreChange& change) const {
-    return {Group::Store, QStringLiteral("Store write"), change.key, differenceOf(change)};
+    return {Group::Store, QString::fromLatin1(textKey("Store write")), change.key, differenceOf(change)};
   }
   InspectorEvent operator()(const KeychainChange& change) const {
     const bool isWritten = change.kind == KeychainChange::Kind::Written;
-    return textEvent(Group::Store, "Keychain", change.account, isWritten ? "written" : "removed");
+    return textEvent(Group::Store, textKey("Keychain"), change.account, isWritten ? "written" : "removed");
   }
   // Secrets are masked where the trace is written.
   InspectorEvent operator()(const KZTraceRecord& trace) const {
-    QString kind = QStringLiteral("Trace");
-    if (trace.level != KZTraceLevel::Info)
-      kind += QStringLiteral(" (%1)").arg(QLatin1String(kzTraceLevelName(trace.level)));
-    InspectorEvent event = {Group::Traces, kind, trace.method, trace.text};
+    static constexpr const char* kinds[] = {textKey("Trace"), textKey("Trace (warning)"),
+                                            textKey("Trace (error)")};
+    const char* kind = kinds[static_cast<int>(trace.level)];
+    InspectorEvent event = {Group::Traces, QString::fromLatin1(kind), trace.method, trace.text};
     event.isError = trace.level == KZTraceLevel::Error;
     return event;
   }
@@ -168,7 +170,7 @@ QString InspectorEvent::wholeContent() const {
 QByteArray InspectorEvent::exportedLine() const {
   // Content that was cut is no JSON any more.
   const QJsonDocument json = QJsonDocument::fromJson(content.toUtf8());
-  const QJsonObject line{{"time", QDateTime::fromMSecsSinceEpoch(time, Qt::UTC).toString(Qt::ISODateWithMs)},
+  const QJsonObject line{{"time", QDateTime::fromMSecsSinceEpoch(time).toUTC().toString(Qt::ISODateWithMs)},
                          {"kind", kind},
                          {"name", title},
                          {"content", json.isObject() ? QJsonValue(json.object()) : QJsonValue(content)}};

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "companion/texts/CompanionText.h"
 #include "platform/Look.h"
 
 namespace {
@@ -43,7 +44,7 @@ QString columnText(const InspectorEvent& event, int column, qsizetype longest) {
     case InspectorLog::TimeColumn:
       return QDateTime::fromMSecsSinceEpoch(event.time).toString(QStringLiteral("HH:mm:ss.zzz"));
     case InspectorLog::KindColumn:
-      return event.kind;
+      return companionText(event.kind.toUtf8().constData());
     case InspectorLog::NameColumn:
       return onOneLine(event.title);
     default:
@@ -132,7 +133,8 @@ QVariant InspectorLog::data(const QModelIndex& index, int role) const {
 }
 
 QVariant InspectorLog::headerData(int section, Qt::Orientation orientation, int role) const {
-  static const QStringList titles = {"Time", "Kind", "Name", "Content"};
+  static constexpr const char* titles[] = {textKey("Time"), textKey("Kind"), textKey("Name"),
+                                           textKey("Content")};
   const bool isTitle = orientation == Qt::Horizontal && role == Qt::DisplayRole;
-  return isTitle ? titles.value(section) : QVariant();
+  return isTitle ? companionText(titles[section]) : QVariant();
 }

@@ -21,6 +21,7 @@
 
 #include "companion/inspector/InspectorFilter.h"
 #include "companion/runtime/SaveDialog.h"
+#include "companion/texts/CompanionText.h"
 
 namespace {
 
@@ -33,14 +34,15 @@ struct GroupBox {
 };
 
 constexpr GroupBox kGroupBoxes[] = {
-    {Group::Commands, "Commands", "What host and plug-in ask of each other"},
-    {Group::Notifications, "Notifications",
-     "What the host's services report to the plug-in, the personal room too"},
-    {Group::SignIn, "Sign-in", "Challenges, their answers, and addresses that were opened"},
-    {Group::Warnings, "Warnings", "The warning window"},
-    {Group::Store, "Store", "Settings that were written, what changed in them, and keychain items"},
-    {Group::Telemetry, "Telemetry", "What is reported about the use of the window"},
-    {Group::Traces, "Traces", "What the plug-in and the host library do inside"}};
+    {Group::Commands, textKey("Commands"), textKey("What host and plug-in ask of each other")},
+    {Group::Notifications, textKey("Notifications"),
+     textKey("What the host's services report to the plug-in, the personal room too")},
+    {Group::SignIn, textKey("Sign-in"), textKey("Challenges, their answers, and addresses that were opened")},
+    {Group::Warnings, textKey("Warnings"), textKey("The warning window")},
+    {Group::Store, textKey("Store"),
+     textKey("Settings that were written, what changed in them, and keychain items")},
+    {Group::Telemetry, textKey("Telemetry"), textKey("What is reported about the use of the window")},
+    {Group::Traces, textKey("Traces"), textKey("What the plug-in and the host library do inside")}};
 
 // JSON Lines, readable by the owner alone; replaces the file as a whole or not at all. The reason when that
 // failed, else null.
@@ -55,10 +57,10 @@ constexpr GroupBox kGroupBoxes[] = {
 }
 
 template <typename Receiver>
-QPushButton* createButton(const char* title, const char* toolTip, Receiver* receiver,
+QPushButton* createButton(const QString& title, const QString& toolTip, Receiver* receiver,
                           void (Receiver::*action)()) {
-  auto* button = new QPushButton(QString::fromUtf8(title));
-  button->setToolTip(QString::fromUtf8(toolTip));
+  auto* button = new QPushButton(title);
+  button->setToolTip(toolTip);
   QObject::connect(button, &QPushButton::clicked, receiver, action);
   return button;
 }
@@ -73,8 +75,8 @@ QPlainTextEdit* createDetails() {
   details->setTabChangesFocus(true);
   details->setFont(font);
   details->setMinimumWidth(200);
-  details->setPlaceholderText(QStringLiteral("Choose a row to see its whole content."));
-  details->setAccessibleName(QStringLiteral("Whole content"));
+  details->setPlaceholderText(companionText("Choose a row to see its whole content."));
+  details->setAccessibleName(companionText("Whole content"));
   return details;
 }
 
@@ -125,7 +127,7 @@ void InspectorView::setUpTable() {
   m_table->setWordWrap(false);
   m_table->setTabKeyNavigation(false);
   m_table->setHorizontalScrollMode(QTableView::ScrollPerPixel);
-  m_table->setAccessibleName(QStringLiteral("Events"));
+  m_table->setAccessibleName(companionText("Events"));
   m_table->verticalHeader()->hide();
   m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + kRowGap);
@@ -133,7 +135,7 @@ void InspectorView::setUpTable() {
   m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   m_table->horizontalHeader()->setStretchLastSection(true);
   m_table->setColumnWidth(InspectorLog::TimeColumn, 96);
-  m_table->setColumnWidth(InspectorLog::KindColumn, 142);
+  m_table->setColumnWidth(InspectorLog::KindColumn, 160);
   m_table->setColumnWidth(InspectorLog::NameColumn, 220);
   connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
           &InspectorView::showDetails);
@@ -147,8 +149,8 @@ QWidget* InspectorView::createBoxes() {
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(16);
   for (const auto& [group, title, meaning] : kGroupBoxes) {
-    auto* box = new QCheckBox(QString::fromLatin1(title));
-    box->setToolTip(QString::fromLatin1(meaning));
+    auto* box = new QCheckBox(companionText(title));
+    box->setToolTip(companionText(meaning));
     box->setChecked(true);
     connect(box, &QCheckBox::toggled, m_filter,
             [filter = m_filter, group = group](bool isShown) { filter->setShown(group, isShown); });
@@ -166,18 +168,21 @@ QWidget* InspectorView::createBar() {
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(8);
   auto* text = new QLineEdit;
-  text->setPlaceholderText(QStringLiteral("Filter by name or content"));
-  text->setAccessibleName(QStringLiteral("Filter by name or content"));
+  text->setPlaceholderText(companionText("Filter by name or content"));
+  text->setAccessibleName(companionText("Filter by name or content"));
   text->setClearButtonEnabled(true);
   connect(text, &QLineEdit::textChanged, m_filter, &InspectorFilter::setText);
-  m_pause =
-      createButton("Pause", "Keeps the list as it is while you read", this, &InspectorView::togglePause);
+  m_pause = createButton(companionText("Pause"), companionText("Keeps the list as it is while you read"),
+                         this, &InspectorView::togglePause);
   row->addWidget(text, 1);
   row->addWidget(m_pause);
-  row->addWidget(createButton("Copy", "Copies the selected rows, or all rows that are shown", this,
+  row->addWidget(createButton(companionText("Copy"),
+                              companionText("Copies the selected rows, or all rows that are shown"), this,
                               &InspectorView::copy));
-  row->addWidget(createButton("Clear", "Forgets all events", m_log, &InspectorLog::clear));
-  row->addWidget(createButton("Export…", "Writes the events that are shown to a file", this,
+  row->addWidget(
+      createButton(companionText("Clear"), companionText("Forgets all events"), m_log, &InspectorLog::clear));
+  row->addWidget(createButton(companionText("Export…"),
+                              companionText("Writes the events that are shown to a file"), this,
                               &InspectorView::askForFile));
   return bar;
 }
@@ -196,12 +201,12 @@ QWidget* InspectorView::createLists() {
 
 void InspectorView::togglePause() {
   const bool isPaused = m_log->flow() == InspectorLog::Flow::Paused;
-  m_pause->setText(QStringLiteral("Pause"));
+  m_pause->setText(companionText("Pause"));
   m_log->setFlow(isPaused ? InspectorLog::Flow::Live : InspectorLog::Flow::Paused);
 }
 
 void InspectorView::showWaiting(qsizetype count) {
-  m_pause->setText(count == 0 ? QStringLiteral("Continue") : QStringLiteral("Continue (%1 new)").arg(count));
+  m_pause->setText(count == 0 ? companionText("Continue") : companionText("Continue (%1 new)").arg(count));
 }
 
 void InspectorView::showDetails(const QModelIndex& current) {
@@ -221,22 +226,22 @@ void InspectorView::copy() {
   QString text;
   for (const int row : rows) text += InspectorLog::lineOf(*m_filter->eventAt(row)) + u'\n';
   QGuiApplication::clipboard()->setText(text);
-  Q_EMIT message(QStringLiteral("The events are copied, without passwords and tokens."));
+  Q_EMIT message(companionText("The events are copied, without passwords and tokens."));
 }
 
 void InspectorView::exportTo(const QString& path) {
   const QString reason = writeEvents(path, *m_filter);
   if (reason.isEmpty()) {
-    Q_EMIT message(QStringLiteral("The events are in %1, without passwords and tokens.").arg(path));
+    Q_EMIT message(companionText("The events are in %1, without passwords and tokens.").arg(path));
   } else {
-    Q_EMIT message(QStringLiteral("The events could not be written to %1 (%2). Choose another folder.")
+    Q_EMIT message(companionText("The events could not be written to %1 (%2). Choose another folder.")
                        .arg(path, reason));
   }
 }
 
 void InspectorView::askForFile() {
-  QFileDialog* dialog = createSaveDialog(this, QStringLiteral("Export events"), QStringLiteral("inspector"));
-  dialog->setNameFilter(QStringLiteral("Events (*.jsonl)"));
+  QFileDialog* dialog = createSaveDialog(this, companionText("Export events"), QStringLiteral("inspector"));
+  dialog->setNameFilter(companionText("Events (*.jsonl)"));
   connect(dialog, &QFileDialog::fileSelected, this, &InspectorView::exportTo);
   dialog->open();
 }

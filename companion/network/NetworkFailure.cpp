@@ -1,5 +1,6 @@
 #include "companion/network/NetworkFailure.h"
 
+#include "companion/texts/CompanionText.h"
 #include "host/KZFoundation/KZConstants.h"
 
 namespace {
@@ -11,51 +12,51 @@ QString failurePattern(FailureKind kind) {
     case FailureKind::Explained:
       return {};
     case FailureKind::HostUnknown:
-      return QStringLiteral("%1 was not found. Check its name and your network connection.");
+      return companionText("%1 was not found. Check its name and your network connection.");
     case FailureKind::NotFound:
-      return QStringLiteral(
+      return companionText(
           "%1 does not have what was asked of it. Check its name, or tell your administrator.");
     case FailureKind::NoExchange:
-      return QStringLiteral("%1 has no Exchange service. Check the address, or ask your administrator.");
+      return companionText("%1 has no Exchange service. Check the address, or ask your administrator.");
     case FailureKind::Unreachable:
-      return QStringLiteral("%1 cannot be reached. Check your network connection and try again.");
+      return companionText("%1 cannot be reached. Check your network connection and try again.");
     case FailureKind::TooSlow:
-      return QStringLiteral("%1 did not answer in time. Try again later.");
+      return companionText("%1 did not answer in time. Try again later.");
     case FailureKind::ServerError:
-      return QStringLiteral("%1 has a problem of its own. Try again later, or tell your administrator.");
+      return companionText("%1 has a problem of its own. Try again later, or tell your administrator.");
     case FailureKind::Forbidden:
-      return QStringLiteral("%1 does not let you in. Ask your administrator for access.");
+      return companionText("%1 does not let you in. Ask your administrator for access.");
     case FailureKind::BadResponse:
-      return QStringLiteral("%1 gave no usable answer. Check its name, or tell your administrator.");
+      return companionText("%1 gave no usable answer. Check its name, or tell your administrator.");
     case FailureKind::Unsafe:
-      return QStringLiteral(
+      return companionText(
           "%1 leads to an address that is unencrypted or otherwise unsafe, which is not used. Tell your "
           "administrator.");
     case FailureKind::TooManyRedirects:
-      return QStringLiteral("%1 keeps leading to other addresses. Tell your administrator.");
+      return companionText("%1 keeps leading to other addresses. Tell your administrator.");
     case FailureKind::Declined:
-      return QStringLiteral("You did not allow %1. Detect again if you trust it.");
+      return companionText("You did not allow %1. Detect again if you trust it.");
     case FailureKind::Certificate:
-      return QStringLiteral("The certificate of %1 is not trusted. Ask your administrator before you go on.");
+      return companionText("The certificate of %1 is not trusted. Ask your administrator before you go on.");
     case FailureKind::CertificateOfOtherName:
-      return QStringLiteral(
+      return companionText(
           "The certificate of %1 belongs to another name. Ask your administrator to mend it.");
     case FailureKind::UnsupportedSignIn:
-      return QStringLiteral(
+      return companionText(
           "%1 does not accept a user name and password (Basic), the only way supported. Ask your "
           "administrator to allow it.");
     case FailureKind::ServerMessage:
-      return QStringLiteral("%1 says: \"%2\" Check the address, or ask your administrator.");
+      return companionText("%1 says: \"%2\" Check the address, or ask your administrator.");
     case FailureKind::BadUsername:
-      return QStringLiteral("A user name with a colon cannot be sent to %1. Use your email address.");
+      return companionText("A user name with a colon cannot be sent to %1. Use your email address.");
     case FailureKind::NoCredential:
-      return QStringLiteral("%1 needs your user name and password. Detect the account again and enter them.");
+      return companionText("%1 needs your user name and password. Detect the account again and enter them.");
     case FailureKind::CredentialRefused:
-      return QStringLiteral("%1 refused the user name or the password. Detect the account again.");
+      return companionText("%1 refused the user name or the password. Detect the account again.");
     case FailureKind::TokenRefused:
-      return QStringLiteral("%1 did not accept your sign-in. Detect the account again to sign in anew.");
+      return companionText("%1 did not accept your sign-in. Detect the account again to sign in anew.");
     case FailureKind::BadEmail:
-      return QStringLiteral("This email address has no usable domain. Check it for typing errors.");
+      return companionText("This email address has no usable domain. Check it for typing errors.");
   }
   return {};
 }

@@ -4,6 +4,7 @@
 
 #include "companion/runtime/PluginHost.h"
 #include "companion/services/NextMeetings.h"
+#include "companion/texts/CompanionText.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
@@ -12,30 +13,31 @@ namespace {
 
 QString identityNotice() {
   const KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
-  return QStringLiteral("You are %1 now, %2.").arg(store.displayName(), store.userName());
+  return companionText("You are %1 now, %2.").arg(store.displayName(), store.userName());
 }
 
 QString roomNotice(const QString& room) {
-  if (room.isEmpty()) return QStringLiteral("You have no personal room any more.");
-  return QStringLiteral("Your personal room is %1 now.").arg(room);
+  if (room.isEmpty()) return companionText("You have no personal room any more.");
+  return companionText("Your personal room is %1 now.").arg(room);
 }
 
 QString sourceNotice() {
-  const Dictionary calendar = KZPlistFileHandle::sharedInstance().calendarIntegration();
+  const Dictionary calendar =
+      KZPlistFileHandle::sharedInstance().calendarIntegration().value_or(Dictionary());
   const QString source = textValue(calendar, kKZCalendarIntegrationSource);
   if (source == kKZCalendarIntegrationSourceOutlook) {
-    return QStringLiteral("Meetings come from Microsoft Outlook now.");
+    return companionText("Meetings come from Microsoft Outlook now.");
   }
-  if (source == kKZCalendarIntegrationSourceGoogle) return QStringLiteral("Meetings come from Google now.");
-  if (source == kKZCalendarIntegrationSourceMivRa) return QStringLiteral("Meetings come from Mivra now.");
-  return QStringLiteral("Meetings come from no calendar now.");
+  if (source == kKZCalendarIntegrationSourceGoogle) return companionText("Meetings come from Google now.");
+  if (source == kKZCalendarIntegrationSourceMivRa) return companionText("Meetings come from Mivra now.");
+  return companionText("Meetings come from no calendar now.");
 }
 
 QString devicesNotice(const Content& content) {
   const auto isOn = flagValue(content.value_or(Dictionary()), kKZVideoDeviceAutodetect);
   if (!isOn) return {};
-  return *isOn ? QStringLiteral("Nearby video devices are looked for. This companion finds none.")
-               : QStringLiteral("Nearby video devices are not looked for any more.");
+  return *isOn ? companionText("Nearby video devices are looked for. This companion finds none.")
+               : companionText("Nearby video devices are not looked for any more.");
 }
 
 }  // namespace
@@ -53,7 +55,7 @@ ChangeNotices::ChangeNotices(PluginHost* host) {
   host->handle(KZCommand::KZCmdListExchMeetingAuthFailure, this,
                [show](const Content&) { show(refusedPasswordText()); });
   host->handle(KZCommand::KZCmdExchDiscoverAuthFailure, this, [show](const Content&) {
-    show(QStringLiteral(
+    show(companionText(
         "Exchange did not accept this user name and password. Check them, then detect the account again."));
   });
 }

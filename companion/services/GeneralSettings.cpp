@@ -7,6 +7,7 @@
 #include <QStandardPaths>
 
 #include "companion/runtime/PluginHost.h"
+#include "companion/texts/CompanionText.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
@@ -14,6 +15,15 @@
 namespace {
 
 const QString kEntryName = QStringLiteral("brenn-mivra-companion.desktop");
+// The desktop chooses the language, so all of them are in the entry.
+constexpr const char* kComments[] = {
+    "Comment=Starts after login; switched in Preferences, General",
+    "Comment[de]=Startet nach der Anmeldung; einstellbar in den Einstellungen unter „Allgemein“",
+    "Comment[es]=Se inicia después de entrar en la sesión; se cambia en Preferencias, General",
+    "Comment[fr]=Démarre après l’ouverture de session\u00a0; réglable dans Préférences, Général",
+    "Comment[ja]=ログイン後に起動します（「環境設定」の「一般」で変更）",
+    "Comment[zh_CN]=登录后启动；可在“偏好设置”的“通用”中更改",
+};
 
 // A value of the type string: the backslash escapes.
 QString escaped(QString text) {
@@ -61,22 +71,17 @@ QString AutostartEntry::path() const {
 QByteArray AutostartEntry::content() const {
   QStringList command;
   for (const QString& argument : startable(m_command)) command.append(quotedArgument(argument));
-  const QStringList lines = {QStringLiteral("[Desktop Entry]"),
-                             QStringLiteral("Type=Application"),
-                             QStringLiteral("Name=Brenn Mivra Meetings"),
-                             QStringLiteral("Comment=Starts after login; switched in Preferences, General"),
-                             QStringLiteral("TryExec=") + escaped(m_command.first()),
-                             QStringLiteral("Exec=") + escaped(command.join(QLatin1Char(' '))),
-                             QStringLiteral("Icon=brenn-mivra-companion"),
-                             QStringLiteral("Terminal=false"),
-                             QString()};
+  QStringList lines = {"[Desktop Entry]", "Type=Application", "Name=Brenn Mivra Meetings"};
+  for (const char* comment : kComments) lines.append(QString::fromUtf8(comment));
+  lines += {"TryExec=" + escaped(m_command.first()), "Exec=" + escaped(command.join(QLatin1Char(' '))),
+            "Icon=brenn-mivra-companion", "Terminal=false", QString()};
   return lines.join(QLatin1Char('\n')).toUtf8();
 }
 
 QString AutostartEntry::write() const {
   QFile present(path());
   if (present.open(QIODevice::ReadOnly) && present.readAll() == content()) return {};
-  if (!QDir().mkpath(m_folder)) return QStringLiteral("the folder cannot be made");
+  if (!QDir().mkpath(m_folder)) return companionText("the folder cannot be made");
   QSaveFile file(path());
   const bool isWritten = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
                          file.write(content()) == content().size() && file.commit();
@@ -105,23 +110,23 @@ void GeneralSettings::apply() {
 void GeneralSettings::update(const Dictionary& values) {
   if (const auto isWanted = flagValue(values, kLaunchAtLogin)) startAtLogin(*isWanted);
   if (const auto isWanted = flagValue(values, kEnableOutlookKZPluginValue)) {
-    Q_EMIT message(*isWanted ? QStringLiteral("Meetings can be scheduled from Microsoft Outlook once it is "
-                                              "started again.")
-                             : QStringLiteral("Microsoft Outlook schedules no meetings any more once it is "
-                                              "started again."));
+    Q_EMIT message(*isWanted ? companionText("Meetings can be scheduled from Microsoft Outlook once it is "
+                                             "started again.")
+                             : companionText("Microsoft Outlook schedules no meetings any more once it is "
+                                             "started again."));
   }
 }
 
 void GeneralSettings::startAtLogin(bool isWanted) {
   const QString failure = carryOut(isWanted);
   if (!failure.isEmpty()) return Q_EMIT message(failure);
-  Q_EMIT message(isWanted ? QStringLiteral("Brenn Mivra Meetings starts after your next login.")
-                          : QStringLiteral("Brenn Mivra Meetings does not start after login any more."));
+  Q_EMIT message(isWanted ? companionText("Brenn Mivra Meetings starts after your next login.")
+                          : companionText("Brenn Mivra Meetings does not start after login any more."));
 }
 
 QString GeneralSettings::carryOut(bool isWanted) const {
   const QString reason = isWanted ? m_autostart.write() : m_autostart.remove();
   if (reason.isEmpty()) return {};
-  return QStringLiteral("%1 cannot be changed: %2. Make its folder writable and choose again.")
+  return companionText("%1 cannot be changed: %2. Make its folder writable and choose again.")
       .arg(m_autostart.path(), reason);
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "companion/runtime/PluginHost.h"
+#include "companion/texts/CompanionText.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
@@ -15,17 +16,17 @@ constexpr int kMostDays = 31;
 // Why the account cannot be listed, in a sentence; null where it can.
 QString missingText(const QString& source, const Dictionary& account) {
   if (source == kKZCalendarIntegrationSourceGoogle || source == kKZCalendarIntegrationSourceMivRa) {
-    return QStringLiteral(
+    return companionText(
         "The meetings of your calendar are not listed here: this companion reads Microsoft Outlook only. "
         "Choose it in Preferences, Meetings.");
   }
   if (source != kKZCalendarIntegrationSourceOutlook) {
-    return QStringLiteral(
+    return companionText(
         "No calendar is chosen. Choose Microsoft Outlook in Preferences, Meetings, to see your next "
         "meetings.");
   }
   if (meetingAddress(account).isEmpty()) {
-    return QStringLiteral("No account is applied yet. Enter your email address in Preferences, Meetings.");
+    return companionText("No account is applied yet. Enter your email address in Preferences, Meetings.");
   }
   // Sending the refused password again could lock the account.
   const bool isRefused = !flagValue(account, kKZCalendarIntegrationOnpremiseCredValid).value_or(true);
@@ -44,9 +45,8 @@ NextMeetings::NextMeetings(PluginHost* host, ServiceNetwork* network, std::chron
   connect(&m_soon, &QTimer::timeout, this, &NextMeetings::request);
   connect(&m_again, &QTimer::timeout, this, &NextMeetings::refresh);
   connect(&m_tokenDeadline, &QTimer::timeout, this, [this] {
-    show({},
-         QStringLiteral("The sign-in of %1 was not renewed in time. Refresh, or detect the account again.")
-             .arg(m_tokenEmail));
+    show({}, companionText("The sign-in of %1 was not renewed in time. Refresh, or detect the account again.")
+                 .arg(m_tokenEmail));
   });
   connect(network, &ServiceNetwork::changed, this, &NextMeetings::refresh);
   connect(&KZPlistFileHandle::sharedInstance(), &KZPlistFileHandle::valueChanged, this,
@@ -86,9 +86,10 @@ void NextMeetings::request() {
   m_tokenEmail.clear();
   m_tokenDeadline.stop();
   m_exchange.reset();
-  const Dictionary calendar = KZPlistFileHandle::sharedInstance().calendarIntegration();
+  const Dictionary calendar =
+      KZPlistFileHandle::sharedInstance().calendarIntegration().value_or(Dictionary());
   m_account = dictionaryValue(calendar, kKZCalendarIntegrationExchange);
-  m_days = std::clamp(textValue(calendar, kKZCalendarIntegrationDays).toInt(), 1, kMostDays);
+  m_days = std::clamp(countValue(calendar, kKZCalendarIntegrationDays).toInt(), 1, kMostDays);
   const QString missing = missingText(textValue(calendar, kKZCalendarIntegrationSource), m_account);
   if (!missing.isEmpty()) return show({}, missing);
   // The request of a token would already reach an online service.
@@ -119,9 +120,10 @@ void NextMeetings::takeToken(const Dictionary& values) {
   const QString email = std::exchange(m_tokenEmail, {});
   const QString token = textValue(values, QRT_ListingMeeting_exchOnlineToken);
   if (!isFailed && !token.isEmpty()) return list(token);
-  const QString reason = isFailed ? QStringLiteral("The sign-in of %1 could not be renewed.")
-                                  : QStringLiteral("Nobody is signed in as %1.");
-  show({}, QStringLiteral("%1 Detect the account again to sign in.").arg(reason.arg(email)));
+  const QString reason =
+      isFailed ? companionText("The sign-in of %1 could not be renewed. Detect the account again to sign in.")
+               : companionText("Nobody is signed in as %1. Detect the account again to sign in.");
+  show({}, reason.arg(email));
 }
 
 // The token goes to the account that it was requested for, even if the store has changed since.
@@ -129,7 +131,7 @@ void NextMeetings::list(const QString& token) {
   m_exchange = std::make_unique<ExchangeMeetings>(
       m_network->exchange(), [this](const QList<ExchangeMeeting>& meetings, const QString& failure) {
         const bool isNone = meetings.isEmpty() && failure.isEmpty();
-        show(meetings, isNone ? QStringLiteral("No meetings in the days that you chose.") : failure);
+        show(meetings, isNone ? companionText("No meetings in the days that you chose.") : failure);
       });
   m_exchange->list(m_account, token, m_days);
 }
@@ -142,13 +144,14 @@ void NextMeetings::show(const QList<ExchangeMeeting>& meetings, const QString& t
 }
 
 QString refusedPasswordText() {
-  return QStringLiteral(
+  return companionText(
       "Exchange did not accept the saved user name and password. Detect the account again in Preferences, "
       "Meetings.");
 }
 
 int announcedMinutes() {
-  const Dictionary settings = KZPlistFileHandle::sharedInstance().meetingNotification();
-  if (!isSet(settings, kKZMeetintNotificationToast)) return 0;
-  return textValue(settings, kKZMeetintNotificationToastMinutes).toInt();
+  const Dictionary settings =
+      KZPlistFileHandle::sharedInstance().meetingNotification().value_or(Dictionary());
+  if (!flagValue(settings, kKZMeetintNotificationToast).value_or(true)) return 0;
+  return countValue(settings, kKZMeetintNotificationToastMinutes).toInt();
 }

@@ -3,12 +3,13 @@
 #include <utility>
 
 #include "companion/network/WebAddress.h"
+#include "companion/texts/CompanionText.h"
 #include "host/KZUtility/KZWorkspace.h"
 
 ServiceNetwork::ServiceNetwork(NetworkReach reach, ExchangeConfiguration configuration)
     : m_reach(reach),
       m_configuration(std::move(configuration)),
-      m_missing(QStringLiteral("The sandbox is still starting. Try again in a moment.")) {}
+      m_missing(companionText("The sandbox is still starting. Try again in a moment.")) {}
 
 void ServiceNetwork::useSandbox(const SandboxDescription& sandbox) {
   m_sandbox = sandbox;
@@ -17,14 +18,14 @@ void ServiceNetwork::useSandbox(const SandboxDescription& sandbox) {
 
 void ServiceNetwork::loseSandbox(const QString& reason) {
   m_sandbox = {};
-  m_missing = QStringLiteral("%1 Start the companion again.").arg(reason);
+  m_missing = companionText("%1 Start the companion again.").arg(reason);
   Q_EMIT changed();
 }
 
 QString ServiceNetwork::refusalOf(const QUrl& address) const {
   if (!isReady()) return m_missing;
   if (m_reach == NetworkReach::Network || isWithinDomain(address.host(), m_sandbox.domain)) return {};
-  return QStringLiteral(
+  return companionText(
              "%1 is outside the sandbox and was not asked. Use an account or a site of the page Try out, or "
              "start the companion with --network.")
       .arg(address.host());
@@ -46,5 +47,5 @@ std::unique_ptr<HttpCall> ServiceNetwork::fetch(const QUrl& address, HttpCall::D
 
 QString openInBrowser(const QUrl& page) {
   if (KZWorkspace::sharedWorkspace().openURL(page)) return {};
-  return QStringLiteral("No browser opened %1. Open the address yourself.").arg(page.toDisplayString());
+  return companionText("No browser opened %1. Open the address yourself.").arg(page.toDisplayString());
 }

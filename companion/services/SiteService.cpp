@@ -5,6 +5,7 @@
 #include "companion/network/WebAddress.h"
 #include "companion/runtime/PluginHost.h"
 #include "companion/runtime/PreferencesWindow.h"
+#include "companion/texts/CompanionText.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZApplicationHelper.h"
@@ -54,7 +55,7 @@ SiteService::Result readSite(const QString& site, const HttpResponse& response) 
   if (siteAddress(site).isEmpty()) {
     return {
         .failure =
-            QStringLiteral("\"%1\" is no name of a site. Enter one such as meetings.example.com.").arg(site)};
+            companionText("\"%1\" is no name of a site. Enter one such as meetings.example.com.").arg(site)};
   }
   if (response.failure) return {.failure = response.failure.message()};
   const auto described = readMeetingSite(site, response.body);
@@ -63,10 +64,10 @@ SiteService::Result readSite(const QString& site, const HttpResponse& response) 
   return {.failure = failure.message()};
 }
 
-QString noPageText(const QString& purpose) {
+QString noPageText(const QString& pattern) {
   const QString site = siteStore().siteName();
-  if (site.isEmpty()) return QStringLiteral("No site is known. Choose one in Preferences, Account.");
-  return QStringLiteral("%1 names no page %2. Ask your administrator for its address.").arg(site, purpose);
+  if (site.isEmpty()) return companionText("No site is known. Choose one in Preferences, Account.");
+  return pattern.arg(site);
 }
 
 }  // namespace
@@ -147,12 +148,12 @@ void SiteService::take(const MeetingSite& site) {
 
 void SiteService::adopt(const MeetingSite& site) {
   moveTo(site);
-  Q_EMIT message(QStringLiteral("The site is %1 now.").arg(site.name.isNull() ? site.site : site.name));
+  Q_EMIT message(companionText("The site is %1 now.").arg(site.name.isNull() ? site.site : site.name));
 }
 
 void SiteService::adoptSilent(const QString& site) {
   moveTo({.site = site});
-  Q_EMIT message(QStringLiteral("The site is %1 now. It has not answered yet.").arg(site));
+  Q_EMIT message(companionText("The site is %1 now. It has not answered yet.").arg(site));
 }
 
 void SiteService::moveTo(const MeetingSite& site) {
@@ -173,12 +174,14 @@ void SiteService::showNewRecord() {
   if (!isInUse) m_host->trigger(KZCommand::KZCmdDestroyPreference);
   sendRecord(record());
   if (!isInUse) return;
-  Q_EMIT message(QStringLiteral("Your site has news for Preferences. Press Close, then Preferences."));
+  Q_EMIT message(
+      companionText("Your site has news for Preferences. Press Close Preferences, then Preferences."));
 }
 
 void SiteService::openMeetingSettings() {
   if (!m_site || m_site->meetingSettings.isEmpty()) {
-    return Q_EMIT message(noPageText(QStringLiteral("of meeting settings")));
+    return Q_EMIT message(noPageText(
+        companionText("%1 names no page of meeting settings. Ask your administrator for its address.")));
   }
   const QString failure = openInBrowser(m_site->meetingSettings);
   if (!failure.isEmpty()) Q_EMIT message(failure);
@@ -186,10 +189,11 @@ void SiteService::openMeetingSettings() {
 
 void SiteService::joinByNumber() {
   if (!KZUtility::sharedInstance().getKZMemCacheData(kPreferences_JoinByNumberLink).isValid()) {
-    return Q_EMIT message(noPageText(QStringLiteral("for joining by number")));
+    return Q_EMIT message(noPageText(
+        companionText("%1 names no page for joining by number. Ask your administrator for its address.")));
   }
   // The record replaces the stored one, so a guest's is sent as it is.
-  Dictionary wanted = m_isSignedIn ? record() : siteStore().preferenceInfo();
+  Dictionary wanted = m_isSignedIn ? record() : siteStore().preferenceInfo().value_or(Dictionary());
   wanted.insert(QStringLiteral("customInfo"),
                 QStringLiteral("{\"AppActionType\":\"%1\"}").arg(AppActionType_JoinByNumber));
   sendRecord(wanted);

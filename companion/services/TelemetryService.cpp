@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "companion/runtime/PluginHost.h"
+#include "companion/texts/CompanionText.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
@@ -62,8 +63,7 @@ TelemetryService::TelemetryService(PluginHost* host, const QString& folder, qint
 }
 
 bool TelemetryService::isOn() const {
-  const KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
-  return !store.isPlistKeyExist(kIsTelemetryOnKey) || store.value(kIsTelemetryOnKey).toBool();
+  return asFlag(KZPlistFileHandle::sharedInstance().value(kIsTelemetryOnKey)).value_or(true);
 }
 
 void TelemetryService::setOn(bool isOn) {
@@ -75,7 +75,7 @@ void TelemetryService::keep(const Dictionary& record) {
   const QString reason = append(lineOf(record) + '\n');
   // Traced once until it works again, not at every click.
   if (!reason.isEmpty() && !m_isFailing) {
-    Q_EMIT message(QStringLiteral("Telemetry cannot be kept in %1: %2. Free some space, or switch it off.")
+    Q_EMIT message(companionText("Telemetry cannot be kept in %1: %2. Free some space, or switch it off.")
                        .arg(path(), reason));
   }
   m_isFailing = !reason.isEmpty();
@@ -87,11 +87,11 @@ QString TelemetryService::path() const {
 }
 
 QString TelemetryService::append(const QByteArray& line) const {
-  if (!QDir().mkpath(m_folder)) return QStringLiteral("the folder cannot be made");
+  if (!QDir().mkpath(m_folder)) return companionText("the folder cannot be made");
   const qint64 present = QFileInfo(path()).size();
   if (present > 0 && present + line.size() > m_fileBytes) {
     QFile::remove(olderPath());
-    if (!QFile::rename(path(), olderPath())) return QStringLiteral("its folder cannot be changed");
+    if (!QFile::rename(path(), olderPath())) return companionText("its folder cannot be changed");
   }
   QFile file(path());
   if (!file.open(QIODevice::Append | QIODevice::Unbuffered, kOwnerOnly)) return file.errorString();
@@ -119,7 +119,7 @@ QList<TelemetryRecord> TelemetryService::newest(int count) const {
 void TelemetryService::deleteAll() {
   for (const QString& one : {olderPath(), path()}) {
     if (!QFile::exists(one) || QFile::remove(one)) continue;
-    Q_EMIT message(QStringLiteral("%1 cannot be deleted. Make its folder writable and try again.").arg(one));
+    Q_EMIT message(companionText("%1 cannot be deleted. Make its folder writable and try again.").arg(one));
   }
   Q_EMIT changed();
 }

@@ -7,6 +7,7 @@
 
 #include "companion/network/WebAddress.h"
 #include "companion/runtime/PluginHost.h"
+#include "companion/texts/CompanionText.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZConstants.h"
@@ -58,14 +59,14 @@ UpdateService::UpdateService(PluginHost* host, ServiceNetwork* network) : m_host
 
 void UpdateService::check() {
   if (KZUtility::sharedInstance().isCheckForUpdatesInProgress()) {
-    return Q_EMIT message(QStringLiteral("A check for updates is already running."));
+    return Q_EMIT message(companionText("A check for updates is already running."));
   }
   trigger(*m_host, KZCommand::KZCmdCheckForUpdates);
   if (m_check == Check::Asked) return;
   // Without a site the plug-in sends no command, and the host must clear its flag.
   KZUtility::sharedInstance().cleanCheckForUpdatesInProgressFlag();
   Q_EMIT message(
-      QStringLiteral("No site is known that could have updates. Choose one in Preferences, Account."));
+      companionText("No site is known that could have updates. Choose one in Preferences, Account."));
 }
 
 void UpdateService::checkQuietly() {
@@ -75,7 +76,7 @@ void UpdateService::checkQuietly() {
 
 void UpdateService::start(Check check, const Dictionary& content) {
   m_check = check;
-  if (check == Check::Asked) Q_EMIT message(QStringLiteral("Checking for updates."));
+  if (check == Check::Asked) Q_EMIT message(companionText("Checking for updates."));
   m_fetch =
       m_network->fetch(manifestAddress(content), [this](const HttpResponse& response) { read(response); });
 }
@@ -94,8 +95,8 @@ void UpdateService::read(const HttpResponse& response) {
     KZUtility::sharedInstance().cleanCheckForUpdatesInProgressFlag();
   }
   if (isNewer)
-    return Q_EMIT message(QStringLiteral("Version %1 is available.").arg(manifest->version.toString()));
-  if (isAsked) Q_EMIT message(QStringLiteral("You have the newest version."));
+    return Q_EMIT message(companionText("Version %1 is available.").arg(manifest->version.toString()));
+  if (isAsked) Q_EMIT message(companionText("You have the newest version."));
 }
 
 void UpdateService::setOffer(const std::optional<UpdateManifest>& manifest) {
@@ -116,7 +117,7 @@ void UpdateService::abandon() {
   m_fetch.reset();
   setOffer({});
   fail({.kind = FailureKind::Explained,
-        .detail = QStringLiteral("The site has changed meanwhile. Check for updates again.")});
+        .detail = companionText("The site has changed meanwhile. Check for updates again.")});
 }
 
 void UpdateService::fail(const NetworkFailure& failure) {

@@ -9,6 +9,22 @@ const T* valueOfType(const Dictionary& dictionary, const QString& key) {
   return static_cast<const T*>(found->constData());
 }
 
+bool isNumber(const QVariant& value) {
+  switch (value.metaType().id()) {
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::Long:
+    case QMetaType::ULong:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Float:
+    case QMetaType::Double:
+      return true;
+    default:
+      return false;
+  }
+}
+
 }  // namespace
 
 bool isMissing(const QVariant& value) {
@@ -35,9 +51,18 @@ Dictionary dictionaryValue(const Dictionary& dictionary, const QString& key) {
   return inner ? *inner : Dictionary();
 }
 
+std::optional<bool> asFlag(const QVariant& value) {
+  if (value.metaType() == QMetaType::fromType<bool>()) return value.toBool();
+  return isNumber(value) ? std::optional(value.toDouble() != 0) : std::nullopt;
+}
+
 std::optional<bool> flagValue(const Dictionary& dictionary, const QString& key) {
-  const bool* flag = valueOfType<bool>(dictionary, key);
-  return flag ? std::optional(*flag) : std::nullopt;
+  return asFlag(dictionary.value(key));
+}
+
+QString countValue(const Dictionary& dictionary, const QString& key) {
+  const QVariant value = dictionary.value(key);
+  return isNumber(value) ? value.toString() : textValue(dictionary, key);
 }
 
 bool isSet(const Dictionary& dictionary, const QString& key) {

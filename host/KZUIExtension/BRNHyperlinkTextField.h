@@ -25,6 +25,7 @@ class KZ_HOST_EXPORT BRNHyperlinkTextField : public QAbstractButton {
   void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return sizeHint(); }
 
  private:
   QColor currentColor() const;

@@ -97,17 +97,22 @@ void KZPlistFileHandle::setValue(const QString& key, const QVariant& value) {
   if (isChanged) Q_EMIT valueChanged(key, before, after);
 }
 
-Dictionary KZPlistFileHandle::preferenceInfo() const {
-  return dictionaryValue(m_values, kPreferenceInfo);
+Content KZPlistFileHandle::dictionaryAt(const QString& key) const {
+  const QVariant found = m_values.value(key);
+  return found.metaType() == QMetaType::fromType<Dictionary>() ? Content(found.toMap()) : std::nullopt;
 }
-Dictionary KZPlistFileHandle::meetingNotification() const {
-  return dictionaryValue(m_values, kMeetingNotification);
+
+Content KZPlistFileHandle::preferenceInfo() const {
+  return dictionaryAt(kPreferenceInfo);
 }
-Dictionary KZPlistFileHandle::videoDevice() const {
-  return dictionaryValue(m_values, kVideoDevice);
+Content KZPlistFileHandle::meetingNotification() const {
+  return dictionaryAt(kMeetingNotification);
 }
-Dictionary KZPlistFileHandle::calendarIntegration() const {
-  return dictionaryValue(m_values, kCalendarIntegration);
+Content KZPlistFileHandle::videoDevice() const {
+  return dictionaryAt(kVideoDevice);
+}
+Content KZPlistFileHandle::calendarIntegration() const {
+  return dictionaryAt(kCalendarIntegration);
 }
 
 void KZPlistFileHandle::setPreferenceInfo(const Dictionary& info) {

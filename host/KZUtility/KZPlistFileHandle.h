@@ -39,11 +39,11 @@ class KZ_HOST_EXPORT KZPlistFileHandle : public QObject {
   QVariant value(const QString& key) const;
   void setValue(const QString& key, const QVariant& value);
 
-  // Empty when absent or of another type.
-  Dictionary preferenceInfo() const;
-  Dictionary meetingNotification() const;
-  Dictionary videoDevice() const;
-  Dictionary calendarIntegration() const;
+  // None when absent or of another type.
+  Content preferenceInfo() const;
+  Content meetingNotification() const;
+  Content videoDevice() const;
+  Content calendarIntegration() const;
   void setPreferenceInfo(const Dictionary& info);
   void setMeetingNotification(const Dictionary& settings);
   void setVideoDevice(const Dictionary& settings);
@@ -59,7 +59,8 @@ class KZ_HOST_EXPORT KZPlistFileHandle : public QObject {
   void setUserName(const QString& name);
   void setDisplayName(const QString& name);
 
-  // False when absent; check `isPlistKeyExist` with KZLaunchAtLogin or KZEnableOutlookKZPlugin first.
+  // False when absent or no flag; check `isPlistKeyExist` with KZLaunchAtLogin or KZEnableOutlookKZPlugin
+  // first.
   bool launchAtLogin() const;
   bool enableOutlookKZPlugin() const;
   void setLaunchAtLogin(bool isOn);
@@ -75,6 +76,7 @@ class KZ_HOST_EXPORT KZPlistFileHandle : public QObject {
   KZPlistFileHandle();
   ~KZPlistFileHandle() override;
 
+  Content dictionaryAt(const QString& key) const;
   void reportProblem();
 
   Dictionary m_values;

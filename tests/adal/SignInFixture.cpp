@@ -33,7 +33,7 @@ ADTokenCacheItem accessItem(const QString& user, const QString& authority) {
   item.resource = QStringLiteral("https://mail.example.com");
   item.clientId = QStringLiteral("client-1");
   item.accessToken = QStringLiteral("access-of-") + user;
-  item.expiresOn = QDateTime(QDate(2199, 1, 1), QTime(0, 0), Qt::UTC);
+  item.expiresOn = QDateTime::fromString("2199-01-01T00:00:00Z", Qt::ISODate);
   return item;
 }
 

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QLocale>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -10,6 +11,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "adal/ADAuthenticationSettings.h"
 #include "companion/app/CompanionExchange.h"
 #include "companion/app/DemoUser.h"
 #include "companion/app/Sandbox.h"
@@ -163,6 +165,10 @@ TEST_F(CompanionExchangeTest, ReportsWhyItDoesNotSearch) {
   network.useSandbox({.domain = "sandbox.example"});
   detect("ada@example.com");
   EXPECT_TRUE(notificationNumber(3).contains("outside the sandbox"));
+  QLocale::setDefault(QLocale(QLocale::German));
+  detect("ada@example.com");
+  EXPECT_TRUE(notificationNumber(4).contains("liegt außerhalb der Sandbox"));
+  QLocale::setDefault(QLocale::c());
 }
 
 TEST_F(CompanionExchangeTest, ASandboxThatDiesEndsTheSearch) {
@@ -183,6 +189,9 @@ TEST_F(CompanionExchangeTest, TheMeetingsPaneFindsAnAccount) {
   ASSERT_TRUE(store.open(folder.path()));
   KZKeyChainHandle::sharedInstance().useStorage(KZKeyChainHandle::Storage::Memory);
   ASSERT_TRUE(host.load(PREFERENCES));
+  QLocale::setDefault(QLocale(QLocale::Spanish));
+  EXPECT_EQ(ADAuthenticationSettings::sharedInstance().text("Cancel"), "Cancelar");
+  QLocale::setDefault(QLocale::c());
   ASSERT_NO_FATAL_FAILURE(startSandbox());
   if (IsSkipped()) return;
   host.notify(KZNotify::KZNotifyGetPreferenceDone,

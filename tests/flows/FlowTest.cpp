@@ -53,4 +53,19 @@ INSTANTIATE_TEST_SUITE_P(Scripts, FlowTest, testing::ValuesIn(scripts()), [](con
   return QString::fromStdString(script.param).remove(u'-').toStdString();
 });
 
+TEST(Languages, TheFirstOfTheDesktopsThatHasATable) {
+  const std::pair<const char*, const char*> rows[] = {
+      {"en_US:de", "Preferences"},
+      {"xx:de:en", "Einstellungen"},
+      {"zh_SG", "偏好设置"},
+      {"zh_TW:fr", "Préférences"},
+  };
+  for (const auto& [languages, title] : rows) {
+    qputenv("LANGUAGE", languages);
+    const SessionRun run = runSession({R"({"command": 2})", R"({"get": "window"})"});
+    EXPECT_EQ(run.result().value("title"), QString::fromUtf8(title)) << languages;
+  }
+  qunsetenv("LANGUAGE");
+}
+
 }  // namespace

@@ -1,14 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractItemView>
-#include <QHelpEvent>
 #include <QSignalSpy>
 #include <QTest>
-#include <QToolTip>
 
 #include "platform/FrameLayout.h"
 #include "platform/PopUpButton.h"
-#include "platform/StaticText.h"
 #include "platform/View.h"
 
 namespace {
@@ -38,32 +35,6 @@ TEST(PopUpButton, ShowsATitleThatIsNoItemUntilTheUserChooses) {
   EXPECT_EQ(button.title(), "5");
   ASSERT_EQ(chosen.count(), 1);
   EXPECT_EQ(chosen.first().first(), "5");
-}
-
-QString toolTipOf(QWidget* view) {
-  QToolTip::hideText();
-  QHelpEvent event(QEvent::ToolTip, QPoint(1, 1), view->mapToGlobal(QPoint(1, 1)));
-  QCoreApplication::sendEvent(view, &event);
-  return QToolTip::text();
-}
-
-TEST(StaticText, ElidesATextThatDoesNotFitAndShowsItInAToolTip) {
-  QWidget parent;
-  parent.resize(400, 40);
-  const QString longName = QStringLiteral("A <b>name</b> that is far too long for its place");
-  auto* text = new StaticText("Ada", FontRole::Label, 13);
-  addSubview(&parent, text, {0, 0, 80, 22});
-  parent.show();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&parent));
-  EXPECT_EQ(toolTipOf(text), "");
-  text->setText(longName);
-  EXPECT_EQ(toolTipOf(text), longName.toHtmlEscaped());
-  EXPECT_EQ(text->text(), longName);
-
-  auto* shortened =
-      new StaticText(text->fontMetrics().elidedText(longName, Qt::ElideRight, 80), FontRole::Label, 13);
-  addSubview(&parent, shortened, {100, 0, 80, 22});
-  EXPECT_EQ(text->grab().toImage(), shortened->grab().toImage());
 }
 
 class UnhideCounter final : public View {

@@ -27,7 +27,7 @@ class NextMeetingsTest : public ServicesFixture {
   static Dictionary account(const QString& email) {
     return {
         {kKZCalendarIntegrationExchangeEmail, email},
-        {kKZCalendarIntegrationIsOnline, true},
+        {kKZCalendarIntegrationIsOnline, 1},
         {kKZCalendarIntegrationExchangeExternalUrl, "https://mail.online.sandbox.example/EWS/Exchange.asmx"}};
   }
 
@@ -45,6 +45,20 @@ class NextMeetingsTest : public ServicesFixture {
     return kit::waitUntil([&] { return meetings.text().contains(words); });
   }
 };
+
+TEST_F(NextMeetingsTest, AnnouncesWhatTheNotificationsPaneShows) {
+  const struct {
+    Dictionary stored;
+    int minutes;
+  } rows[] = {{{}, 0},
+              {{{kKZMeetintNotificationToastMinutes, "5"}}, 5},
+              {{{kKZMeetintNotificationToast, 0}, {kKZMeetintNotificationToastMinutes, "5"}}, 0},
+              {{{kKZMeetintNotificationToast, 1}, {kKZMeetintNotificationToastMinutes, 10.0}}, 10}};
+  for (const auto& row : rows) {
+    KZPlistFileHandle::sharedInstance().setMeetingNotification(row.stored);
+    EXPECT_EQ(announcedMinutes(), row.minutes);
+  }
+}
 
 TEST_F(NextMeetingsTest, WithoutATokenSaysAtOnceThatNobodyIsSignedIn) {
   ASSERT_TRUE(host.load(PREFERENCES)) << host.errorText().toStdString();

@@ -30,7 +30,8 @@ class SiteServiceTest : public ServicesFixture {
 
 TEST_F(SiteServiceTest, AnAdoptedSiteReachesTheStoreAndThePlugin) {
   service.signIn();
-  EXPECT_EQ(textValue(store().preferenceInfo(), QRT_Preference_PMRUrl), "https://stand-in.example/ada");
+  EXPECT_EQ(textValue(store().preferenceInfo().value_or(Dictionary()), QRT_Preference_PMRUrl),
+            "https://stand-in.example/ada");
   const SiteService::Result answer = lookUp("meetings.sandbox.example");
   ASSERT_TRUE(answer.site) << answer.failure.toStdString();
   EXPECT_TRUE(store().siteName().isNull());
@@ -40,12 +41,14 @@ TEST_F(SiteServiceTest, AnAdoptedSiteReachesTheStoreAndThePlugin) {
   EXPECT_EQ(told(), before + 1);
   EXPECT_EQ(store().siteName(), "meetings.sandbox.example");
   EXPECT_EQ(store().cdnUrl(), "https://downloads.sandbox.example");
-  EXPECT_EQ(textValue(store().preferenceInfo(), QRT_Preference_PMRUrl), "https://sandbox.example/meet/ada");
+  EXPECT_EQ(textValue(store().preferenceInfo().value_or(Dictionary()), QRT_Preference_PMRUrl),
+            "https://sandbox.example/meet/ada");
 
   host.trigger(KZCommand::KZCmdJoinByNumber);
   ASSERT_EQ(opened.size(), 1);
   EXPECT_EQ(opened.last().path(), "/join");
-  EXPECT_EQ(textValue(store().preferenceInfo(), QRT_Preference_PMRUrl), "https://sandbox.example/meet/ada");
+  EXPECT_EQ(textValue(store().preferenceInfo().value_or(Dictionary()), QRT_Preference_PMRUrl),
+            "https://sandbox.example/meet/ada");
   service.openMeetingSettings();
   EXPECT_EQ(opened.last().path(), "/settings");
 
@@ -88,7 +91,7 @@ TEST_F(SiteServiceTest, AGuestHearsOfNoRecord) {
   EXPECT_TRUE(notifications(KZNotify::KZNotifyGetPreferenceDone).isEmpty());
   service.joinByNumber();
   EXPECT_EQ(opened.size(), 1);
-  EXPECT_TRUE(store().preferenceInfo().isEmpty());
+  EXPECT_TRUE(store().preferenceInfo().value_or(Dictionary()).isEmpty());
 }
 
 }  // namespace

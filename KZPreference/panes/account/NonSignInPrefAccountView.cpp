@@ -1,5 +1,6 @@
 #include "KZPreference/panes/account/NonSignInPrefAccountView.h"
 
+#include <QKeyEvent>
 #include <cmath>
 
 #include "KZPreference/layout/Controls.h"
@@ -9,6 +10,7 @@
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 #include "host/KZUtility/KZUtility.h"
+#include "platform/Accessible.h"
 #include "platform/FrameLayout.h"
 #include "platform/KeyView.h"
 
@@ -62,6 +64,8 @@ void NonSignInPrefAccountView::initTxts() {
   const double x = secondMarginAtLeftEdge + labelWidth() + marginBetweenLabelAndContent;
   m_nameTxt = addLabel(this, "m_nameTxt", {x, kGuestNameRow, fieldWidth, kGuestRowHeight}, QString());
   m_emailTxt = addLabel(this, "m_emailTxt", {x, kGuestEmailRow, fieldWidth, kGuestRowHeight}, QString());
+  setAccessibleLabel(m_nameTxt, findChild<StaticText*>(QStringLiteral("m_nameLabel")));
+  setAccessibleLabel(m_emailTxt, findChild<StaticText*>(QStringLiteral("m_emailLabel")));
   refreshDisplayModeTxt();
 }
 
@@ -74,6 +78,9 @@ void NonSignInPrefAccountView::initInputTextFields() {
       "m_emailInputTxt", {x, kGuestEmailRow, fieldWidth, kGuestRowHeight}, profile.userName());
   m_nameInputTxt->setAccessibleName(fullNameLabel());
   m_emailInputTxt->setAccessibleName(emailAddressLabel());
+  const QString keys = localizedString("Return saves, Escape cancels, Ctrl+Tab leaves the fields.");
+  m_nameInputTxt->setAccessibleDescription(keys);
+  m_emailInputTxt->setAccessibleDescription(keys);
   connect(m_emailInputTxt, &QLineEdit::textEdited, this, &NonSignInPrefAccountView::controlTextDidChange);
   setNextKeyView(m_nameInputTxt, m_emailInputTxt);
   setNextKeyView(m_emailInputTxt, m_nameInputTxt);
@@ -116,6 +123,7 @@ void NonSignInPrefAccountView::onEditButton() {
                                                          TelemetryValue_ClickFrom_Preferences);
   m_bIsEditing = true;
   changeEditStatus();
+  m_nameInputTxt->setFocus(Qt::TabFocusReason);
 }
 
 void NonSignInPrefAccountView::onInputTxtEnter() {
@@ -126,7 +134,15 @@ void NonSignInPrefAccountView::controlTextDidChange() {
   m_warningMsg->hide();
 }
 
+void NonSignInPrefAccountView::keyPressEvent(QKeyEvent* event) {
+  if (!m_bIsEditing || event->key() != Qt::Key_Escape) return View::keyPressEvent(event);
+  refreshAccountInfo();
+}
+
 void NonSignInPrefAccountView::changeEditStatus() {
+  const QWidget* focused = window()->focusWidget();
+  // Otherwise the focus would move to whatever comes next.
+  if (focused == m_nameInputTxt || focused == m_emailInputTxt) m_editBtn->setFocus(Qt::OtherFocusReason);
   for (QWidget* field : {static_cast<QWidget*>(m_nameTxt), static_cast<QWidget*>(m_emailTxt),
                          static_cast<QWidget*>(m_nameInputTxt), static_cast<QWidget*>(m_emailInputTxt)}) {
     field->hide();
@@ -162,6 +178,7 @@ bool NonSignInPrefAccountView::checkName(const QString& name, const QString& ema
       KZUtility::getLengthLimitationStringValue(email.isEmpty() ? profile.userName() : email);
   if (!KZUtility::validateEmail(checkedEmail)) {
     m_warningMsg->show();
+    announce(m_warningMsg, m_warningMsg->text());
     return false;
   }
   m_actionDelegate->setDisplayName(KZUtility::getLengthLimitationStringValue(checkedName), checkedEmail);

@@ -23,6 +23,7 @@ class NonSignInPrefAccountView final : public View, public NonSignInPrefAccountV
 
  protected:
   void viewDidUnhide() override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void initLabels();

@@ -4,6 +4,7 @@
 #include "KZPreference/layout/PrefsViewDefine.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 #include "host/KZUtility/KZTrace.h"
+#include "platform/Accessible.h"
 
 namespace {
 
@@ -37,12 +38,14 @@ Frame PrefAccountView::contentFrame(double y) const {
 
 void PrefAccountView::initTxts() {
   const KZPlistFileHandle& profile = KZPlistFileHandle::sharedInstance();
-  const auto add = [this](const char* name, double y, const QString& text) {
-    return addLabel(this, name, contentFrame(y), text);
+  const auto add = [this](const char* name, const char* label, double y, const QString& text) {
+    StaticText* value = addLabel(this, name, contentFrame(y), text);
+    setAccessibleLabel(value, findChild<StaticText*>(QLatin1String(label)));
+    return value;
   };
-  m_nameTxt = add("m_nameTxt", kNameRow, profile.displayName());
-  m_siteTxt = add("m_siteTxt", kSiteRow, profile.siteName());
-  m_emailTxt = add("m_emailTxt", kEmailRow, profile.userName());
+  m_nameTxt = add("m_nameTxt", "m_nameLabel", kNameRow, profile.displayName());
+  m_siteTxt = add("m_siteTxt", "m_siteLabel", kSiteRow, profile.siteName());
+  m_emailTxt = add("m_emailTxt", "m_emailLabel", kEmailRow, profile.userName());
 }
 
 void PrefAccountView::initChangeSiteButton() {

@@ -10,13 +10,9 @@
 StartAtLoginView::StartAtLoginView(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate)
     : View(frame), m_actionDelegate(actionDelegate) {}
 
-bool StartAtLoginView::storedChoice(const QString& key) {
-  const QVariant kept = KZPlistFileHandle::sharedInstance().value(key);
-  return kept.metaType() == QMetaType::fromType<bool>() ? kept.toBool() : true;
-}
-
 void StartAtLoginView::initCheckingStartState() {
-  m_isStartWhenComputerStarts = storedChoice(KZLaunchAtLogin);
+  const KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
+  m_isStartWhenComputerStarts = !store.isPlistKeyExist(KZLaunchAtLogin) || store.launchAtLogin();
 }
 
 void StartAtLoginView::initStartCheckingCheckbox(const Frame& frame, const QString& title) {

@@ -14,9 +14,7 @@ class StartAtLoginView : public View {
   StartAtLoginView(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate);  // not owned
 
  protected:
-  // The stored choice; true when there is none, or a value that is no flag.
-  static bool storedChoice(const QString& key);
-
+  // The stored choice; true when there is none.
   void initCheckingStartState();
   void initStartCheckingCheckbox(const Frame& frame, const QString& title);
   // A row across the pane, `y` points above its lower edge.

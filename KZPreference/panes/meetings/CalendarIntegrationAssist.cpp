@@ -6,7 +6,7 @@
 #include "host/KZUtility/KZPlistFileHandle.h"
 
 Dictionary CalendarIntegrationAssist::getCalendarIntegrationPrefs() const {
-  return KZPlistFileHandle::sharedInstance().calendarIntegration();
+  return KZPlistFileHandle::sharedInstance().calendarIntegration().value_or(Dictionary());
 }
 
 Dictionary CalendarIntegrationAssist::exchangePrefs() const {

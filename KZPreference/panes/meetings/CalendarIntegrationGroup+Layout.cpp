@@ -19,6 +19,12 @@ constexpr double kFieldX = thirdMarginAtLeftEnd - 16;
 constexpr double kFieldWidth = 260;
 constexpr double kDetectWidth = 22;
 
+// What assistive technology says of a field. Without a description it would repeat the placeholder.
+struct Spoken {
+  QString name;
+  QString description;
+};
+
 }  // namespace
 
 void CalendarIntegrationGroup::initControls() {
@@ -40,13 +46,8 @@ void CalendarIntegrationGroup::initIntegratinLabel() {
       addTitle(this, "m_integrationTxt",
                {marginAtLeftEdge, frameOf(this).height - size.height, size.width + textPad, size.height},
                title, Qt::AlignRight);
-  alignTitle();
-}
-
-// The frame grows with each relayout; the margin keeps the text in line with the other titles.
-void CalendarIntegrationGroup::alignTitle() {
-  const double spare = frameOf(m_integrationTxt).width - titleTextSize(m_integrationTxt->text()).width;
-  m_integrationTxt->setContentsMargins(0, 0, static_cast<int>(spare), 0);
+  // The frame grows with each relayout, but the text stays in line with the other titles.
+  m_integrationTxt->setDrawnAlignment(Qt::AlignLeft);
 }
 
 double CalendarIntegrationGroup::sourceRowY(int row) const {
@@ -62,16 +63,23 @@ QRadioButton* CalendarIntegrationGroup::addRadioButton(const char* name, int row
 }
 
 void CalendarIntegrationGroup::initInputTextFields() {
-  const auto add = [this](const char* name, const QString& placeholder, Echo echo) {
+  const auto add = [this](const char* name, const QString& placeholder, const Spoken& spoken, Echo echo) {
     QLineEdit* field = addTextField(this, name, Frame(), echo);
     field->setPlaceholderText(placeholder);
-    field->setAccessibleName(placeholder);
+    field->setAccessibleName(spoken.name);
+    field->setAccessibleDescription(spoken.description);
     connect(field, &QLineEdit::textEdited, this, &CalendarIntegrationGroup::controlTextDidChange);
     return field;
   };
-  m_emailInputTxt = add("m_emailInputTxt", PrefMeetingViewVisible::emailPlaceHolder(), Echo::Plain);
-  m_usernameInputTxt = add("m_usernameInputTxt", PrefMeetingViewVisible::usernamePlaceHoder(), Echo::Plain);
-  m_passwordInputTxt = add("m_passwordInputTxt", PrefMeetingViewVisible::passwordPlaceHolder(), Echo::Secret);
+  const QString email = PrefMeetingViewVisible::emailPlaceHolder();
+  const QString username = PrefMeetingViewVisible::usernamePlaceHoder();
+  const QString password = PrefMeetingViewVisible::passwordPlaceHolder();
+  m_emailInputTxt =
+      add("m_emailInputTxt", email, {email, localizedString("Return looks up the account.")}, Echo::Plain);
+  m_usernameInputTxt =
+      add("m_usernameInputTxt", username, {localizedString("User name"), username}, Echo::Plain);
+  m_passwordInputTxt = add("m_passwordInputTxt", password,
+                           {password, localizedString("Return applies the account.")}, Echo::Secret);
   m_emailInputTxt->setTextMargins(0, 0, int(kDetectWidth), 0);
   m_emailInputTxt->setEnabled(false);
   m_usernameInputTxt->hide();
@@ -92,7 +100,8 @@ void CalendarIntegrationGroup::initDetectButton() {
                               .disabled = QStringLiteral("btn_verify_disabled")},
                              kImageBundle);
   m_detectBtn->setToolTip(PrefMeetingViewVisible::applyBtnTitle());
-  m_detectBtn->setAccessibleName(PrefMeetingViewVisible::applyBtnTitle());
+  m_detectBtn->setAccessibleName(localizedString("Look up account"));
+  m_detectBtn->setAccessibleDescription(PrefMeetingViewVisible::emailPlaceHolder());
   m_detectBtn->setCursor(Qt::ArrowCursor);
   m_detectBtn->setEnabled(false);
   addSubview(this, m_detectBtn, Frame());
@@ -103,8 +112,10 @@ void CalendarIntegrationGroup::initApplyButton() {
   m_applyBtn = new QPushButton(PrefMeetingViewVisible::applyBtnTitle());
   m_applyBtn->setObjectName(QStringLiteral("m_applyBtn"));
   m_applyBtn->setFont(fontFor(FontRole::System, labelFontSize));
+  m_applyBtn->setAutoDefault(true);  // Return presses it
   m_applyBtn->hide();
   addSubview(this, m_applyBtn, Frame());
+  setTabOrder(m_passwordInputTxt, m_applyBtn);
   connect(m_applyBtn, &QPushButton::clicked, this, &CalendarIntegrationGroup::onApplyButton);
 }
 
@@ -118,6 +129,9 @@ void CalendarIntegrationGroup::initSpinner() {
 void CalendarIntegrationGroup::initErrorText() {
   m_messageTxt = addLabel(this, "m_messageTxt", Frame(), QString());
   m_messageTxt->setSystemColor(SystemColor::Red);
+  // The frame ends beyond the group; a long text of the host wraps before the right margin.
+  m_messageTxt->setWordWrap(true);
+  m_messageTxt->setContentsMargins(0, 0, int(kFieldX) + marginAtRightEdge, 0);
   // The line covers the user name field, whose text must not be visible.
   m_messageTxt->setAutoFillBackground(true);
   m_messageTxt->hide();
@@ -143,6 +157,5 @@ void CalendarIntegrationGroup::relayoutAfterResize() {
   const Frame title = frameOf(m_integrationTxt);
   setFrame(m_integrationTxt,
            {marginAtLeftEdge, frameOf(this).height - title.height, title.width + textPad, title.height});
-  alignTitle();
   placeCredentialControls();
 }

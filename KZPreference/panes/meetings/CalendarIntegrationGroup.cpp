@@ -5,12 +5,15 @@
 #include <QRadioButton>
 
 #include "KZPreference/layout/PreferenceTelemetry.h"
+#include "KZPreference/layout/Resources.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUIExtension/FlatImageButton.h"
 #include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/KZTrace.h"
+#include "platform/Accessible.h"
 #include "platform/FrameLayout.h"
+#include "platform/KeyView.h"
 #include "platform/Spinner.h"
 #include "platform/WindowController.h"
 
@@ -133,7 +136,7 @@ void CalendarIntegrationGroup::needOutlookCredential(const Dictionary& result) {
   m_usernameInputTxt->show();
   m_passwordInputTxt->show();
   // After showing it: a hidden field cannot take the focus.
-  m_usernameInputTxt->setFocus(Qt::OtherFocusReason);
+  makeFirstResponder(m_usernameInputTxt);
   m_passwordInputTxt->setEnabled(false);
   m_applyBtn->show();
   m_applyBtn->setEnabled(false);
@@ -232,6 +235,10 @@ void CalendarIntegrationGroup::checkBtnsEnabled() {
 }
 
 void CalendarIntegrationGroup::hideCredentialControls() {
+  const QWidget* focused = window()->focusWidget();
+  // Otherwise the focus would move to whatever comes next.
+  if (focused == m_usernameInputTxt || focused == m_passwordInputTxt || focused == m_applyBtn)
+    m_emailInputTxt->setFocus(Qt::OtherFocusReason);
   m_usernameInputTxt->hide();
   m_passwordInputTxt->hide();
   m_applyBtn->hide();
@@ -240,9 +247,11 @@ void CalendarIntegrationGroup::hideCredentialControls() {
 // Spinner
 
 void CalendarIntegrationGroup::startDetectingSpinner() {
+  announce(this, localizedString("Looking up the account…"));
   startSpinnerBeside(m_emailInputTxt, 10);
 }
 void CalendarIntegrationGroup::startApplyingSpinner() {
+  announce(this, localizedString("Applying…"));
   startSpinnerBeside(m_applyBtn, 2);
 }
 

@@ -76,7 +76,6 @@ class CalendarIntegrationGroup : public View, public OutlookAccountAuthDelegate 
 
  private:
   void initIntegratinLabel();
-  void alignTitle();
   void initInputTextFields();
   void initDetectButton();
   void initApplyButton();

@@ -6,6 +6,7 @@
 #include "KZPreference/panes/meetings/PrefMeetingView+Visible.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZFoundation/KZConstants.h"
+#include "platform/Accessible.h"
 #include "platform/FrameLayout.h"
 
 CalendarSubView::CalendarSubView(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate)
@@ -29,14 +30,12 @@ void CalendarSubView::initDays() {
   m_daysBtn =
       addPopUpButton(this, "m_daysBtn", {secondMarginAtLeftEdge + size.width + 8, 0, popupButtonWidth, 20},
                      {QStringLiteral("1"), QStringLiteral("7"), QStringLiteral("14")});
-  m_daysBtn->setAccessibleName(label);
-  // Some screen readers read the chosen title as the name; they find the label through the buddy.
-  text->setBuddy(m_daysBtn);
+  setAccessibleLabel(m_daysBtn, text);
   connect(m_daysBtn, &PopUpButton::chosen, this, &CalendarSubView::onDaysButton);
 }
 
 void CalendarSubView::setCalendarPreference(const Dictionary& preference) {
-  const QString days = textValue(preference, kKZCalendarIntegrationDays);
+  const QString days = countValue(preference, kKZCalendarIntegrationDays);
   m_daysBtn->setTitle(days.isNull() ? kKZCalendarIntegrationDaysDefault : days);
 }
 

@@ -13,6 +13,7 @@
 #include "KZPreference/panes/meetings/PrefMeetingView+Visible.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZUtility/KZTrace.h"
+#include "platform/Accessible.h"
 #include "platform/FrameLayout.h"
 
 namespace {
@@ -40,8 +41,8 @@ DrawnText columnLabelAt(double y, double width, const QString& text) {
 MeetingSubView::MeetingSubView(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate)
     : View(frame), m_actionDelegate(actionDelegate) {
   initEditButton();
-  m_copyPmrurlBtn = createCopyButton("m_copyPmrurlBtn", PrefMeetingViewVisible::pmrlabel());
-  m_copySipurlBtn = createCopyButton("m_copySipurlBtn", PrefMeetingViewVisible::siplabel());
+  m_copyPmrurlBtn = createCopyButton("m_copyPmrurlBtn", localizedString("Copy personal room"));
+  m_copySipurlBtn = createCopyButton("m_copySipurlBtn", localizedString("Copy video address"));
   connect(m_copyPmrurlBtn, &BRNHyperlinkTextField::clicked, this, &MeetingSubView::onCopyPmrurlButton);
   connect(m_copySipurlBtn, &BRNHyperlinkTextField::clicked, this, &MeetingSubView::onCopySipurlButton);
   drawnTextsChanged();
@@ -59,11 +60,11 @@ void MeetingSubView::initEditButton() {
   connect(link, &BRNHyperlinkTextField::clicked, this, &MeetingSubView::onEditButton);
 }
 
-BRNHyperlinkTextField* MeetingSubView::createCopyButton(const char* name, const QString& label) {
+BRNHyperlinkTextField* MeetingSubView::createCopyButton(const char* name, const QString& spoken) {
   const QString text = localizedString("Copy");
   const Size size = labelTextSize(text);
   BRNHyperlinkTextField* link = addLink(this, name, {0, 0, size.width + textPad, size.height}, text);
-  link->setAccessibleDescription(label);
+  link->setAccessibleName(spoken);
   link->hide();
   return link;
 }
@@ -89,11 +90,11 @@ void MeetingSubView::placeCopyButtons() {
   place(m_copySipurlBtn, m_sipurl, 0);
 }
 
-// The group's width does not include the gaps, so a link may reach beyond it. The widget extends to the
-// pane's edge to show the link.
-void MeetingSubView::resizeEvent(QResizeEvent* event) {
-  View::resizeEvent(event);
-  if (parentWidget()) resize(std::max(width(), parentWidget()->width() - x()), height());
+// The group's width does not include the gaps, so a link may reach beyond it, to the pane's edge; nor does
+// its height follow the title's.
+QSize MeetingSubView::minimumSizeHint() const {
+  const int width = parentWidget() ? parentWidget()->width() - int(frameOf(this).x) : 0;
+  return {width, int(titleTextSize(PrefMeetingViewVisible::meetingslabel()).height)};
 }
 
 QList<DrawnText> MeetingSubView::drawnTexts() const {
@@ -170,6 +171,7 @@ void MeetingSubView::setCopiedUrlBtn(BRNHyperlinkTextField* button) {
   frame.width = titleTextSize(copied).width + textPad;
   setFrame(button, frame);
   button->setStringValue(copied);
+  announce(button, copied);
 }
 
 void MeetingSubView::resetCopyPmrUrlBtn() {

@@ -16,13 +16,11 @@ class MeetingSubView final : public View {
   void setPMRUrl(const QString& pmrurl, const QString& sipurl);
 
   QList<DrawnText> drawnTexts() const override;
-
- protected:
-  void resizeEvent(QResizeEvent* event) override;
+  QSize minimumSizeHint() const override;
 
  private:
   void initEditButton();
-  BRNHyperlinkTextField* createCopyButton(const char* name, const QString& label);
+  BRNHyperlinkTextField* createCopyButton(const char* name, const QString& spoken);
   void placeCopyButtons();
   void onEditButton();
   void onCopyPmrurlButton();

@@ -62,7 +62,7 @@ double PrefMeetingViewVisible::applyButtonWidth() {
 
 // Does not include the gaps between label, address and link.
 Size PrefMeetingViewVisible::caculateMeetingSubViewSize() {
-  const Dictionary info = KZPlistFileHandle::sharedInstance().preferenceInfo();
+  const Dictionary info = KZPlistFileHandle::sharedInstance().preferenceInfo().value_or(Dictionary());
   const QString pmrurl = textValue(info, QRT_Preference_PMRUrl);
   const QString sipurl = textValue(info, QRT_Preference_PMRSipUrl);
   if (pmrurl.isEmpty() && sipurl.isEmpty()) return {.width = defaultPrefsViewWidth, .height = 20};

@@ -4,6 +4,7 @@
 #include "KZPreference/layout/PreferenceTelemetry.h"
 #include "KZPreference/layout/PrefsViewDefine.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
+#include "platform/Accessible.h"
 #include "platform/FrameLayout.h"
 
 namespace {
@@ -36,17 +37,17 @@ void NotificationRow::initAlertsLable() {
 void NotificationRow::initMinutes() {
   m_minutesBtn = addPopUpButton(
       this, "m_minutesBtn", {secondMarginAtLeftEdge, 0, popupButtonWidth, popupButtonHeight}, m_kind.minutes);
-  m_minutesBtn->setAccessibleName(m_kind.minutesLabel);
   connect(m_minutesBtn, &PopUpButton::chosen, this, &NotificationRow::onMinutesButton);
   // As wide as the row, so that the text is not cut before the pane's edge.
-  addLabel(this, "m_minutesTxt", {kMinutesTextX, 3, frameOf(this).width, commonLabelHeight},
-           m_kind.minutesLabel);
+  StaticText* text = addLabel(
+      this, "m_minutesTxt", {kMinutesTextX, 3, frameOf(this).width, commonLabelHeight}, m_kind.minutesLabel);
+  setAccessibleLabel(m_minutesBtn, text);
 }
 
 void NotificationRow::setPreference(const Content& preference) {
   if (preference) m_prefs = *preference;
   const bool isOn = flagValue(m_prefs, m_kind.stateKey).value_or(true);
-  const QString minutes = textValue(m_prefs, m_kind.minutesKey);
+  const QString minutes = countValue(m_prefs, m_kind.minutesKey);
   m_checkbox->setChecked(isOn);
   m_minutesBtn->setTitle(minutes.isNull() ? kDefaultMinutes : minutes);
   m_minutesBtn->setEnabled(isOn);

@@ -11,7 +11,7 @@ namespace {
 
 void storeNotificationValue(const char* key, const QVariant& value) {
   KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
-  Dictionary settings = store.meetingNotification();
+  Dictionary settings = store.meetingNotification().value_or(Dictionary());
   settings.insert(QString::fromLatin1(key), value);
   store.setMeetingNotification(settings);
 }

@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>DOMAIN\username or Email</source>
-        <translation>DOMÄNE\Benutzername oder E-Mail</translation>
+        <translation>DOMÄNE\Name oder E-Mail</translation>
     </message>
     <message>
         <source>Password</source>
@@ -234,6 +234,46 @@
     <message>
         <source>There is nothing here.</source>
         <translation>Hier ist nichts.</translation>
+    </message>
+    <message>
+        <source>Copy personal room</source>
+        <translation>Persönlichen Raum kopieren</translation>
+    </message>
+    <message>
+        <source>Copy video address</source>
+        <translation>Videoadresse kopieren</translation>
+    </message>
+    <message>
+        <source>Look up account</source>
+        <translation>Konto suchen</translation>
+    </message>
+    <message>
+        <source>Looking up the account…</source>
+        <translation>Konto wird gesucht …</translation>
+    </message>
+    <message>
+        <source>Applying…</source>
+        <translation>Konto wird übernommen …</translation>
+    </message>
+    <message>
+        <source>Return looks up the account.</source>
+        <translation>Die Eingabetaste sucht das Konto.</translation>
+    </message>
+    <message>
+        <source>Return applies the account.</source>
+        <translation>Die Eingabetaste übernimmt das Konto.</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>Benutzername</translation>
+    </message>
+    <message>
+        <source>Return saves, Escape cancels, Ctrl+Tab leaves the fields.</source>
+        <translation>Die Eingabetaste speichert, Esc bricht ab, Strg+Tab verlässt die Felder.</translation>
+    </message>
+    <message>
+        <source>Applied failed</source>
+        <translation>Übernehmen fehlgeschlagen</translation>
     </message>
 </context>
 </TS>

@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>DOMAIN\username or Email</source>
-        <translation>DOMINIO\usuario o correo electrónico</translation>
+        <translation>DOMINIO\usuario o correo</translation>
     </message>
     <message>
         <source>Password</source>
@@ -234,6 +234,46 @@
     <message>
         <source>There is nothing here.</source>
         <translation>Aquí no hay nada.</translation>
+    </message>
+    <message>
+        <source>Copy personal room</source>
+        <translation>Copiar la sala personal</translation>
+    </message>
+    <message>
+        <source>Copy video address</source>
+        <translation>Copiar la dirección de vídeo</translation>
+    </message>
+    <message>
+        <source>Look up account</source>
+        <translation>Buscar la cuenta</translation>
+    </message>
+    <message>
+        <source>Looking up the account…</source>
+        <translation>Buscando la cuenta…</translation>
+    </message>
+    <message>
+        <source>Applying…</source>
+        <translation>Aplicando la cuenta…</translation>
+    </message>
+    <message>
+        <source>Return looks up the account.</source>
+        <translation>La tecla Intro busca la cuenta.</translation>
+    </message>
+    <message>
+        <source>Return applies the account.</source>
+        <translation>La tecla Intro aplica la cuenta.</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>Nombre de usuario</translation>
+    </message>
+    <message>
+        <source>Return saves, Escape cancels, Ctrl+Tab leaves the fields.</source>
+        <translation>Intro guarda, Esc cancela y Ctrl+Tab sale de los campos.</translation>
+    </message>
+    <message>
+        <source>Applied failed</source>
+        <translation>No se pudo aplicar</translation>
     </message>
 </context>
 </TS>

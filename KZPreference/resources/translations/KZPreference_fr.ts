@@ -235,5 +235,45 @@
         <source>There is nothing here.</source>
         <translation>Il n’y a rien ici.</translation>
     </message>
+    <message>
+        <source>Copy personal room</source>
+        <translation>Copier la salle personnelle</translation>
+    </message>
+    <message>
+        <source>Copy video address</source>
+        <translation>Copier l’adresse vidéo</translation>
+    </message>
+    <message>
+        <source>Look up account</source>
+        <translation>Rechercher le compte</translation>
+    </message>
+    <message>
+        <source>Looking up the account…</source>
+        <translation>Recherche du compte…</translation>
+    </message>
+    <message>
+        <source>Applying…</source>
+        <translation>Application du compte…</translation>
+    </message>
+    <message>
+        <source>Return looks up the account.</source>
+        <translation>La touche Entrée recherche le compte.</translation>
+    </message>
+    <message>
+        <source>Return applies the account.</source>
+        <translation>La touche Entrée applique le compte.</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>Nom d’utilisateur</translation>
+    </message>
+    <message>
+        <source>Return saves, Escape cancels, Ctrl+Tab leaves the fields.</source>
+        <translation>Entrée enregistre, Échap annule, Ctrl+Tab quitte les champs.</translation>
+    </message>
+    <message>
+        <source>Applied failed</source>
+        <translation>Échec de l’application</translation>
+    </message>
 </context>
 </TS>

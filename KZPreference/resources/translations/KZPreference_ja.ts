@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>Copied</source>
-        <translation>コピー済み</translation>
+        <translation>コピー済</translation>
     </message>
     <message>
         <source>Calendar</source>
@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>DOMAIN\username or Email</source>
-        <translation>ドメイン\ユーザー名またはメールアドレス</translation>
+        <translation>ドメイン\ユーザー名/メール</translation>
     </message>
     <message>
         <source>Password</source>
@@ -234,6 +234,46 @@
     <message>
         <source>There is nothing here.</source>
         <translation>ここには何もありません。</translation>
+    </message>
+    <message>
+        <source>Copy personal room</source>
+        <translation>パーソナルルームをコピー</translation>
+    </message>
+    <message>
+        <source>Copy video address</source>
+        <translation>ビデオアドレスをコピー</translation>
+    </message>
+    <message>
+        <source>Look up account</source>
+        <translation>アカウントを検索</translation>
+    </message>
+    <message>
+        <source>Looking up the account…</source>
+        <translation>アカウントを検索しています…</translation>
+    </message>
+    <message>
+        <source>Applying…</source>
+        <translation>アカウントを適用しています…</translation>
+    </message>
+    <message>
+        <source>Return looks up the account.</source>
+        <translation>Enter キーでアカウントを検索します。</translation>
+    </message>
+    <message>
+        <source>Return applies the account.</source>
+        <translation>Enter キーでアカウントを適用します。</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>ユーザー名</translation>
+    </message>
+    <message>
+        <source>Return saves, Escape cancels, Ctrl+Tab leaves the fields.</source>
+        <translation>Enter キーで保存、Esc キーでキャンセル、Ctrl+Tab キーで入力欄を離れます。</translation>
+    </message>
+    <message>
+        <source>Applied failed</source>
+        <translation>適用できませんでした</translation>
     </message>
 </context>
 </TS>

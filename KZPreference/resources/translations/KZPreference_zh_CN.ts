@@ -235,5 +235,45 @@
         <source>There is nothing here.</source>
         <translation>这里没有内容。</translation>
     </message>
+    <message>
+        <source>Copy personal room</source>
+        <translation>复制个人会议室</translation>
+    </message>
+    <message>
+        <source>Copy video address</source>
+        <translation>复制视频地址</translation>
+    </message>
+    <message>
+        <source>Look up account</source>
+        <translation>查找账户</translation>
+    </message>
+    <message>
+        <source>Looking up the account…</source>
+        <translation>正在查找账户…</translation>
+    </message>
+    <message>
+        <source>Applying…</source>
+        <translation>正在应用账户…</translation>
+    </message>
+    <message>
+        <source>Return looks up the account.</source>
+        <translation>按回车键查找账户。</translation>
+    </message>
+    <message>
+        <source>Return applies the account.</source>
+        <translation>按回车键应用账户。</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>用户名</translation>
+    </message>
+    <message>
+        <source>Return saves, Escape cancels, Ctrl+Tab leaves the fields.</source>
+        <translation>按回车键保存，按 Esc 键取消，按 Ctrl+Tab 离开输入框。</translation>
+    </message>
+    <message>
+        <source>Applied failed</source>
+        <translation>应用失败</translation>
+    </message>
 </context>
 </TS>

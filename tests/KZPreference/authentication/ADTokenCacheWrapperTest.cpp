@@ -11,7 +11,7 @@
 
 namespace {
 
-const QDateTime lookUpTime(QDate(2030, 1, 1), QTime(12, 0), Qt::UTC);
+const QDateTime lookUpTime = QDateTime::fromString("2030-01-01T12:00:00Z", Qt::ISODate);
 
 ADTokenCacheItem accessFor(const QString& user, const QString& token, int expiresIn = 3600) {
   ADTokenCacheItem item;

@@ -101,8 +101,9 @@ TEST_F(OLAccountAuthenticatorTest, AnswersByKindAndByWhatIsKnown) {
     EXPECT_EQ(happened, tried.answers) << (&tried - cases);
     EXPECT_EQ(host.takeSent(), tried.sent) << (&tried - cases);
   }
-  const Dictionary exchange = dictionaryValue(KZPlistFileHandle::sharedInstance().calendarIntegration(),
-                                              kKZCalendarIntegrationExchange);
+  const Dictionary exchange =
+      dictionaryValue(KZPlistFileHandle::sharedInstance().calendarIntegration().value_or(Dictionary()),
+                      kKZCalendarIntegrationExchange);
   EXPECT_EQ(flagValue(exchange, kKZCalendarIntegrationOnpremiseCredValid), false);
   EXPECT_TRUE(host.takeTrace().filter("kc").isEmpty());
 }

@@ -55,7 +55,7 @@ TEST_F(ActionDelegateTest, TracesArgumentsButNoCredentialAndNoToken) {
 TEST_F(ActionDelegateTest, ARefusedCredentialIsMarkedBeforeTheCommand) {
   QVariant seenByHost;
   m_onNextSent = [&] {
-    seenByHost = settings().calendarIntegration().value(kKZCalendarIntegrationExchange).toMap();
+    seenByHost = settings().calendarIntegration()->value(kKZCalendarIntegrationExchange).toMap();
   };
   m_delegate.notifyListExchMeetingAuthFailure();
   EXPECT_EQ(seenByHost, QVariant(Dictionary{{kKZCalendarIntegrationOnpremiseCredValid, false}}));
@@ -70,7 +70,7 @@ TEST_F(ActionDelegateTest, ASourceSetsTheDefaultDaysAndReachesBothPanesBeforeThe
       storedThen = settings().calendarIntegration();
     }
     Dictionary shown;
-    Dictionary storedThen;
+    Content storedThen;
   };
   Pane user;
   Pane guest;
@@ -80,7 +80,7 @@ TEST_F(ActionDelegateTest, ASourceSetsTheDefaultDaysAndReachesBothPanesBeforeThe
   const Dictionary expected{{kKZCalendarIntegrationSource, "s"}, {kKZCalendarIntegrationDays, "7"}};
   EXPECT_EQ(user.shown, expected);
   EXPECT_EQ(guest.shown, expected);
-  EXPECT_EQ(guest.storedThen, Dictionary());
+  EXPECT_EQ(guest.storedThen, std::nullopt);
   EXPECT_EQ(settings().calendarIntegration(), expected);
 
   m_delegate.setPrefMeetingView(nullptr);

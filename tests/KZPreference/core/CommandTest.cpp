@@ -94,7 +94,7 @@ TEST_F(CommandTest, ProximityWantsTheHostsOwnObject) {
   equal.detach();
   for (const QVariant& value : {QVariant(equal), QVariant(1), QVariant(QString()), QVariant()}) {
     command(20, Dictionary{{kproximityCommand, value}});
-    EXPECT_EQ(store().videoDevice().size(), 2);
+    EXPECT_EQ(store().videoDevice()->size(), 2);
   }
   command(20);
   Dictionary content{{kproximityCommand, kstartDetectVD}};

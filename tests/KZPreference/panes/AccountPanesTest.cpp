@@ -1,5 +1,7 @@
+#include <QApplication>
 #include <QLineEdit>
 #include <QTest>
+#include <QWindow>
 
 #include "KZPreference/panes/account/NonSignInPrefAccountView.h"
 #include "KZPreference/panes/account/PrefAccountView.h"
@@ -8,6 +10,7 @@
 #include "platform/StaticText.h"
 #include "platform/WindowController.h"
 #include "tests/KZPreference/core/RecordingHost.h"
+#include "tests/kit/AssistiveTechnology.h"
 
 namespace {
 
@@ -92,6 +95,32 @@ TEST_F(GuestAccountPaneTest, AnotherPaneEndsTheEdit) {
   clickPane("Account");
   EXPECT_FALSE(isEditing());
   EXPECT_EQ(shownName(), "Ada");
+}
+
+TEST_F(GuestAccountPaneTest, TheKeyboardAloneEdits) {
+  const auto press = [](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::keyClick(window()->windowHandle(), key, modifiers);
+    return QApplication::focusWidget();
+  };
+  kit::AssistiveTechnology reader;
+  link()->setFocus();
+  EXPECT_EQ(press(Qt::Key_Return), name());
+  EXPECT_EQ(press(Qt::Key_Tab), email());
+  EXPECT_EQ(press(Qt::Key_Tab), name());
+  EXPECT_EQ(press(Qt::Key_Tab, Qt::ControlModifier), link());
+  name()->setFocus();
+  QTest::keyClicks(name(), "x");
+  EXPECT_EQ(press(Qt::Key_Escape), link());
+  EXPECT_FALSE(isEditing());
+  EXPECT_EQ(profile().displayName(), "Ada");
+
+  press(Qt::Key_Return);
+  type(email(), "ada@@example.com");
+  EXPECT_EQ(press(Qt::Key_Return), email());
+  EXPECT_EQ(reader.takeAnnounced(), QStringList("Invalid email address"));
+  type(email(), "ada@brenn.example");
+  EXPECT_EQ(press(Qt::Key_Return), link());
+  EXPECT_EQ(profile().userName(), "ada@brenn.example");
 }
 
 class AccountPaneTest : public RecordingHost {};

@@ -14,7 +14,7 @@
 namespace {
 
 Dictionary storedNotification() {
-  return KZPlistFileHandle::sharedInstance().meetingNotification();
+  return KZPlistFileHandle::sharedInstance().meetingNotification().value_or(Dictionary());
 }
 
 class NotificationRowsTest : public RecordingHost {
@@ -79,7 +79,9 @@ TEST_F(NotificationRowsTest, ADictionaryReplacesTheLastOne) {
       {Dictionary{{kKZMeetintNotificationToast, false}, {kKZMeetintNotificationToastMinutes, "5"}}, false,
        "5"},
       {std::nullopt, false, "5"},
-      {Dictionary{{kKZMeetintNotificationToast, 0}, {kKZMeetintNotificationToastMinutes, 5}}, true, "15"},
+      {Dictionary{{kKZMeetintNotificationToast, 0}, {kKZMeetintNotificationToastMinutes, 10.0}}, false, "10"},
+      {Dictionary{{kKZMeetintNotificationToast, "0"}, {kKZMeetintNotificationToastMinutes, true}}, true,
+       "15"},
       {Dictionary{{kKZMeetintNotificationToastMinutes, "10"}}, true, "10"}};
   for (const auto& given : rows) {
     row.setPreference(given.given);

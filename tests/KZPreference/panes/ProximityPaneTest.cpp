@@ -26,8 +26,10 @@ TEST_F(ProximityPaneTest, TheStoreIsReadAgainAtEveryShowing) {
   const struct {
     Dictionary stored;
     bool isOn;
-  } rows[] = {
-      {{{kKZVideoDeviceAutodetect, false}}, false}, {{}, true}, {{{kKZVideoDeviceAutodetect, "no"}}, true}};
+  } rows[] = {{{{kKZVideoDeviceAutodetect, false}}, false},
+              {{}, true},
+              {{{kKZVideoDeviceAutodetect, "no"}}, true},
+              {{{kKZVideoDeviceAutodetect, 0}}, false}};
   for (const auto& row : rows) {
     clickPane("General");
     store.setVideoDevice(row.stored);
@@ -45,6 +47,11 @@ TEST_F(ProximityPaneTest, EachClickSendsTheWholeDictionaryOfTheLastReading) {
   store.setVideoDevice({{"new", 2}});
   EXPECT_EQ(click(), R"(19 {"kKZVideoDeviceAutodetect":true,"other":1})");
   EXPECT_EQ(store.videoDevice(), (Dictionary{{"other", 1}, {kKZVideoDeviceAutodetect, true}}));
+  // Without a stored dictionary, the pane keeps the one it has.
+  clickPane("General");
+  store.setValue("videoDevice", QVariant());
+  clickPane("Video devices");
+  EXPECT_EQ(click(), R"(19 {"kKZVideoDeviceAutodetect":false,"other":1})");
   command(20, Dictionary{{kproximityCommand, kstartDetectVD}});
   EXPECT_EQ(click(), R"(19 {"kKZVideoDeviceAutodetect":false})");
 }

@@ -7,8 +7,10 @@
 
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
+#include "platform/ViewAnimation.h"
 #include "tests/KZPreference/panes/meetings/PreferenceHost.h"
 #include "tests/kit/AssistiveTechnology.h"
+#include "tests/kit/Input.h"
 
 namespace {
 
@@ -81,11 +83,29 @@ TEST_P(CalendarKeyboard, TheWholeExchangeFlowNeedsNoMouse) {
   keys("ann");
   EXPECT_EQ(tabTo("m_passwordInputTxt"), QStringList("m_passwordInputTxt"));
   keys("pw");
-  EXPECT_EQ(tabTo("m_applyBtn").last(), "m_applyBtn");
+  EXPECT_EQ(tabTo("m_detectBtn"), QStringList({"m_applyBtn", "m_detectBtn"}));
+  key(Qt::Key_Tab, Qt::ShiftModifier);
   key(Qt::Key_Space);
-  EXPECT_EQ(host.takeSent().size(), 1);
+  key(Qt::Key_Return);
+  EXPECT_EQ(host.takeSent().size(), 2);
   host.fail(QStringLiteral("No service there"));
-  EXPECT_TRUE(QApplication::focusWidget() && QApplication::focusWidget()->isVisible());
+  EXPECT_EQ(focused(), "m_emailInputTxt");
+}
+
+TEST_P(CalendarKeyboard, ACredentialRequestWaitsForItsPane) {
+  kit::clickItem(*PreferenceHost::window(), "General");
+  host.needCredential();
+  keys("secret");
+  EXPECT_EQ(PreferenceHost::control<QLineEdit>("m_usernameInputTxt").text(), "");
+  kit::clickItem(*PreferenceHost::window(), "Meetings");
+  const auto* fade = PreferenceHost::window()->controller()->findChild<ViewAnimation*>();
+  ASSERT_TRUE(kit::waitUntil([fade] { return !fade->isRunning(); }));
+  EXPECT_EQ(focused(), "m_usernameInputTxt");
+  host.fail(QStringLiteral("No service there"));
+  kit::clickItem(*PreferenceHost::window(), "General");
+  kit::clickItem(*PreferenceHost::window(), "Meetings");
+  ASSERT_TRUE(kit::waitUntil([fade] { return !fade->isRunning(); }));
+  EXPECT_NE(focused(), "m_usernameInputTxt");
 }
 
 TEST_P(CalendarKeyboard, TheStatusLineIsAnnouncedOnce) {
@@ -106,9 +126,9 @@ TEST_P(CalendarKeyboard, EveryControlHasARoleAndAName) {
   } cases[] = {
       {"m_outlookRadioBtn", QAccessible::RadioButton, "Microsoft Outlook"},
       {"m_emailInputTxt", QAccessible::EditableText, "Email address"},
-      {"m_usernameInputTxt", QAccessible::EditableText, "DOMAIN\\username or Email"},
+      {"m_usernameInputTxt", QAccessible::EditableText, "User name"},
       {"m_passwordInputTxt", QAccessible::EditableText, "Password"},
-      {"m_detectBtn", QAccessible::Button, "Apply"},
+      {"m_detectBtn", QAccessible::Button, "Look up account"},
       {"m_applyBtn", QAccessible::Button, "Apply"},
       {"m_integrationTxt", QAccessible::StaticText, "Calendar integration"},
   };

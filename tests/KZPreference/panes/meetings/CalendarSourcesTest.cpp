@@ -25,7 +25,8 @@ QStringList chosen() {
 }
 
 QString storedSource() {
-  return textValue(KZPlistFileHandle::sharedInstance().calendarIntegration(), kKZCalendarIntegrationSource);
+  return textValue(KZPlistFileHandle::sharedInstance().calendarIntegration().value_or(Dictionary()),
+                   kKZCalendarIntegrationSource);
 }
 
 void storeSource(const QVariant& source) {
@@ -33,7 +34,7 @@ void storeSource(const QVariant& source) {
 }
 
 void storeAppliedAccount() {
-  Dictionary calendar = KZPlistFileHandle::sharedInstance().calendarIntegration();
+  Dictionary calendar = KZPlistFileHandle::sharedInstance().calendarIntegration().value_or(Dictionary());
   calendar.insert(kKZCalendarIntegrationExchange,
                   Dictionary{{kKZCalendarIntegrationExchangeExternalUrl, QStringLiteral("https://x.example")},
                              {kKZCalendarIntegrationExchangeEmail, QStringLiteral("ann@brenn.example")}});

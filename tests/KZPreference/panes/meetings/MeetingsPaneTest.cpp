@@ -134,15 +134,15 @@ TEST_F(MeetingsPaneTest, TheDaysPopUpShowsWhatIsStoredAndStoresWhatIsChosen) {
   const struct {
     QVariant stored;
     const char* title;
-  } cases[] = {{QVariant(), "7"}, {"14", "14"}, {"1", "1"}, {"30", "30"}, {14, "7"}};
+  } cases[] = {{QVariant(), "7"}, {"14", "14"}, {"1", "1"}, {"30", "30"}, {14, "14"}, {true, "7"}};
   for (const auto& tried : cases) {
     pane->setCalendarPreference({{kKZCalendarIntegrationDays, tried.stored}});
     EXPECT_EQ(days->title(), tried.title);
   }
   days->setCurrentIndex(2);
   Q_EMIT days->activated(2);
-  EXPECT_EQ(textValue(KZPlistFileHandle::sharedInstance().calendarIntegration(), kKZCalendarIntegrationDays),
-            "14");
+  EXPECT_EQ(KZPlistFileHandle::sharedInstance().calendarIntegration(),
+            (Dictionary{{kKZCalendarIntegrationDays, "14"}}));
 }
 
 TEST_F(MeetingsPaneTest, TheGuestsPaneStacksTwoGroups) {

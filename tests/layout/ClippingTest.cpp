@@ -1,0 +1,272 @@
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QFontInfo>
+#include <QHelpEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QPushButton>
+#include <QToolBar>
+#include <QToolTip>
+
+#include "KZPreference/layout/PrefsViewDefine.h"
+#include "host/KZFoundation/KZConstants.h"
+#include "host/KZUtility/KZPlistFileHandle.h"
+#include "platform/FrameLayout.h"
+#include "platform/StaticText.h"
+#include "platform/View.h"
+#include "tests/KZPreference/panes/meetings/PreferenceHost.h"
+#include "tests/kit/Input.h"
+#include "tests/layout/PaintedTexts.h"
+
+namespace {
+
+using Variant = PreferenceHost::Variant;
+
+constexpr double kPixel = 1;
+
+QString withoutSpaces(QString text) {
+  return text.remove(u' ').remove(u'\n').remove(QChar(0xa0));
+}
+
+QString shownTextOf(const QWidget& view) {
+  if (const auto* label = qobject_cast<const QLabel*>(&view)) return label->text();
+  if (const auto* button = qobject_cast<const QAbstractButton*>(&view)) return button->text();
+  const auto* field = qobject_cast<const QLineEdit*>(&view);
+  return field && field->text().isEmpty() ? field->placeholderText() : QString();
+}
+
+// The texts that a user must be able to read.
+QStringList textsOf(const QWidget& root) {
+  QStringList texts;
+  const auto add = [&](const QWidget& view) {
+    texts.append(shownTextOf(view));
+    if (const auto* drawing = qobject_cast<const View*>(&view)) {
+      for (const DrawnText& drawn : drawing->drawnTexts()) texts.append(drawn.text);
+    }
+  };
+  add(root);
+  for (const QWidget* view : root.findChildren<QWidget*>())
+    if (view->isVisibleTo(&root)) add(*view);
+  // Also those that a narrow toolbar leaves out.
+  for (const QAction* item : root.actions()) texts.append(item->text());
+  texts.removeAll(QString());
+  return texts;
+}
+
+// Controls with an edge, in the view's coordinates.
+QList<QRect> boxesIn(const QWidget& root) {
+  QList<QRect> boxes;
+  for (const QWidget* view : root.findChildren<QWidget*>()) {
+    const bool hasEdge = qobject_cast<const QLineEdit*>(view) || qobject_cast<const QComboBox*>(view) ||
+                         qobject_cast<const QPushButton*>(view);
+    if (hasEdge && view->isVisibleTo(&root)) boxes.append(QRect(view->mapTo(&root, QPoint()), view->size()));
+  }
+  return boxes;
+}
+
+// What is wrong with the texts of the view; empty when nothing is.
+QStringList faultsOf(QWidget& view) {
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+  const QList<PaintedText> painted = paintedTexts(view);
+  const bool isMirrored = QGuiApplication::isRightToLeft();
+  QStringList faults;
+  QString all;
+  std::optional<double> edge;
+  for (const PaintedText& text : painted) {
+    all += withoutSpaces(text.text);
+    if (!text.clip.adjusted(-kPixel, -kPixel, kPixel, kPixel).contains(text.ink)) {
+      faults.append("cut: " + text.text);
+    }
+    if (text.font.bold()) {
+      const double at = isMirrored ? text.right : text.left;
+      if (qAbs(at - edge.value_or(at)) > kPixel / 2) faults.append("heading out of line: " + text.text);
+      edge = at;
+    }
+    for (const QRect& box : boxesIn(view)) {
+      if (QRectF(box).intersects(text.ink.adjusted(1, 1, -1, -1)) && !QRectF(box).contains(text.ink.center()))
+        faults.append("under a control: " + text.text);
+    }
+    for (const PaintedText& other : painted) {
+      if (&other > &text && other.ink.adjusted(1, 1, -1, -1).intersects(text.ink))
+        faults.append(text.text + " overlaps " + other.text);
+    }
+  }
+  for (const QString& text : textsOf(view))
+    if (!all.contains(withoutSpaces(text))) faults.append("not whole: " + text);
+  return faults;
+}
+
+struct Addresses {
+  const char* name;
+  QString room;
+  QString video;
+};
+
+const QString kLongRoom = QStringLiteral("https://meetings.brenn-example.com/organisation/department/team/") +
+                          QStringLiteral("a-personal-room-with-a-very-long-name");
+
+const QString kError = QStringLiteral(
+    "The server autodiscover.brenn.example answered with an invalid certificate. Ask your administrator to "
+    "renew it, or apply the account again with another email address.");
+
+class Clipping : public testing::Test {
+ protected:
+  ~Clipping() override {
+    setTextFont({});
+    QLocale::setDefault(QLocale::c());
+  }
+
+  void fill(const Addresses& addresses) {
+    KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
+    store.setDisplayName(QStringLiteral("Ann Mustermann"));
+    store.setUserName(QStringLiteral("ann@brenn.example"));
+    store.setSiteName(QStringLiteral("meetings.brenn.example"));
+    Dictionary record;
+    if (!addresses.room.isNull()) record.insert(QRT_Preference_PMRUrl, addresses.room);
+    if (!addresses.video.isNull()) record.insert(QRT_Preference_PMRSipUrl, addresses.video);
+    record.insert("disableCalendarIntegration", true);
+    record.insert("enableListGoogleCalendarMeeting", true);
+    host.notify(KZNotify::KZNotifyGetPreferenceDone, Dictionary{{"kz", record}});
+  }
+
+  void open(Variant variant) {
+    settleWindow();
+    if (variant == Variant::Guest) host.command(KZCommand::KZCmdInitGuestPreference);
+    host.command(KZCommand::KZCmdShowPreference);
+    PreferenceHost::window()->controller()->setProperty("crossFade", false);
+  }
+
+  static void settleWindow() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
+
+  static QWidget& toolbar() { return *PreferenceHost::window()->findChild<QToolBar*>(); }
+
+  static QWidget& showPane(int at) {
+    static_cast<QToolBar&>(toolbar()).actions().at(at)->trigger();
+    constexpr const char* names[] = {"m_generalView", "m_accountView", "m_meetingView", "m_notificationView",
+                                     "m_proximityView"};
+    return *PreferenceHost::window()->findChild<QWidget*>(QLatin1String(names[at]));
+  }
+
+  static void expectWhole(QWidget& view, const char* state) {
+    for (const QString& fault : faultsOf(view)) ADD_FAILURE() << state << ": " << qPrintable(fault);
+  }
+
+  void checkWindow(Variant variant) {
+    open(variant);
+    // The test's screen may be narrower than the window.
+    toolbar().setMinimumWidth(int(frameOf(&showPane(0)).width));
+    expectWhole(toolbar(), "toolbar");
+    for (const int pane : {0, 3, 4}) expectWhole(showPane(pane), "as opened");
+    checkAccount(variant);
+    checkMeetings(variant);
+    host.command(KZCommand::KZCmdDestroyPreference);
+  }
+
+  static void checkAccount(Variant variant) {
+    QWidget& pane = showPane(1);
+    expectWhole(pane, "account");
+    if (variant == Variant::SignedIn) return;
+    pane.findChild<QAbstractButton*>("m_editBtn")->click();
+    pane.findChild<QLineEdit*>("m_emailInputTxt")->setText("x");
+    pane.findChild<QAbstractButton*>("m_editBtn")->click();
+    expectWhole(pane, "invalid email");
+  }
+
+  void checkMeetings(Variant variant) {
+    QWidget& pane = showPane(2);
+    expectWhole(pane, "meetings");
+    host.control("m_outlookRadioBtn").setEnabled(true);
+    static_cast<QAbstractButton&>(host.control("m_outlookRadioBtn")).click();
+    host.needCredential();
+    expectWhole(pane, "credential");
+    host.fail(kError);
+    expectWhole(pane, "error");
+    host.resolveWith("ann@brenn.example");
+    expectWhole(pane, "applied");
+    if (variant == Variant::Guest) return;
+    for (const char* name : {"m_copyPmrurlBtn", "m_copySipurlBtn"})
+      static_cast<QAbstractButton&>(host.control(name)).click();
+    expectWhole(pane, "copied");
+  }
+
+  PreferenceHost host;
+};
+
+constexpr const char* kLanguages[] = {"C", "de", "fr", "es", "ja", "zh_CN"};
+
+const Addresses kAddresses[] = {{"none", {}, {}},
+                                {"both", "https://brenn.example/meet/ann", "ann@brenn.example"},
+                                {"long", kLongRoom, "ann@brenn.example"},
+                                {"room", kLongRoom, {}},
+                                {"video", {}, kLongRoom}};
+
+TEST_F(Clipping, EveryTextIsWholeInEveryLanguageAndFont) {
+  for (const TextFont& font : {TextFont(), TextFont{"DejaVu Sans", 1}, TextFont{"Inter", 1.3}}) {
+    setTextFont(font);
+    ASSERT_EQ(QFontInfo(fontFor(FontRole::Label, labelFontSize)).family(), font.family);
+    for (const char* language : kLanguages) {
+      QLocale::setDefault(QLocale(QLatin1String(language)));
+      for (const Addresses& addresses : kAddresses) {
+        for (const Variant variant : {Variant::SignedIn, Variant::Guest}) {
+          if (variant == Variant::Guest && addresses.room.isNull() != addresses.video.isNull()) continue;
+          SCOPED_TRACE(
+              qPrintable(QStringLiteral("%1 x %2, %3, %4, %5")
+                             .arg(font.family)
+                             .arg(font.enlargement)
+                             .arg(QLatin1String(language), QLatin1String(addresses.name),
+                                  QLatin1String(variant == Variant::Guest ? "guest" : "signed in"))));
+          fill(addresses);
+          checkWindow(variant);
+        }
+      }
+    }
+  }
+}
+
+QString toolTipOf(QWidget* view) {
+  QToolTip::hideText();
+  QHelpEvent event(QEvent::ToolTip, QPoint(1, 1), view->mapToGlobal(QPoint(1, 1)));
+  QCoreApplication::sendEvent(view, &event);
+  return QToolTip::text();
+}
+
+// A frame as wide as the text is measured suffices, wherever its edges are between two pixels.
+TEST(StaticTextLayout, ElidesWhatIsWiderThanItsFrameAndShowsItInAToolTip) {
+  const QString name = QStringLiteral("Ada <b>Byron</b>, Countess of Lovelace");
+  const double measured = labelTextWidth(name);
+  for (const double x : {0.0, 0.3, 0.49, 0.5, 0.7}) {
+    for (const double spare : {-1.1, 0.0, 0.3, 0.5}) {
+      QWidget parent;
+      parent.resize(800, 40);
+      auto* text = new StaticText(name, FontRole::Label, labelFontSize);
+      addSubview(&parent, text, {x, 0, measured + spare, 22});
+      const bool isWhole = spare >= 0;
+      EXPECT_EQ(paintedTexts(*text).value(0).text == name, isWhole) << x << ", " << spare;
+      EXPECT_EQ(toolTipOf(text), isWhole ? QString() : name.toHtmlEscaped()) << x << ", " << spare;
+    }
+  }
+}
+
+// A text of the host that is longer than the group is high ends in "…" in its last line.
+TEST(StaticTextLayout, WrapsWithinItsSuperview) {
+  QWidget parent;
+  parent.resize(300, 100);
+  auto* text = new StaticText(QString(QStringLiteral("word ")).repeated(20), FontRole::Label, labelFontSize);
+  text->setWordWrap(true);
+  addSubview(&parent, text, {20, 70, 200, 20});
+  const auto lines = [&] {
+    setFrame(text, frameOf(text));
+    return paintedTexts(*text).size();
+  };
+  EXPECT_EQ(lines(), 4);
+  EXPECT_EQ(toolTipOf(text), QString());
+  text->setText(text->text().repeated(10));
+  EXPECT_EQ(lines(), 5);
+  EXPECT_TRUE(paintedTexts(*text).last().text.endsWith(u'…'));
+  EXPECT_EQ(toolTipOf(text), text->text());
+}
+
+}  // namespace
