@@ -223,7 +223,6 @@ TEST(MultiPaneWindow, EveryPaneIsOnTheScreenAndScrollsOnlyWhenItIsTaller) {
     for (const char* label : {"Middle", "Low", "High", "Low"}) {
       window->move(screen.right() - 310, screen.bottom() - 200);
       controller.loadViewForIdentifier(label, animate);
-      if (animate == Animate::Yes) EXPECT_TRUE(screen.contains(QRect(window->pos(), QSize(1, 1))));
       auto* animation = controller.findChild<QVariantAnimation*>();
       animation->setCurrentTime(animation->duration());
       EXPECT_TRUE(screen.contains(window->frameGeometry())) << label;
@@ -250,8 +249,7 @@ TEST_F(MultiPaneWindowTest, ThePaneAskedForAtOnceIsTheFirstThatIsSeen) {
 TEST_F(MultiPaneWindowTest, IsNeverMaximised) {
   show();
   window()->windowHandle()->setWindowStates(Qt::WindowMaximized);
-  EXPECT_TRUE(kit::waitUntil([&] { return window()->height() == m_toolbarHeight + 60; }));
-  EXPECT_FALSE(window()->windowHandle()->windowStates() & Qt::WindowMaximized);
+  EXPECT_TRUE(kit::waitUntil([&] { return window()->windowHandle()->windowStates() == Qt::WindowNoState; }));
   click("Tall");
   animation()->setCurrentTime(250);
   expectSettledOn("Tall240", 240);

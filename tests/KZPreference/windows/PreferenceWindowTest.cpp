@@ -88,7 +88,7 @@ TEST_F(PreferenceWindowTest, EveryPaneIsReachedAndUsedByKeyboard) {
 
   // Without a focus, Tab begins at the pane that is shown, and Shift+Tab at its item.
   reduceMotion(window());
-  for (const auto& [key, first] : {std::pair{Qt::Key_4, "m_checkbox"}, {Qt::Key_3, "m_daysBtn"}}) {
+  for (const auto& [key, first] : {std::pair{Qt::Key_4, "m_checkbox"}, {Qt::Key_3, "m_editBtn"}}) {
     window()->focusWidget()->clearFocus();
     press(key, Qt::ControlModifier);
     EXPECT_EQ(window()->focusWidget(), nullptr);
