@@ -59,7 +59,7 @@ void BRNHyperlinkTextField::paintEvent(QPaintEvent*) {
     QColor tint = palette().color(QPalette::Highlight);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(tint, 1.5));
-    tint.setAlphaF(0.14F);
+    tint.setAlphaF(0.08F);
     painter.setBrush(tint);
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.75, 0.75, -0.75, -0.75), kFocusRadius, kFocusRadius);
     painter.setRenderHint(QPainter::Antialiasing, false);
