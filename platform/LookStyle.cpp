@@ -81,7 +81,6 @@ int LookStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidg
       return kToolTipDelay;
     case SH_ComboBox_Popup:
       return 1;
-    case SH_UnderlineShortcut:
     case SH_EtchDisabledText:
       return 0;
     default:

@@ -60,7 +60,7 @@ void drawPush(const QStyleOptionButton& option, QPainter* painter) {
   painter->setPen(text);
   const QString shown = option.fontMetrics.elidedText(option.text, Qt::ElideRight, option.rect.width() - 8,
                                                       Qt::TextShowMnemonic);
-  painter->drawText(option.rect, Qt::AlignCenter | Qt::TextHideMnemonic, shown);
+  painter->drawText(option.rect, Qt::AlignCenter | Qt::TextShowMnemonic, shown);
 }
 
 void drawIndicator(const QStyleOption& option, bool isRadio, QPainter* painter) {
@@ -102,10 +102,12 @@ void drawChoice(const QStyleOptionButton& option, bool isRadio, QPainter* painte
 
   const QRect text =
       QStyle::visualRect(option.direction, option.rect, option.rect.adjusted(kIndicatorRoom, 0, 0, 0));
-  const QString shown = option.fontMetrics.elidedText(option.text, Qt::ElideRight, text.width());
+  const QString shown =
+      option.fontMetrics.elidedText(option.text, Qt::ElideRight, text.width(), Qt::TextShowMnemonic);
   const Qt::Alignment alignment = QStyle::visualAlignment(option.direction, Qt::AlignLeft);
   painter->setPen(option.palette.color(widget ? widget->foregroundRole() : QPalette::WindowText));
-  drawTextLine(painter, text, alignment, shown);
+  if (!shown.contains(u'&')) return drawTextLine(painter, text, alignment, shown);
+  painter->drawText(text, alignment | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextShowMnemonic, shown);
 }
 
 }  // namespace lookButtons

@@ -74,7 +74,7 @@ void drawLabel(const QStyleOptionTab& option, QPainter* painter) {
   painter->setPen(option.palette.color(group, isOnAccent ? QPalette::HighlightedText : QPalette::ButtonText));
   const QString shown = option.fontMetrics.elidedText(
       option.text, Qt::ElideRight, option.rect.width() - kTabPadding, Qt::TextShowMnemonic);
-  painter->drawText(option.rect, Qt::AlignCenter | Qt::TextSingleLine | Qt::TextHideMnemonic, shown);
+  painter->drawText(option.rect, Qt::AlignCenter | Qt::TextSingleLine | Qt::TextShowMnemonic, shown);
 }
 
 }  // namespace lookTabs

@@ -71,7 +71,7 @@ int main(int argc, char** argv) {
       qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
   }
-  Application application(argv);
+  Application application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   const auto toolkitReady = FrameWatch::Clock::now();
 
@@ -91,7 +91,7 @@ int main(int argc, char** argv) {
   parser.addOptions({{"window", "Measure the window."},
                      {"fade", "With the cross-fade."},
                      {"plugin", "The plug-in to load.", "FILE", defaultPluginPath()}});
-  parser.process(Application::commandLine(argc, argv));
+  parser.process(Application::arguments());
   if (!parser.isSet("window")) {
     std::fprintf(stderr, "prefs-bench: --window is required\n");
     return kUnusable;

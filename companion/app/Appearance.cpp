@@ -1,20 +1,38 @@
 #include "companion/app/Appearance.h"
 
 #include <QApplication>
+#include <QFontInfo>
 #include <QHash>
+#include <algorithm>
 
 #include "platform/Look.h"
 #include "platform/Text.h"
 
-bool applyAppearance(const QString& name) {
+namespace {
+
+// Not that of a platform without a desktop.
+double desktopFontSize() {
+  if (QGuiApplication::platformName() == QLatin1String("offscreen")) return systemFontSize;
+  return std::max<double>(systemFontSize, QFontInfo(QApplication::font()).pixelSize());
+}
+
+}  // namespace
+
+bool applyAppearance(const QString& name, StyleChoice style) {
   static const QHash<QString, LookScheme> schemes = {{"light", LookScheme::Light},
                                                      {"dark", LookScheme::Dark},
                                                      {"high-contrast", LookScheme::HighContrastLight},
                                                      {"high-contrast-dark", LookScheme::HighContrastDark}};
-  if (name != "system" && !schemes.contains(name)) return false;
+  const bool isSystem = name == "system";
+  if (!isSystem && !schemes.contains(name)) return false;
   const LookScheme scheme = schemes.value(name, lookSchemeFor(QApplication::palette()));
-  QApplication::setStyle(lookStyle());
-  QApplication::setPalette(lookPalette(scheme));
-  QApplication::setFont(fontFor(FontRole::System, systemFontSize));
+  const double size = isSystem ? desktopFontSize() : systemFontSize;
+  if (style == StyleChoice::Look) QApplication::setStyle(lookStyle());
+  applyScheme(scheme);
+  QApplication::setFont(fontFor(FontRole::System, size));
   return true;
+}
+
+void applyScheme(LookScheme scheme) {
+  QApplication::setPalette(lookPalette(scheme));
 }

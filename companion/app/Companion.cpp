@@ -14,6 +14,7 @@
 #include "companion/app/TelemetryView.h"
 #include "companion/inspector/InspectorView.h"
 #include "companion/runtime/SaveDialog.h"
+#include "companion/texts/CompanionText.h"
 #include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 
@@ -28,10 +29,10 @@ const QString kSignedInUri = QStringLiteral("http://127.0.0.1/signed-in");
 
 QString introduction(NetworkReach reach) {
   if (reach == NetworkReach::Network) {
-    return QStringLiteral(
+    return companionText(
         "Meeting sites and Exchange are looked for in the network and in a sandbox on this computer.");
   }
-  return QStringLiteral("Meeting sites and Exchange are played by a sandbox on this computer.");
+  return companionText("Meeting sites and Exchange are played by a sandbox on this computer.");
 }
 
 // Beside the settings where those have a folder of their own.
@@ -78,14 +79,14 @@ Companion::~Companion() {
 }
 
 void Companion::createPages() {
-  m_window.addPage(QStringLiteral("Meetings"), [this] { return new MeetingsView(&m_services->meetings()); });
-  m_window.addPage(QStringLiteral("Try out"), [this] { return createTryOut(); });
-  m_window.addPage(QStringLiteral("Inspector"), [this] {
+  m_window.addPage(companionText("&Meetings"), [this] { return new MeetingsView(&m_services->meetings()); });
+  m_window.addPage(companionText("&Try out"), [this] { return createTryOut(); });
+  m_window.addPage(companionText("&Inspector"), [this] {
     auto* inspector = new InspectorView(&m_log);
     connect(inspector, &InspectorView::message, &m_window, &CompanionWindow::showNotice);
     return inspector;
   });
-  m_window.addPage(QStringLiteral("Telemetry"),
+  m_window.addPage(companionText("Telemetr&y"),
                    [this] { return new TelemetryView(&m_services->telemetry()); });
 }
 
@@ -93,7 +94,7 @@ QWidget* Companion::createTryOut() {
   m_tryOut = new TryOutView;
   connect(m_tryOut, &TryOutView::siteChosen, &m_window, &CompanionWindow::useSite);
   connect(m_tryOut, &TryOutView::copied, &m_window,
-          [this](const QString& text) { m_window.showNotice(QStringLiteral("Copied: %1").arg(text)); });
+          [this](const QString& text) { m_window.showNotice(companionText("Copied: %1").arg(text)); });
   offer(m_offered);
   return m_tryOut;
 }
@@ -126,8 +127,8 @@ void Companion::connectRecording() {
 void Companion::toggleRecording() {
   if (m_recording.isRunning()) return m_recording.stop();
   QFileDialog* dialog =
-      createSaveDialog(&m_window, QStringLiteral("Record to"), QStringLiteral("meetings-record"));
-  dialog->setNameFilter(QStringLiteral("Records (*.jsonl)"));
+      createSaveDialog(&m_window, companionText("Record to"), QStringLiteral("meetings-record"));
+  dialog->setNameFilter(companionText("Records (*.jsonl)"));
   connect(dialog, &QFileDialog::fileSelected, this, &Companion::recordAnew);
   dialog->open();
 }
@@ -143,6 +144,8 @@ void Companion::comeToFront() {
 }
 
 void Companion::showWindow() {
+  // The desktop's colours may have come by now; the first frame has them then.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
   m_window.show();
   QTimer patience;
   patience.setSingleShot(true);

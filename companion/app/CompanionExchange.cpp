@@ -3,6 +3,7 @@
 #include <QPushButton>
 
 #include "companion/runtime/PluginHost.h"
+#include "companion/texts/CompanionText.h"
 
 CompanionExchange::CompanionExchange(PluginHost* host, ServiceNetwork* network)
     : m_host(host), m_network(network) {
@@ -16,7 +17,7 @@ CompanionExchange::CompanionExchange(PluginHost* host, ServiceNetwork* network)
   });
   // The refusal has ended the discovery already; one that runs by now is another.
   host->handle(KZCommand::KZCmdExchDiscoverAuthFailure, this, [this](const Content&) {
-    Q_EMIT message(QStringLiteral("Detect again to enter another user name or password."));
+    Q_EMIT message(companionText("Detect again to enter another user name or password."));
   });
   connect(network, &ServiceNetwork::changed, this, [this] {
     if (!m_discovery || m_network->isReady()) return;
@@ -52,15 +53,15 @@ void CompanionExchange::askAboutRedirect(const QUrl& target, const RedirectPromp
   m_question = box;
   box->setAttribute(Qt::WA_DeleteOnClose);
   box->setModal(false);
-  box->setWindowTitle(QStringLiteral("Exchange"));
+  box->setWindowTitle(companionText("Exchange"));
   box->setTextFormat(Qt::PlainText);
-  box->setText(QStringLiteral("May %1 be asked for your Exchange account?").arg(target.host()));
+  box->setText(companionText("May %1 be asked for your Exchange account?").arg(target.host()));
   box->setInformativeText(
-      QStringLiteral("The search leads to %1. Allow it only if you know this server: your email address, and "
-                     "later your password, may be sent to it.")
+      companionText("The search leads to %1. Allow it only if you know this server: your email address, and "
+                    "later your password, may be sent to it.")
           .arg(address));
-  const QPushButton* allow = box->addButton(QStringLiteral("Allow"), QMessageBox::AcceptRole);
-  box->setDefaultButton(box->addButton(QStringLiteral("Do not allow"), QMessageBox::RejectRole));
+  const QPushButton* allow = box->addButton(companionText("&Allow"), QMessageBox::AcceptRole);
+  box->setDefaultButton(box->addButton(companionText("&Do not allow"), QMessageBox::RejectRole));
   connect(box, &QMessageBox::finished, box, [box, allow, answer] { answer(box->clickedButton() == allow); });
   box->show();
   box->raise();

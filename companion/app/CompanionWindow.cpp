@@ -13,7 +13,9 @@
 #include "companion/app/FaultNotice.h"
 #include "companion/app/Rows.h"
 #include "companion/app/SiteDialog.h"
+#include "companion/runtime/FlowLayout.h"
 #include "companion/runtime/PluginHost.h"
+#include "companion/texts/CompanionText.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZConstants.h"
@@ -101,8 +103,8 @@ void CompanionWindow::showPage(int index) {
 QWidget* CompanionWindow::createSwitch() {
   auto* box = new QWidget;
   QHBoxLayout* row = addRow(box, 16);
-  m_signedIn = new QRadioButton(QStringLiteral("Signed in"));
-  m_guest = new QRadioButton(QStringLiteral("Guest"));
+  m_signedIn = new QRadioButton(companionText("&Signed in"));
+  m_guest = new QRadioButton(companionText("&Guest"));
   row->addWidget(m_signedIn);
   row->addWidget(m_guest);
   connect(m_signedIn, &QRadioButton::clicked, this, [this] { become(demouser::Variant::SignedIn); });
@@ -112,32 +114,30 @@ QWidget* CompanionWindow::createSwitch() {
 
 QWidget* CompanionWindow::createButtons() {
   auto* bar = new QWidget;
-  QHBoxLayout* row = addRow(bar, 8);
-  auto* preferences = createButton("Preferences", "Command 2", [this] { showPreferences(); });
+  auto* row = new FlowLayout(bar, 8, 8);
+  auto* preferences = createButton(companionText("&Preferences"), [this] { showPreferences(); });
   preferences->setDefault(true);
   row->addWidget(preferences);
-  row->addWidget(createButton("Account", "Command 2 with the Account pane", [this] {
+  row->addWidget(createButton(companionText("&Account"), [this] {
     m_host->trigger(KZCommand::KZCmdShowPreference, Dictionary{{kOpenPrefsViewType, kPrefsAccountView}});
   }));
-  row->addWidget(createButton("Check for updates", "Command 8", [this] { m_services->updates().check(); }));
-  m_updateButton =
-      createButton(QString(), "Opens its page in the browser", [this] { m_services->updates().openPage(); });
+  row->addWidget(
+      createButton(companionText("Check for &updates"), [this] { m_services->updates().check(); }));
+  m_updateButton = createButton(QString(), [this] { m_services->updates().openPage(); });
+  m_updateButton->setToolTip(companionText("Opens its page in the browser"));
   m_updateButton->hide();
   row->addWidget(m_updateButton);
-  row->addWidget(createButton("Join by number", "Command 10",
+  row->addWidget(createButton(companionText("&Join by number"),
                               [this] { m_host->trigger(KZCommand::KZCmdJoinByNumber, fromApplication()); }));
-  row->addWidget(createButton("Close", "Command 3", [this] { closePreferences(); }));
-  row->addStretch(1);
-  m_recordButton = createButton("Record", "Writes what happens to a file, for a report",
-                                [this] { Q_EMIT recordingToggled(); });
+  row->addWidget(createButton(companionText("&Close Preferences"), [this] { closePreferences(); }));
+  m_recordButton = createButton(companionText("&Record"), [this] { Q_EMIT recordingToggled(); });
+  m_recordButton->setToolTip(companionText("Writes what happens to a file, for a report"));
   row->addWidget(m_recordButton);
   return bar;
 }
 
-QPushButton* CompanionWindow::createButton(const QString& title, const QString& toolTip,
-                                           const std::function<void()>& action) {
-  auto* button = new QPushButton(title);
-  button->setToolTip(toolTip);
+QPushButton* CompanionWindow::createButton(const QString& title, const std::function<void()>& action) {
+  QPushButton* button = ::createButton(title);
   connect(button, &QPushButton::clicked, this, action);
   return button;
 }
@@ -165,7 +165,7 @@ void CompanionWindow::startOver() {
 }
 
 void CompanionWindow::showRecording(bool isRunning) {
-  m_recordButton->setText(isRunning ? QStringLiteral("Stop recording") : QStringLiteral("Record"));
+  m_recordButton->setText(isRunning ? companionText("Stop &recording") : companionText("&Record"));
 }
 
 void CompanionWindow::comeToFront() {
@@ -177,7 +177,7 @@ void CompanionWindow::comeToFront() {
 
 void CompanionWindow::showUpdate() {
   const QString version = m_services->updates().offeredVersion();
-  m_updateButton->setText(QStringLiteral("Get version %1").arg(version));
+  m_updateButton->setText(companionText("Get &version %1").arg(version));
   m_updateButton->setVisible(!version.isEmpty());
 }
 

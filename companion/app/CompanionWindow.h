@@ -52,8 +52,7 @@ class CompanionWindow final : public QWidget {
   QWidget* createHeader();
   QWidget* createSwitch();
   QWidget* createButtons();
-  QPushButton* createButton(const QString& title, const QString& toolTip,
-                            const std::function<void()>& action);
+  QPushButton* createButton(const QString& title, const std::function<void()>& action);
 
   void showPage(int index);
   void showUpdate();

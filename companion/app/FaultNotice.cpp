@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QStringList>
 
+#include "companion/texts/CompanionText.h"
 #include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 
@@ -15,21 +16,21 @@ QString noticeOfSaving(KZSaveProblem problem, const QString& file) {
     case KZSaveProblem::None:
       break;
     case KZSaveProblem::DiskFull:
-      return QStringLiteral(
+      return companionText(
           "Settings cannot be saved: the disk is full. They are kept until Brenn Mivra Meetings quits. "
           "Free some space; the next change saves them all.");
     case KZSaveProblem::NotAllowed:
-      return QStringLiteral(
+      return companionText(
                  "Settings cannot be saved: %1 is read-only. They are kept until Brenn Mivra Meetings quits. "
                  "Make the folder writable; the next change saves them all.")
           .arg(folder);
     case KZSaveProblem::FileUnusable:
-      return QStringLiteral(
+      return companionText(
                  "Settings cannot be read or saved: %1 is damaged or belongs to somebody else. They are kept "
                  "until Brenn Mivra Meetings quits. Move the file away, then start again.")
           .arg(file);
     case KZSaveProblem::Failed:
-      return QStringLiteral(
+      return companionText(
                  "Settings cannot be saved in %1. They are kept until Brenn Mivra Meetings quits. "
                  "Check the folder; the next change saves them all.")
           .arg(folder);
@@ -38,11 +39,11 @@ QString noticeOfSaving(KZSaveProblem problem, const QString& file) {
 }
 
 QString noticeOfSetAside(const QString& file) {
-  return QStringLiteral("Settings could not be read and were set aside as %1. They start anew.").arg(file);
+  return companionText("Settings could not be read and were set aside as %1. They start anew.").arg(file);
 }
 
 QString noticeOfSecrets() {
-  return QStringLiteral(
+  return companionText(
       "Passwords cannot be kept: the keyring is locked or does not answer. They are known until Brenn Mivra "
       "Meetings quits. Unlock the keyring, then start again.");
 }

@@ -8,7 +8,9 @@
 #include <chrono>
 
 #include "companion/app/ListTable.h"
+#include "companion/app/Rows.h"
 #include "companion/services/NextMeetings.h"
+#include "companion/texts/CompanionText.h"
 
 namespace {
 
@@ -20,19 +22,19 @@ QString startText(const QDateTime& start) {
   const QDateTime local = start.toLocalTime();
   const QString time = QLocale().toString(local.time(), QLocale::ShortFormat);
   const qint64 days = QDate::currentDate().daysTo(local.date());
-  if (days == 0) return QStringLiteral("Today, %1").arg(time);
-  if (days == 1) return QStringLiteral("Tomorrow, %1").arg(time);
+  if (days == 0) return companionText("Today, %1").arg(time);
+  if (days == 1) return companionText("Tomorrow, %1").arg(time);
   return QLocale().toString(local, QLocale::ShortFormat);
 }
 
 // Null where there is nothing to say.
 QString noteText(const QDateTime& start, int announced) {
   const qint64 seconds = QDateTime::currentDateTimeUtc().secsTo(start);
-  if (seconds <= 0) return QStringLiteral("has started");
+  if (seconds <= 0) return companionText("has started");
   const qint64 minutes = (seconds + 59) / 60;
   if (minutes > announced) return {};
-  return minutes == 1 ? QStringLiteral("starts in 1 minute")
-                      : QStringLiteral("starts in %1 minutes").arg(minutes);
+  return minutes == 1 ? companionText("starts in 1 minute")
+                      : companionText("starts in %1 minutes").arg(minutes);
 }
 
 }  // namespace
@@ -40,9 +42,9 @@ QString noteText(const QDateTime& start, int announced) {
 MeetingsView::MeetingsView(NextMeetings* meetings)
     : m_meetings(meetings),
       m_text(new QLabel),
-      m_refresh(new QPushButton(QStringLiteral("Refresh"))),
-      m_table(createListTable(QStringLiteral("Next meetings"),
-                              {QStringLiteral("Start"), QStringLiteral("Meeting"), QStringLiteral("Note")})) {
+      m_refresh(createButton(companionText("Re&fresh"))),
+      m_table(createListTable(companionText("Next meetings"),
+                              {companionText("Start"), companionText("Meeting"), companionText("Note")})) {
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(8);
@@ -71,10 +73,9 @@ void MeetingsView::showMeetings() {
   const QList<ExchangeMeeting>& meetings = m_meetings->meetings();
   m_refresh->setEnabled(!m_meetings->isAsking());
   if (m_meetings->isAsking()) {
-    m_text->setText(QStringLiteral("Asking for your next meetings."));
+    m_text->setText(companionText("Asking for your next meetings."));
   } else {
-    m_text->setText(m_meetings->text().isEmpty() ? QStringLiteral("Your next meetings:")
-                                                 : m_meetings->text());
+    m_text->setText(m_meetings->text().isEmpty() ? companionText("Your next meetings:") : m_meetings->text());
   }
   const int announced = announcedMinutes();
   QList<QStringList> rows;

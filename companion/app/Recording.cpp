@@ -2,6 +2,8 @@
 
 #include <chrono>
 
+#include "companion/texts/CompanionText.h"
+
 namespace {
 
 using namespace std::chrono_literals;
@@ -21,7 +23,7 @@ bool Recording::start(const QString& path) {
   stop();
   auto file = std::make_unique<RecordFile>();
   if (!file->open(path)) {
-    Q_EMIT message(QStringLiteral("%1 cannot be written: %2. Choose another place for the record.")
+    Q_EMIT message(companionText("%1 cannot be written: %2. Choose another place for the record.")
                        .arg(path, file->errorText()));
     return false;
   }
@@ -31,7 +33,7 @@ bool Recording::start(const QString& path) {
       Recorder::Options{
           .clock = timeSinceStart, .slack = kPauseSlack, .keychain = HostStateTracker::Keychain::ReadOnce});
   Q_EMIT changed(true);
-  Q_EMIT message(QStringLiteral("Recording to %1. Do what goes wrong, then press Stop recording.").arg(path));
+  Q_EMIT message(companionText("Recording to %1. Do what goes wrong, then press Stop recording.").arg(path));
   return true;
 }
 
@@ -51,11 +53,11 @@ void Recording::stop() {
   Q_EMIT changed(false);
   if (!m_file->errorText().isEmpty()) {
     return Q_EMIT message(
-        QStringLiteral("Recording has ended: %1. What came before is in %2. Make room, then record again.")
+        companionText("Recording has ended: %1. What came before is in %2. Make room, then record again.")
             .arg(m_file->errorText(), m_file->path()));
   }
   Q_EMIT message(
-      QStringLiteral("Recorded to %1. Attach it to your report; passwords and tokens are replaced, names and "
-                     "addresses are not.")
+      companionText("Recorded to %1. Attach it to your report; passwords and tokens are replaced, names and "
+                    "addresses are not.")
           .arg(m_file->path()));
 }

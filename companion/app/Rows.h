@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QHBoxLayout>
+#include <QPushButton>
 #include <QWidget>
 
 // A row without margins as the widget's layout.
@@ -9,4 +10,11 @@ inline QHBoxLayout* addRow(QWidget* widget, int spacing) {
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(spacing);
   return row;
+}
+
+// Return presses it too when it has the focus.
+inline QPushButton* createButton(const QString& title) {
+  auto* button = new QPushButton(title);
+  button->setAutoDefault(true);
+  return button;
 }

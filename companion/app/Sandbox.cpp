@@ -4,6 +4,8 @@
 #include <QStandardPaths>
 #include <chrono>
 
+#include "companion/texts/CompanionText.h"
+
 namespace {
 
 using namespace std::chrono_literals;
@@ -18,13 +20,13 @@ Sandbox::Sandbox() {
   m_startLimit.setSingleShot(true);
   m_startLimit.setInterval(kStartTime);
   connect(&m_startLimit, &QTimer::timeout, this,
-          [this] { fail(QStringLiteral("The sandbox does not answer.")); });
+          [this] { fail(companionText("The sandbox does not answer.")); });
   connect(&m_process, &QProcess::readyReadStandardOutput, this, &Sandbox::readFirstLine);
   connect(&m_process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
     if (error != QProcess::FailedToStart) return;
-    fail(QStringLiteral("The sandbox did not start: %1.").arg(m_process.errorString()));
+    fail(companionText("The sandbox did not start: %1.").arg(m_process.errorString()));
   });
-  connect(&m_process, &QProcess::finished, this, [this] { fail(QStringLiteral("The sandbox has ended.")); });
+  connect(&m_process, &QProcess::finished, this, [this] { fail(companionText("The sandbox has ended.")); });
 }
 
 Sandbox::~Sandbox() {
@@ -42,7 +44,7 @@ QString Sandbox::programPath() {
 
 void Sandbox::start(const QString& path) {
   if (path.isEmpty()) {
-    return fail(QStringLiteral("The sandbox is not running: kz-sandbox is not beside this program."));
+    return fail(companionText("The sandbox is not running: kz-sandbox is not beside this program."));
   }
   m_startLimit.start();
   m_process.start(path, {QStringLiteral("--until-input-ends")});
@@ -53,7 +55,7 @@ void Sandbox::readFirstLine() {
   m_startLimit.stop();
   const SandboxDescription description = SandboxDescription::fromJson(m_process.readLine());
   if (!description.isEmpty()) return Q_EMIT ready(description);
-  fail(QStringLiteral("The sandbox plays nothing: the openssl program may be missing."));
+  fail(companionText("The sandbox plays nothing: the openssl program may be missing."));
 }
 
 void Sandbox::fail(const QString& reason) {

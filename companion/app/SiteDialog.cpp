@@ -8,6 +8,7 @@
 #include "companion/app/Rows.h"
 #include "companion/network/WebAddress.h"
 #include "companion/services/SiteService.h"
+#include "companion/texts/CompanionText.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 
 SiteDialog::SiteDialog(SiteService* service, QWidget* parent)
@@ -16,10 +17,10 @@ SiteDialog::SiteDialog(SiteService* service, QWidget* parent)
       m_site(new QLineEdit(KZPlistFileHandle::sharedInstance().siteName())),
       m_text(new QLabel) {
   setAttribute(Qt::WA_DeleteOnClose);
-  setWindowTitle(QStringLiteral("Change site"));
+  setWindowTitle(companionText("Change site"));
   setMinimumWidth(480);
   m_site->selectAll();
-  auto* label = new QLabel(QStringLiteral("Site of your meeting service:"));
+  auto* label = new QLabel(companionText("&Site of your meeting service:"));
   label->setBuddy(m_site);
   m_text->setObjectName(QStringLiteral("siteText"));
   m_text->setTextFormat(Qt::PlainText);
@@ -32,6 +33,7 @@ SiteDialog::SiteDialog(SiteService* service, QWidget* parent)
   column->addWidget(m_site);
   column->addWidget(m_text);
   column->addWidget(createButtons());
+  m_change->setDefault(true);  // known to the dialog only now
   connect(m_site, &QLineEdit::textChanged, this, &SiteDialog::forgetFailure);
   m_site->setFocus();
 }
@@ -48,12 +50,9 @@ void SiteDialog::done(int result) {
 QWidget* SiteDialog::createButtons() {
   auto* bar = new QWidget;
   QHBoxLayout* row = addRow(bar, 8);
-  auto* keep = new QPushButton(QStringLiteral("Keep the old site"));
-  m_useAnyway = new QPushButton(QStringLiteral("Use it anyway"));
-  m_change = new QPushButton(QStringLiteral("Change"));
-  m_change->setDefault(true);
-  keep->setAutoDefault(false);
-  m_useAnyway->setAutoDefault(false);
+  auto* keep = new QPushButton(companionText("&Keep the old site"));
+  m_useAnyway = new QPushButton(companionText("&Use it anyway"));
+  m_change = new QPushButton(companionText("&Change"));
   m_useAnyway->hide();
   row->addStretch(1);
   row->addWidget(keep);
@@ -77,7 +76,7 @@ void SiteDialog::ask(const QString& site) {
 void SiteDialog::askChosen() {
   forgetFailure();
   m_change->setEnabled(false);
-  m_text->setText(QStringLiteral("Asking the site."));
+  m_text->setText(companionText("Asking the site."));
   m_service->lookUp(site(), [this](const SiteService::Result& result) {
     if (!result.site) return showFailure(result.failure);
     // The last line may destroy the dialog.

@@ -10,6 +10,7 @@
 #include "companion/app/ListTable.h"
 #include "companion/app/Rows.h"
 #include "companion/services/TelemetryService.h"
+#include "companion/texts/CompanionText.h"
 
 namespace {
 
@@ -19,12 +20,11 @@ constexpr int kShownRecords = 1000;
 
 TelemetryView::TelemetryView(TelemetryService* telemetry)
     : m_telemetry(telemetry),
-      m_isOn(new QCheckBox(QStringLiteral("Keep what I choose"))),
-      m_delete(new QPushButton(QStringLiteral("Delete all"))),
+      m_isOn(new QCheckBox(companionText("&Keep what I choose"))),
+      m_delete(createButton(companionText("&Delete all"))),
       m_text(new QLabel),
-      m_table(
-          createListTable(QStringLiteral("Telemetry records"),
-                          {QStringLiteral("Time"), QStringLiteral("Choice"), QStringLiteral("Details")})) {
+      m_table(createListTable(companionText("Telemetry records"),
+                              {companionText("Time"), companionText("Choice"), companionText("Details")})) {
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(8);
@@ -65,14 +65,14 @@ void TelemetryView::showRecords() {
   m_isOn->setChecked(isOn);
   m_delete->setEnabled(!records.isEmpty());
   if (isOn) {
-    m_text->setText(QStringLiteral("Your choices in Preferences, without anything personal, are kept in %1. "
-                                   "They stay on this computer.")
+    m_text->setText(companionText("Your choices in Preferences, without anything personal, are kept in %1. "
+                                  "They stay on this computer.")
                         .arg(m_telemetry->path()));
   } else if (records.isEmpty()) {
-    m_text->setText(QStringLiteral("Nothing is written, and nothing is kept."));
+    m_text->setText(companionText("Nothing is written, and nothing is kept."));
   } else {
     m_text->setText(
-        QStringLiteral("Nothing is written. What was kept before lies in %1.").arg(m_telemetry->path()));
+        companionText("Nothing is written. What was kept before lies in %1.").arg(m_telemetry->path()));
   }
   QList<QStringList> rows;
   for (const TelemetryRecord& record : records) {

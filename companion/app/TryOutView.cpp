@@ -11,6 +11,7 @@
 
 #include "companion/app/ListTable.h"
 #include "companion/app/Rows.h"
+#include "companion/texts/CompanionText.h"
 
 namespace {
 
@@ -31,25 +32,30 @@ QTableWidget* createWrappingTable(const QString& name, const QStringList& headin
   return table;
 }
 
+// The sandbox describes its accounts and sites in English.
+QString sandboxText(const QString& english) {
+  return companionText(english.toUtf8().constData());
+}
+
 }  // namespace
 
 TryOutView::TryOutView()
     : m_introduction(createPlainLabel()),
-      m_accounts(createWrappingTable(QStringLiteral("Accounts to try"),
-                                     {QStringLiteral("Address"), QStringLiteral("User name"),
-                                      QStringLiteral("Password"), QStringLiteral("What it shows")})),
-      m_sites(createWrappingTable(QStringLiteral("Sites to try"),
-                                  {QStringLiteral("Site"), QStringLiteral("What it shows")})) {
-  auto* copy = new QPushButton(QStringLiteral("Copy"));
-  copy->setToolTip(QStringLiteral("Copies the selected address, user name or password"));
-  auto* use = new QPushButton(QStringLiteral("Use this site"));
+      m_accounts(createWrappingTable(companionText("Accounts to try"),
+                                     {companionText("Address"), companionText("User name"),
+                                      companionText("Password"), companionText("What it shows")})),
+      m_sites(createWrappingTable(companionText("Sites to try"),
+                                  {companionText("Site"), companionText("What it shows")})) {
+  QPushButton* copy = createButton(companionText("C&opy"));
+  copy->setToolTip(companionText("Copies the selected address, user name or password"));
+  QPushButton* use = createButton(companionText("Use t&his site"));
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(8);
   column->addWidget(m_introduction);
-  column->addWidget(createBar(QStringLiteral("Accounts, for Microsoft Outlook in Meetings:"), copy));
+  column->addWidget(createBar(companionText("Accounts, for Microsoft Outlook in Meetings:"), copy));
   column->addWidget(m_accounts, 3);
-  column->addWidget(createBar(QStringLiteral("Sites, the meeting service to belong to:"), use));
+  column->addWidget(createBar(companionText("Sites, the meeting service to belong to:"), use));
   column->addWidget(m_sites, 2);
   connect(copy, &QPushButton::clicked, this, &TryOutView::copySelected);
   connect(use, &QPushButton::clicked, this, &TryOutView::useSelectedSite);
@@ -69,7 +75,7 @@ QWidget* TryOutView::createBar(const QString& text, QWidget* button) {
 void TryOutView::setAccounts(const QList<SandboxDescription::Account>& accounts) {
   QList<QStringList> rows;
   for (const SandboxDescription::Account& account : accounts) {
-    rows.append({account.email, account.username, account.password, account.meaning});
+    rows.append({account.email, account.username, account.password, sandboxText(account.meaning)});
   }
   setListRows(m_accounts, rows);
   m_accounts->setCurrentCell(0, 0);
@@ -78,7 +84,7 @@ void TryOutView::setAccounts(const QList<SandboxDescription::Account>& accounts)
 
 void TryOutView::setSites(const QList<SandboxDescription::Site>& sites) {
   QList<QStringList> rows;
-  for (const SandboxDescription::Site& site : sites) rows.append({site.site, site.meaning});
+  for (const SandboxDescription::Site& site : sites) rows.append({site.site, sandboxText(site.meaning)});
   setListRows(m_sites, rows);
   m_sites->setCurrentCell(0, 0);
   showIntroduction();
@@ -88,10 +94,10 @@ void TryOutView::showIntroduction() {
   const bool isEmpty = m_accounts->rowCount() == 0 && m_sites->rowCount() == 0;
   m_introduction->setText(
       isEmpty
-          ? QStringLiteral("The sandbox is not running. While it runs, this page lists accounts and sites "
-                           "to try.")
-          : QStringLiteral("All of these are played by a sandbox on this computer. Copy an address, open "
-                           "Preferences, choose Microsoft Outlook in Meetings, paste it and press Return."));
+          ? companionText("The sandbox is not running. While it runs, this page lists accounts and sites "
+                          "to try.")
+          : companionText("All of these are played by a sandbox on this computer. Copy an address, open "
+                          "Preferences, choose Microsoft Outlook in Meetings, paste it and press Return."));
 }
 
 void TryOutView::copySelected() {

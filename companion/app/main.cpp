@@ -13,6 +13,8 @@
 #include "companion/app/Appearance.h"
 #include "companion/app/Companion.h"
 #include "companion/app/Demonstration.h"
+#include "companion/app/DesktopColors.h"
+#include "companion/app/Display.h"
 #include "companion/runtime/Application.h"
 #include "companion/runtime/SingleInstance.h"
 #include "companion/texts/CompanionText.h"
@@ -31,13 +33,15 @@ void complain(const QString& text) {
   std::fprintf(stderr, "companion: %s\n", qPrintable(text));
 }
 
-// Qt tries these in order: a display that is named but cannot be reached counts as none.
-void choosePlatform() {
-  if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) return;
-  QByteArray platforms = "offscreen";
-  if (!qEnvironmentVariableIsEmpty("DISPLAY")) platforms.prepend("xcb;");
-  if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) platforms.prepend("wayland;");
-  qputenv("QT_QPA_PLATFORM", platforms);
+// Qt has taken the option by the time that it is asked for here.
+StyleChoice styleChoice(int argc, char** argv) {
+  for (int place = 1; place < argc; ++place) {
+    const std::string_view argument = argv[place];
+    if (argument == "-style" || argument == "--style" || argument.starts_with("-style=") ||
+        argument.starts_with("--style="))
+      return StyleChoice::Asked;
+  }
+  return StyleChoice::Look;
 }
 
 QString stateFolderOf(const CompanionOptions& options) {
@@ -125,19 +129,25 @@ int runCompanion(CompanionOptions options) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  const QStringList arguments = Application::commandLine(argc, argv);
-  const bool isOffscreen = qgetenv("QT_QPA_PLATFORM").startsWith("offscreen");
-  if (arguments.contains("--demo") && !isOffscreen) qputenv("QT_QPA_PLATFORM", "offscreen");
-  choosePlatform();
-  Application application(argv);
+  const bool needsDisplay = chooseDisplay(argc, argv);
+  Application application(argc, argv);
   QApplication::setApplicationName("companion");
   QApplication::setApplicationVersion(KZ_VERSION);
   QGuiApplication::setDesktopFileName("brenn-mivra-companion");
   QApplication::setQuitOnLastWindowClosed(false);
-  const CompanionOptions options = CompanionOptions::read(arguments);
-  if (!applyAppearance(options.appearance)) {
+  const CompanionOptions options = CompanionOptions::read(Application::arguments());
+  if (needsDisplay && QGuiApplication::platformName() == "offscreen") {
+    complain(displayProblem());
+    return kUnusable;
+  }
+  DesktopColors desktop;
+  if (!applyAppearance(options.appearance, styleChoice(argc, argv))) {
     complain(QStringLiteral("there is no appearance %1").arg(options.appearance));
     return kUnusable;
+  }
+  if (options.appearance == "system" && !options.isDemo) {
+    QObject::connect(&desktop, &DesktopColors::changed, [&desktop] { applyScheme(desktop.scheme()); });
+    desktop.follow();
   }
   if (!options.language.isEmpty()) QLocale::setDefault(QLocale(options.language));
   // Qt's own texts: context menus, file dialogs, buttons. Without the file they are English.

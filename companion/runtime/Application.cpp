@@ -3,6 +3,16 @@
 #include <QEvent>
 #include <QLoggingCategory>
 #include <QThread>
+#include <string>
+#include <vector>
+
+// The command line that Qt reads and takes its options from; it refers to it as long as the application
+// exists.
+struct QtCommandLine {
+  std::vector<std::string> texts;
+  std::vector<char*> pointers;
+  int count = 0;
+};
 
 namespace {
 
@@ -19,11 +29,21 @@ void filterQtMessage(QtMsgType type, const QMessageLogContext& context, const QS
   if (previousMessageHandler) previousMessageHandler(type, context, message);
 }
 
-// QApplication keeps a reference to the count, and the platform reports while it is constructed.
-int& preparedArgumentCount() {
-  static int onlyProgramName = 1;
+QtCommandLine& readCommandLine(int argc, char** argv) {
+  static QtCommandLine line;
+  line = {};
+  for (int place = 0; place < argc; ++place) {
+    std::string text = argv[place];
+    // Qt has an option of this name too; it does not take one that is joined to its value.
+    if (text == "--plugin") text.append("=").append(place + 1 < argc ? argv[++place] : "");
+    line.texts.push_back(text);
+  }
+  for (std::string& text : line.texts) line.pointers.push_back(text.data());
+  line.count = static_cast<int>(line.pointers.size());
+  line.pointers.push_back(nullptr);
+  // The platform reports while it is constructed.
   previousMessageHandler = qInstallMessageHandler(filterQtMessage);
-  return onlyProgramName;
+  return line;
 }
 
 bool isInput(const QObject& receiver, const QEvent& event) {
@@ -50,13 +70,9 @@ bool isInput(const QObject& receiver, const QEvent& event) {
 
 }  // namespace
 
-Application::Application(char** argv) : QApplication(preparedArgumentCount(), argv) {}
+Application::Application(int argc, char** argv) : Application(readCommandLine(argc, argv)) {}
 
-QStringList Application::commandLine(int argc, char** argv) {
-  QStringList arguments;
-  for (int place = 0; place < argc; ++place) arguments.append(QString::fromLocal8Bit(argv[place]));
-  return arguments;
-}
+Application::Application(QtCommandLine& line) : QApplication(line.count, line.pointers.data()) {}
 
 void Application::setInputListener(InputListener* listener) {
   theInputListener = listener;

@@ -1,7 +1,8 @@
 #pragma once
 
 #include <QApplication>
-#include <QStringList>
+
+struct QtCommandLine;
 
 // Observes possible input events of the user, before and after their effect. Inputs may nest.
 class InputListener {
@@ -17,16 +18,16 @@ class InputListener {
 // The application object of a host that can record what its user does. Main thread only.
 class Application final : public QApplication {
  public:
-  // Qt would take some of the program's own options (--plugin) for itself, so it gets the program's name
-  // alone; `commandLine` has them all, the program first. Messages of Qt's platform plug-ins on standard
-  // error are dropped. `argv` must outlive the application.
-  explicit Application(char** argv);
-
-  static QStringList commandLine(int argc, char** argv);
+  // Qt takes its own options (-platform, -style, -reverse ...); `arguments()` has the others, the program
+  // first. Messages of Qt's platform plug-ins on standard error are dropped.
+  Application(int argc, char** argv);
 
   // One at a time, not owned; nullptr for none. A listener that is set or removed during an input gets no
   // more calls for that input.
   static void setInputListener(InputListener* listener);
 
   bool notify(QObject* receiver, QEvent* event) override;
+
+ private:
+  explicit Application(QtCommandLine& line);
 };

@@ -128,13 +128,13 @@ int runSession(const QCommandLineParser& options) {
 
 int main(int argc, char** argv) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  Application application(argv);
+  Application application(argc, argv);
   Application::setQuitOnLastWindowClosed(false);
   Application::setApplicationName("prefs-session");
 
   QCommandLineParser options;
   addOptions(&options);
-  options.process(Application::commandLine(argc, argv));
+  options.process(Application::arguments());
   const QString keychain = options.value("keychain");
   if (keychain != "memory" && keychain != "system") {
     complain(QStringLiteral("--keychain is memory or system, not %1").arg(keychain));

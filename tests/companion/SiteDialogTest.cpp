@@ -27,7 +27,7 @@ class SiteDialogTest : public ServicesFixture {
 
   QPushButton* button(const char* title) const {
     for (auto* one : dialog->findChildren<QPushButton*>()) {
-      if (one->text() == title) return one;
+      if (one->text().remove(u'&') == title) return one;
     }
     return nullptr;
   }

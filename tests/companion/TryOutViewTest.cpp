@@ -33,7 +33,7 @@ class TryOutViewTest : public testing::Test {
 
   void press(const char* title) {
     for (QPushButton* button : view.findChildren<QPushButton*>()) {
-      if (button->text() == title) QTest::mouseClick(button, Qt::LeftButton);
+      if (button->text().remove(u'&') == title) QTest::mouseClick(button, Qt::LeftButton);
     }
   }
 

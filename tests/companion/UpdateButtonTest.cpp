@@ -17,7 +17,7 @@ class UpdateButtonTest : public ServicesFixture {
 
   QPushButton* shownButton(const QString& title) const {
     for (auto* one : window.findChildren<QPushButton*>()) {
-      if (one->text() == title && one->isVisible()) return one;
+      if (one->text().remove(u'&') == title && one->isVisible()) return one;
     }
     return nullptr;
   }
