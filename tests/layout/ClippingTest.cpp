@@ -88,6 +88,11 @@ QStringList faultsOf(QWidget& view) {
     for (const PaintedText& other : painted) {
       if (&other > &text && other.ink.adjusted(1, 1, -1, -1).intersects(text.ink))
         faults.append(text.text + " overlaps " + other.text);
+      const double step = qAbs(other.baseline - text.baseline);
+      // In a larger font, frames as high as it and frames of a fixed height differ.
+      const bool isUsual = text.font.pixelSize() == labelFontSize && other.font.pixelSize() == labelFontSize;
+      if (isUsual && step > kPixel / 2 && step < 5)
+        faults.append(text.text + " is not on one line with " + other.text);
     }
   }
   for (const QString& text : textsOf(view))
