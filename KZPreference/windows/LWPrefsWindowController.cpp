@@ -139,7 +139,7 @@ void LWPrefsWindowController::addFlexibleSpacer() {
 
 void LWPrefsWindowController::addView(View* view, const QString& label) {
   const QString name = QStringLiteral("preference_%1").arg(label).toLower();
-  addView(view, label, paneImage(name));
+  addView(view, label, newPNGImageInThisBundle(name));
 }
 
 void LWPrefsWindowController::addView(View* view, const QString& label, const QIcon& image) {
