@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <utility>
@@ -20,6 +21,7 @@
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
+#include "platform/Accessible.h"
 #include "platform/Text.h"
 
 namespace {
@@ -44,6 +46,11 @@ CompanionWindow::CompanionWindow(PluginHost* host) : m_host(host) {
   m_notice->setWordWrap(true);
   m_notice->setTextFormat(Qt::PlainText);
   column->addWidget(m_notice);
+  connect(new QShortcut(Qt::CTRL | Qt::Key_W, this), &QShortcut::activated, this, &QWidget::close);
+  // In the Preferences window too.
+  auto* quit = new QShortcut(Qt::CTRL | Qt::Key_Q, this);
+  quit->setContext(Qt::ApplicationShortcut);
+  connect(quit, &QShortcut::activated, this, &QWidget::close);
   // The guest's pane changes the identity.
   connect(&KZPlistFileHandle::sharedInstance(), &KZPlistFileHandle::valueChanged, this,
           &CompanionWindow::showIdentity);
@@ -107,8 +114,8 @@ QWidget* CompanionWindow::createSwitch() {
   m_guest = new QRadioButton(companionText("&Guest"));
   row->addWidget(m_signedIn);
   row->addWidget(m_guest);
-  connect(m_signedIn, &QRadioButton::clicked, this, [this] { become(demouser::Variant::SignedIn); });
-  connect(m_guest, &QRadioButton::clicked, this, [this] { become(demouser::Variant::Guest); });
+  connect(m_signedIn, &QRadioButton::clicked, this, [this] { change(demouser::Variant::SignedIn); });
+  connect(m_guest, &QRadioButton::clicked, this, [this] { change(demouser::Variant::Guest); });
   return box;
 }
 
@@ -140,6 +147,12 @@ QPushButton* CompanionWindow::createButton(const QString& title, const std::func
   QPushButton* button = ::createButton(title);
   connect(button, &QPushButton::clicked, this, action);
   return button;
+}
+
+// What was told last is the other user's.
+void CompanionWindow::change(demouser::Variant variant) {
+  showNotice({});
+  become(variant);
 }
 
 void CompanionWindow::become(demouser::Variant variant) {
@@ -201,6 +214,7 @@ void CompanionWindow::useSite(const QString& site) {
 
 void CompanionWindow::showNotice(const QString& text) {
   m_notice->setText(text);
+  announce(m_notice, text);
 }
 
 void CompanionWindow::showIdentity() {

@@ -54,6 +54,7 @@ class CompanionWindow final : public QWidget {
   QWidget* createButtons();
   QPushButton* createButton(const QString& title, const std::function<void()>& action);
 
+  void change(demouser::Variant variant);
   void showPage(int index);
   void showUpdate();
   void closePreferences();

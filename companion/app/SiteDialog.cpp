@@ -4,12 +4,15 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShortcut>
+#include <algorithm>
 
 #include "companion/app/Rows.h"
 #include "companion/network/WebAddress.h"
 #include "companion/services/SiteService.h"
 #include "companion/texts/CompanionText.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
+#include "platform/Accessible.h"
 
 SiteDialog::SiteDialog(SiteService* service, QWidget* parent)
     : QDialog(parent),
@@ -25,7 +28,6 @@ SiteDialog::SiteDialog(SiteService* service, QWidget* parent)
   m_text->setObjectName(QStringLiteral("siteText"));
   m_text->setTextFormat(Qt::PlainText);
   m_text->setWordWrap(true);
-  m_text->setMinimumHeight(2 * fontMetrics().lineSpacing());
   m_text->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   auto* column = new QVBoxLayout(this);
   column->setSpacing(10);
@@ -34,8 +36,10 @@ SiteDialog::SiteDialog(SiteService* service, QWidget* parent)
   column->addWidget(m_text);
   column->addWidget(createButtons());
   m_change->setDefault(true);  // known to the dialog only now
+  connect(new QShortcut(Qt::CTRL | Qt::Key_W, this), &QShortcut::activated, this, &QDialog::reject);
   connect(m_site, &QLineEdit::textChanged, this, &SiteDialog::forgetFailure);
   m_site->setFocus();
+  say({});
 }
 
 SiteDialog::~SiteDialog() {
@@ -76,7 +80,7 @@ void SiteDialog::ask(const QString& site) {
 void SiteDialog::askChosen() {
   forgetFailure();
   m_change->setEnabled(false);
-  m_text->setText(companionText("Asking the site."));
+  say(companionText("Asking the site."));
   m_service->lookUp(site(), [this](const SiteService::Result& result) {
     if (!result.site) return showFailure(result.failure);
     // The last line may destroy the dialog.
@@ -86,9 +90,18 @@ void SiteDialog::askChosen() {
   });
 }
 
+void SiteDialog::say(const QString& text) {
+  constexpr int kUsualLines = 2;
+  m_text->setText(text);
+  // A dialog does not grow by itself for a text of more lines.
+  m_text->setMinimumHeight(
+      std::max(kUsualLines * fontMetrics().lineSpacing(), m_text->heightForWidth(m_text->width())));
+  announce(m_text, text);
+}
+
 void SiteDialog::showFailure(const QString& reason) {
   m_change->setEnabled(true);
-  m_text->setText(reason);
+  say(reason);
   m_useAnyway->setVisible(!siteAddress(site()).isEmpty());
 }
 
@@ -96,7 +109,7 @@ void SiteDialog::forgetFailure() {
   // The field holds another site now.
   m_service->cancelLookUp();
   m_change->setEnabled(true);
-  m_text->clear();
+  say({});
   m_useAnyway->hide();
 }
 

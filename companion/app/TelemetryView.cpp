@@ -4,11 +4,11 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QLocale>
 #include <QPushButton>
 
 #include "companion/app/ListTable.h"
 #include "companion/app/Rows.h"
+#include "companion/runtime/TimeText.h"
 #include "companion/services/TelemetryService.h"
 #include "companion/texts/CompanionText.h"
 
@@ -76,8 +76,7 @@ void TelemetryView::showRecords() {
   }
   QList<QStringList> rows;
   for (const TelemetryRecord& record : records) {
-    const QString time = QLocale().toString(record.time.toLocalTime(), QLocale::ShortFormat);
-    rows.append({time, record.feature, record.details});
+    rows.append({shortDateTime(record.time), record.feature, record.details});
   }
   setListRows(m_table, rows);
 }
