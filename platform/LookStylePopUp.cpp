@@ -12,6 +12,8 @@ constexpr int kPopUpHeight = 20;
 constexpr int kMenuTextMargin = 24;
 constexpr int kMenuEndMargin = 14;
 constexpr int kMenuItemHeight = 22;
+constexpr int kMenuSeparatorHeight = 9;
+constexpr int kMenuShortcutGap = 12;
 
 QRect popUpTile(const QStyleOption& option) {
   const QRect& rect = option.rect;
@@ -78,32 +80,44 @@ void drawMenuPanel(const QStyleOption& option, QPainter* painter) {
   painter->fillRect(option.rect.adjusted(1, 1, -1, -1), colors.menu);
 }
 
+// A menu adds the room of the shortcut, which follows a tab.
 QSize menuItemSize(const QStyleOptionMenuItem& option) {
+  if (option.menuItemType == QStyleOptionMenuItem::Separator) return {kMenuTextMargin, kMenuSeparatorHeight};
   const QFontMetrics metrics(option.font);
-  return {kMenuTextMargin + metrics.horizontalAdvance(option.text) + kMenuEndMargin,
-          qMax(kMenuItemHeight, metrics.height() + 6)};
+  const int text = metrics.size(Qt::TextShowMnemonic, option.text.section(u'\t', 0, 0)).width();
+  const int gap = option.text.contains(u'\t') ? kMenuShortcutGap : 0;
+  return {kMenuTextMargin + text + gap + kMenuEndMargin, qMax(kMenuItemHeight, metrics.height() + 6)};
 }
 
 void drawMenuItem(const QStyleOptionMenuItem& option, QPainter* painter) {
   const LookColors& colors = lookColorsOf(option);
-  const bool isSelected = option.state & QStyle::State_Selected;
   painter->fillRect(option.rect, colors.menu);
+  if (option.menuItemType == QStyleOptionMenuItem::Separator) {
+    const QRect& rect = option.rect;
+    return painter->fillRect(rect.left() + 10, rect.center().y(), rect.width() - 20, 1, colors.border);
+  }
+  const bool isEnabled = option.state & QStyle::State_Enabled;
+  const bool isSelected = isEnabled && (option.state & QStyle::State_Selected);
   if (isSelected) {
     const QColor accent = option.palette.color(QPalette::Active, QPalette::Highlight);
     drawLookBox(painter, option.rect.adjusted(3, 0, -3, 0), 4, accent, accent);
   }
-  const QColor text =
-      option.palette.color(QPalette::Active, isSelected ? QPalette::HighlightedText : QPalette::Text);
+  const QColor text = option.palette.color(isEnabled ? QPalette::Active : QPalette::Disabled,
+                                           isSelected ? QPalette::HighlightedText : QPalette::Text);
   if (option.checked) {
     const QRect mark(option.rect.left() + 7, option.rect.center().y() - 5, 12, 12);
     drawLookCheckMark(painter, QStyle::visualRect(option.direction, option.rect, mark), text);
   }
-  const QRect room = option.rect.adjusted(kMenuTextMargin, 0, -kMenuEndMargin / 2, 0);
-  const int alignment = int(QStyle::visualAlignment(option.direction, Qt::AlignLeft | Qt::AlignVCenter));
+  const QRect room = QStyle::visualRect(option.direction, option.rect,
+                                        option.rect.adjusted(kMenuTextMargin, 0, -kMenuEndMargin / 2, 0));
   painter->setFont(option.font);
   painter->setPen(text);
-  painter->drawText(QStyle::visualRect(option.direction, option.rect, room), alignment | Qt::TextSingleLine,
-                    option.text);
+  const auto drawPart = [&](const QString& part, Qt::Alignment side) {
+    const auto alignment = int(QStyle::visualAlignment(option.direction, side | Qt::AlignVCenter));
+    painter->drawText(room, alignment | Qt::TextSingleLine | Qt::TextShowMnemonic, part);
+  };
+  drawPart(option.text.section(u'\t', 0, 0), Qt::AlignLeft);
+  drawPart(option.text.section(u'\t', 1), Qt::AlignRight);
 }
 
 }  // namespace lookPopUp

@@ -14,6 +14,9 @@ def first_argument_of(*functions):
     return re.compile(r"\b(?:" + "|".join(functions) + r")\(\s*" + LITERAL)
 
 
+# The last member of an account or a site of the sandbox, which the companion shows.
+SANDBOX_MEANING = re.compile(r'\{Case::\w+,\s*"[^"]*",\s*(?:"[^"]*",\s*"[^"]*",\s*)?' + LITERAL)
+
 # Per table: its files, the code that uses it, and where texts are looked up there or passed to a helper that does, such as
 # titles of panes, texts of the sign-in dialog and of the page that ends a sign-in.
 TABLES = [
@@ -22,8 +25,8 @@ TABLES = [
       re.compile(r"\badd\(m_\w+,\s*" + LITERAL),
       re.compile(r"\bcallbackPage\(" + LITERAL.replace("((", "(?:(", 1) + r",\s*" + LITERAL)]),
     ("host/resources/translations/*.ts", ["host/*.h", "host/*.cpp"], [first_argument_of("warningText")]),
-    ("companion/resources/translations/*.ts", ["companion/*.h", "companion/*.cpp"],
-     [first_argument_of("companionText", "textKey")]),
+    ("companion/resources/translations/*.ts", ["companion/*.h", "companion/*.cpp", "sandbox/Cases.cpp"],
+     [first_argument_of("companionText", "textKey"), SANDBOX_MEANING]),
 ]
 COLONS = (":", "\uff1a")
 PLACEHOLDER = re.compile(r"%\d")

@@ -155,5 +155,5 @@ Dictionary ADAuthenticationWrapper::generateExchResolvingFailedResult(
     const ADAuthenticationResult& result) const {
   if (result.status == ADAuthenticationStatus::Succeeded) return {};
   return {{kKZResult, kKZFail},
-          {kKZErrorHandleData, Dictionary{{kKZErrorMessage, QStringLiteral("Applied failed")}}}};
+          {kKZErrorHandleData, Dictionary{{kKZErrorMessage, QString::fromLatin1(kSignInFailedMessage)}}}};
 }

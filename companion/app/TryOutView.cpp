@@ -32,6 +32,11 @@ QTableWidget* createWrappingTable(const QString& name, const QStringList& headin
   return table;
 }
 
+// The sandbox describes its accounts and sites in English.
+QString sandboxText(const QString& english) {
+  return companionText(english.toUtf8().constData());
+}
+
 }  // namespace
 
 TryOutView::TryOutView()
@@ -70,7 +75,7 @@ QWidget* TryOutView::createBar(const QString& text, QWidget* button) {
 void TryOutView::setAccounts(const QList<SandboxDescription::Account>& accounts) {
   QList<QStringList> rows;
   for (const SandboxDescription::Account& account : accounts) {
-    rows.append({account.email, account.username, account.password, account.meaning});
+    rows.append({account.email, account.username, account.password, sandboxText(account.meaning)});
   }
   setListRows(m_accounts, rows);
   m_accounts->setCurrentCell(0, 0);
@@ -79,7 +84,7 @@ void TryOutView::setAccounts(const QList<SandboxDescription::Account>& accounts)
 
 void TryOutView::setSites(const QList<SandboxDescription::Site>& sites) {
   QList<QStringList> rows;
-  for (const SandboxDescription::Site& site : sites) rows.append({site.site, site.meaning});
+  for (const SandboxDescription::Site& site : sites) rows.append({site.site, sandboxText(site.meaning)});
   setListRows(m_sites, rows);
   m_sites->setCurrentCell(0, 0);
   showIntroduction();

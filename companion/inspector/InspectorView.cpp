@@ -135,7 +135,7 @@ void InspectorView::setUpTable() {
   m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   m_table->horizontalHeader()->setStretchLastSection(true);
   m_table->setColumnWidth(InspectorLog::TimeColumn, 96);
-  m_table->setColumnWidth(InspectorLog::KindColumn, 142);
+  m_table->setColumnWidth(InspectorLog::KindColumn, 160);
   m_table->setColumnWidth(InspectorLog::NameColumn, 220);
   connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
           &InspectorView::showDetails);

@@ -174,7 +174,8 @@ void SiteService::showNewRecord() {
   if (!isInUse) m_host->trigger(KZCommand::KZCmdDestroyPreference);
   sendRecord(record());
   if (!isInUse) return;
-  Q_EMIT message(companionText("Your site has news for Preferences. Press Close, then Preferences."));
+  Q_EMIT message(
+      companionText("Your site has news for Preferences. Press Close Preferences, then Preferences."));
 }
 
 void SiteService::openMeetingSettings() {

@@ -1,5 +1,6 @@
 #include "KZPreference/panes/meetings/CalendarIntegrationMessage.h"
 
+#include "KZPreference/authentication/ADAuthenticationWrapper.h"
 #include "KZPreference/layout/Resources.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "platform/Accessible.h"
@@ -10,7 +11,9 @@ void CalendarIntegrationMessage::setMessageTxt(StaticText* messageTxt) {
 
 void CalendarIntegrationMessage::showErrorMessage(const Dictionary& result) {
   const QString text = textValue(dictionaryValue(result, kKZErrorHandleData), kKZErrorMessage);
-  if (!text.isEmpty()) show(text, SystemColor::Red, Announce::Yes);
+  if (text.isEmpty()) return;
+  const bool isOwn = text == QLatin1String(kSignInFailedMessage);
+  show(isOwn ? localizedString("Applied failed") : text, SystemColor::Red, Announce::Yes);
 }
 
 void CalendarIntegrationMessage::showInvalidAccountMessage(Announce announced) {

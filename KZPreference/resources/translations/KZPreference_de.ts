@@ -271,5 +271,9 @@
         <source>Return saves, Escape cancels, Ctrl+Tab leaves the fields.</source>
         <translation>Die Eingabetaste speichert, Esc bricht ab, Strg+Tab verlässt die Felder.</translation>
     </message>
+    <message>
+        <source>Applied failed</source>
+        <translation>Übernehmen fehlgeschlagen</translation>
+    </message>
 </context>
 </TS>

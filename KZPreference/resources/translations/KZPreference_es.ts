@@ -271,5 +271,9 @@
         <source>Return saves, Escape cancels, Ctrl+Tab leaves the fields.</source>
         <translation>Intro guarda, Esc cancela y Ctrl+Tab sale de los campos.</translation>
     </message>
+    <message>
+        <source>Applied failed</source>
+        <translation>No se pudo aplicar</translation>
+    </message>
 </context>
 </TS>

@@ -271,5 +271,9 @@
         <source>Return saves, Escape cancels, Ctrl+Tab leaves the fields.</source>
         <translation>Entrée enregistre, Échap annule, Ctrl+Tab quitte les champs.</translation>
     </message>
+    <message>
+        <source>Applied failed</source>
+        <translation>Échec de l’application</translation>
+    </message>
 </context>
 </TS>

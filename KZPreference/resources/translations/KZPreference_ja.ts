@@ -271,5 +271,9 @@
         <source>Return saves, Escape cancels, Ctrl+Tab leaves the fields.</source>
         <translation>Enter キーで保存、Esc キーでキャンセル、Ctrl+Tab キーで入力欄を離れます。</translation>
     </message>
+    <message>
+        <source>Applied failed</source>
+        <translation>適用できませんでした</translation>
+    </message>
 </context>
 </TS>

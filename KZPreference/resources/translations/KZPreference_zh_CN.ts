@@ -271,5 +271,9 @@
         <source>Return saves, Escape cancels, Ctrl+Tab leaves the fields.</source>
         <translation>按回车键保存，按 Esc 键取消，按 Ctrl+Tab 离开输入框。</translation>
     </message>
+    <message>
+        <source>Applied failed</source>
+        <translation>应用失败</translation>
+    </message>
 </context>
 </TS>

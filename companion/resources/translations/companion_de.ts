@@ -464,8 +464,8 @@
         <translation>Ihr persönlicher Raum ist jetzt %1.</translation>
     </message>
     <message>
-        <source>Your site has news for Preferences. Press Close, then Preferences.</source>
-        <translation>Ihre Site hat Neues für die Einstellungen. Drücken Sie „Schließen“, dann „Einstellungen“.</translation>
+        <source>Your site has news for Preferences. Press Close Preferences, then Preferences.</source>
+        <translation>Ihre Site hat Neues für die Einstellungen. Drücken Sie „Einstellungen schließen“, dann „Einstellungen“.</translation>
     </message>
     <message>
         <source>its folder cannot be changed</source>
@@ -474,6 +474,438 @@
     <message>
         <source>the folder cannot be made</source>
         <translation>der Ordner kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>Record to</source>
+        <translation>Aufzeichnen in</translation>
+    </message>
+    <message>
+        <source>Telemetr&amp;y</source>
+        <translation>&amp;Telemetrie</translation>
+    </message>
+    <message>
+        <source>&amp;Inspector</source>
+        <translation>&amp;Inspektor</translation>
+    </message>
+    <message>
+        <source>&amp;Try out</source>
+        <translation>Aus&amp;probieren</translation>
+    </message>
+    <message>
+        <source>&amp;Meetings</source>
+        <translation>&amp;Besprechungen</translation>
+    </message>
+    <message>
+        <source>Meeting sites and Exchange are looked for in the network and in a sandbox on this computer.</source>
+        <translation>Sites und Exchange werden im Netzwerk und in einer Sandbox auf diesem Computer gesucht.</translation>
+    </message>
+    <message>
+        <source>Meeting sites and Exchange are played by a sandbox on this computer.</source>
+        <translation>Sites und Exchange spielt eine Sandbox auf diesem Computer.</translation>
+    </message>
+    <message>
+        <source>Records (*.jsonl)</source>
+        <translation>Aufzeichnungen (*.jsonl)</translation>
+    </message>
+    <message>
+        <source>Copied: %1</source>
+        <translation>Kopiert: %1</translation>
+    </message>
+    <message>
+        <source>May %1 be asked for your Exchange account?</source>
+        <translation>Darf %1 nach Ihrem Exchange-Konto gefragt werden?</translation>
+    </message>
+    <message>
+        <source>Exchange</source>
+        <translation>Exchange</translation>
+    </message>
+    <message>
+        <source>&amp;Do not allow</source>
+        <translation>&amp;Nicht zulassen</translation>
+    </message>
+    <message>
+        <source>&amp;Allow</source>
+        <translation>&amp;Zulassen</translation>
+    </message>
+    <message>
+        <source>Detect again to enter another user name or password.</source>
+        <translation>Suchen Sie erneut, um einen anderen Benutzernamen oder ein anderes Passwort einzugeben.</translation>
+    </message>
+    <message>
+        <source>The search leads to %1. Allow it only if you know this server: your email address, and later your password, may be sent to it.</source>
+        <translation>Die Suche führt zu %1. Lassen Sie das nur zu, wenn Sie diesen Server kennen: Ihre E-Mail-Adresse und später Ihr Passwort können an ihn gesendet werden.</translation>
+    </message>
+    <message>
+        <source>&amp;Guest</source>
+        <translation>&amp;Gast</translation>
+    </message>
+    <message>
+        <source>&amp;Signed in</source>
+        <translation>Ange&amp;meldet</translation>
+    </message>
+    <message>
+        <source>Writes what happens to a file, for a report</source>
+        <translation>Schreibt für eine Fehlermeldung in eine Datei, was geschieht</translation>
+    </message>
+    <message>
+        <source>Opens its page in the browser</source>
+        <translation>Öffnet ihre Seite im Browser</translation>
+    </message>
+    <message>
+        <source>Check for &amp;updates</source>
+        <translation>Nach &amp;Updates suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Preferences</source>
+        <translation>&amp;Einstellungen</translation>
+    </message>
+    <message>
+        <source>Stop &amp;recording</source>
+        <translation>&amp;Aufzeichnung beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Join by number</source>
+        <translation>Per &amp;Nummer teilnehmen</translation>
+    </message>
+    <message>
+        <source>&amp;Account</source>
+        <translation>&amp;Konto</translation>
+    </message>
+    <message>
+        <source>&amp;Record</source>
+        <translation>&amp;Aufzeichnen</translation>
+    </message>
+    <message>
+        <source>Get &amp;version %1</source>
+        <translation>&amp;Version %1 holen</translation>
+    </message>
+    <message>
+        <source>&amp;Close Preferences</source>
+        <translation>Einstellungen &amp;schließen</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be kept: the keyring is locked or does not answer. They are known until Brenn Mivra Meetings quits. Unlock the keyring, then start again.</source>
+        <translation>Passwörter können nicht aufbewahrt werden: Der Schlüsselbund ist gesperrt oder antwortet nicht. Bis Brenn Mivra Meetings beendet wird, bleiben sie bekannt. Entsperren Sie den Schlüsselbund und starten Sie dann neu.</translation>
+    </message>
+    <message>
+        <source>Settings cannot be saved: %1 is read-only. They are kept until Brenn Mivra Meetings quits. Make the folder writable; the next change saves them all.</source>
+        <translation>Einstellungen können nicht gespeichert werden: %1 ist schreibgeschützt. Bis Brenn Mivra Meetings beendet wird, gelten sie weiter. Machen Sie den Ordner beschreibbar; die nächste Änderung speichert alle.</translation>
+    </message>
+    <message>
+        <source>Settings cannot be saved: the disk is full. They are kept until Brenn Mivra Meetings quits. Free some space; the next change saves them all.</source>
+        <translation>Einstellungen können nicht gespeichert werden: Der Datenträger ist voll. Bis Brenn Mivra Meetings beendet wird, gelten sie weiter. Schaffen Sie Platz; die nächste Änderung speichert alle.</translation>
+    </message>
+    <message>
+        <source>Settings cannot be saved in %1. They are kept until Brenn Mivra Meetings quits. Check the folder; the next change saves them all.</source>
+        <translation>Einstellungen können nicht in %1 gespeichert werden. Bis Brenn Mivra Meetings beendet wird, gelten sie weiter. Prüfen Sie den Ordner; die nächste Änderung speichert alle.</translation>
+    </message>
+    <message>
+        <source>Settings could not be read and were set aside as %1. They start anew.</source>
+        <translation>Die Einstellungen waren nicht lesbar und wurden als %1 beiseitegelegt. Es gelten wieder die Standardwerte.</translation>
+    </message>
+    <message>
+        <source>Settings cannot be read or saved: %1 is damaged or belongs to somebody else. They are kept until Brenn Mivra Meetings quits. Move the file away, then start again.</source>
+        <translation>Einstellungen können nicht gelesen oder gespeichert werden: %1 ist beschädigt oder gehört jemand anderem. Bis Brenn Mivra Meetings beendet wird, gelten sie weiter. Verschieben Sie die Datei und starten Sie dann neu.</translation>
+    </message>
+    <message>
+        <source>Your next meetings:</source>
+        <translation>Ihre nächsten Besprechungen:</translation>
+    </message>
+    <message>
+        <source>Meeting</source>
+        <translation>Besprechung</translation>
+    </message>
+    <message>
+        <source>Today, %1</source>
+        <translation>Heute, %1</translation>
+    </message>
+    <message>
+        <source>Next meetings</source>
+        <translation>Nächste Besprechungen</translation>
+    </message>
+    <message>
+        <source>Asking for your next meetings.</source>
+        <translation>Ihre nächsten Besprechungen werden abgefragt.</translation>
+    </message>
+    <message>
+        <source>has started</source>
+        <translation>hat begonnen</translation>
+    </message>
+    <message>
+        <source>starts in %1 minutes</source>
+        <translation>beginnt in %1 Minuten</translation>
+    </message>
+    <message>
+        <source>starts in 1 minute</source>
+        <translation>beginnt in 1 Minute</translation>
+    </message>
+    <message>
+        <source>Re&amp;fresh</source>
+        <translation>Aktua&amp;lisieren</translation>
+    </message>
+    <message>
+        <source>Tomorrow, %1</source>
+        <translation>Morgen, %1</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Beginn</translation>
+    </message>
+    <message>
+        <source>Recorded to %1. Attach it to your report; passwords and tokens are replaced, names and addresses are not.</source>
+        <translation>In %1 aufgezeichnet. Hängen Sie die Datei an Ihre Fehlermeldung; Passwörter und Token sind ersetzt, Namen und Adressen nicht.</translation>
+    </message>
+    <message>
+        <source>Recording to %1. Do what goes wrong, then press Stop recording.</source>
+        <translation>Es wird in %1 aufgezeichnet. Wiederholen Sie den Fehler und drücken Sie dann „Aufzeichnung beenden“.</translation>
+    </message>
+    <message>
+        <source>Recording has ended: %1. What came before is in %2. Make room, then record again.</source>
+        <translation>Die Aufzeichnung ist beendet: %1. Was davor kam, ist in %2. Schaffen Sie Platz und zeichnen Sie erneut auf.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2. Choose another place for the record.</source>
+        <translation>%1 kann nicht geschrieben werden: %2. Wählen Sie einen anderen Ort für die Aufzeichnung.</translation>
+    </message>
+    <message>
+        <source>The sandbox has ended.</source>
+        <translation>Die Sandbox wurde beendet.</translation>
+    </message>
+    <message>
+        <source>The sandbox does not answer.</source>
+        <translation>Die Sandbox antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>The sandbox is not running: kz-sandbox is not beside this program.</source>
+        <translation>Die Sandbox läuft nicht: kz-sandbox liegt nicht neben diesem Programm.</translation>
+    </message>
+    <message>
+        <source>The sandbox did not start: %1.</source>
+        <translation>Die Sandbox ist nicht gestartet: %1.</translation>
+    </message>
+    <message>
+        <source>The sandbox plays nothing: the openssl program may be missing.</source>
+        <translation>Die Sandbox spielt nichts: Vielleicht fehlt das Programm openssl.</translation>
+    </message>
+    <message>
+        <source>&amp;Change</source>
+        <translation>Än&amp;dern</translation>
+    </message>
+    <message>
+        <source>Change site</source>
+        <translation>Site ändern</translation>
+    </message>
+    <message>
+        <source>&amp;Use it anyway</source>
+        <translation>&amp;Trotzdem verwenden</translation>
+    </message>
+    <message>
+        <source>&amp;Site of your meeting service:</source>
+        <translation>&amp;Site Ihres Besprechungsdienstes:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the old site</source>
+        <translation>Alte Site &amp;behalten</translation>
+    </message>
+    <message>
+        <source>Asking the site.</source>
+        <translation>Die Site wird gefragt.</translation>
+    </message>
+    <message>
+        <source>Nothing is written, and nothing is kept.</source>
+        <translation>Es wird nichts geschrieben und es ist nichts aufbewahrt.</translation>
+    </message>
+    <message>
+        <source>Telemetry records</source>
+        <translation>Telemetrieeinträge</translation>
+    </message>
+    <message>
+        <source>Choice</source>
+        <translation>Auswahl</translation>
+    </message>
+    <message>
+        <source>Your choices in Preferences, without anything personal, are kept in %1. They stay on this computer.</source>
+        <translation>Was Sie in den Einstellungen wählen, wird ohne persönliche Angaben in %1 aufbewahrt. Es bleibt auf diesem Computer.</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>&amp;Delete all</source>
+        <translation>Alles &amp;löschen</translation>
+    </message>
+    <message>
+        <source>&amp;Keep what I choose</source>
+        <translation>Aufbewahren, &amp;was ich wähle</translation>
+    </message>
+    <message>
+        <source>Nothing is written. What was kept before lies in %1.</source>
+        <translation>Es wird nichts geschrieben. Was früher aufbewahrt wurde, liegt in %1.</translation>
+    </message>
+    <message>
+        <source>Use t&amp;his site</source>
+        <translation>&amp;Diese Site verwenden</translation>
+    </message>
+    <message>
+        <source>Copies the selected address, user name or password</source>
+        <translation>Kopiert die ausgewählte Adresse, den Benutzernamen oder das Passwort</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>Site</source>
+        <translation>Site</translation>
+    </message>
+    <message>
+        <source>The sandbox is not running. While it runs, this page lists accounts and sites to try.</source>
+        <translation>Die Sandbox läuft nicht. Wenn sie läuft, stehen hier Konten und Sites zum Ausprobieren.</translation>
+    </message>
+    <message>
+        <source>Sites, the meeting service to belong to:</source>
+        <translation>Sites (der Besprechungsdienst, zu dem Sie gehören):</translation>
+    </message>
+    <message>
+        <source>Accounts, for Microsoft Outlook in Meetings:</source>
+        <translation>Konten, für Microsoft Outlook unter „Besprechungen“:</translation>
+    </message>
+    <message>
+        <source>All of these are played by a sandbox on this computer. Copy an address, open Preferences, choose Microsoft Outlook in Meetings, paste it and press Return.</source>
+        <translation>All dies spielt eine Sandbox auf diesem Computer. Kopieren Sie eine Adresse, öffnen Sie die Einstellungen, wählen Sie unter „Besprechungen“ Microsoft Outlook, fügen Sie sie ein und drücken Sie die Eingabetaste.</translation>
+    </message>
+    <message>
+        <source>Sites to try</source>
+        <translation>Sites zum Ausprobieren</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>K&amp;opieren</translation>
+    </message>
+    <message>
+        <source>Accounts to try</source>
+        <translation>Konten zum Ausprobieren</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>Benutzername</translation>
+    </message>
+    <message>
+        <source>What it shows</source>
+        <translation>Was es zeigt</translation>
+    </message>
+    <message>
+        <source>Exchange with a password. Any other password is refused, and the third one locks the account until the sandbox is started again</source>
+        <translation>Exchange mit Passwort. Jedes andere wird abgelehnt, das dritte sperrt das Konto, bis die Sandbox neu startet</translation>
+    </message>
+    <message>
+        <source>The account is locked from the start: no password is right</source>
+        <translation>Das Konto ist von Anfang an gesperrt: Kein Passwort ist richtig</translation>
+    </message>
+    <message>
+        <source>Office 365: sign in in the browser</source>
+        <translation>Office 365: Anmeldung im Browser</translation>
+    </message>
+    <message>
+        <source>Office 365 that takes two seconds longer to sign you in</source>
+        <translation>Office 365, dessen Anmeldung zwei Sekunden länger dauert</translation>
+    </message>
+    <message>
+        <source>Office 365 whose sign-in ends after a minute: you sign in again</source>
+        <translation>Office 365, dessen Anmeldung nach einer Minute endet: Sie melden sich erneut an</translation>
+    </message>
+    <message>
+        <source>Office 365 that refuses every sign-in</source>
+        <translation>Office 365, das jede Anmeldung ablehnt</translation>
+    </message>
+    <message>
+        <source>Office 365 that does not respond after the sign-in</source>
+        <translation>Office 365, das nach der Anmeldung nicht antwortet</translation>
+    </message>
+    <message>
+        <source>Office 365 that responds with an error (500) after the sign-in</source>
+        <translation>Office 365, das nach der Anmeldung mit einem Fehler (500) antwortet</translation>
+    </message>
+    <message>
+        <source>Office 365 that responds to the sign-in with a web page</source>
+        <translation>Office 365, das auf die Anmeldung mit einer Webseite antwortet</translation>
+    </message>
+    <message>
+        <source>Office 365 that does not say how long the sign-in is valid</source>
+        <translation>Office 365, das nicht sagt, wie lange die Anmeldung gilt</translation>
+    </message>
+    <message>
+        <source>Redirects to onprem@corp.sandbox.example</source>
+        <translation>Leitet zu onprem@corp.sandbox.example weiter</translation>
+    </message>
+    <message>
+        <source>An unencrypted address leads to the server: you are asked first</source>
+        <translation>Eine unverschlüsselte Adresse führt zum Server: Sie werden zuerst gefragt</translation>
+    </message>
+    <message>
+        <source>Only a service record names the server</source>
+        <translation>Nur ein Diensteintrag (SRV) nennt den Server</translation>
+    </message>
+    <message>
+        <source>Responds after a second</source>
+        <translation>Antwortet nach einer Sekunde</translation>
+    </message>
+    <message>
+        <source>Never responds</source>
+        <translation>Antwortet nie</translation>
+    </message>
+    <message>
+        <source>Responds slowly, byte by byte</source>
+        <translation>Antwortet langsam, Byte für Byte</translation>
+    </message>
+    <message>
+        <source>Always responds with an error (500)</source>
+        <translation>Antwortet immer mit einem Fehler (500)</translation>
+    </message>
+    <message>
+        <source>Has a certificate for another name</source>
+        <translation>Hat ein Zertifikat für einen anderen Namen</translation>
+    </message>
+    <message>
+        <source>Redirects a hundred times</source>
+        <translation>Leitet hundertmal weiter</translation>
+    </message>
+    <message>
+        <source>Requires a sign-in method that is not supported</source>
+        <translation>Verlangt ein Anmeldeverfahren, das nicht unterstützt wird</translation>
+    </message>
+    <message>
+        <source>Responds with XML that expands to gigabytes</source>
+        <translation>Antwortet mit XML, das auf Gigabytes anwächst</translation>
+    </message>
+    <message>
+        <source>Responds with a web page</source>
+        <translation>Antwortet mit einer Webseite</translation>
+    </message>
+    <message>
+        <source>Has a web site but no Exchange</source>
+        <translation>Hat eine Website, aber kein Exchange</translation>
+    </message>
+    <message>
+        <source>Works and offers version 9.1.0</source>
+        <translation>Funktioniert und bietet Version 9.1.0 an</translation>
+    </message>
+    <message>
+        <source>Works; there is no newer version</source>
+        <translation>Funktioniert; es gibt keine neuere Version</translation>
+    </message>
+    <message>
+        <source>Works, but each response takes a second</source>
+        <translation>Funktioniert, aber jede Antwort dauert eine Sekunde</translation>
+    </message>
+    <message>
+        <source>Responds to every request with a web page</source>
+        <translation>Antwortet auf jede Anfrage mit einer Webseite</translation>
     </message>
 </context>
 </TS>

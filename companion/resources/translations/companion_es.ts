@@ -464,8 +464,8 @@
         <translation>Su sala personal es ahora %1.</translation>
     </message>
     <message>
-        <source>Your site has news for Preferences. Press Close, then Preferences.</source>
-        <translation>Su sitio tiene novedades para las preferencias. Pulse Cerrar y después Preferencias.</translation>
+        <source>Your site has news for Preferences. Press Close Preferences, then Preferences.</source>
+        <translation>Su sitio tiene novedades para las preferencias. Pulse «Cerrar Preferencias» y después «Preferencias».</translation>
     </message>
     <message>
         <source>its folder cannot be changed</source>
@@ -474,6 +474,438 @@
     <message>
         <source>the folder cannot be made</source>
         <translation>no se puede crear la carpeta</translation>
+    </message>
+    <message>
+        <source>Record to</source>
+        <translation>Grabar en</translation>
+    </message>
+    <message>
+        <source>Telemetr&amp;y</source>
+        <translation>Te&amp;lemetría</translation>
+    </message>
+    <message>
+        <source>&amp;Inspector</source>
+        <translation>Inspec&amp;tor</translation>
+    </message>
+    <message>
+        <source>&amp;Try out</source>
+        <translation>Pro&amp;bar</translation>
+    </message>
+    <message>
+        <source>&amp;Meetings</source>
+        <translation>&amp;Reuniones</translation>
+    </message>
+    <message>
+        <source>Meeting sites and Exchange are looked for in the network and in a sandbox on this computer.</source>
+        <translation>Los sitios de reuniones y Exchange se buscan en la red y en un entorno de pruebas de este equipo.</translation>
+    </message>
+    <message>
+        <source>Meeting sites and Exchange are played by a sandbox on this computer.</source>
+        <translation>Un entorno de pruebas de este equipo simula los sitios de reuniones y Exchange.</translation>
+    </message>
+    <message>
+        <source>Records (*.jsonl)</source>
+        <translation>Grabaciones (*.jsonl)</translation>
+    </message>
+    <message>
+        <source>Copied: %1</source>
+        <translation>Copiado: %1</translation>
+    </message>
+    <message>
+        <source>May %1 be asked for your Exchange account?</source>
+        <translation>¿Permitir que se consulte su cuenta de Exchange en %1?</translation>
+    </message>
+    <message>
+        <source>Exchange</source>
+        <translation>Exchange</translation>
+    </message>
+    <message>
+        <source>&amp;Do not allow</source>
+        <translation>&amp;No permitir</translation>
+    </message>
+    <message>
+        <source>&amp;Allow</source>
+        <translation>&amp;Permitir</translation>
+    </message>
+    <message>
+        <source>Detect again to enter another user name or password.</source>
+        <translation>Busque de nuevo para introducir otro nombre de usuario u otra contraseña.</translation>
+    </message>
+    <message>
+        <source>The search leads to %1. Allow it only if you know this server: your email address, and later your password, may be sent to it.</source>
+        <translation>La búsqueda lleva a %1. Permítalo solo si conoce este servidor: se le puede enviar su correo electrónico y después su contraseña.</translation>
+    </message>
+    <message>
+        <source>&amp;Guest</source>
+        <translation>&amp;Invitado</translation>
+    </message>
+    <message>
+        <source>&amp;Signed in</source>
+        <translation>&amp;Sesión iniciada</translation>
+    </message>
+    <message>
+        <source>Writes what happens to a file, for a report</source>
+        <translation>Escribe en un archivo lo que ocurre, para un informe</translation>
+    </message>
+    <message>
+        <source>Opens its page in the browser</source>
+        <translation>Abre su página en el navegador</translation>
+    </message>
+    <message>
+        <source>Check for &amp;updates</source>
+        <translation>Buscar &amp;actualizaciones</translation>
+    </message>
+    <message>
+        <source>&amp;Preferences</source>
+        <translation>&amp;Preferencias</translation>
+    </message>
+    <message>
+        <source>Stop &amp;recording</source>
+        <translation>Detener la &amp;grabación</translation>
+    </message>
+    <message>
+        <source>&amp;Join by number</source>
+        <translation>Unirse por &amp;número</translation>
+    </message>
+    <message>
+        <source>&amp;Account</source>
+        <translation>&amp;Cuenta</translation>
+    </message>
+    <message>
+        <source>&amp;Record</source>
+        <translation>&amp;Grabar</translation>
+    </message>
+    <message>
+        <source>Get &amp;version %1</source>
+        <translation>Obtener la &amp;versión %1</translation>
+    </message>
+    <message>
+        <source>&amp;Close Preferences</source>
+        <translation>C&amp;errar Preferencias</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be kept: the keyring is locked or does not answer. They are known until Brenn Mivra Meetings quits. Unlock the keyring, then start again.</source>
+        <translation>No se pueden guardar las contraseñas: el llavero está bloqueado o no responde. Se recordarán hasta que se cierre Brenn Mivra Meetings. Desbloquee el llavero y vuelva a iniciar.</translation>
+    </message>
+    <message>
+        <source>Settings cannot be saved: %1 is read-only. They are kept until Brenn Mivra Meetings quits. Make the folder writable; the next change saves them all.</source>
+        <translation>No se pueden guardar los ajustes: %1 es de solo lectura. Se conservan hasta que se cierre Brenn Mivra Meetings. Permita la escritura en la carpeta; el próximo cambio los guardará todos.</translation>
+    </message>
+    <message>
+        <source>Settings cannot be saved: the disk is full. They are kept until Brenn Mivra Meetings quits. Free some space; the next change saves them all.</source>
+        <translation>No se pueden guardar los ajustes: el disco está lleno. Se conservan hasta que se cierre Brenn Mivra Meetings. Libere espacio; el próximo cambio los guardará todos.</translation>
+    </message>
+    <message>
+        <source>Settings cannot be saved in %1. They are kept until Brenn Mivra Meetings quits. Check the folder; the next change saves them all.</source>
+        <translation>No se pueden guardar los ajustes en %1. Se conservan hasta que se cierre Brenn Mivra Meetings. Compruebe la carpeta; el próximo cambio los guardará todos.</translation>
+    </message>
+    <message>
+        <source>Settings could not be read and were set aside as %1. They start anew.</source>
+        <translation>Los ajustes no se pudieron leer y se apartaron como %1. Vuelven a sus valores iniciales.</translation>
+    </message>
+    <message>
+        <source>Settings cannot be read or saved: %1 is damaged or belongs to somebody else. They are kept until Brenn Mivra Meetings quits. Move the file away, then start again.</source>
+        <translation>No se pueden leer ni guardar los ajustes: %1 está dañado o pertenece a otra persona. Se conservan hasta que se cierre Brenn Mivra Meetings. Mueva el archivo a otro lugar y vuelva a iniciar.</translation>
+    </message>
+    <message>
+        <source>Your next meetings:</source>
+        <translation>Sus próximas reuniones:</translation>
+    </message>
+    <message>
+        <source>Meeting</source>
+        <translation>Reunión</translation>
+    </message>
+    <message>
+        <source>Today, %1</source>
+        <translation>Hoy, %1</translation>
+    </message>
+    <message>
+        <source>Next meetings</source>
+        <translation>Próximas reuniones</translation>
+    </message>
+    <message>
+        <source>Asking for your next meetings.</source>
+        <translation>Consultando sus próximas reuniones.</translation>
+    </message>
+    <message>
+        <source>has started</source>
+        <translation>ha comenzado</translation>
+    </message>
+    <message>
+        <source>starts in %1 minutes</source>
+        <translation>comienza en %1 minutos</translation>
+    </message>
+    <message>
+        <source>starts in 1 minute</source>
+        <translation>comienza en 1 minuto</translation>
+    </message>
+    <message>
+        <source>Re&amp;fresh</source>
+        <translation>Act&amp;ualizar</translation>
+    </message>
+    <message>
+        <source>Tomorrow, %1</source>
+        <translation>Mañana, %1</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>Recorded to %1. Attach it to your report; passwords and tokens are replaced, names and addresses are not.</source>
+        <translation>Grabado en %1. Adjúntelo a su informe; las contraseñas y los tokens se han sustituido, los nombres y las direcciones no.</translation>
+    </message>
+    <message>
+        <source>Recording to %1. Do what goes wrong, then press Stop recording.</source>
+        <translation>Grabando en %1. Repita lo que falla y después pulse «Detener la grabación».</translation>
+    </message>
+    <message>
+        <source>Recording has ended: %1. What came before is in %2. Make room, then record again.</source>
+        <translation>La grabación ha terminado: %1. Lo anterior está en %2. Libere espacio y grabe de nuevo.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2. Choose another place for the record.</source>
+        <translation>No se puede escribir %1: %2. Elija otro lugar para la grabación.</translation>
+    </message>
+    <message>
+        <source>The sandbox has ended.</source>
+        <translation>El entorno de pruebas se ha cerrado.</translation>
+    </message>
+    <message>
+        <source>The sandbox does not answer.</source>
+        <translation>El entorno de pruebas no responde.</translation>
+    </message>
+    <message>
+        <source>The sandbox is not running: kz-sandbox is not beside this program.</source>
+        <translation>El entorno de pruebas no se está ejecutando: kz-sandbox no está junto a este programa.</translation>
+    </message>
+    <message>
+        <source>The sandbox did not start: %1.</source>
+        <translation>El entorno de pruebas no se inició: %1.</translation>
+    </message>
+    <message>
+        <source>The sandbox plays nothing: the openssl program may be missing.</source>
+        <translation>El entorno de pruebas no simula nada: quizá falte el programa openssl.</translation>
+    </message>
+    <message>
+        <source>&amp;Change</source>
+        <translation>&amp;Cambiar</translation>
+    </message>
+    <message>
+        <source>Change site</source>
+        <translation>Cambiar de sitio</translation>
+    </message>
+    <message>
+        <source>&amp;Use it anyway</source>
+        <translation>&amp;Usar de todos modos</translation>
+    </message>
+    <message>
+        <source>&amp;Site of your meeting service:</source>
+        <translation>&amp;Sitio de su servicio de reuniones:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the old site</source>
+        <translation>&amp;Mantener el sitio anterior</translation>
+    </message>
+    <message>
+        <source>Asking the site.</source>
+        <translation>Consultando el sitio.</translation>
+    </message>
+    <message>
+        <source>Nothing is written, and nothing is kept.</source>
+        <translation>No se escribe nada y no se conserva nada.</translation>
+    </message>
+    <message>
+        <source>Telemetry records</source>
+        <translation>Registros de telemetría</translation>
+    </message>
+    <message>
+        <source>Choice</source>
+        <translation>Elección</translation>
+    </message>
+    <message>
+        <source>Your choices in Preferences, without anything personal, are kept in %1. They stay on this computer.</source>
+        <translation>Lo que elige en Preferencias, sin datos personales, se conserva en %1. No sale de este equipo.</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Detalles</translation>
+    </message>
+    <message>
+        <source>&amp;Delete all</source>
+        <translation>Eliminar to&amp;do</translation>
+    </message>
+    <message>
+        <source>&amp;Keep what I choose</source>
+        <translation>Conservar lo &amp;que elijo</translation>
+    </message>
+    <message>
+        <source>Nothing is written. What was kept before lies in %1.</source>
+        <translation>No se escribe nada. Lo conservado antes está en %1.</translation>
+    </message>
+    <message>
+        <source>Use t&amp;his site</source>
+        <translation>&amp;Usar este sitio</translation>
+    </message>
+    <message>
+        <source>Copies the selected address, user name or password</source>
+        <translation>Copia la dirección, el nombre de usuario o la contraseña seleccionados</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Contraseña</translation>
+    </message>
+    <message>
+        <source>Site</source>
+        <translation>Sitio</translation>
+    </message>
+    <message>
+        <source>The sandbox is not running. While it runs, this page lists accounts and sites to try.</source>
+        <translation>El entorno de pruebas no se está ejecutando. Cuando se ejecuta, esta página muestra cuentas y sitios para probar.</translation>
+    </message>
+    <message>
+        <source>Sites, the meeting service to belong to:</source>
+        <translation>Sitios (el servicio de reuniones al que pertenece):</translation>
+    </message>
+    <message>
+        <source>Accounts, for Microsoft Outlook in Meetings:</source>
+        <translation>Cuentas, para Microsoft Outlook en Reuniones:</translation>
+    </message>
+    <message>
+        <source>All of these are played by a sandbox on this computer. Copy an address, open Preferences, choose Microsoft Outlook in Meetings, paste it and press Return.</source>
+        <translation>Todo esto lo simula un entorno de pruebas de este equipo. Copie una dirección, abra Preferencias, elija Microsoft Outlook en Reuniones, péguela y pulse Intro.</translation>
+    </message>
+    <message>
+        <source>Sites to try</source>
+        <translation>Sitios para probar</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>C&amp;opiar</translation>
+    </message>
+    <message>
+        <source>Accounts to try</source>
+        <translation>Cuentas para probar</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>Nombre de usuario</translation>
+    </message>
+    <message>
+        <source>What it shows</source>
+        <translation>Qué muestra</translation>
+    </message>
+    <message>
+        <source>Exchange with a password. Any other password is refused, and the third one locks the account until the sandbox is started again</source>
+        <translation>Exchange con contraseña. Cualquier otra se rechaza, y la tercera bloquea la cuenta hasta que se reinicie el entorno de pruebas</translation>
+    </message>
+    <message>
+        <source>The account is locked from the start: no password is right</source>
+        <translation>La cuenta está bloqueada desde el principio: ninguna contraseña es correcta</translation>
+    </message>
+    <message>
+        <source>Office 365: sign in in the browser</source>
+        <translation>Office 365: inicio de sesión en el navegador</translation>
+    </message>
+    <message>
+        <source>Office 365 that takes two seconds longer to sign you in</source>
+        <translation>Office 365 que tarda dos segundos más en iniciar la sesión</translation>
+    </message>
+    <message>
+        <source>Office 365 whose sign-in ends after a minute: you sign in again</source>
+        <translation>Office 365 cuya sesión termina al cabo de un minuto: vuelve a iniciar sesión</translation>
+    </message>
+    <message>
+        <source>Office 365 that refuses every sign-in</source>
+        <translation>Office 365 que rechaza cualquier inicio de sesión</translation>
+    </message>
+    <message>
+        <source>Office 365 that does not respond after the sign-in</source>
+        <translation>Office 365 que no responde después de iniciar la sesión</translation>
+    </message>
+    <message>
+        <source>Office 365 that responds with an error (500) after the sign-in</source>
+        <translation>Office 365 que responde con un error (500) después de iniciar la sesión</translation>
+    </message>
+    <message>
+        <source>Office 365 that responds to the sign-in with a web page</source>
+        <translation>Office 365 que responde al inicio de sesión con una página web</translation>
+    </message>
+    <message>
+        <source>Office 365 that does not say how long the sign-in is valid</source>
+        <translation>Office 365 que no indica cuánto dura el inicio de sesión</translation>
+    </message>
+    <message>
+        <source>Redirects to onprem@corp.sandbox.example</source>
+        <translation>Redirige a onprem@corp.sandbox.example</translation>
+    </message>
+    <message>
+        <source>An unencrypted address leads to the server: you are asked first</source>
+        <translation>Una dirección sin cifrar lleva al servidor: se le pregunta antes</translation>
+    </message>
+    <message>
+        <source>Only a service record names the server</source>
+        <translation>Solo un registro de servicio (SRV) indica el servidor</translation>
+    </message>
+    <message>
+        <source>Responds after a second</source>
+        <translation>Responde al cabo de un segundo</translation>
+    </message>
+    <message>
+        <source>Never responds</source>
+        <translation>No responde nunca</translation>
+    </message>
+    <message>
+        <source>Responds slowly, byte by byte</source>
+        <translation>Responde despacio, byte a byte</translation>
+    </message>
+    <message>
+        <source>Always responds with an error (500)</source>
+        <translation>Responde siempre con un error (500)</translation>
+    </message>
+    <message>
+        <source>Has a certificate for another name</source>
+        <translation>Tiene un certificado de otro nombre</translation>
+    </message>
+    <message>
+        <source>Redirects a hundred times</source>
+        <translation>Redirige cien veces</translation>
+    </message>
+    <message>
+        <source>Requires a sign-in method that is not supported</source>
+        <translation>Exige un método de inicio de sesión no admitido</translation>
+    </message>
+    <message>
+        <source>Responds with XML that expands to gigabytes</source>
+        <translation>Responde con XML que se expande a gigabytes</translation>
+    </message>
+    <message>
+        <source>Responds with a web page</source>
+        <translation>Responde con una página web</translation>
+    </message>
+    <message>
+        <source>Has a web site but no Exchange</source>
+        <translation>Tiene un sitio web, pero no Exchange</translation>
+    </message>
+    <message>
+        <source>Works and offers version 9.1.0</source>
+        <translation>Funciona y ofrece la versión 9.1.0</translation>
+    </message>
+    <message>
+        <source>Works; there is no newer version</source>
+        <translation>Funciona; no hay ninguna versión más reciente</translation>
+    </message>
+    <message>
+        <source>Works, but each response takes a second</source>
+        <translation>Funciona, pero cada respuesta tarda un segundo</translation>
+    </message>
+    <message>
+        <source>Responds to every request with a web page</source>
+        <translation>Responde a cada petición con una página web</translation>
     </message>
 </context>
 </TS>

@@ -464,8 +464,8 @@
         <translation>Votre salle personnelle est maintenant %1.</translation>
     </message>
     <message>
-        <source>Your site has news for Preferences. Press Close, then Preferences.</source>
-        <translation>Votre site a du nouveau pour les préférences. Cliquez sur Fermer, puis sur Préférences.</translation>
+        <source>Your site has news for Preferences. Press Close Preferences, then Preferences.</source>
+        <translation>Votre site a du nouveau pour les préférences. Cliquez sur « Fermer les préférences », puis sur « Préférences ».</translation>
     </message>
     <message>
         <source>its folder cannot be changed</source>
@@ -474,6 +474,438 @@
     <message>
         <source>the folder cannot be made</source>
         <translation>le dossier ne peut pas être créé</translation>
+    </message>
+    <message>
+        <source>Record to</source>
+        <translation>Enregistrer dans</translation>
+    </message>
+    <message>
+        <source>Telemetr&amp;y</source>
+        <translation>Té&amp;lémétrie</translation>
+    </message>
+    <message>
+        <source>&amp;Inspector</source>
+        <translation>Inspec&amp;teur</translation>
+    </message>
+    <message>
+        <source>&amp;Try out</source>
+        <translation>E&amp;ssayer</translation>
+    </message>
+    <message>
+        <source>&amp;Meetings</source>
+        <translation>&amp;Réunions</translation>
+    </message>
+    <message>
+        <source>Meeting sites and Exchange are looked for in the network and in a sandbox on this computer.</source>
+        <translation>Les sites de réunion et Exchange sont recherchés sur le réseau et dans un bac à sable sur cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>Meeting sites and Exchange are played by a sandbox on this computer.</source>
+        <translation>Les sites de réunion et Exchange sont simulés par un bac à sable sur cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>Records (*.jsonl)</source>
+        <translation>Enregistrements (*.jsonl)</translation>
+    </message>
+    <message>
+        <source>Copied: %1</source>
+        <translation>Copié : %1</translation>
+    </message>
+    <message>
+        <source>May %1 be asked for your Exchange account?</source>
+        <translation>Autoriser l’interrogation de %1 pour votre compte Exchange ?</translation>
+    </message>
+    <message>
+        <source>Exchange</source>
+        <translation>Exchange</translation>
+    </message>
+    <message>
+        <source>&amp;Do not allow</source>
+        <translation>&amp;Ne pas autoriser</translation>
+    </message>
+    <message>
+        <source>&amp;Allow</source>
+        <translation>&amp;Autoriser</translation>
+    </message>
+    <message>
+        <source>Detect again to enter another user name or password.</source>
+        <translation>Relancez la recherche pour saisir un autre nom d’utilisateur ou mot de passe.</translation>
+    </message>
+    <message>
+        <source>The search leads to %1. Allow it only if you know this server: your email address, and later your password, may be sent to it.</source>
+        <translation>La recherche mène à %1. N’autorisez ce serveur que si vous le connaissez : votre adresse e-mail, puis votre mot de passe, peuvent lui être envoyés.</translation>
+    </message>
+    <message>
+        <source>&amp;Guest</source>
+        <translation>&amp;Invité</translation>
+    </message>
+    <message>
+        <source>&amp;Signed in</source>
+        <translation>&amp;Connecté</translation>
+    </message>
+    <message>
+        <source>Writes what happens to a file, for a report</source>
+        <translation>Écrit ce qui se passe dans un fichier, pour un rapport</translation>
+    </message>
+    <message>
+        <source>Opens its page in the browser</source>
+        <translation>Ouvre sa page dans le navigateur</translation>
+    </message>
+    <message>
+        <source>Check for &amp;updates</source>
+        <translation>Rechercher les mises à &amp;jour</translation>
+    </message>
+    <message>
+        <source>&amp;Preferences</source>
+        <translation>&amp;Préférences</translation>
+    </message>
+    <message>
+        <source>Stop &amp;recording</source>
+        <translation>Arrêter l’&amp;enregistrement</translation>
+    </message>
+    <message>
+        <source>&amp;Join by number</source>
+        <translation>Participer par &amp;numéro</translation>
+    </message>
+    <message>
+        <source>&amp;Account</source>
+        <translation>Co&amp;mpte</translation>
+    </message>
+    <message>
+        <source>&amp;Record</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>Get &amp;version %1</source>
+        <translation>Obtenir la &amp;version %1</translation>
+    </message>
+    <message>
+        <source>&amp;Close Preferences</source>
+        <translation>&amp;Fermer les préférences</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be kept: the keyring is locked or does not answer. They are known until Brenn Mivra Meetings quits. Unlock the keyring, then start again.</source>
+        <translation>Impossible de conserver les mots de passe : le trousseau est verrouillé ou ne répond pas. Ils restent connus jusqu’à la fermeture de Brenn Mivra Meetings. Déverrouillez le trousseau, puis redémarrez.</translation>
+    </message>
+    <message>
+        <source>Settings cannot be saved: %1 is read-only. They are kept until Brenn Mivra Meetings quits. Make the folder writable; the next change saves them all.</source>
+        <translation>Impossible d’enregistrer les réglages : %1 est en lecture seule. Ils sont conservés jusqu’à la fermeture de Brenn Mivra Meetings. Autorisez l’écriture dans le dossier ; la prochaine modification les enregistrera tous.</translation>
+    </message>
+    <message>
+        <source>Settings cannot be saved: the disk is full. They are kept until Brenn Mivra Meetings quits. Free some space; the next change saves them all.</source>
+        <translation>Impossible d’enregistrer les réglages : le disque est plein. Ils sont conservés jusqu’à la fermeture de Brenn Mivra Meetings. Libérez de l’espace ; la prochaine modification les enregistrera tous.</translation>
+    </message>
+    <message>
+        <source>Settings cannot be saved in %1. They are kept until Brenn Mivra Meetings quits. Check the folder; the next change saves them all.</source>
+        <translation>Impossible d’enregistrer les réglages dans %1. Ils sont conservés jusqu’à la fermeture de Brenn Mivra Meetings. Vérifiez le dossier ; la prochaine modification les enregistrera tous.</translation>
+    </message>
+    <message>
+        <source>Settings could not be read and were set aside as %1. They start anew.</source>
+        <translation>Les réglages étaient illisibles et ont été mis de côté dans %1. Les valeurs par défaut s’appliquent de nouveau.</translation>
+    </message>
+    <message>
+        <source>Settings cannot be read or saved: %1 is damaged or belongs to somebody else. They are kept until Brenn Mivra Meetings quits. Move the file away, then start again.</source>
+        <translation>Impossible de lire ou d’enregistrer les réglages : %1 est endommagé ou appartient à quelqu’un d’autre. Ils sont conservés jusqu’à la fermeture de Brenn Mivra Meetings. Déplacez le fichier, puis redémarrez.</translation>
+    </message>
+    <message>
+        <source>Your next meetings:</source>
+        <translation>Vos prochaines réunions :</translation>
+    </message>
+    <message>
+        <source>Meeting</source>
+        <translation>Réunion</translation>
+    </message>
+    <message>
+        <source>Today, %1</source>
+        <translation>Aujourd’hui, %1</translation>
+    </message>
+    <message>
+        <source>Next meetings</source>
+        <translation>Prochaines réunions</translation>
+    </message>
+    <message>
+        <source>Asking for your next meetings.</source>
+        <translation>Recherche de vos prochaines réunions.</translation>
+    </message>
+    <message>
+        <source>has started</source>
+        <translation>a commencé</translation>
+    </message>
+    <message>
+        <source>starts in %1 minutes</source>
+        <translation>commence dans %1 minutes</translation>
+    </message>
+    <message>
+        <source>starts in 1 minute</source>
+        <translation>commence dans 1 minute</translation>
+    </message>
+    <message>
+        <source>Re&amp;fresh</source>
+        <translation>Act&amp;ualiser</translation>
+    </message>
+    <message>
+        <source>Tomorrow, %1</source>
+        <translation>Demain, %1</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Remarque</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>Recorded to %1. Attach it to your report; passwords and tokens are replaced, names and addresses are not.</source>
+        <translation>Enregistré dans %1. Joignez le fichier à votre rapport ; les mots de passe et jetons y sont remplacés, mais pas les noms ni les adresses.</translation>
+    </message>
+    <message>
+        <source>Recording to %1. Do what goes wrong, then press Stop recording.</source>
+        <translation>Enregistrement dans %1. Reproduisez le problème, puis cliquez sur « Arrêter l’enregistrement ».</translation>
+    </message>
+    <message>
+        <source>Recording has ended: %1. What came before is in %2. Make room, then record again.</source>
+        <translation>L’enregistrement s’est arrêté : %1. Ce qui précède se trouve dans %2. Libérez de l’espace, puis recommencez.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2. Choose another place for the record.</source>
+        <translation>Impossible d’écrire %1 : %2. Choisissez un autre emplacement pour l’enregistrement.</translation>
+    </message>
+    <message>
+        <source>The sandbox has ended.</source>
+        <translation>Le bac à sable s’est arrêté.</translation>
+    </message>
+    <message>
+        <source>The sandbox does not answer.</source>
+        <translation>Le bac à sable ne répond pas.</translation>
+    </message>
+    <message>
+        <source>The sandbox is not running: kz-sandbox is not beside this program.</source>
+        <translation>Le bac à sable ne fonctionne pas : kz-sandbox n’est pas à côté de ce programme.</translation>
+    </message>
+    <message>
+        <source>The sandbox did not start: %1.</source>
+        <translation>Le bac à sable n’a pas démarré : %1.</translation>
+    </message>
+    <message>
+        <source>The sandbox plays nothing: the openssl program may be missing.</source>
+        <translation>Le bac à sable ne simule rien : le programme openssl est peut-être absent.</translation>
+    </message>
+    <message>
+        <source>&amp;Change</source>
+        <translation>&amp;Changer</translation>
+    </message>
+    <message>
+        <source>Change site</source>
+        <translation>Changer de site</translation>
+    </message>
+    <message>
+        <source>&amp;Use it anyway</source>
+        <translation>&amp;Utiliser quand même</translation>
+    </message>
+    <message>
+        <source>&amp;Site of your meeting service:</source>
+        <translation>&amp;Site de votre service de réunion :</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the old site</source>
+        <translation>&amp;Garder l’ancien site</translation>
+    </message>
+    <message>
+        <source>Asking the site.</source>
+        <translation>Interrogation du site.</translation>
+    </message>
+    <message>
+        <source>Nothing is written, and nothing is kept.</source>
+        <translation>Rien n’est écrit et rien n’est conservé.</translation>
+    </message>
+    <message>
+        <source>Telemetry records</source>
+        <translation>Données de télémétrie</translation>
+    </message>
+    <message>
+        <source>Choice</source>
+        <translation>Choix</translation>
+    </message>
+    <message>
+        <source>Your choices in Preferences, without anything personal, are kept in %1. They stay on this computer.</source>
+        <translation>Vos choix dans les préférences, sans rien de personnel, sont conservés dans %1. Ils restent sur cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Détails</translation>
+    </message>
+    <message>
+        <source>&amp;Delete all</source>
+        <translation>Tout s&amp;upprimer</translation>
+    </message>
+    <message>
+        <source>&amp;Keep what I choose</source>
+        <translation>Conserver mes c&amp;hoix</translation>
+    </message>
+    <message>
+        <source>Nothing is written. What was kept before lies in %1.</source>
+        <translation>Rien n’est écrit. Ce qui a été conservé auparavant se trouve dans %1.</translation>
+    </message>
+    <message>
+        <source>Use t&amp;his site</source>
+        <translation>&amp;Utiliser ce site</translation>
+    </message>
+    <message>
+        <source>Copies the selected address, user name or password</source>
+        <translation>Copie l’adresse, le nom d’utilisateur ou le mot de passe sélectionné</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <source>Site</source>
+        <translation>Site</translation>
+    </message>
+    <message>
+        <source>The sandbox is not running. While it runs, this page lists accounts and sites to try.</source>
+        <translation>Le bac à sable ne fonctionne pas. Quand il fonctionne, cette page propose des comptes et des sites à essayer.</translation>
+    </message>
+    <message>
+        <source>Sites, the meeting service to belong to:</source>
+        <translation>Sites (le service de réunion auquel vous appartenez) :</translation>
+    </message>
+    <message>
+        <source>Accounts, for Microsoft Outlook in Meetings:</source>
+        <translation>Comptes, pour Microsoft Outlook dans Réunions :</translation>
+    </message>
+    <message>
+        <source>All of these are played by a sandbox on this computer. Copy an address, open Preferences, choose Microsoft Outlook in Meetings, paste it and press Return.</source>
+        <translation>Tout cela est simulé par un bac à sable sur cet ordinateur. Copiez une adresse, ouvrez les préférences, choisissez Microsoft Outlook dans Réunions, collez-la et appuyez sur Entrée.</translation>
+    </message>
+    <message>
+        <source>Sites to try</source>
+        <translation>Sites à essayer</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>C&amp;opier</translation>
+    </message>
+    <message>
+        <source>Accounts to try</source>
+        <translation>Comptes à essayer</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>Nom d’utilisateur</translation>
+    </message>
+    <message>
+        <source>What it shows</source>
+        <translation>Ce que cela montre</translation>
+    </message>
+    <message>
+        <source>Exchange with a password. Any other password is refused, and the third one locks the account until the sandbox is started again</source>
+        <translation>Exchange avec un mot de passe. Tout autre est refusé, et le troisième verrouille le compte jusqu’au redémarrage du bac à sable</translation>
+    </message>
+    <message>
+        <source>The account is locked from the start: no password is right</source>
+        <translation>Le compte est verrouillé dès le départ : aucun mot de passe n’est bon</translation>
+    </message>
+    <message>
+        <source>Office 365: sign in in the browser</source>
+        <translation>Office 365 : connexion dans le navigateur</translation>
+    </message>
+    <message>
+        <source>Office 365 that takes two seconds longer to sign you in</source>
+        <translation>Office 365 dont la connexion prend deux secondes de plus</translation>
+    </message>
+    <message>
+        <source>Office 365 whose sign-in ends after a minute: you sign in again</source>
+        <translation>Office 365 dont la connexion expire au bout d’une minute : vous vous reconnectez</translation>
+    </message>
+    <message>
+        <source>Office 365 that refuses every sign-in</source>
+        <translation>Office 365 qui refuse toute connexion</translation>
+    </message>
+    <message>
+        <source>Office 365 that does not respond after the sign-in</source>
+        <translation>Office 365 qui ne répond pas après la connexion</translation>
+    </message>
+    <message>
+        <source>Office 365 that responds with an error (500) after the sign-in</source>
+        <translation>Office 365 qui répond par une erreur (500) après la connexion</translation>
+    </message>
+    <message>
+        <source>Office 365 that responds to the sign-in with a web page</source>
+        <translation>Office 365 qui répond à la connexion par une page web</translation>
+    </message>
+    <message>
+        <source>Office 365 that does not say how long the sign-in is valid</source>
+        <translation>Office 365 qui n’indique pas la durée de validité de la connexion</translation>
+    </message>
+    <message>
+        <source>Redirects to onprem@corp.sandbox.example</source>
+        <translation>Redirige vers onprem@corp.sandbox.example</translation>
+    </message>
+    <message>
+        <source>An unencrypted address leads to the server: you are asked first</source>
+        <translation>Une adresse non chiffrée mène au serveur : on vous demande d’abord votre accord</translation>
+    </message>
+    <message>
+        <source>Only a service record names the server</source>
+        <translation>Seul un enregistrement de service (SRV) désigne le serveur</translation>
+    </message>
+    <message>
+        <source>Responds after a second</source>
+        <translation>Répond au bout d’une seconde</translation>
+    </message>
+    <message>
+        <source>Never responds</source>
+        <translation>Ne répond jamais</translation>
+    </message>
+    <message>
+        <source>Responds slowly, byte by byte</source>
+        <translation>Répond lentement, octet par octet</translation>
+    </message>
+    <message>
+        <source>Always responds with an error (500)</source>
+        <translation>Répond toujours par une erreur (500)</translation>
+    </message>
+    <message>
+        <source>Has a certificate for another name</source>
+        <translation>A un certificat établi pour un autre nom</translation>
+    </message>
+    <message>
+        <source>Redirects a hundred times</source>
+        <translation>Redirige cent fois</translation>
+    </message>
+    <message>
+        <source>Requires a sign-in method that is not supported</source>
+        <translation>Exige une méthode de connexion non prise en charge</translation>
+    </message>
+    <message>
+        <source>Responds with XML that expands to gigabytes</source>
+        <translation>Répond par du XML qui enfle jusqu’à des gigaoctets</translation>
+    </message>
+    <message>
+        <source>Responds with a web page</source>
+        <translation>Répond par une page web</translation>
+    </message>
+    <message>
+        <source>Has a web site but no Exchange</source>
+        <translation>A un site web, mais pas d’Exchange</translation>
+    </message>
+    <message>
+        <source>Works and offers version 9.1.0</source>
+        <translation>Fonctionne et propose la version 9.1.0</translation>
+    </message>
+    <message>
+        <source>Works; there is no newer version</source>
+        <translation>Fonctionne ; il n’y a pas de version plus récente</translation>
+    </message>
+    <message>
+        <source>Works, but each response takes a second</source>
+        <translation>Fonctionne, mais chaque réponse prend une seconde</translation>
+    </message>
+    <message>
+        <source>Responds to every request with a web page</source>
+        <translation>Répond à chaque requête par une page web</translation>
     </message>
 </context>
 </TS>

@@ -149,11 +149,11 @@
     </message>
     <message>
         <source>Command to host</source>
-        <translation>ホストへのコマンド</translation>
+        <translation>ホスト宛コマンド</translation>
     </message>
     <message>
         <source>Command to plug-in</source>
-        <translation>プラグインへのコマンド</translation>
+        <translation>プラグイン宛コマンド</translation>
     </message>
     <message>
         <source>Commands</source>
@@ -464,8 +464,8 @@
         <translation>パーソナルルームは %1 になりました。</translation>
     </message>
     <message>
-        <source>Your site has news for Preferences. Press Close, then Preferences.</source>
-        <translation>サイトから環境設定の新しい情報が届きました。「閉じる」、「環境設定」の順に押してください。</translation>
+        <source>Your site has news for Preferences. Press Close Preferences, then Preferences.</source>
+        <translation>サイトから環境設定の新しい情報が届きました。「環境設定を閉じる」、「環境設定」の順に押してください。</translation>
     </message>
     <message>
         <source>its folder cannot be changed</source>
@@ -474,6 +474,438 @@
     <message>
         <source>the folder cannot be made</source>
         <translation>フォルダーを作成できません</translation>
+    </message>
+    <message>
+        <source>Record to</source>
+        <translation>記録先</translation>
+    </message>
+    <message>
+        <source>Telemetr&amp;y</source>
+        <translation>テレメトリ(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>&amp;Inspector</source>
+        <translation>インスペクター(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Try out</source>
+        <translation>お試し(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Meetings</source>
+        <translation>ミーティング(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Meeting sites and Exchange are looked for in the network and in a sandbox on this computer.</source>
+        <translation>ミーティングサイトと Exchange は、ネットワークとこのコンピューターのサンドボックスで検索されます。</translation>
+    </message>
+    <message>
+        <source>Meeting sites and Exchange are played by a sandbox on this computer.</source>
+        <translation>ミーティングサイトと Exchange は、このコンピューターのサンドボックスが再現しています。</translation>
+    </message>
+    <message>
+        <source>Records (*.jsonl)</source>
+        <translation>記録 (*.jsonl)</translation>
+    </message>
+    <message>
+        <source>Copied: %1</source>
+        <translation>コピーしました：%1</translation>
+    </message>
+    <message>
+        <source>May %1 be asked for your Exchange account?</source>
+        <translation>%1 に Exchange アカウントを問い合わせますか？</translation>
+    </message>
+    <message>
+        <source>Exchange</source>
+        <translation>Exchange</translation>
+    </message>
+    <message>
+        <source>&amp;Do not allow</source>
+        <translation>許可しない(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Allow</source>
+        <translation>許可(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Detect again to enter another user name or password.</source>
+        <translation>別のユーザー名またはパスワードを入力するには、もう一度検索してください。</translation>
+    </message>
+    <message>
+        <source>The search leads to %1. Allow it only if you know this server: your email address, and later your password, may be sent to it.</source>
+        <translation>検索の途中で %1 に転送されました。このサーバーに心当たりがある場合にだけ許可してください。メールアドレスや、後でパスワードが送信されることがあります。</translation>
+    </message>
+    <message>
+        <source>&amp;Guest</source>
+        <translation>ゲスト(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Signed in</source>
+        <translation>サインイン済み(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Writes what happens to a file, for a report</source>
+        <translation>操作の記録を、報告用のファイルに書き出します</translation>
+    </message>
+    <message>
+        <source>Opens its page in the browser</source>
+        <translation>ブラウザーでダウンロードページを開きます</translation>
+    </message>
+    <message>
+        <source>Check for &amp;updates</source>
+        <translation>更新を確認(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Preferences</source>
+        <translation>環境設定(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Stop &amp;recording</source>
+        <translation>記録を停止(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Join by number</source>
+        <translation>番号で参加(&amp;J)</translation>
+    </message>
+    <message>
+        <source>&amp;Account</source>
+        <translation>アカウント(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Record</source>
+        <translation>記録(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Get &amp;version %1</source>
+        <translation>バージョン %1 を入手(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Close Preferences</source>
+        <translation>環境設定を閉じる(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be kept: the keyring is locked or does not answer. They are known until Brenn Mivra Meetings quits. Unlock the keyring, then start again.</source>
+        <translation>パスワードを保存できません。キーリングがロックされているか、応答していません。パスワードは Brenn Mivra Meetings の終了まで保持されます。キーリングのロックを解除してから、起動し直してください。</translation>
+    </message>
+    <message>
+        <source>Settings cannot be saved: %1 is read-only. They are kept until Brenn Mivra Meetings quits. Make the folder writable; the next change saves them all.</source>
+        <translation>設定を保存できません。%1 は読み取り専用です。設定は Brenn Mivra Meetings の終了まで保持されます。フォルダーを書き込み可能にすると、次の変更時にすべて保存されます。</translation>
+    </message>
+    <message>
+        <source>Settings cannot be saved: the disk is full. They are kept until Brenn Mivra Meetings quits. Free some space; the next change saves them all.</source>
+        <translation>設定を保存できません。ディスクに空きがありません。設定は Brenn Mivra Meetings の終了まで保持されます。空き容量を増やすと、次の変更時にすべて保存されます。</translation>
+    </message>
+    <message>
+        <source>Settings cannot be saved in %1. They are kept until Brenn Mivra Meetings quits. Check the folder; the next change saves them all.</source>
+        <translation>設定を %1 に保存できません。設定は Brenn Mivra Meetings の終了まで保持されます。フォルダーを確認してください。次の変更時にすべて保存されます。</translation>
+    </message>
+    <message>
+        <source>Settings could not be read and were set aside as %1. They start anew.</source>
+        <translation>設定を読み取れなかったため、%1 として退避しました。設定は初期状態に戻ります。</translation>
+    </message>
+    <message>
+        <source>Settings cannot be read or saved: %1 is damaged or belongs to somebody else. They are kept until Brenn Mivra Meetings quits. Move the file away, then start again.</source>
+        <translation>設定を読み書きできません。%1 が破損しているか、別のユーザーのものです。設定は Brenn Mivra Meetings の終了まで保持されます。ファイルを移動してから、起動し直してください。</translation>
+    </message>
+    <message>
+        <source>Your next meetings:</source>
+        <translation>次のミーティング：</translation>
+    </message>
+    <message>
+        <source>Meeting</source>
+        <translation>ミーティング</translation>
+    </message>
+    <message>
+        <source>Today, %1</source>
+        <translation>今日 %1</translation>
+    </message>
+    <message>
+        <source>Next meetings</source>
+        <translation>次のミーティング</translation>
+    </message>
+    <message>
+        <source>Asking for your next meetings.</source>
+        <translation>次のミーティングを問い合わせています。</translation>
+    </message>
+    <message>
+        <source>has started</source>
+        <translation>開始済み</translation>
+    </message>
+    <message>
+        <source>starts in %1 minutes</source>
+        <translation>%1 分後に開始</translation>
+    </message>
+    <message>
+        <source>starts in 1 minute</source>
+        <translation>1 分後に開始</translation>
+    </message>
+    <message>
+        <source>Re&amp;fresh</source>
+        <translation>再読み込み(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Tomorrow, %1</source>
+        <translation>明日 %1</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>備考</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Recorded to %1. Attach it to your report; passwords and tokens are replaced, names and addresses are not.</source>
+        <translation>%1 に記録しました。報告に添付してください。パスワードとトークンは置き換えられていますが、名前とアドレスはそのままです。</translation>
+    </message>
+    <message>
+        <source>Recording to %1. Do what goes wrong, then press Stop recording.</source>
+        <translation>%1 に記録しています。問題を再現してから、「記録を停止」を押してください。</translation>
+    </message>
+    <message>
+        <source>Recording has ended: %1. What came before is in %2. Make room, then record again.</source>
+        <translation>記録が終了しました（%1）。それまでの内容は %2 にあります。空き容量を増やしてから、記録し直してください。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2. Choose another place for the record.</source>
+        <translation>%1 に書き込めません（%2）。記録の保存先を変更してください。</translation>
+    </message>
+    <message>
+        <source>The sandbox has ended.</source>
+        <translation>サンドボックスが終了しました。</translation>
+    </message>
+    <message>
+        <source>The sandbox does not answer.</source>
+        <translation>サンドボックスが応答しません。</translation>
+    </message>
+    <message>
+        <source>The sandbox is not running: kz-sandbox is not beside this program.</source>
+        <translation>サンドボックスは実行されていません。kz-sandbox がこのプログラムと同じ場所にありません。</translation>
+    </message>
+    <message>
+        <source>The sandbox did not start: %1.</source>
+        <translation>サンドボックスを起動できませんでした（%1）。</translation>
+    </message>
+    <message>
+        <source>The sandbox plays nothing: the openssl program may be missing.</source>
+        <translation>サンドボックスが何も提供していません。openssl プログラムがない可能性があります。</translation>
+    </message>
+    <message>
+        <source>&amp;Change</source>
+        <translation>変更(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Change site</source>
+        <translation>サイトの変更</translation>
+    </message>
+    <message>
+        <source>&amp;Use it anyway</source>
+        <translation>このまま使う(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Site of your meeting service:</source>
+        <translation>ミーティングサービスのサイト(&amp;S)：</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the old site</source>
+        <translation>以前のサイトを使う(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Asking the site.</source>
+        <translation>サイトに問い合わせています。</translation>
+    </message>
+    <message>
+        <source>Nothing is written, and nothing is kept.</source>
+        <translation>何も書き込まれず、保存されているものもありません。</translation>
+    </message>
+    <message>
+        <source>Telemetry records</source>
+        <translation>テレメトリの記録</translation>
+    </message>
+    <message>
+        <source>Choice</source>
+        <translation>選択</translation>
+    </message>
+    <message>
+        <source>Your choices in Preferences, without anything personal, are kept in %1. They stay on this computer.</source>
+        <translation>環境設定での選択は、個人情報を除いて %1 に保存されます。このコンピューターの外には送信されません。</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>詳細</translation>
+    </message>
+    <message>
+        <source>&amp;Delete all</source>
+        <translation>すべて削除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Keep what I choose</source>
+        <translation>選択内容を保存(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Nothing is written. What was kept before lies in %1.</source>
+        <translation>何も書き込まれません。以前に保存された内容は %1 にあります。</translation>
+    </message>
+    <message>
+        <source>Use t&amp;his site</source>
+        <translation>このサイトを使う(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Copies the selected address, user name or password</source>
+        <translation>選択したアドレス、ユーザー名、パスワードをコピーします</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>Site</source>
+        <translation>サイト</translation>
+    </message>
+    <message>
+        <source>The sandbox is not running. While it runs, this page lists accounts and sites to try.</source>
+        <translation>サンドボックスは実行されていません。実行中は、試せるアカウントとサイトがこのページに表示されます。</translation>
+    </message>
+    <message>
+        <source>Sites, the meeting service to belong to:</source>
+        <translation>サイト（所属するミーティングサービス）：</translation>
+    </message>
+    <message>
+        <source>Accounts, for Microsoft Outlook in Meetings:</source>
+        <translation>アカウント（「ミーティング」の Microsoft Outlook 用）：</translation>
+    </message>
+    <message>
+        <source>All of these are played by a sandbox on this computer. Copy an address, open Preferences, choose Microsoft Outlook in Meetings, paste it and press Return.</source>
+        <translation>これらはすべて、このコンピューターのサンドボックスが再現しています。アドレスをコピーし、環境設定を開いて「ミーティング」で Microsoft Outlook を選択し、貼り付けて Enter キーを押してください。</translation>
+    </message>
+    <message>
+        <source>Sites to try</source>
+        <translation>試せるサイト</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>コピー(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Accounts to try</source>
+        <translation>試せるアカウント</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>ユーザー名</translation>
+    </message>
+    <message>
+        <source>What it shows</source>
+        <translation>確認できること</translation>
+    </message>
+    <message>
+        <source>Exchange with a password. Any other password is refused, and the third one locks the account until the sandbox is started again</source>
+        <translation>パスワードが必要な Exchange。ほかのパスワードは拒否され、3 回目でサンドボックスを再起動するまでアカウントがロックされます</translation>
+    </message>
+    <message>
+        <source>The account is locked from the start: no password is right</source>
+        <translation>アカウントは最初からロックされており、どのパスワードも通りません</translation>
+    </message>
+    <message>
+        <source>Office 365: sign in in the browser</source>
+        <translation>Office 365（ブラウザーでサインイン）</translation>
+    </message>
+    <message>
+        <source>Office 365 that takes two seconds longer to sign you in</source>
+        <translation>サインインに 2 秒余計にかかる Office 365</translation>
+    </message>
+    <message>
+        <source>Office 365 whose sign-in ends after a minute: you sign in again</source>
+        <translation>サインインが 1 分で切れる Office 365。もう一度サインインします</translation>
+    </message>
+    <message>
+        <source>Office 365 that refuses every sign-in</source>
+        <translation>サインインをすべて拒否する Office 365</translation>
+    </message>
+    <message>
+        <source>Office 365 that does not respond after the sign-in</source>
+        <translation>サインイン後に応答しない Office 365</translation>
+    </message>
+    <message>
+        <source>Office 365 that responds with an error (500) after the sign-in</source>
+        <translation>サインイン後にエラー（500）を返す Office 365</translation>
+    </message>
+    <message>
+        <source>Office 365 that responds to the sign-in with a web page</source>
+        <translation>サインインに Web ページを返す Office 365</translation>
+    </message>
+    <message>
+        <source>Office 365 that does not say how long the sign-in is valid</source>
+        <translation>サインインの有効期間を示さない Office 365</translation>
+    </message>
+    <message>
+        <source>Redirects to onprem@corp.sandbox.example</source>
+        <translation>onprem@corp.sandbox.example に転送します</translation>
+    </message>
+    <message>
+        <source>An unencrypted address leads to the server: you are asked first</source>
+        <translation>暗号化されていないアドレスからサーバーに転送されます。先に確認が表示されます</translation>
+    </message>
+    <message>
+        <source>Only a service record names the server</source>
+        <translation>サービスレコード（SRV）だけがサーバーを示します</translation>
+    </message>
+    <message>
+        <source>Responds after a second</source>
+        <translation>1 秒後に応答します</translation>
+    </message>
+    <message>
+        <source>Never responds</source>
+        <translation>応答しません</translation>
+    </message>
+    <message>
+        <source>Responds slowly, byte by byte</source>
+        <translation>1 バイトずつゆっくり応答します</translation>
+    </message>
+    <message>
+        <source>Always responds with an error (500)</source>
+        <translation>常にエラー（500）を返します</translation>
+    </message>
+    <message>
+        <source>Has a certificate for another name</source>
+        <translation>証明書が別の名前のものです</translation>
+    </message>
+    <message>
+        <source>Redirects a hundred times</source>
+        <translation>100 回転送します</translation>
+    </message>
+    <message>
+        <source>Requires a sign-in method that is not supported</source>
+        <translation>対応していないサインイン方式を要求します</translation>
+    </message>
+    <message>
+        <source>Responds with XML that expands to gigabytes</source>
+        <translation>展開するとギガバイト単位になる XML を返します</translation>
+    </message>
+    <message>
+        <source>Responds with a web page</source>
+        <translation>Web ページを返します</translation>
+    </message>
+    <message>
+        <source>Has a web site but no Exchange</source>
+        <translation>Web サイトはありますが、Exchange はありません</translation>
+    </message>
+    <message>
+        <source>Works and offers version 9.1.0</source>
+        <translation>正常に動作し、バージョン 9.1.0 を提供します</translation>
+    </message>
+    <message>
+        <source>Works; there is no newer version</source>
+        <translation>正常に動作します。新しいバージョンはありません</translation>
+    </message>
+    <message>
+        <source>Works, but each response takes a second</source>
+        <translation>動作しますが、応答に毎回 1 秒かかります</translation>
+    </message>
+    <message>
+        <source>Responds to every request with a web page</source>
+        <translation>すべての要求に Web ページを返します</translation>
     </message>
 </context>
 </TS>

@@ -409,7 +409,7 @@
     </message>
     <message>
         <source>Version %1 is available.</source>
-        <translation>版本 %1 已推出。</translation>
+        <translation>新版本 %1 可用。</translation>
     </message>
     <message>
         <source>Warning</source>
@@ -464,8 +464,8 @@
         <translation>您的个人会议室现在是 %1。</translation>
     </message>
     <message>
-        <source>Your site has news for Preferences. Press Close, then Preferences.</source>
-        <translation>您的站点有新的偏好设置信息。请依次按“关闭”和“偏好设置”。</translation>
+        <source>Your site has news for Preferences. Press Close Preferences, then Preferences.</source>
+        <translation>您的站点有新的偏好设置信息。请依次按“关闭偏好设置”和“偏好设置”。</translation>
     </message>
     <message>
         <source>its folder cannot be changed</source>
@@ -474,6 +474,438 @@
     <message>
         <source>the folder cannot be made</source>
         <translation>无法创建文件夹</translation>
+    </message>
+    <message>
+        <source>Record to</source>
+        <translation>录制到</translation>
+    </message>
+    <message>
+        <source>Telemetr&amp;y</source>
+        <translation>遥测(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>&amp;Inspector</source>
+        <translation>检查器(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Try out</source>
+        <translation>试用(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Meetings</source>
+        <translation>会议(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Meeting sites and Exchange are looked for in the network and in a sandbox on this computer.</source>
+        <translation>会议站点和 Exchange 会在网络和本机沙盒中查找。</translation>
+    </message>
+    <message>
+        <source>Meeting sites and Exchange are played by a sandbox on this computer.</source>
+        <translation>会议站点和 Exchange 由本机沙盒模拟。</translation>
+    </message>
+    <message>
+        <source>Records (*.jsonl)</source>
+        <translation>录制文件 (*.jsonl)</translation>
+    </message>
+    <message>
+        <source>Copied: %1</source>
+        <translation>已复制：%1</translation>
+    </message>
+    <message>
+        <source>May %1 be asked for your Exchange account?</source>
+        <translation>是否允许向 %1 查询您的 Exchange 账户？</translation>
+    </message>
+    <message>
+        <source>Exchange</source>
+        <translation>Exchange</translation>
+    </message>
+    <message>
+        <source>&amp;Do not allow</source>
+        <translation>不允许(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Allow</source>
+        <translation>允许(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Detect again to enter another user name or password.</source>
+        <translation>要输入其他用户名或密码，请重新查找。</translation>
+    </message>
+    <message>
+        <source>The search leads to %1. Allow it only if you know this server: your email address, and later your password, may be sent to it.</source>
+        <translation>查找过程指向 %1。仅当您了解此服务器时才允许：您的电子邮件地址以及之后的密码可能会发送给它。</translation>
+    </message>
+    <message>
+        <source>&amp;Guest</source>
+        <translation>访客(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Signed in</source>
+        <translation>已登录(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Writes what happens to a file, for a report</source>
+        <translation>将发生的操作写入文件，以便报告问题</translation>
+    </message>
+    <message>
+        <source>Opens its page in the browser</source>
+        <translation>在浏览器中打开其页面</translation>
+    </message>
+    <message>
+        <source>Check for &amp;updates</source>
+        <translation>检查更新(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Preferences</source>
+        <translation>偏好设置(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Stop &amp;recording</source>
+        <translation>停止录制(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Join by number</source>
+        <translation>按号码入会(&amp;J)</translation>
+    </message>
+    <message>
+        <source>&amp;Account</source>
+        <translation>账户(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Record</source>
+        <translation>录制(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Get &amp;version %1</source>
+        <translation>获取版本 %1(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Close Preferences</source>
+        <translation>关闭偏好设置(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be kept: the keyring is locked or does not answer. They are known until Brenn Mivra Meetings quits. Unlock the keyring, then start again.</source>
+        <translation>无法保存密码：密钥环已锁定或没有响应。密码仅保留到 Brenn Mivra Meetings 退出为止。请解锁密钥环，然后重新启动。</translation>
+    </message>
+    <message>
+        <source>Settings cannot be saved: %1 is read-only. They are kept until Brenn Mivra Meetings quits. Make the folder writable; the next change saves them all.</source>
+        <translation>无法保存设置：%1 是只读的。设置仅保留到 Brenn Mivra Meetings 退出为止。请将文件夹设为可写，下次更改时会全部保存。</translation>
+    </message>
+    <message>
+        <source>Settings cannot be saved: the disk is full. They are kept until Brenn Mivra Meetings quits. Free some space; the next change saves them all.</source>
+        <translation>无法保存设置：磁盘已满。设置仅保留到 Brenn Mivra Meetings 退出为止。请释放一些空间，下次更改时会全部保存。</translation>
+    </message>
+    <message>
+        <source>Settings cannot be saved in %1. They are kept until Brenn Mivra Meetings quits. Check the folder; the next change saves them all.</source>
+        <translation>无法将设置保存到 %1。设置仅保留到 Brenn Mivra Meetings 退出为止。请检查该文件夹，下次更改时会全部保存。</translation>
+    </message>
+    <message>
+        <source>Settings could not be read and were set aside as %1. They start anew.</source>
+        <translation>无法读取设置，已将其另存为 %1。设置已恢复为默认值。</translation>
+    </message>
+    <message>
+        <source>Settings cannot be read or saved: %1 is damaged or belongs to somebody else. They are kept until Brenn Mivra Meetings quits. Move the file away, then start again.</source>
+        <translation>无法读取或保存设置：%1 已损坏或属于其他用户。设置仅保留到 Brenn Mivra Meetings 退出为止。请移走该文件，然后重新启动。</translation>
+    </message>
+    <message>
+        <source>Your next meetings:</source>
+        <translation>您接下来的会议：</translation>
+    </message>
+    <message>
+        <source>Meeting</source>
+        <translation>会议</translation>
+    </message>
+    <message>
+        <source>Today, %1</source>
+        <translation>今天 %1</translation>
+    </message>
+    <message>
+        <source>Next meetings</source>
+        <translation>接下来的会议</translation>
+    </message>
+    <message>
+        <source>Asking for your next meetings.</source>
+        <translation>正在查询您接下来的会议。</translation>
+    </message>
+    <message>
+        <source>has started</source>
+        <translation>已开始</translation>
+    </message>
+    <message>
+        <source>starts in %1 minutes</source>
+        <translation>%1 分钟后开始</translation>
+    </message>
+    <message>
+        <source>starts in 1 minute</source>
+        <translation>1 分钟后开始</translation>
+    </message>
+    <message>
+        <source>Re&amp;fresh</source>
+        <translation>刷新(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Tomorrow, %1</source>
+        <translation>明天 %1</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>备注</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>开始</translation>
+    </message>
+    <message>
+        <source>Recorded to %1. Attach it to your report; passwords and tokens are replaced, names and addresses are not.</source>
+        <translation>已录制到 %1。请将其附在报告中；密码和令牌已被替换，姓名和地址未替换。</translation>
+    </message>
+    <message>
+        <source>Recording to %1. Do what goes wrong, then press Stop recording.</source>
+        <translation>正在录制到 %1。请重现问题，然后按“停止录制”。</translation>
+    </message>
+    <message>
+        <source>Recording has ended: %1. What came before is in %2. Make room, then record again.</source>
+        <translation>录制已中止（%1）。之前的内容在 %2 中。请释放一些空间，然后重新录制。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2. Choose another place for the record.</source>
+        <translation>无法写入 %1（%2）。请为录制文件选择其他位置。</translation>
+    </message>
+    <message>
+        <source>The sandbox has ended.</source>
+        <translation>沙盒已结束。</translation>
+    </message>
+    <message>
+        <source>The sandbox does not answer.</source>
+        <translation>沙盒没有响应。</translation>
+    </message>
+    <message>
+        <source>The sandbox is not running: kz-sandbox is not beside this program.</source>
+        <translation>沙盒未运行：kz-sandbox 不在此程序旁边。</translation>
+    </message>
+    <message>
+        <source>The sandbox did not start: %1.</source>
+        <translation>沙盒未能启动（%1）。</translation>
+    </message>
+    <message>
+        <source>The sandbox plays nothing: the openssl program may be missing.</source>
+        <translation>沙盒未提供任何内容：可能缺少 openssl 程序。</translation>
+    </message>
+    <message>
+        <source>&amp;Change</source>
+        <translation>更改(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Change site</source>
+        <translation>更改站点</translation>
+    </message>
+    <message>
+        <source>&amp;Use it anyway</source>
+        <translation>仍然使用(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Site of your meeting service:</source>
+        <translation>会议服务的站点(&amp;S)：</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the old site</source>
+        <translation>保留原站点(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Asking the site.</source>
+        <translation>正在查询站点。</translation>
+    </message>
+    <message>
+        <source>Nothing is written, and nothing is kept.</source>
+        <translation>不写入任何内容，也没有保留任何内容。</translation>
+    </message>
+    <message>
+        <source>Telemetry records</source>
+        <translation>遥测记录</translation>
+    </message>
+    <message>
+        <source>Choice</source>
+        <translation>选择</translation>
+    </message>
+    <message>
+        <source>Your choices in Preferences, without anything personal, are kept in %1. They stay on this computer.</source>
+        <translation>您在偏好设置中的选择（不含个人信息）保存在 %1 中，不会离开本机。</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>详情</translation>
+    </message>
+    <message>
+        <source>&amp;Delete all</source>
+        <translation>全部删除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Keep what I choose</source>
+        <translation>保留我的选择(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Nothing is written. What was kept before lies in %1.</source>
+        <translation>不写入任何内容。之前保留的内容在 %1 中。</translation>
+    </message>
+    <message>
+        <source>Use t&amp;his site</source>
+        <translation>使用此站点(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Copies the selected address, user name or password</source>
+        <translation>复制所选的地址、用户名或密码</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>密码</translation>
+    </message>
+    <message>
+        <source>Site</source>
+        <translation>站点</translation>
+    </message>
+    <message>
+        <source>The sandbox is not running. While it runs, this page lists accounts and sites to try.</source>
+        <translation>沙盒未运行。运行时，此页面会列出可试用的账户和站点。</translation>
+    </message>
+    <message>
+        <source>Sites, the meeting service to belong to:</source>
+        <translation>站点（所属的会议服务）：</translation>
+    </message>
+    <message>
+        <source>Accounts, for Microsoft Outlook in Meetings:</source>
+        <translation>账户（用于“会议”中的 Microsoft Outlook）：</translation>
+    </message>
+    <message>
+        <source>All of these are played by a sandbox on this computer. Copy an address, open Preferences, choose Microsoft Outlook in Meetings, paste it and press Return.</source>
+        <translation>这些都由本机沙盒模拟。请复制一个地址，打开偏好设置，在“会议”中选择 Microsoft Outlook，粘贴该地址并按回车键。</translation>
+    </message>
+    <message>
+        <source>Sites to try</source>
+        <translation>可试用的站点</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>复制(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Accounts to try</source>
+        <translation>可试用的账户</translation>
+    </message>
+    <message>
+        <source>User name</source>
+        <translation>用户名</translation>
+    </message>
+    <message>
+        <source>What it shows</source>
+        <translation>演示内容</translation>
+    </message>
+    <message>
+        <source>Exchange with a password. Any other password is refused, and the third one locks the account until the sandbox is started again</source>
+        <translation>使用密码的 Exchange。其他密码会被拒绝，第三次会锁定账户，直到沙盒重新启动</translation>
+    </message>
+    <message>
+        <source>The account is locked from the start: no password is right</source>
+        <translation>账户一开始就已锁定：任何密码都不正确</translation>
+    </message>
+    <message>
+        <source>Office 365: sign in in the browser</source>
+        <translation>Office 365：在浏览器中登录</translation>
+    </message>
+    <message>
+        <source>Office 365 that takes two seconds longer to sign you in</source>
+        <translation>登录多花两秒的 Office 365</translation>
+    </message>
+    <message>
+        <source>Office 365 whose sign-in ends after a minute: you sign in again</source>
+        <translation>登录一分钟后失效的 Office 365：需要再次登录</translation>
+    </message>
+    <message>
+        <source>Office 365 that refuses every sign-in</source>
+        <translation>拒绝所有登录的 Office 365</translation>
+    </message>
+    <message>
+        <source>Office 365 that does not respond after the sign-in</source>
+        <translation>登录后没有响应的 Office 365</translation>
+    </message>
+    <message>
+        <source>Office 365 that responds with an error (500) after the sign-in</source>
+        <translation>登录后返回错误 (500) 的 Office 365</translation>
+    </message>
+    <message>
+        <source>Office 365 that responds to the sign-in with a web page</source>
+        <translation>以网页回应登录的 Office 365</translation>
+    </message>
+    <message>
+        <source>Office 365 that does not say how long the sign-in is valid</source>
+        <translation>不说明登录有效期的 Office 365</translation>
+    </message>
+    <message>
+        <source>Redirects to onprem@corp.sandbox.example</source>
+        <translation>重定向到 onprem@corp.sandbox.example</translation>
+    </message>
+    <message>
+        <source>An unencrypted address leads to the server: you are asked first</source>
+        <translation>未加密的地址指向服务器：会先询问您</translation>
+    </message>
+    <message>
+        <source>Only a service record names the server</source>
+        <translation>只有服务记录 (SRV) 指明服务器</translation>
+    </message>
+    <message>
+        <source>Responds after a second</source>
+        <translation>一秒后响应</translation>
+    </message>
+    <message>
+        <source>Never responds</source>
+        <translation>从不响应</translation>
+    </message>
+    <message>
+        <source>Responds slowly, byte by byte</source>
+        <translation>逐字节缓慢响应</translation>
+    </message>
+    <message>
+        <source>Always responds with an error (500)</source>
+        <translation>总是返回错误 (500)</translation>
+    </message>
+    <message>
+        <source>Has a certificate for another name</source>
+        <translation>证书属于其他名称</translation>
+    </message>
+    <message>
+        <source>Redirects a hundred times</source>
+        <translation>重定向一百次</translation>
+    </message>
+    <message>
+        <source>Requires a sign-in method that is not supported</source>
+        <translation>要求不受支持的登录方式</translation>
+    </message>
+    <message>
+        <source>Responds with XML that expands to gigabytes</source>
+        <translation>返回展开后达数 GB 的 XML</translation>
+    </message>
+    <message>
+        <source>Responds with a web page</source>
+        <translation>返回网页</translation>
+    </message>
+    <message>
+        <source>Has a web site but no Exchange</source>
+        <translation>有网站，但没有 Exchange</translation>
+    </message>
+    <message>
+        <source>Works and offers version 9.1.0</source>
+        <translation>正常工作，并提供版本 9.1.0</translation>
+    </message>
+    <message>
+        <source>Works; there is no newer version</source>
+        <translation>正常工作；没有更新的版本</translation>
+    </message>
+    <message>
+        <source>Works, but each response takes a second</source>
+        <translation>可以工作，但每次响应需要一秒</translation>
+    </message>
+    <message>
+        <source>Responds to every request with a web page</source>
+        <translation>对每个请求都返回网页</translation>
     </message>
 </context>
 </TS>

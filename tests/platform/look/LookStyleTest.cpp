@@ -5,6 +5,7 @@
 #include <QCheckBox>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabBar>
@@ -188,6 +189,22 @@ TEST_F(LookStyleTest, APopUpShowsItsTextUncut) {
   EXPECT_GE(ink.width(), popUp->fontMetrics().tightBoundingRect("14").width() - 2);
   EXPECT_LT(ink.right(), room.right());
   EXPECT_GE(ink.height(), 8);
+}
+
+TEST_F(LookStyleTest, AMenuReadsTheMarksInItsTexts) {
+  QMenu menu;
+  menu.setStyle(lookStyle());
+  QAction* item = menu.addAction("C&opy\tCtrl+C");
+  QAction* line = menu.addSeparator();
+  const auto ink = [&] {
+    const QImage picture = menu.grab().toImage();
+    return drawnOn(picture.pixelColor(8, 8), picture, menu.actionGeometry(item).adjusted(2, 2, -2, -2));
+  };
+  const QRect marked = ink();
+  EXPECT_LT(menu.actionGeometry(line).height(), menu.actionGeometry(item).height());
+  item->setText("Copy\tCtrl+C");
+  EXPECT_EQ(ink().left(), marked.left());
+  EXPECT_EQ(ink().right(), marked.right());
 }
 
 TEST_F(LookStyleTest, IndicatorsFitInSixteenPoints) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QLocale>
+
 #include "KZPreference/panes/meetings/CalendarIntegrationMessage.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZKeyChainHandle.h"
@@ -72,6 +74,20 @@ TEST(CalendarIntegrationMessage, KeepsItsTextFieldAndOutlivesIt) {
   line.reset();
   message.showSuccessMessage();
   message.hideMessage();
+}
+
+TEST(CalendarIntegrationMessage, TranslatesAFailedSignInButNoTextOfTheHost) {
+  QLocale::setDefault(QLocale(QLocale::German));
+  StaticText line(QString(), FontRole::Label, 13);
+  CalendarIntegrationMessage message;
+  message.setMessageTxt(&line);
+  const std::pair<QString, QString> rows[] = {{"Applied failed", "Übernehmen fehlgeschlagen"},
+                                              {"Account", "Account"}};
+  for (const auto& [sent, shown] : rows) {
+    message.showErrorMessage({{kKZErrorHandleData, Dictionary{{kKZErrorMessage, sent}}}});
+    EXPECT_EQ(line.text(), shown);
+  }
+  QLocale::setDefault(QLocale::c());
 }
 
 }  // namespace
