@@ -20,6 +20,7 @@
 #include <numeric>
 
 #include "companion/inspector/InspectorFilter.h"
+#include "companion/runtime/FlowLayout.h"
 #include "companion/runtime/SaveDialog.h"
 #include "companion/texts/CompanionText.h"
 
@@ -61,6 +62,7 @@ QPushButton* createButton(const QString& title, const QString& toolTip, Receiver
                           void (Receiver::*action)()) {
   auto* button = new QPushButton(title);
   button->setToolTip(toolTip);
+  button->setAutoDefault(true);  // Return presses it too
   QObject::connect(button, &QPushButton::clicked, receiver, action);
   return button;
 }
@@ -145,9 +147,7 @@ void InspectorView::setUpTable() {
 
 QWidget* InspectorView::createBoxes() {
   auto* boxes = new QWidget;
-  auto* row = new QHBoxLayout(boxes);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(16);
+  auto* row = new FlowLayout(boxes, 16, 6);
   for (const auto& [group, title, meaning] : kGroupBoxes) {
     auto* box = new QCheckBox(companionText(title));
     box->setToolTip(companionText(meaning));
@@ -158,7 +158,6 @@ QWidget* InspectorView::createBoxes() {
     if (group == Group::Traces) box->setChecked(false);
     row->addWidget(box);
   }
-  row->addStretch(1);
   return boxes;
 }
 
@@ -172,16 +171,16 @@ QWidget* InspectorView::createBar() {
   text->setAccessibleName(companionText("Filter by name or content"));
   text->setClearButtonEnabled(true);
   connect(text, &QLineEdit::textChanged, m_filter, &InspectorFilter::setText);
-  m_pause = createButton(companionText("Pause"), companionText("Keeps the list as it is while you read"),
+  m_pause = createButton(companionText("Paus&e"), companionText("Keeps the list as it is while you read"),
                          this, &InspectorView::togglePause);
   row->addWidget(text, 1);
   row->addWidget(m_pause);
-  row->addWidget(createButton(companionText("Copy"),
+  row->addWidget(createButton(companionText("C&opy"),
                               companionText("Copies the selected rows, or all rows that are shown"), this,
                               &InspectorView::copy));
-  row->addWidget(
-      createButton(companionText("Clear"), companionText("Forgets all events"), m_log, &InspectorLog::clear));
-  row->addWidget(createButton(companionText("Export…"),
+  row->addWidget(createButton(companionText("C&lear"), companionText("Forgets all events"), m_log,
+                              &InspectorLog::clear));
+  row->addWidget(createButton(companionText("E&xport…"),
                               companionText("Writes the events that are shown to a file"), this,
                               &InspectorView::askForFile));
   return bar;
@@ -201,12 +200,12 @@ QWidget* InspectorView::createLists() {
 
 void InspectorView::togglePause() {
   const bool isPaused = m_log->flow() == InspectorLog::Flow::Paused;
-  m_pause->setText(companionText("Pause"));
+  m_pause->setText(companionText("Paus&e"));
   m_log->setFlow(isPaused ? InspectorLog::Flow::Live : InspectorLog::Flow::Paused);
 }
 
 void InspectorView::showWaiting(qsizetype count) {
-  m_pause->setText(count == 0 ? companionText("Continue") : companionText("Continue (%1 new)").arg(count));
+  m_pause->setText(count == 0 ? companionText("Co&ntinue") : companionText("Co&ntinue (%1 new)").arg(count));
 }
 
 void InspectorView::showDetails(const QModelIndex& current) {
