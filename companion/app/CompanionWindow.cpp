@@ -2,10 +2,13 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QFontInfo>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QTabBar>
@@ -26,6 +29,8 @@
 
 namespace {
 
+constexpr int kMargin = 20;
+
 Dictionary fromApplication() {
   return {{TelemetryKey_ActionFrom, TelemetryValue_ActionFrom_APP}};
 }
@@ -34,17 +39,16 @@ Dictionary fromApplication() {
 
 CompanionWindow::CompanionWindow(PluginHost* host) : m_host(host) {
   setWindowTitle(QStringLiteral("Brenn Mivra Meetings – Companion"));
-  resize(900, 560);
+  // Smaller screens have room for it with the frame.
+  resize(QSize(900, 560).boundedTo(screen()->availableSize() - QSize(20, 60)));
   auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(20, 16, 20, 16);
-  column->setSpacing(14);
-  column->addWidget(createHeader());
-  column->addWidget(createButtons());
-  column->addWidget(createFaultNotice(this));
-  column->addWidget(createPages(), 1);
+  column->setContentsMargins(0, 0, 0, 12);
+  column->setSpacing(8);
+  column->addWidget(createContent(), 1);
   m_notice = new QLabel;
   m_notice->setWordWrap(true);
   m_notice->setTextFormat(Qt::PlainText);
+  m_notice->setContentsMargins(kMargin, 0, kMargin, 0);
   column->addWidget(m_notice);
   connect(new QShortcut(Qt::CTRL | Qt::Key_W, this), &QShortcut::activated, this, &QWidget::close);
   // In the Preferences window too.
@@ -62,14 +66,34 @@ void CompanionWindow::useServices(CompanionServices* services) {
   connect(&services->site(), &SiteService::siteWanted, this, &CompanionWindow::openSiteDialog);
 }
 
+// Scrolls where the window is too small for all of it.
+QWidget* CompanionWindow::createContent() {
+  auto* content = new QWidget;
+  auto* column = new QVBoxLayout(content);
+  column->setContentsMargins(kMargin, 16, kMargin, 4);
+  column->setSpacing(14);
+  column->addWidget(createHeader());
+  column->addWidget(createButtons());
+  column->addWidget(createFaultNotice(this));
+  column->addWidget(createPages(), 1);
+  auto* area = new QScrollArea;
+  area->setFrameShape(QFrame::NoFrame);
+  area->setFocusPolicy(Qt::NoFocus);
+  area->setWidgetResizable(true);
+  area->setWidget(content);
+  return area;
+}
+
 QWidget* CompanionWindow::createHeader() {
   auto* header = new QWidget;
   QHBoxLayout* row = addRow(header, 12);
   auto* texts = new QVBoxLayout;
   texts->setSpacing(2);
   auto* title = new QLabel(QStringLiteral("Brenn Mivra Meetings"));
-  title->setFont(fontFor(FontRole::BoldSystem, 16));
+  constexpr double kTitleScale = 16.0 / systemFontSize;
+  title->setFont(fontFor(FontRole::BoldSystem, QFontInfo(font()).pixelSize() * kTitleScale));
   m_identity = new QLabel;
+  m_identity->setWordWrap(true);
   texts->addWidget(title);
   texts->addWidget(m_identity);
   row->addLayout(texts, 1);

@@ -48,6 +48,7 @@ class CompanionWindow final : public QWidget {
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  QWidget* createContent();
   QWidget* createPages();
   QWidget* createHeader();
   QWidget* createSwitch();

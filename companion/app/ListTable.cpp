@@ -2,9 +2,20 @@
 
 #include <QHeaderView>
 
+namespace {
+
+// As high as there is room for, not as its rows would be.
+class ListTable final : public QTableWidget {
+ public:
+  using QTableWidget::QTableWidget;
+  QSize sizeHint() const override { return minimumSizeHint(); }
+};
+
+}  // namespace
+
 QTableWidget* createListTable(const QString& name, const QStringList& headings) {
   constexpr int kRowGap = 6;
-  auto* table = new QTableWidget(0, static_cast<int>(headings.size()));
+  auto* table = new ListTable(0, static_cast<int>(headings.size()));
   table->setHorizontalHeaderLabels(headings);
   table->setAccessibleName(name);
   table->setEditTriggers(QAbstractItemView::NoEditTriggers);

@@ -173,16 +173,19 @@ QWidget* InspectorView::createBar() {
   connect(text, &QLineEdit::textChanged, m_filter, &InspectorFilter::setText);
   m_pause = createButton(companionText("Paus&e"), companionText("Keeps the list as it is while you read"),
                          this, &InspectorView::togglePause);
+  auto* buttons = new QWidget;
+  auto* places = new FlowLayout(buttons, 8, 6);
+  places->addWidget(m_pause);
+  places->addWidget(createButton(companionText("C&opy"),
+                                 companionText("Copies the selected rows, or all rows that are shown"), this,
+                                 &InspectorView::copy));
+  places->addWidget(createButton(companionText("C&lear"), companionText("Forgets all events"), m_log,
+                                 &InspectorLog::clear));
+  places->addWidget(createButton(companionText("E&xport…"),
+                                 companionText("Writes the events that are shown to a file"), this,
+                                 &InspectorView::askForFile));
   row->addWidget(text, 1);
-  row->addWidget(m_pause);
-  row->addWidget(createButton(companionText("C&opy"),
-                              companionText("Copies the selected rows, or all rows that are shown"), this,
-                              &InspectorView::copy));
-  row->addWidget(createButton(companionText("C&lear"), companionText("Forgets all events"), m_log,
-                              &InspectorLog::clear));
-  row->addWidget(createButton(companionText("E&xport…"),
-                              companionText("Writes the events that are shown to a file"), this,
-                              &InspectorView::askForFile));
+  row->addWidget(buttons);
   return bar;
 }
 
