@@ -30,6 +30,11 @@
 namespace {
 
 constexpr int kMargin = 20;
+constexpr double kTitleSize = 16;
+
+double fontScale() {
+  return QFontInfo(QApplication::font()).pixelSize() / systemFontSize;
+}
 
 Dictionary fromApplication() {
   return {{TelemetryKey_ActionFrom, TelemetryValue_ActionFrom_APP}};
@@ -40,7 +45,7 @@ Dictionary fromApplication() {
 CompanionWindow::CompanionWindow(PluginHost* host) : m_host(host) {
   setWindowTitle(QStringLiteral("Brenn Mivra Meetings – Companion"));
   // Smaller screens have room for it with the frame.
-  resize(QSize(900, 560).boundedTo(screen()->availableSize() - QSize(20, 60)));
+  resize((QSize(900, 560) * fontScale()).boundedTo(screen()->availableSize() - QSize(20, 60)));
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 12);
   column->setSpacing(8);
@@ -90,8 +95,7 @@ QWidget* CompanionWindow::createHeader() {
   auto* texts = new QVBoxLayout;
   texts->setSpacing(2);
   auto* title = new QLabel(QStringLiteral("Brenn Mivra Meetings"));
-  constexpr double kTitleScale = 16.0 / systemFontSize;
-  title->setFont(fontFor(FontRole::BoldSystem, QFontInfo(font()).pixelSize() * kTitleScale));
+  title->setFont(fontFor(FontRole::BoldSystem, kTitleSize * fontScale()));
   m_identity = new QLabel;
   m_identity->setWordWrap(true);
   texts->addWidget(title);

@@ -8,6 +8,7 @@
 
 #include "companion/app/ListTable.h"
 #include "companion/app/Rows.h"
+#include "companion/runtime/ColumnWidths.h"
 #include "companion/runtime/TimeText.h"
 #include "companion/services/NextMeetings.h"
 #include "companion/texts/CompanionText.h"
@@ -59,8 +60,7 @@ MeetingsView::MeetingsView(NextMeetings* meetings)
   m_text->setObjectName(QStringLiteral("meetingsText"));
   m_text->setTextFormat(Qt::PlainText);
   m_text->setWordWrap(true);
-  m_table->setColumnWidth(StartColumn, 160);
-  m_table->setColumnWidth(NoteColumn, 160);
+  setColumnWidths(m_table, {24, 24, 24});
   m_table->horizontalHeader()->setSectionResizeMode(SubjectColumn, QHeaderView::Stretch);
   // Only the words for a time change; no request is made.
   m_minute.setInterval(1min);

@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QFileDialog>
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -20,6 +21,7 @@
 #include <numeric>
 
 #include "companion/inspector/InspectorFilter.h"
+#include "companion/runtime/ColumnWidths.h"
 #include "companion/runtime/FlowLayout.h"
 #include "companion/runtime/SaveDialog.h"
 #include "companion/texts/CompanionText.h"
@@ -68,9 +70,8 @@ QPushButton* createButton(const QString& title, const QString& toolTip, Receiver
 }
 
 QPlainTextEdit* createDetails() {
-  constexpr int kPixels = 12;
   QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-  font.setPixelSize(kPixels);
+  font.setPixelSize(QFontInfo(QGuiApplication::font()).pixelSize() - 1);
   auto* details = new QPlainTextEdit;
   details->setReadOnly(true);
   details->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -136,9 +137,7 @@ void InspectorView::setUpTable() {
   m_table->horizontalHeader()->setHighlightSections(false);
   m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   m_table->horizontalHeader()->setStretchLastSection(true);
-  m_table->setColumnWidth(InspectorLog::TimeColumn, 96);
-  m_table->setColumnWidth(InspectorLog::KindColumn, 160);
-  m_table->setColumnWidth(InspectorLog::NameColumn, 220);
+  setColumnWidths(m_table, {14, 23, 32});
   connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
           &InspectorView::showDetails);
   auto* shortcut = new QShortcut(QKeySequence::Copy, m_table, nullptr, nullptr, Qt::WidgetShortcut);
@@ -166,10 +165,12 @@ QWidget* InspectorView::createBar() {
   auto* row = new QHBoxLayout(bar);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(8);
+  constexpr int kFieldRoom = 40;
   auto* text = new QLineEdit;
   text->setPlaceholderText(companionText("Filter by name or content"));
   text->setAccessibleName(companionText("Filter by name or content"));
   text->setClearButtonEnabled(true);
+  text->setMinimumWidth(text->fontMetrics().horizontalAdvance(text->placeholderText()) + kFieldRoom);
   connect(text, &QLineEdit::textChanged, m_filter, &InspectorFilter::setText);
   m_pause = createButton(companionText("Paus&e"), companionText("Keeps the list as it is while you read"),
                          this, &InspectorView::togglePause);
