@@ -13,7 +13,7 @@ TEST_JOBS ?= $(shell expr 2 \* $(JOBS))
 CONFIGURE = cmake -S . -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo
 NINJA = ninja -C $(BUILD) -j $(JOBS)
 
-.PHONY: run build test lint sanitize bench pictures documents package clean packages
+.PHONY: run build test test-debian13 lint sanitize bench pictures documents package clean packages
 
 run: $(BUILD)/build.ninja
 	@$(NINJA) companion
@@ -24,6 +24,10 @@ build: $(BUILD)/build.ninja
 
 test: build
 	@tools/run-tests.sh $(BUILD) $(TEST_JOBS)
+
+# The same under the next Debian, in a chroot.
+test-debian13:
+	@tools/test-debian13.sh $(BUILD)
 
 lint: $(BUILD)/build.ninja
 	@$(NINJA) build.ninja >/dev/null

@@ -2,8 +2,9 @@
 add_library(kz_options INTERFACE)
 target_compile_definitions(kz_options INTERFACE
   QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH QT_STRICT_ITERATORS)
-# -pthread, because some libraries ask for it and a precompiled header serves only sources with the same.
-target_compile_options(kz_options INTERFACE -pthread
+# -pthread, because some libraries ask for it, and -fPIC, which libraries need and CMake does not give to programs: a
+# precompiled header serves only sources with the same.
+target_compile_options(kz_options INTERFACE -pthread -fPIC
   -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wconversion -Wno-sign-conversion -Werror)
 
 if(KZ_SANITIZE)

@@ -26,9 +26,8 @@ class RoleAccessible final : public QAccessibleWidget {
 };
 
 QAccessibleInterface* accessibleWithRole(const QString& /*className*/, QObject* object) {
-  const QVariant role = object ? object->property(kAccessibleRoleProperty) : QVariant();
-  if (!role.isValid() || !object->isWidgetType()) return nullptr;
-  return new RoleAccessible(static_cast<QWidget*>(object), QAccessible::Role(role.toInt()));
+  const QAccessible::Role role = object ? accessibleRoleOf(object) : QAccessible::NoRole;
+  return role == QAccessible::NoRole ? nullptr : new RoleAccessible(static_cast<QWidget*>(object), role);
 }
 
 #if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
@@ -64,15 +63,14 @@ class AnnouncementAccessible final : public QAccessibleObject {
 
 }  // namespace
 
+QAccessible::Role accessibleRoleOf(const QObject* view) {
+  return QAccessible::Role(view->property(kAccessibleRoleProperty).toInt());
+}
+
 void setAccessibleRole(QWidget* view, QAccessible::Role role) {
-  static const bool isInstalled = [] {
-    QAccessible::installFactory(accessibleWithRole);
-    return true;
-  }();
-  Q_UNUSED(isInstalled);
+  QAccessible::installFactory(accessibleWithRole);  // once: it ignores one that it has
   view->setProperty(kAccessibleRoleProperty, int(role));
-  if (!QAccessible::isActive()) return;
-  // The next query makes a new one, with this role.
+  // The toolkit may have made one already; the next query makes one with this role.
   QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(QAccessible::queryAccessibleInterface(view)));
 }
 

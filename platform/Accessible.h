@@ -13,6 +13,7 @@ class QWidget;
 // For views and labels: instead of the toolkit's role. The name stays the accessible name, else a label's
 // text.
 PLATFORM_EXPORT void setAccessibleRole(QWidget* view, QAccessible::Role role);
+QAccessible::Role accessibleRoleOf(const QObject* view);  // NoRole when none was set
 
 // The view is labelled by the label, which has the same parent.
 PLATFORM_EXPORT void setAccessibleLabel(QWidget* view, QLabel* label);

@@ -60,7 +60,8 @@ QRect withNeededRoom(const QWidget* view, QRect place, bool isFilledFromTop) {
     place.setBottom(qMin(place.bottom() + more, qMax(place.bottom(), room.bottom())));
     return place;
   }
-  place.adjust(0, -(more / 2), 0, more - more / 2);
+  // As much on each side, so that the text stays on one line with its neighbours.
+  place.adjust(0, -(more + 1) / 2, 0, (more + 1) / 2);
   place.translate(0, qMin(0, room.bottom() - place.bottom()));
   place.translate(0, qMax(0, -place.top()));
   return place;

@@ -19,7 +19,7 @@ QRect choiceBox(const QStyleOption& option) {
 
 void drawShape(QPainter* painter, const QRectF& rect, bool isRadio, const QColor& fill, const QColor& border,
                qreal width) {
-  drawLookBox(painter, rect, isRadio ? rect.width() / 2 : rect.width() / 4, fill, border, width);
+  drawLookBox(painter, rect, isRadio ? rect.width() : rect.width() / 4, fill, border, width);
 }
 
 }  // namespace

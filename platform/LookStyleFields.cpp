@@ -26,7 +26,12 @@ void draw(const QStyleOption& option, QPainter* painter, const QWidget* widget) 
   const QColor accent = option.palette.color(QPalette::Highlight);
   const QColor border = isFocused ? accent : lookBorderOf(colors, states);
   drawLookBox(painter, option.rect, kFieldRadius, fill, border);
-  if (isFocused && hasFocusRing(widget)) drawLookFocus(painter, option, option.rect, kFieldRadius);
+  if (!isFocused) return;
+  if (hasFocusRing(widget)) return drawLookFocus(painter, option, option.rect, kFieldRadius);
+  // The accent in place of the border hardly differs from it, so a line inside shows the focus.
+  QRectF line(0, 0, option.rect.width() - 2 * kFieldRadius, colors.focusWidth - 1);
+  line.moveBottomLeft(QPointF(option.rect.left() + kFieldRadius, option.rect.bottom()));
+  painter->fillRect(line, accent);
 }
 
 }  // namespace lookFields

@@ -1,5 +1,31 @@
 #include "platform/LookStyleParts.h"
 
+#include <QPainterPath>
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+struct Outline {
+  QRectF rect;
+  qreal width;
+};
+
+// On whole pixels of the device: between two, a thin line would be pale. A square stays one.
+Outline onPixels(const QPainter& painter, const QRectF& rect, qreal width) {
+  const QTransform toDevice = painter.deviceTransform();
+  const qreal scale = toDevice.m11();
+  if (scale <= 0 || toDevice.type() > QTransform::TxScale) return {rect, width};
+  const QRectF exact = toDevice.mapRect(rect);
+  const QPointF corner(std::round(exact.left()), std::round(exact.top()));
+  QSizeF size(std::round(exact.right()) - corner.x(), std::round(exact.bottom()) - corner.y());
+  if (rect.width() == rect.height()) size.rheight() = size.rwidth() = std::round(exact.width());
+  return {toDevice.inverted().mapRect(QRectF(corner, size)),
+          std::max(1.0, std::round(width * scale)) / scale};
+}
+
+}  // namespace
+
 LookStates lookStatesOf(const QStyleOption& option) {
   const bool isEnabled = option.state & QStyle::State_Enabled;
   return {.isEnabled = isEnabled,
@@ -20,12 +46,18 @@ const QColor& lookBorderOf(const LookColors& colors, const LookStates& states) {
 
 void drawLookBox(QPainter* painter, const QRectF& rect, qreal radius, const QBrush& fill,
                  const QColor& border, qreal borderWidth) {
-  const qreal inset = borderWidth / 2;
+  const auto [box, width] = borderWidth > 0 ? onPixels(*painter, rect, borderWidth) : Outline{rect, 0};
+  const auto inside = [box = box](qreal inset) { return box.adjusted(inset, inset, -inset, -inset); };
   painter->save();
   painter->setRenderHint(QPainter::Antialiasing);
-  painter->setPen(QPen(border, borderWidth));
+  painter->setPen(Qt::NoPen);
   painter->setBrush(fill);
-  painter->drawRoundedRect(rect.adjusted(inset, inset, -inset, -inset), radius - inset, radius - inset);
+  painter->drawRoundedRect(inside(width / 2), radius - width / 2, radius - width / 2);
+  // Filled, because a thin curve that is stroked comes out paler.
+  QPainterPath outline;
+  outline.addRoundedRect(box, radius, radius);
+  outline.addRoundedRect(inside(width), radius - width, radius - width);
+  painter->fillPath(outline, border);
   painter->restore();
 }
 

@@ -1,6 +1,7 @@
 #include <QStyle>
 
 #include "platform/LookStyleParts.h"
+#include "platform/Text.h"
 
 namespace {
 
@@ -43,7 +44,7 @@ QRect editField(const QRect& rect, Qt::LayoutDirection direction) {
 
 QSize size(const QStyleOptionComboBox& option, const QSize& contents) {
   return {contents.width() + kPopUpTextMargin + kPopUpTile + kPopUpTileMargin + 2,
-          qMax(kPopUpHeight, option.fontMetrics.height() + 4)};
+          qMax(kPopUpHeight, option.fontMetrics.height())};
 }
 
 void draw(const QStyleOptionComboBox& option, QPainter* painter) {
@@ -68,10 +69,9 @@ void draw(const QStyleOptionComboBox& option, QPainter* painter) {
 
 void drawLabel(const QStyleOptionComboBox& option, QPainter* painter) {
   const QRect field = editField(option.rect, option.direction);
-  const int alignment = int(QStyle::visualAlignment(option.direction, Qt::AlignLeft | Qt::AlignVCenter));
   painter->setPen(option.palette.color(QPalette::ButtonText));
-  painter->drawText(field, alignment | Qt::TextSingleLine,
-                    option.fontMetrics.elidedText(option.currentText, Qt::ElideRight, field.width()));
+  drawTextLine(painter, field, QStyle::visualAlignment(option.direction, Qt::AlignLeft),
+               option.fontMetrics.elidedText(option.currentText, Qt::ElideRight, field.width()));
 }
 
 void drawMenuPanel(const QStyleOption& option, QPainter* painter) {

@@ -44,6 +44,10 @@ void drawItem(const QStyleOptionToolButton& option, QPainter* painter) {
   } else if (states.isHovered) {
     drawLookBox(painter, tile, kTileRadius, colors.tileHover, colors.tileBorder);
   }
+  if (isSelected && states.isEnabled) {
+    const QRectF line(tile.left() + kTileRadius, tile.bottom() - 1, tile.width() - 2 * kTileRadius, 2);
+    painter->fillRect(line, option.palette.color(QPalette::Highlight));
+  }
   if (states.isFocused) drawLookFocus(painter, option, tile, kTileRadius);
 
   const QRect icon(option.rect.left() + (option.rect.width() - kIcon) / 2, option.rect.top() + kIconTop,

@@ -1,8 +1,8 @@
 #include "platform/View.h"
 
+#include <QAccessible>
 #include <QPainter>
 #include <QShowEvent>
-#include <QStringList>
 
 #include "platform/FrameLayout.h"
 
@@ -16,13 +16,23 @@ QList<DrawnText> View::drawnTexts() const {
   return {};
 }
 
+QRectF View::boxOf(const DrawnText& drawn) const {
+  const Frame& frame = drawn.frame;
+  return {frame.x, frameOf(this).height - frame.maxY(), frame.width, frame.height};
+}
+
 void View::viewDidUnhide() {}
 
 void View::drawnTextsChanged() {
-  QStringList lines;
-  for (const DrawnText& drawn : drawnTexts()) lines.append(drawn.text);
-  setAccessibleName(lines.join(QStringLiteral("\n")));
   update();
+  if (!QAccessible::isActive()) return;
+  const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(this);
+  for (int i = 0; i < spoken->childCount(); ++i) {
+    QAccessibleInterface* child = spoken->child(i);
+    if (child->object()) continue;
+    QAccessibleEvent changed(child, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&changed);
+  }
 }
 
 void View::paintEvent(QPaintEvent* event) {
@@ -31,11 +41,9 @@ void View::paintEvent(QPaintEvent* event) {
   if (texts.isEmpty()) return;
   QPainter painter(this);
   painter.setPen(palette().color(QPalette::WindowText));
-  const double height = frameOf(this).height;
   for (const DrawnText& drawn : texts) {
     painter.setFont(fontFor(drawn.role, drawn.size));
-    const QRectF box(drawn.frame.x, height - drawn.frame.maxY(), drawn.frame.width, drawn.frame.height);
-    drawTextLine(&painter, box, drawn.alignment, drawn.text.left(mostDrawnCharacters));
+    drawTextLine(&painter, boxOf(drawn), drawn.alignment, drawn.text.left(mostDrawnCharacters));
   }
 }
 

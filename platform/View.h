@@ -24,8 +24,9 @@ class PLATFORM_EXPORT View : public QWidget {
   explicit View(const Frame& frame);
   ~View() override;
 
-  // The texts that the view paints itself, in drawing order; they are its accessible name too.
+  // The texts that the view paints itself, in drawing order.
   virtual QList<DrawnText> drawnTexts() const;
+  QRectF boxOf(const DrawnText& drawn) const;  // where it is painted
 
  protected:
   // The view became visible: it was shown, or its window was.

@@ -8,7 +8,7 @@ from project_files import ROOT, finish, project_files, read
 FENCE = re.compile(r"^```.*?^```$", re.MULTILINE | re.DOTALL)
 LINK = re.compile(r"\]\(([^)#\s]+)(?:#[^)]*)?\)|src(?:set)?=\"([^\"]+)\"")
 CODE = re.compile(r"`([^`\n]+)`")
-MAKE = re.compile(r"\bmake ([a-z-]+)")
+MAKE = re.compile(r"\bmake ([a-z0-9-]+)")
 NAME = re.compile(r"^~?[A-Za-z_]\w*(?:::\w+)*(?:\(\))?$")
 FOLDER = re.compile(r"^(?:adal|bench|cmake|companion|docs|host|KZPreference|platform|sandbox|tests|tools|\.ci)/")
 # Names from outside the project.
@@ -42,7 +42,7 @@ def main():
     names = set()
     for source in project_files("*.h", "*.cpp", "*.txt", "*.cmake", "*.sh", "*.py", "Makefile"):
         names.update(re.findall(r"\w+", read(source)))
-    targets = set(re.findall(r"^([a-z-]+):", read("Makefile"), re.MULTILINE))
+    targets = set(re.findall(r"^([a-z0-9-]+):", read("Makefile"), re.MULTILINE))
     findings = []
     for path in project_files("*.md"):
         findings.extend(document_findings(path, read(path), lambda place: (ROOT / place).exists(), names, targets))

@@ -16,6 +16,8 @@ packages=(
   qt6-base-private-dev
   # a keychain for the tests, on a bus of its own
   dbus gnome-keyring
+  # desktops for the tests: X with a window manager, Wayland, the accessibility bus
+  xvfb openbox weston qt6-wayland at-spi2-core libxcb1-dev libxcb-xtest0-dev
   # the Debian package
   dpkg-dev file
   # certificates for the sandbox's https

@@ -10,30 +10,32 @@ Dictionary KZPreference::dictionaryFromJson(const QString& text) {
   return KZUtility::JSONValueFromString(text).value<Dictionary>();
 }
 
-void KZPreference::onResolveExchangeDone(const Dictionary& content) {
+void KZPreference::onResolveExchangeDone(const Content& content) {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "content:%@", content);
-  if (m_preferenceWindowController) m_preferenceWindowController->onExchangeResolveDone(content);
+  if (m_preferenceWindowController)
+    m_preferenceWindowController->onExchangeResolveDone(content.value_or(Dictionary()));
 }
 
-void KZPreference::onExchangeResolvingNeedCredential(const Dictionary& content) {
+void KZPreference::onExchangeResolvingNeedCredential(const Content& content) {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "content:%@", content);
-  if (!isEqualText(textValue(content, kKZResult), kKZSuccess)) {
+  const Dictionary result = content.value_or(Dictionary());
+  if (!isEqualText(textValue(result, kKZResult), kKZSuccess)) {
     MVRNSErrorFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "resolving exchange failed");
     return;
   }
-  const QString type = textValue(content, QRT_ExchangeDiscover_ExchangeType);
+  const QString type = textValue(result, QRT_ExchangeDiscover_ExchangeType);
   if (isEqualText(type, QRT_ExchangeDiscover_ExchangeTypeOnpremise)) {
-    if (m_preferenceWindowController)
-      m_preferenceWindowController->onExchangeResolvingNeedCredential(content);
+    if (m_preferenceWindowController) m_preferenceWindowController->onExchangeResolvingNeedCredential(result);
     return;
   }
   m_ADAuthWrapper->startWithParams(
-      dictionaryFromJson(textValue(content, QRT_ExchangeDiscover_O365LoginParams)));
+      dictionaryFromJson(textValue(result, QRT_ExchangeDiscover_O365LoginParams)));
 }
 
-void KZPreference::onO365LoginRequesting(const Dictionary& content) {
+void KZPreference::onO365LoginRequesting(const Content& content) {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "content:%@", content);
-  const Dictionary data = dictionaryFromJson(textValue(content, QStringLiteral("O365LoginData")));
+  const Dictionary data =
+      dictionaryFromJson(textValue(content.value_or(Dictionary()), QStringLiteral("O365LoginData")));
   m_ADAuthWrapper->startWithParams(dictionaryFromJson(textValue(data, QStringLiteral("O365LoginParams"))));
 }
 

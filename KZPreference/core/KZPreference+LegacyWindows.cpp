@@ -39,11 +39,11 @@ void KZPreference::onHandleClosePreferenceWindow() {
 
 void KZPreference::onHandleShowPreferenceWindow(const Dictionary& content, const QString& actionFrom) {
   const QString meetingKey = hasHostInfo(content);
-  const auto found = dictHostInfoWndController.find(meetingKey);
-  PreferencesWndController* known =
-      found != dictHostInfoWndController.end() ? found->second.get() : myWindowController.get();
-  if (known) {
-    known->bringPreferenceWindowToTop();
+  if (!meetingKey.isNull()) {
+    const auto& ofMeeting = dictHostInfoWndController.at(meetingKey);
+    if (ofMeeting) ofMeeting->bringPreferenceWindowToTop();
+  } else if (myWindowController) {
+    myWindowController->bringPreferenceWindowToTop();
   } else {
     myDictPreferenceInfo = content;
     showPreferenceWindow();

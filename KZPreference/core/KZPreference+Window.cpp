@@ -70,11 +70,12 @@ void KZPreference::onEnableProximityAutoDetect() {
 
 // Preference record
 
-void KZPreference::onGetPreferenceDone(const Dictionary& content) {
+void KZPreference::onGetPreferenceDone(const Content& content) {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "content:%@", content);
-  if (isActionFailed(content)) return showErrorMessage(content);
+  const Dictionary data = content.value_or(Dictionary());
+  if (isActionFailed(data)) return showErrorMessage(data);
 
-  const Dictionary record = dictionaryValue(content, QStringLiteral("kz"));
+  const Dictionary record = dictionaryValue(data, QStringLiteral("kz"));
   savePreferenceInfo(record);
   ensuredWindowController().setCalendarIntergrationOption(
       {.isEnableNone = isSet(record, QStringLiteral("disableCalendarIntegration")),
@@ -100,15 +101,19 @@ void KZPreference::savePreferenceInfo(const Dictionary& record) {
 }
 
 // Here the content itself is the record; in onGetPreferenceDone the record is below "kz".
-void KZPreference::onRefreshPreferenceDone(const Dictionary& content) {
-  savePreferenceInfo(content);
-  if (myWindowController) myWindowController->onRefreshDone(content);
+void KZPreference::onRefreshPreferenceDone(const Content& content) {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "content:%@", content);
+  const Dictionary record = content.value_or(Dictionary());
+  savePreferenceInfo(record);
+  if (myWindowController) myWindowController->onRefreshDone(record);
 }
 
-void KZPreference::onCheckForUpdatesDone(const Dictionary& content) {
-  if (!isActionFailed(content)) return;
+void KZPreference::onCheckForUpdatesDone(const Content& content) {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "content:%@", content);
+  const Dictionary result = content.value_or(Dictionary());
+  if (!isActionFailed(result)) return;
   KZUtility::sharedInstance().cleanCheckForUpdatesInProgressFlag();
-  showErrorMessage(content);
+  showErrorMessage(result);
 }
 
 bool KZPreference::isActionFailed(const Dictionary& content) {

@@ -81,25 +81,24 @@ quint64 KZPreference::onHandleOtherPluginsTriggerCommand(quint64 command, const 
 
 // Without a default, so that a new notification does not compile until it has a handler.
 quint64 KZPreference::onHandleServicesNotification(const KZEventIdentify& event, const Content& content) {
-  const Dictionary dictionary = content.value_or(Dictionary());
   switch (static_cast<KZNotify>(event.m_componentEventIndex)) {
     case KZNotifyGetPreferenceDone:
-      onGetPreferenceDone(dictionary);
+      onGetPreferenceDone(content);
       break;
     case KZNotifyCheckForUpdatesDone:
-      onCheckForUpdatesDone(dictionary);
+      onCheckForUpdatesDone(content);
       break;
     case KZNotifyRefreshPreferenceDone:
-      onRefreshPreferenceDone(dictionary);
+      onRefreshPreferenceDone(content);
       break;
     case KZNotifyResolveExchangeDone:
-      onResolveExchangeDone(dictionary);
+      onResolveExchangeDone(content);
       break;
     case KZNotifyO365LoginRequesting:
-      onO365LoginRequesting(dictionary);
+      onO365LoginRequesting(content);
       break;
     case KZNotifyExchangeResolvingNeedCredential:
-      onExchangeResolvingNeedCredential(dictionary);
+      onExchangeResolvingNeedCredential(content);
       break;
   }
   return 0;
@@ -150,13 +149,16 @@ void KZPreference::checkForUpdates(UpdateCheck kind, const char* method, const Q
 }
 
 void KZPreference::onHandleJoinByNumber(const QString& actionFrom) {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
   constexpr int requireJoinByNumber = 2;
   sendPluginCommand(KZCmdRequireLink, Dictionary{{QRT_Require_Link_Action_Type, requireJoinByNumber}});
   writeTelemetryData(TelemetryValue_FeatureName_Click_JoinByNumber, actionFrom);
 }
 
 void KZPreference::joinByNumber() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
   const QVariant link = KZUtility::sharedInstance().getKZMemCacheData(kPreferences_JoinByNumberLink);
   if (link.metaType() != QMetaType::fromType<QString>()) return;
-  KZWorkspace::sharedWorkspace().openURL(QUrl(link.toString()));
+  if (KZWorkspace::sharedWorkspace().openURL(QUrl(link.toString()))) return;
+  MVRNSErrorFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "nothing opened the link %@", link);
 }

@@ -55,12 +55,12 @@ class KZPreference final : public KZPluginMgr, public PluginCommandSender {
   void onGetExchonlineToken(const Content& content);
 
   // Notifications.
-  void onGetPreferenceDone(const Dictionary& content);
-  void onCheckForUpdatesDone(const Dictionary& content);
-  void onRefreshPreferenceDone(const Dictionary& content);
-  void onResolveExchangeDone(const Dictionary& content);
-  void onO365LoginRequesting(const Dictionary& content);
-  void onExchangeResolvingNeedCredential(const Dictionary& content);
+  void onGetPreferenceDone(const Content& content);
+  void onCheckForUpdatesDone(const Content& content);
+  void onRefreshPreferenceDone(const Content& content);
+  void onResolveExchangeDone(const Content& content);
+  void onO365LoginRequesting(const Content& content);
+  void onExchangeResolvingNeedCredential(const Content& content);
 
   enum class UpdateCheck { ByUser, Automatic };
   void checkForUpdates(UpdateCheck kind, const char* method, const QString& actionFrom);

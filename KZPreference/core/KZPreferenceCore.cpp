@@ -38,7 +38,7 @@ quint64 KZPreferenceCore::sendPluginCommand(quint64 command, const Content& cont
 }
 
 quint64 KZPreferenceCore::onHandleServicesNotification(const KZEventIdentify& event, const Content& content) {
-  return m_pluginMgr->onHandleServicesNotification(event, content);
+  return m_pluginMgr ? m_pluginMgr->onHandleServicesNotification(event, content) : 0;
 }
 
 void KZPreferenceCore::setPMRJoinUrl(const QString& joinUrl, const QString& sipUrl) {

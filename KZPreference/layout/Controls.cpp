@@ -1,7 +1,9 @@
 #include "KZPreference/layout/Controls.h"
 
 #include "KZPreference/layout/PrefsViewDefine.h"
+#include "platform/Accessible.h"
 #include "platform/FrameLayout.h"
+#include "platform/SecretText.h"
 
 namespace {
 
@@ -24,8 +26,9 @@ StaticText* addLabel(QWidget* view, const char* name, const Frame& frame, const 
 
 StaticText* addTitle(QWidget* view, const char* name, const Frame& frame, const QString& text,
                      Qt::Alignment alignment) {
-  return addNamed(view, name, frame,
-                  new StaticText(text, FontRole::BoldSystem, boldLabelFontSize, alignment));
+  auto* title = new StaticText(text, FontRole::BoldSystem, boldLabelFontSize, alignment);
+  setAccessibleRole(title, QAccessible::Heading);
+  return addNamed(view, name, frame, title);
 }
 
 QCheckBox* addCheckbox(QWidget* view, const char* name, const Frame& frame, const QString& title) {
@@ -54,6 +57,7 @@ QLineEdit* addTextField(QWidget* view, const char* name, const Frame& frame, Ech
   field->setFont(fontFor(FontRole::System, labelFontSize));
   field->setMaxLength(kFieldCharacters);
   if (echo == Echo::Secret) {
+    maskSecretText();
     field->setEchoMode(QLineEdit::Password);
     field->setInputMethodHints(Qt::ImhHiddenText | Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase);
   }

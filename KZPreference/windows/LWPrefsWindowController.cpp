@@ -14,6 +14,7 @@
 #include "platform/FrameLayout.h"
 #include "platform/KeyView.h"
 #include "platform/View.h"
+#include "platform/ViewAccessible.h"
 #include "platform/ViewAnimation.h"
 
 namespace {
@@ -50,6 +51,7 @@ void LWPrefsWindowController::destroyPrefsWindowController() {
 }
 
 void LWPrefsWindowController::initWindow() {
+  ViewAccessible::install();
   auto* window = new Window;
   setWindow(window);
   window->setWindowTitle(localizedString("Preferences"));

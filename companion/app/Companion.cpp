@@ -60,7 +60,7 @@ CompanionServices::Settings serviceSettings(const CompanionOptions& options,
 }  // namespace
 
 Companion::Companion(const CompanionOptions& options)
-    : m_host([](const QUrl& url) { return QDesktopServices::openUrl(url); }),
+    : m_host([](const QUrl& url) { return !url.isRelative() && QDesktopServices::openUrl(url); }),
       m_logging(m_host.addObserver([this](const PluginEvent& event, PluginHost::Phase phase) {
         if (phase == PluginHost::Phase::Begin) m_log.record(event);
       })),

@@ -75,6 +75,7 @@ void Session::print(const PluginEvent& event) const {
 
 bool Session::play(QIODevice* script) {
   for (int number = 1;; ++number) {
+    if (m_options.awaitLine) m_options.awaitLine();
     const QByteArray line = readLine(script);
     if (line.isEmpty()) return true;
     const bool isTooLong = line.size() > kLongestLine;

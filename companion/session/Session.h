@@ -17,6 +17,7 @@ class Session final {
     bool isPrintingTrace = false;
     bool isPrintingWrites = false;
     std::function<void(const Line&)> print = printLine;  // on the thread of the event
+    std::function<void()> awaitLine = {};                // called before each line is read
   };
 
   // The host is not owned. Its plug-in is loaded before anything is played; events of the loading are

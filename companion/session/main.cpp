@@ -1,7 +1,9 @@
 #include <QBuffer>
 #include <QCommandLineParser>
+#include <QEventLoop>
 #include <QFile>
 #include <QJsonObject>
+#include <QSocketNotifier>
 #include <QTemporaryDir>
 #include <cstdio>
 #include <optional>
@@ -35,6 +37,7 @@ void addOptions(QCommandLineParser* options) {
       {{"state", "Where the settings store lives; left out, a fresh folder.", "DIR"},
        {"keychain", "Where secrets are kept: memory (the default) or system.", "KIND", "memory"},
        {"trace", "Print trace lines too."},
+       {"live", "Handle events while waiting for the next line of standard input."},
        {"writes", "Print what is written into the settings store and the keychain."},
        {"record", "Write what is played and what comes out as a record.", "RECORD"},
        {"check", "Compare what comes out with what the script, a record, says came out."},
@@ -62,6 +65,14 @@ struct Record {
   }
 };
 
+// Handles events until standard input can be read or is at its end.
+void runUntilInput() {
+  QEventLoop loop;
+  QSocketNotifier input(fileno(stdin), QSocketNotifier::Read);
+  QObject::connect(&input, &QSocketNotifier::activated, &loop, &QEventLoop::quit);
+  loop.exec();
+}
+
 bool openScript(const QString& path, QFile* script) {
   if (path == "-") return script->open(stdin, QIODevice::ReadOnly);
   script->setFileName(path);
@@ -72,8 +83,14 @@ bool openScript(const QString& path, QFile* script) {
 // nor recorded.
 int playScript(const QCommandLineParser& options, QIODevice* script, Record* record) {
   PluginHost host;
-  Session session(&host,
-                  {.isPrintingTrace = options.isSet("trace"), .isPrintingWrites = options.isSet("writes")});
+  Session::Options sessionOptions{.isPrintingTrace = options.isSet("trace"),
+                                  .isPrintingWrites = options.isSet("writes")};
+  if (options.isSet("live")) {
+    // What was read ahead could not be waited for.
+    std::setvbuf(stdin, nullptr, _IONBF, 0);
+    sessionOptions.awaitLine = runUntilInput;
+  }
+  Session session(&host, sessionOptions);
   std::optional<Recorder> recorder;
   if (record->isWanted()) {
     recorder.emplace(

@@ -1,7 +1,9 @@
 #include "host/KZUIExtension/BRNHyperlinkTextField.h"
 
+#include <QFontMetricsF>
 #include <QKeyEvent>
 #include <QPainter>
+#include <cmath>
 
 namespace {
 
@@ -59,7 +61,7 @@ void BRNHyperlinkTextField::paintEvent(QPaintEvent*) {
     QColor tint = palette().color(QPalette::Highlight);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(tint, 1.5));
-    tint.setAlphaF(0.14F);
+    tint.setAlphaF(0.08F);
     painter.setBrush(tint);
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.75, 0.75, -0.75, -0.75), kFocusRadius, kFocusRadius);
     painter.setRenderHint(QPainter::Antialiasing, false);
@@ -67,12 +69,16 @@ void BRNHyperlinkTextField::paintEvent(QPaintEvent*) {
 
   const QColor color = currentColor();
   const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, width());
+  // On one line with labels of the same height: a fallback font does not move the line.
+  const QFontMetricsF metrics(font());
+  const double baseline = std::round((height() - metrics.height()) / 2 + metrics.ascent());
+  const double length = metrics.horizontalAdvance(shown);
+  const double left = isRightToLeft() ? width() - length : 0;
   painter.setPen(color);
-  painter.drawText(rect(), int(Qt::AlignLeft | Qt::AlignVCenter) | Qt::TextSingleLine, shown);
+  painter.drawText(QPointF(left, baseline), shown);
   if (m_underlineStyle == 0 || isFocused) return;
   // Below the descenders, so that the line never strikes through them.
-  const int baseline = (height() - fontMetrics().height()) / 2 + fontMetrics().ascent();
   const int thickness = isDown() || underMouse() ? 2 : 1;
-  const int top = qMin(baseline + 2, height() - thickness);
-  painter.fillRect(0, top, fontMetrics().horizontalAdvance(shown), thickness, color);
+  const double top = qMin(baseline + 2, double(height() - thickness));
+  painter.fillRect(QRectF(left, top, length, thickness), color);
 }

@@ -78,18 +78,17 @@ class KZImageEngine final : public QIconEngine {
 
   void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
     const qreal scale = painter->device() ? painter->device()->devicePixelRatio() : 1;
-    drawPicture(painter, rect, picture(paletteOfDevice(*painter), state, scale), mode);
+    drawPicture(painter, rect, picture(paletteOfDevice(*painter), state, rect.width() * scale), mode);
   }
 
+  // The size is in pixels, also for a dense screen: Qt's own scaledPixmap, which asks with its scale, ends
+  // here.
   QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-    return scaledPixmap(size, mode, state, 1);
-  }
-
-  QPixmap scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State state, qreal scale) override {
     QPixmap result(size);
     result.fill(Qt::transparent);
     QPainter painter(&result);
-    drawPicture(&painter, QRect(QPoint(), size), picture(QGuiApplication::palette(), state, scale), mode);
+    drawPicture(&painter, QRect(QPoint(), size), picture(QGuiApplication::palette(), state, size.width()),
+                mode);
     return result;
   }
 
@@ -97,8 +96,8 @@ class KZImageEngine final : public QIconEngine {
   QIconEngine* clone() const override { return new KZImageEngine(m_pictures); }
 
  private:
-  QImage picture(const QPalette& palette, QIcon::State state, qreal scale) const {
-    const bool isDetailed = scale > 1 && !m_pictures->light2x.isNull();
+  QImage picture(const QPalette& palette, QIcon::State state, qreal drawnPixels) const {
+    const bool isDetailed = drawnPixels > m_pictures->light.width() && !m_pictures->light2x.isNull();
     const QImage& light = isDetailed ? m_pictures->light2x : m_pictures->light;
     if (state == QIcon::On || isHighContrastWindow(palette)) {
       const QPalette::ColorRole ink = state == QIcon::On ? QPalette::Highlight : QPalette::WindowText;

@@ -9,9 +9,7 @@ const QString kEnglish = QStringLiteral("en");
 QString tableLanguage(const QString& wanted) {
   const QLocale locale(wanted);
   if (locale.language() != QLocale::Chinese) return QLocale::languageToCode(locale.language());
-  // "zh" alone stands also behind "zh-TW", as its more general form.
-  const bool isSimplified = wanted != "zh" && locale.script() == QLocale::SimplifiedHanScript;
-  return isSimplified ? QStringLiteral("zh_CN") : QString();
+  return locale.script() == QLocale::SimplifiedHanScript ? QStringLiteral("zh_CN") : QString();
 }
 
 }  // namespace
@@ -46,5 +44,5 @@ void KZStringTable::follow() {
     available.append(file.sliced(m_name.size() + 1).chopped(3));
   m_language = choose(locale.uiLanguages(), available);
   // Without a file, as for English, the translator is empty.
-  (void)m_translator.load(m_name + '_' + m_language + ".qm", m_folder, QString(), QString());
+  (void)m_translator.load(m_name + QLatin1Char('_') + m_language, m_folder);
 }

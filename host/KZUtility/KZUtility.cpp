@@ -132,6 +132,7 @@ KZWorkspace& KZWorkspace::sharedWorkspace() {
 }
 
 bool KZWorkspace::openURL(const QUrl& url) {
-  if (!url.isValid() || url.isRelative()) return false;
-  return m_opener ? m_opener(url) : QDesktopServices::openUrl(url);
+  if (!url.isValid()) return false;
+  // The desktop would take an address without a scheme for the path of a file.
+  return m_opener ? m_opener(url) : !url.isRelative() && QDesktopServices::openUrl(url);
 }

@@ -12,7 +12,8 @@ class KZ_HOST_EXPORT KZWorkspace {
 
   static KZWorkspace& sharedWorkspace();
 
-  // False when nothing opened it. An invalid address, or one without a scheme, is refused.
+  // False when nothing opened it. An invalid address is refused, and the desktop's own opener refuses one
+  // without a scheme.
   bool openURL(const QUrl& url);
 
   // Sets the function that opens addresses; an empty function restores the desktop's own opener.

@@ -6,6 +6,18 @@ namespace {
 
 constexpr qsizetype kLargestXml = 1024 * 1024;
 constexpr qsizetype kDeepestXml = 256;
+constexpr qsizetype kLongestXmlProlog = 16 * 1024;  // Qt's time for a document type grows with its square
+
+// Without its declarations no entity is expanded. Null when the prolog is too long.
+QString withoutDocumentType(const QString& xml) {
+  QXmlStreamReader prolog(xml.left(kLongestXmlProlog));
+  while (!prolog.atEnd()) {
+    const QXmlStreamReader::TokenType token = prolog.readNext();
+    if (token == QXmlStreamReader::DTD) return xml.sliced(prolog.characterOffset());
+    if (token == QXmlStreamReader::StartElement) return xml;
+  }
+  return {};
+}
 
 }  // namespace
 
@@ -17,7 +29,7 @@ QString KZXmlDocument::firstText(const QString& xml, const QString& first, const
   int firsts = 0;        // children of the root with that name
   QString text = QStringLiteral("");
 
-  QXmlStreamReader reader(xml);
+  QXmlStreamReader reader(withoutDocumentType(xml));
   while (!reader.atEnd()) {
     switch (reader.readNext()) {
       case QXmlStreamReader::DTD:

@@ -41,17 +41,18 @@ TEST(KZUtility, ForgetsAMissingMemoryValue) {
   EXPECT_FALSE(utility.getKZMemCacheData("key").isValid());
 }
 
-TEST(KZWorkspace, OpensOnlyAddressesWithAScheme) {
+TEST(KZWorkspace, AsksTheOpenerAboutEveryValidAddress) {
   QList<QUrl> opened;
   KZWorkspace& workspace = KZWorkspace::sharedWorkspace();
   workspace.setOpener([&](const QUrl& url) {
     opened.append(url);
-    return true;
+    return !url.isRelative();
   });
-  for (const char* refused : {"", "www.example.com", "/etc/passwd", "http://[bad", "//example.com"}) {
+  for (const char* refused : {"", "http://[bad", "www.example.com"}) {
     EXPECT_FALSE(workspace.openURL(QUrl(refused))) << refused;
   }
   EXPECT_TRUE(workspace.openURL(QUrl("https://example.com/a")));
-  EXPECT_EQ(opened, QList<QUrl>{QUrl("https://example.com/a")});
+  EXPECT_EQ(opened, (QList<QUrl>{QUrl("www.example.com"), QUrl("https://example.com/a")}));
   workspace.setOpener({});
+  EXPECT_FALSE(workspace.openURL(QUrl("/etc/passwd")));
 }

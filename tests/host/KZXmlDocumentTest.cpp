@@ -19,6 +19,9 @@ TEST(KZXmlDocument, FindsTheFirstTextBelowTheFirstNamedChild) {
       {"<r><M><I/><I><K>second</K></I></M></r>", "second"},
       {"<r><x><M><I><K>deep</K></I></M></x><M><I><K>child</K></I></M></r>", "child"},
       {"<r><M><I><K/></I></M></r>", ""},
+      {"<?xml version='1.0'?>\n<!DOCTYPE r SYSTEM 'file:///etc/passwd'>\n<r><M><I><K>1</K></I></M></r>", "1"},
+      {"<!DOCTYPE r [<!ENTITY e 'x>'><!-- ]> --><!ATTLIST r a CDATA 'd'>]><r><M><I><K>&amp;</K></I></M></r>",
+       "&"},
   };
   for (const auto& [xml, text] : rows) {
     EXPECT_FALSE(key(xml).isNull()) << xml;
@@ -41,9 +44,11 @@ TEST(KZXmlDocument, AnswersNothingForWhatIsNotThereMalformedOrHostile) {
       found + found,
       found.chopped(1),
       "<r><M><I><K>1</K></I></M><open></r>",
-      "<!DOCTYPE r>" + found,
+      "<!DOCTYPE r><!DOCTYPE r>" + found,
+      "<!DOCTYPE r [<!ELEMENT r ANY>" + found,
+      "<!DOCTYPE r [" + QString(16 * 1024, ' ') + "]>" + found,
+      "<!DOCTYPE r [<!ENTITY e 'x'>]><r a='&e;'><M><I><K>1</K></I></M></r>",
       "<!DOCTYPE r [<!ENTITY e 'x'>]><r><M><I><K>&e;</K></I></M></r>",
-      "<!DOCTYPE r SYSTEM 'file:///etc/passwd'>" + found,
       "<r><M><I><K>&nbsp;</K></I></M></r>",
       "<r><M><I><K>1" + QString(QChar(0xD800)) + "</K></I></M></r>",
       "<r><M><I><K>1" + QString(QChar(1)) + "</K></I></M></r>",

@@ -19,6 +19,10 @@ void note(QAccessibleEvent* event) {
 #endif
   if (event->type() == QAccessible::TextInserted)
     s_typed.append(static_cast<QAccessibleTextInsertEvent*>(event)->textInserted());
+  if (event->type() == QAccessible::TextRemoved)
+    s_typed.append(u'-' + static_cast<QAccessibleTextRemoveEvent*>(event)->textRemoved());
+  if (event->type() == QAccessible::TextUpdated)
+    s_typed.append(u'=' + static_cast<QAccessibleTextUpdateEvent*>(event)->textInserted());
   if (event->type() != QAccessible::ObjectShow) return;
   const QAccessibleInterface* shown = event->accessibleInterface();
   if (shown && shown->role() == QAccessible::Notification) s_announced.append(shown->text(QAccessible::Name));

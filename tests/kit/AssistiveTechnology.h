@@ -11,7 +11,7 @@ class AssistiveTechnology {
   ~AssistiveTechnology();
 
   QStringList takeAnnounced();
-  QString takeTyped();  // what it was told of inserted texts
+  QString takeTyped();  // inserted texts, removed ones after "-", replaced ones after "="
 };
 
 }  // namespace kit

@@ -30,6 +30,10 @@ class TextEngine final : public QPaintEngine {
     const QPointF at = m_transform.map(place);
     const QRectF ink = QFontMetricsF(item.font()).tightBoundingRect(text).translated(at);
     const QRectF clip = systemClip().isEmpty() ? m_area : QRectF(systemClip().boundingRect());
+    // A selected text is painted over the same text.
+    if (!m_texts.isEmpty() && m_texts.last().left == at.x() && m_texts.last().baseline == at.y()) {
+      m_texts.removeLast();
+    }
     // A text in several fonts comes in parts.
     if (!m_texts.isEmpty() && m_texts.last().clip == clip && m_texts.last().baseline == at.y() &&
         qAbs(m_texts.last().right - at.x()) < 1) {

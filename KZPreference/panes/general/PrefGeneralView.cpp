@@ -44,24 +44,16 @@ void PrefGeneralView::onOutlookIntegratingButton() {
 }
 
 void PrefGeneralView::showWarningView() {
-  if (!m_warningView) addWarningView();
+  if (!m_warningView) {
+    m_warningView = new MarigoldWarningView;
+    m_warningView->setObjectName(QStringLiteral("m_warningView"));
+    m_warningView->setIsInfo(true);
+    m_warningView->setWarningText(
+        getLocalizedString("Your setting changes will take effect after you restart Microsoft Outlook."));
+    addSubview(this, m_warningView, {});  // it takes its size from its text
+  }
   m_warningView->setVisible(true);
   Frame windowFrame = frameOf(window());
   windowFrame.height += m_warningView->height();
   setFrame(window(), windowFrame);
-}
-
-void PrefGeneralView::addWarningView() {
-  m_warningView = new MarigoldWarningView;
-  m_warningView->setObjectName(QStringLiteral("m_warningView"));
-  m_warningView->setIsInfo(true);
-  m_warningView->setWarningText(
-      getLocalizedString("Your setting changes will take effect after you restart Microsoft Outlook."));
-  // The pane grows downwards by the notice's height, so that the notice is above the check boxes.
-  Frame pane = frameOf(this);
-  const double height = m_warningView->heightForWidth(int(pane.width));
-  addSubview(this, m_warningView, {0, pane.height, pane.width, height});
-  pane.y -= height;
-  pane.height += height;
-  setFrame(this, pane);
 }

@@ -20,7 +20,6 @@ class PrefGeneralView final : public StartAtLoginView, public PrefGeneralViewVis
   void initOutlookIntegratingState();
   void initOutlookIntegratingCheckbox();
   void onOutlookIntegratingButton();
-  void addWarningView();
   Frame rectCheckStartingButton() const;
   Frame rectOutlookIntegrationButton() const;
 

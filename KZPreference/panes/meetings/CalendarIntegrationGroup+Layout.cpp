@@ -8,6 +8,7 @@
 #include "KZPreference/panes/meetings/CalendarIntegrationGroup.h"
 #include "KZPreference/panes/meetings/PrefMeetingView+Visible.h"
 #include "host/KZUIExtension/FlatImageButton.h"
+#include "platform/Accessible.h"
 #include "platform/FrameLayout.h"
 #include "platform/KeyView.h"
 #include "platform/Spinner.h"
@@ -41,6 +42,8 @@ void CalendarIntegrationGroup::initControls() {
 
 void CalendarIntegrationGroup::initIntegratinLabel() {
   const QString title = PrefMeetingViewVisible::calendarIntegrationLabel();
+  setAccessibleName(title);
+  setAccessibleRole(this, QAccessible::Grouping);
   const Size size = titleTextSize(title);
   m_integrationTxt =
       addTitle(this, "m_integrationTxt",

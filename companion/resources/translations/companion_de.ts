@@ -61,11 +61,11 @@
     </message>
     <message>
         <source>%1 is an Office 365 account.</source>
-        <translation>%1 ist ein Office 365-Konto.</translation>
+        <translation>%1 ist ein Office-365-Konto.</translation>
     </message>
     <message>
         <source>%1 is outside the sandbox and was not asked. Use an account or a site of the page Try out, or start the companion with --network.</source>
-        <translation>%1 liegt außerhalb der Sandbox und wurde nicht gefragt. Verwenden Sie ein Konto oder eine Site der Seite „Ausprobieren“ oder starten Sie den Companion mit --network.</translation>
+        <translation>%1 liegt außerhalb der Sandbox und wurde nicht abgefragt. Verwenden Sie ein Konto oder eine Site der Seite „Ausprobieren“ oder starten Sie den Companion mit --network.</translation>
     </message>
     <message>
         <source>%1 keeps leading to other addresses. Tell your administrator.</source>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>Asking %1.</source>
-        <translation>%1 wird gefragt.</translation>
+        <translation>%1 wird abgefragt.</translation>
     </message>
     <message>
         <source>Brenn Mivra Meetings does not start after login any more.</source>
@@ -497,7 +497,7 @@
     </message>
     <message>
         <source>Meeting sites and Exchange are played by a sandbox on this computer.</source>
-        <translation>Sites und Exchange spielt eine Sandbox auf diesem Computer.</translation>
+        <translation>Sites und Exchange simuliert eine Sandbox auf diesem Computer.</translation>
     </message>
     <message>
         <source>Records (*.jsonl)</source>
@@ -685,7 +685,7 @@
     </message>
     <message>
         <source>The sandbox plays nothing: the openssl program may be missing.</source>
-        <translation>Die Sandbox spielt nichts: Vielleicht fehlt das Programm openssl.</translation>
+        <translation>Die Sandbox simuliert nichts: Vielleicht fehlt das Programm openssl.</translation>
     </message>
     <message>
         <source>&amp;Change</source>
@@ -709,7 +709,7 @@
     </message>
     <message>
         <source>Asking the site.</source>
-        <translation>Die Site wird gefragt.</translation>
+        <translation>Die Site wird abgefragt.</translation>
     </message>
     <message>
         <source>Nothing is written, and nothing is kept.</source>
@@ -773,7 +773,7 @@
     </message>
     <message>
         <source>All of these are played by a sandbox on this computer. Copy an address, open Preferences, choose Microsoft Outlook in Meetings, paste it and press Return.</source>
-        <translation>All dies spielt eine Sandbox auf diesem Computer. Kopieren Sie eine Adresse, öffnen Sie die Einstellungen, wählen Sie unter „Besprechungen“ Microsoft Outlook, fügen Sie sie ein und drücken Sie die Eingabetaste.</translation>
+        <translation>All dies simuliert eine Sandbox auf diesem Computer. Kopieren Sie eine Adresse, öffnen Sie die Einstellungen, wählen Sie unter „Besprechungen“ Microsoft Outlook, fügen Sie sie ein und drücken Sie die Eingabetaste.</translation>
     </message>
     <message>
         <source>Sites to try</source>

@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>%1 says: "%2" Check the address, or ask your administrator.</source>
-        <translation>%1 からのメッセージ：「%2」アドレスを確認するか、管理者に問い合わせてください。</translation>
+        <translation>%1 からのメッセージ：「%2」。アドレスを確認するか、管理者に問い合わせてください。</translation>
     </message>
     <message>
         <source>%1 was not found. Check its name and your network connection.</source>
@@ -473,7 +473,7 @@
     </message>
     <message>
         <source>Record to</source>
-        <translation>記録先</translation>
+        <translation>記録の保存先</translation>
     </message>
     <message>
         <source>Telemetr&amp;y</source>

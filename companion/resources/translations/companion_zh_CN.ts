@@ -93,7 +93,7 @@
     </message>
     <message>
         <source>%1 says: "%2" Check the address, or ask your administrator.</source>
-        <translation>%1 返回消息：“%2”请检查地址或咨询管理员。</translation>
+        <translation>%1 返回消息：“%2”。请检查地址或咨询管理员。</translation>
     </message>
     <message>
         <source>%1 was not found. Check its name and your network connection.</source>
@@ -357,11 +357,11 @@
     </message>
     <message>
         <source>The sign-in of %1 could not be renewed. Detect the account again to sign in.</source>
-        <translation>无法续订 %1 的登录。请重新查找账户以登录。</translation>
+        <translation>无法更新 %1 的登录状态。请重新查找账户以登录。</translation>
     </message>
     <message>
         <source>The sign-in of %1 was not renewed in time. Refresh, or detect the account again.</source>
-        <translation>%1 的登录未及时续订。请刷新，或重新查找账户。</translation>
+        <translation>%1 的登录状态未及时更新。请刷新，或重新查找账户。</translation>
     </message>
     <message>
         <source>The site has changed meanwhile. Check for updates again.</source>
@@ -473,7 +473,7 @@
     </message>
     <message>
         <source>Record to</source>
-        <translation>录制到</translation>
+        <translation>保存录制文件</translation>
     </message>
     <message>
         <source>Telemetr&amp;y</source>

@@ -2,8 +2,10 @@
 #include <QCheckBox>
 #include <QTest>
 
+#include "KZPreference/core/KZPreferenceCore.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
+#include "host/KZUtility/KZTrace.h"
 #include "platform/WindowController.h"
 #include "tests/KZPreference/core/RecordingHost.h"
 
@@ -92,6 +94,17 @@ TEST_F(LifecycleTest, DefaultsLeaveAStoreAloneThatHasMinutes) {
   command(1);
   EXPECT_EQ(store.meetingNotification(), (Dictionary{{kKZMeetintNotificationToastMinutes, 5}}));
   EXPECT_EQ(store.videoDevice(), (Dictionary{{"other", "kept"}, {kKZVideoDeviceAutodetect, true}}));
+}
+
+TEST_F(LifecycleTest, WhatArrivesDuringTheShutDownIsDropped) {
+  setKZTraceSink([this](const KZTraceRecord& record) {
+    if (record.method != "KZPreference::~KZPreference") return;
+    command(2);
+    notify(15, std::nullopt);
+  });
+  KZPreferenceCore::shutDown();
+  setKZTraceSink({});
+  EXPECT_EQ(window(), nullptr);
 }
 
 TEST_F(LifecycleTest, ATokenRequestWithoutATokenIsEchoed) {

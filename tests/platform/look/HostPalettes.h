@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QPalette>
+#include <algorithm>
+#include <cmath>
 
 #include "platform/Look.h"
 
@@ -27,4 +29,17 @@ inline constexpr LookScheme allSchemes[] = {LookScheme::Light, LookScheme::Dark,
 inline const char* schemeName(LookScheme scheme) {
   constexpr const char* names[] = {"light", "dark", "contrast-light", "contrast-dark"};
   return names[int(scheme)];
+}
+
+inline double luminance(const QColor& color) {
+  const auto linear = [](double part) {
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+// From 1 to 21.
+inline double contrast(const QColor& left, const QColor& right) {
+  const auto [low, high] = std::minmax({luminance(left), luminance(right)});
+  return (high + 0.05) / (low + 0.05);
 }

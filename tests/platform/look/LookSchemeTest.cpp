@@ -1,24 +1,9 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cmath>
-
 #include "platform/Look.h"
 #include "tests/platform/look/HostPalettes.h"
 
 namespace {
-
-double luminance(const QColor& color) {
-  const auto linear = [](double part) {
-    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-  };
-  return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
-
-double contrast(const QColor& left, const QColor& right) {
-  const auto [low, high] = std::minmax({luminance(left), luminance(right)});
-  return (high + 0.05) / (low + 0.05);
-}
 
 TEST(LookScheme, TextsAreLegibleInEveryScheme) {
   for (const LookScheme scheme : allSchemes) {

@@ -82,7 +82,12 @@ TEST_P(CalendarKeyboard, TheWholeExchangeFlowNeedsNoMouse) {
   EXPECT_EQ(focused(), "m_usernameInputTxt");
   keys("ann");
   EXPECT_EQ(tabTo("m_passwordInputTxt"), QStringList("m_passwordInputTxt"));
-  keys("pw");
+  {
+    kit::AssistiveTechnology reader;
+    keys("pww");
+    key(Qt::Key_Backspace);
+    EXPECT_EQ(reader.takeTyped(), QStringLiteral("•••-•"));
+  }
   EXPECT_EQ(tabTo("m_detectBtn"), QStringList({"m_applyBtn", "m_detectBtn"}));
   key(Qt::Key_Tab, Qt::ShiftModifier);
   key(Qt::Key_Space);
@@ -130,7 +135,8 @@ TEST_P(CalendarKeyboard, EveryControlHasARoleAndAName) {
       {"m_passwordInputTxt", QAccessible::EditableText, "Password"},
       {"m_detectBtn", QAccessible::Button, "Look up account"},
       {"m_applyBtn", QAccessible::Button, "Apply"},
-      {"m_integrationTxt", QAccessible::StaticText, "Calendar integration"},
+      {"m_integrationTxt", QAccessible::Heading, "Calendar integration"},
+      {"m_integrationView", QAccessible::Grouping, "Calendar integration"},
   };
   for (const auto& tried : cases) {
     QAccessibleInterface* spoken =

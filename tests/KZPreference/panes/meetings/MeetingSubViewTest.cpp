@@ -10,7 +10,9 @@
 #include "host/KZUIExtension/BRNHyperlinkTextField.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 #include "platform/FrameLayout.h"
+#include "platform/ViewAccessible.h"
 #include "tests/KZPreference/core/RecordingHost.h"
+#include "tests/kit/AssistiveTechnology.h"
 
 namespace {
 
@@ -20,6 +22,7 @@ const QString kVideo = QStringLiteral("ann@brenn.example");
 class MeetingSubViewTest : public RecordingHost {
  protected:
   MeetingSubViewTest() {
+    ViewAccessible::install();
     holder.resize(800, 200);
     view = new MeetingSubView({.x = 0, .y = 0, .width = 600, .height = 72}, &delegate);
     addSubview(&holder, view, frameOf(view));
@@ -70,6 +73,21 @@ TEST_F(MeetingSubViewTest, AddressesAndTheirLinksAreWhereTheyShouldBe) {
   EXPECT_EQ(drawn().size(), 4);
 }
 
+TEST_F(MeetingSubViewTest, AssistiveTechnologyReadsByRows) {
+  view->setPMRUrl(kRoom, kVideo);
+  QAccessibleInterface* group = QAccessible::queryAccessibleInterface(view);
+  QStringList names;
+  for (int i = 0; i < group->childCount(); ++i) {
+    const QAccessibleInterface* child = group->child(i);
+    names.append(child->text(QAccessible::Name));
+    EXPECT_EQ(group->indexOfChild(child), i);
+    EXPECT_TRUE(view->rect().translated(view->mapToGlobal(QPoint())).intersects(child->rect())) << i;
+  }
+  EXPECT_EQ(names, QStringList({"Meetings", "Edit", "Personal Room:", kRoom, "Copy personal room",
+                                "Video address:", kVideo, "Copy video address"}));
+  EXPECT_EQ(group->child(0)->role(), QAccessible::Heading);
+}
+
 TEST_F(MeetingSubViewTest, TheGroupsSizeFollowsTheStoredAddresses) {
   const QString copy = QStringLiteral("Copy");
   const double fixed = 32 + labelTextWidth(copy) + 60 + 4 + 4;
@@ -111,6 +129,7 @@ TEST_F(MeetingSubViewTest, CopyPutsTheAddressOnTheClipboardAndShowsCopiedForASec
   BRNHyperlinkTextField& room = link("m_copyPmrurlBtn");
   BRNHyperlinkTextField& video = link("m_copySipurlBtn");
   const Frame before = frameOf(&room);
+  kit::AssistiveTechnology reader;
   QTest::mouseClick(&room, Qt::LeftButton);
   EXPECT_EQ(QGuiApplication::clipboard()->text(), kRoom);
   EXPECT_EQ(room.stringValue(), "Copied");
@@ -127,6 +146,7 @@ TEST_F(MeetingSubViewTest, CopyPutsTheAddressOnTheClipboardAndShowsCopiedForASec
   EXPECT_EQ(QGuiApplication::clipboard()->text(), kRoom);
   EXPECT_TRUE(kit::waitUntil([&] { return room.stringValue() + video.stringValue() == "CopyCopy"; }, 1500));
   EXPECT_EQ(frameOf(&room).width, copiedWidth);
+  EXPECT_EQ(reader.takeAnnounced(), QStringList({"Copied", "Copied", "Copied"}));
 }
 
 // The group's frame can be too narrow for its link, but the pane is wide enough.
