@@ -9,6 +9,7 @@
 
 #include "companion/app/Rows.h"
 #include "companion/network/WebAddress.h"
+#include "companion/runtime/FlowLayout.h"
 #include "companion/services/SiteService.h"
 #include "companion/texts/CompanionText.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
@@ -21,25 +22,27 @@ SiteDialog::SiteDialog(SiteService* service, QWidget* parent)
       m_text(new QLabel) {
   setAttribute(Qt::WA_DeleteOnClose);
   setWindowTitle(companionText("Change site"));
-  setMinimumWidth(480);
+  constexpr int kLeastWidth = 480;
+  constexpr int kLeastCharacters = 45;
+  setMinimumWidth(std::max(kLeastWidth, kLeastCharacters * fontMetrics().averageCharWidth()));
   m_site->selectAll();
   auto* label = new QLabel(companionText("&Site of your meeting service:"));
   label->setBuddy(m_site);
   m_text->setObjectName(QStringLiteral("siteText"));
   m_text->setTextFormat(Qt::PlainText);
   m_text->setWordWrap(true);
+  m_text->setMinimumHeight(2 * fontMetrics().lineSpacing());
   m_text->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   auto* column = new QVBoxLayout(this);
   column->setSpacing(10);
   column->addWidget(label);
   column->addWidget(m_site);
-  column->addWidget(m_text);
+  column->addWidget(m_text, 1);
   column->addWidget(createButtons());
   m_change->setDefault(true);  // known to the dialog only now
   connect(new QShortcut(Qt::CTRL | Qt::Key_W, this), &QShortcut::activated, this, &QDialog::reject);
   connect(m_site, &QLineEdit::textChanged, this, &SiteDialog::forgetFailure);
   m_site->setFocus();
-  say({});
 }
 
 SiteDialog::~SiteDialog() {
@@ -53,12 +56,11 @@ void SiteDialog::done(int result) {
 
 QWidget* SiteDialog::createButtons() {
   auto* bar = new QWidget;
-  QHBoxLayout* row = addRow(bar, 8);
+  auto* row = new FlowLayout(bar, 8, 8);
   auto* keep = new QPushButton(companionText("&Keep the old site"));
   m_useAnyway = new QPushButton(companionText("&Use it anyway"));
   m_change = new QPushButton(companionText("&Change"));
   m_useAnyway->hide();
-  row->addStretch(1);
   row->addWidget(keep);
   row->addWidget(m_useAnyway);
   row->addWidget(m_change);
@@ -91,18 +93,21 @@ void SiteDialog::askChosen() {
 }
 
 void SiteDialog::say(const QString& text) {
-  constexpr int kUsualLines = 2;
-  m_text->setText(text);
-  // A dialog does not grow by itself for a text of more lines.
-  m_text->setMinimumHeight(
-      std::max(kUsualLines * fontMetrics().lineSpacing(), m_text->heightForWidth(m_text->width())));
+  QString shown = text;
+  // A long name wraps at its dots.
+  if (fontMetrics().horizontalAdvance(site()) > m_text->width())
+    shown.replace(u'.', QStringLiteral(".\u200b"));
+  m_text->setText(shown);
+  // A dialog does not grow by itself for a text or buttons of more lines.
+  layout()->activate();
+  resize(width(), std::max(height(), layout()->totalHeightForWidth(width())));
   announce(m_text, text);
 }
 
 void SiteDialog::showFailure(const QString& reason) {
   m_change->setEnabled(true);
-  say(reason);
   m_useAnyway->setVisible(!siteAddress(site()).isEmpty());
+  say(reason);
 }
 
 void SiteDialog::forgetFailure() {

@@ -6,7 +6,6 @@
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QGuiApplication>
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -162,10 +161,8 @@ QWidget* InspectorView::createBoxes() {
 
 QWidget* InspectorView::createBar() {
   auto* bar = new QWidget;
-  auto* row = new QHBoxLayout(bar);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(8);
-  constexpr int kFieldRoom = 40;
+  auto* row = new FlowLayout(bar, 8, 6);
+  constexpr int kFieldRoom = 120;
   auto* text = new QLineEdit;
   text->setPlaceholderText(companionText("Filter by name or content"));
   text->setAccessibleName(companionText("Filter by name or content"));
@@ -174,19 +171,16 @@ QWidget* InspectorView::createBar() {
   connect(text, &QLineEdit::textChanged, m_filter, &InspectorFilter::setText);
   m_pause = createButton(companionText("Paus&e"), companionText("Keeps the list as it is while you read"),
                          this, &InspectorView::togglePause);
-  auto* buttons = new QWidget;
-  auto* places = new FlowLayout(buttons, 8, 6);
-  places->addWidget(m_pause);
-  places->addWidget(createButton(companionText("C&opy"),
-                                 companionText("Copies the selected rows, or all rows that are shown"), this,
-                                 &InspectorView::copy));
-  places->addWidget(createButton(companionText("C&lear"), companionText("Forgets all events"), m_log,
-                                 &InspectorLog::clear));
-  places->addWidget(createButton(companionText("E&xport…"),
-                                 companionText("Writes the events that are shown to a file"), this,
-                                 &InspectorView::askForFile));
-  row->addWidget(text, 1);
-  row->addWidget(buttons);
+  row->addWidget(text);
+  row->addWidget(m_pause);
+  row->addWidget(createButton(companionText("C&opy"),
+                              companionText("Copies the selected rows, or all rows that are shown"), this,
+                              &InspectorView::copy));
+  row->addWidget(createButton(companionText("C&lear"), companionText("Forgets all events"), m_log,
+                              &InspectorLog::clear));
+  row->addWidget(createButton(companionText("E&xport…"),
+                              companionText("Writes the events that are shown to a file"), this,
+                              &InspectorView::askForFile));
   return bar;
 }
 
