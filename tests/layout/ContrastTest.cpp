@@ -134,7 +134,7 @@ class Contrast : public testing::TestWithParam<LookScheme> {
       qsizetype clear = 0;
       for (qsizetype at = 0; at < qMin(before.size(), after.size()); ++at)
         clear += contrast(before[at], after[at]) >= bounds.mark ? 1 : 0;
-      EXPECT_GE(clear, 30 * view.devicePixelRatio())
+      EXPECT_GE(clear, 24 * view.devicePixelRatio())
           << state << ": focus on " << qPrintable(control->objectName());
     }
   }
