@@ -5,6 +5,7 @@
 #include "bench/BenchHost.h"
 #include "bench/FrameWatch.h"
 #include "bench/PlainWindow.h"
+#include "bench/ReducedMotion.h"
 #include "bench/Rounds.h"
 #include "companion/runtime/PluginHost.h"
 #include "companion/runtime/PreferencesWindow.h"
@@ -28,7 +29,7 @@ void trigger(KZCommand command) {
 Window* openPreferences() {
   trigger(KZCommand::KZCmdShowPreference);
   Window* window = findPreferencesWindow();
-  window->controller()->setProperty("crossFade", false);
+  reduceMotion(window);
   return window;
 }
 

@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <QScreen>
 #include <QVariant>
+#include <QWindow>
 #include <cmath>
 #include <optional>
 
@@ -75,19 +76,11 @@ double screenHeight(const QWidget* window) {
   return window->screen()->geometry().bottom() + 1.0;
 }
 
-// A window is moved only when its upper left corner changes, because a window manager may add its
-// decoration's size to every move.
-void setWindowGeometry(QWidget* window, const Frame& frame) {
-  const QPoint corner(qRound(frame.x), qRound(screenHeight(window) - frame.maxY()));
-  const QPoint shift = corner - window->geometry().topLeft();
-  const QSize size = roundedSize(frame);
-  // The user cannot resize a window; a view without a parent must stay resizable.
-  if (qobject_cast<Window*>(window)) {
-    window->setFixedSize(size);
-  } else {
-    window->resize(size);
-  }
-  if (window->isVisible() && !shift.isNull()) window->move(window->pos() + shift);
+// Wayland leaves the place of a window to the compositor.
+bool canMoveItself(const QWidget* window) {
+  const auto* titled = qobject_cast<const Window*>(window);
+  const bool isPlaced = window->isVisible() && (!titled || titled->isOnScreen());
+  return isPlaced && !isOnWayland();
 }
 
 // Places the subviews of one view by their frames.
@@ -191,12 +184,39 @@ void setFrame(QWidget* view, const Frame& frame) {
   placement.frame = frame;
   keep(view, placement);
   if (view->isWindow()) {
-    setWindowGeometry(view, frame);
+    // Moved only when its corner changes, because a window manager may add its decoration's size to every
+    // move.
+    const QPoint corner(qRound(frame.x), qRound(screenHeight(view) - frame.maxY()));
+    const QPoint shift = corner - view->geometry().topLeft();
+    setWindowSize(view, frame.size());
+    if (!shift.isNull() && canMoveItself(view)) view->move(view->pos() + shift);
   } else {
     Placer::setGeometryOf(view, frame);
   }
   // A hidden view gets its resize event only when it is shown.
   if (Placer* placer = Placer::of(view)) placer->place();
+}
+
+void setWindowSize(QWidget* window, const Size& size) {
+  Placement placement = placementOf(window).value_or(Placement());
+  placement.frame.width = size.width;
+  placement.frame.height = size.height;
+  keep(window, placement);
+  // The user cannot resize a window; a view without a parent must stay resizable.
+  if (qobject_cast<Window*>(window)) {
+    window->setFixedSize(roundedSize(placement.frame));
+  } else {
+    window->resize(roundedSize(placement.frame));
+  }
+}
+
+Frame roomFor(const QWidget* window) {
+  const QMargins decoration = window->windowHandle() ? window->windowHandle()->frameMargins() : QMargins();
+  const QRect room = window->screen()->availableGeometry() - decoration;
+  return {.x = double(room.x()),
+          .y = screenHeight(window) - room.y() - room.height(),
+          .width = double(room.width()),
+          .height = double(room.height())};
 }
 
 Frame frameOf(const QWidget* view) {

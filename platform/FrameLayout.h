@@ -19,8 +19,14 @@ PLATFORM_EXPORT void addSubview(QWidget* parent, QWidget* child, const Frame& fr
 // Hides the view and removes it from its parent's subviews; the parent still owns it.
 PLATFORM_EXPORT void removeFromSuperview(QWidget* view);
 
-// A window that is not on the screen takes the size only.
+// A window that is not on the screen, or that the platform does not let move itself, takes the size only.
 PLATFORM_EXPORT void setFrame(QWidget* view, const Frame& frame);
+
+// The upper left corner stays where the window manager has it.
+PLATFORM_EXPORT void setWindowSize(QWidget* window, const Size& size);
+
+// Where the window's frame can be so that its decoration too is in the available part of its screen.
+PLATFORM_EXPORT Frame roomFor(const QWidget* window);
 
 // The exact frame; for a view that was never given one, the frame of its geometry. A window's is in screen
 // space.

@@ -1,5 +1,6 @@
 #include "platform/ViewAnimation.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QScreen>
 #include <QStyle>
@@ -8,7 +9,7 @@
 
 namespace {
 
-// Covers the container with a blend of two pictures that share their upper left corner; the live view is
+// Covers the container with a blend of two pictures that share an upper corner; the live view is
 // underneath.
 class FadeOverlay final : public QWidget {
  public:
@@ -29,13 +30,23 @@ class FadeOverlay final : public QWidget {
     const QColor background = palette().color(QPalette::Window);
     QPainter painter(this);
     painter.fillRect(rect(), background);
-    painter.drawPixmap(0, 0, m_old);
+    painter.drawPixmap(leftOf(m_old), 0, m_old);
     painter.setOpacity(m_progress);
     painter.fillRect(rect(), background);
-    painter.drawPixmap(0, 0, m_new);
+    painter.drawPixmap(leftOf(m_new), 0, m_new);
+  }
+
+  // The pictures show the colours of before.
+  void changeEvent(QEvent* event) override {
+    if (event->type() == QEvent::PaletteChange) hide();
+    QWidget::changeEvent(event);
   }
 
  private:
+  int leftOf(const QPixmap& picture) const {
+    return isRightToLeft() ? width() - qRound(picture.deviceIndependentSize().width()) : 0;
+  }
+
   QPixmap m_old;
   QPixmap m_new;
   double m_progress = 0;
@@ -66,13 +77,16 @@ void ViewAnimation::start(const CrossFade& fade, const QPixmap& oldPicture) {
   stop();
   m_window = fade.window;
   m_startSize = frameOf(fade.window).size();
-  m_endFrame = fade.endFrame;
-  if (!fade.window->style()->styleHint(QStyle::SH_Widget_Animate, nullptr, fade.window)) return finish();
+  m_endSize = fade.endSize;
+  const bool isStill = !fade.window->style()->styleHint(QStyle::SH_Widget_Animate, nullptr, fade.window);
+  if (isStill || !fade.window->isOnScreen()) return finish();
 
-  auto* overlay = new FadeOverlay(fade.newView->parentWidget(), oldPicture, pictureOf(fade.newView));
-  m_overlay = overlay;
-  overlay->setProgress(0);
-  overlay->show();
+  if (!oldPicture.isNull()) {
+    auto* overlay = new FadeOverlay(fade.newView->parentWidget(), oldPicture, pictureOf(fade.newView));
+    m_overlay = overlay;
+    overlay->setProgress(0);
+    overlay->show();
+  }
   m_progress.setDuration(qRound(m_duration * 1000));
   m_progress.start();
 }
@@ -85,13 +99,13 @@ void ViewAnimation::stop() {
 void ViewAnimation::advance(double progress) {
   if (!m_window) return;
   const auto between = [progress](double from, double to) { return from + (to - from) * progress; };
-  m_window->setFixedSize(qRound(between(m_startSize.width, m_endFrame.width)),
-                         qRound(between(m_startSize.height, m_endFrame.height)));
+  setWindowSize(m_window, {.width = between(m_startSize.width, m_endSize.width),
+                           .height = between(m_startSize.height, m_endSize.height)});
   if (m_overlay) static_cast<FadeOverlay*>(m_overlay.data())->setProgress(progress);
 }
 
 void ViewAnimation::finish() {
   delete m_overlay;
-  if (m_window) setFrame(m_window, m_endFrame);
+  if (m_window) setWindowSize(m_window, m_endSize);
   Q_EMIT didEnd();
 }

@@ -8,17 +8,19 @@
 
 #include "platform/Frame.h"
 #include "platform/PlatformExport.h"
+#include "platform/WindowController.h"
 
-// Fades one view into another while their window changes its frame. Does not block; ease in and out. With the
-// style hint SH_Widget_Animate off it ends at once. Main thread only.
+// Fades one view into another while their window changes its size; its upper edge stays where it is. Does not
+// block; ease in and out. It ends at once in a window that is not on the screen yet, and with the style hint
+// SH_Widget_Animate off. Main thread only.
 class PLATFORM_EXPORT ViewAnimation : public QObject {
   Q_OBJECT
 
  public:
   struct CrossFade {
     QWidget* newView = nullptr;  // laid out, in its container
-    QWidget* window = nullptr;
-    Frame endFrame;  // of the window
+    Window* window = nullptr;
+    Size endSize;  // of the window
   };
 
   explicit ViewAnimation(QObject* parent);
@@ -31,7 +33,8 @@ class PLATFORM_EXPORT ViewAnimation : public QObject {
   double duration() const { return m_duration; }
   bool isRunning() const;
 
-  // `oldPicture` is what the new view's container showed last; while a fade runs, its present state.
+  // `oldPicture` is what the new view's container showed last; while a fade runs, its present state. Without
+  // one, only the size is animated.
   void start(const CrossFade& fade, const QPixmap& oldPicture);
   // Leaves the window at its present size and shows the live views; emits no didEnd.
   void stop();
@@ -45,8 +48,8 @@ class PLATFORM_EXPORT ViewAnimation : public QObject {
 
   QVariantAnimation m_progress;
   double m_duration = 0;
-  QPointer<QWidget> m_window;
+  QPointer<Window> m_window;
   Size m_startSize;
-  Frame m_endFrame;
+  Size m_endSize;
   QPointer<QWidget> m_overlay;
 };

@@ -1,9 +1,22 @@
 #include "platform/WindowController.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
+#include <QScreen>
+#include <QTimer>
+#include <QTimerEvent>
+#include <QWindow>
 
 #include "platform/Look.h"
+
+namespace {
+
+// Under X11 an answer to an earlier size may come after the last one was asked for.
+constexpr int kResizeMilliseconds = 200;
+constexpr int kRemapMilliseconds = 1000;
+
+}  // namespace
 
 WindowController::WindowController() = default;
 
@@ -37,8 +50,13 @@ WindowController* WindowController::of(const QWidget* view) {
 
 void WindowController::windowDidBecomeKey() {}
 void WindowController::windowWillClose() {}
+void WindowController::windowRoomDidChange() {}
 void WindowController::keyDown(QKeyEvent* event) {
   event->ignore();
+}
+
+bool isOnWayland() {
+  return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
 }
 
 Window::Window() {
@@ -47,10 +65,73 @@ Window::Window() {
   setWindowLook(this);
 }
 
+bool Window::isOnScreen() const {
+  return windowHandle() && windowHandle()->isExposed();
+}
+
 bool Window::event(QEvent* event) {
   const bool isHandled = QWidget::event(event);
-  if (event->type() == QEvent::WindowActivate && m_controller) m_controller->windowDidBecomeKey();
+  switch (event->type()) {
+    case QEvent::WindowActivate:
+      // Qt would give the focus to the first view that takes it.
+      if (!focusWidget() && m_initialFirstResponder)
+        m_initialFirstResponder->setFocus(Qt::ActiveWindowFocusReason);
+      if (m_controller) m_controller->windowDidBecomeKey();
+      break;
+    case QEvent::WinIdChange:
+      if (windowHandle()) windowHandle()->installEventFilter(this);
+      break;
+    case QEvent::Resize:
+      m_resizeTimer.start(kResizeMilliseconds, this);
+      break;
+    case QEvent::Move:
+      noticeRoom(foreignSize());
+      break;
+    default:
+      break;
+  }
   return isHandled;
+}
+
+bool Window::eventFilter(QObject* watched, QEvent* event) {
+  if (watched != windowHandle()) return QWidget::eventFilter(watched, event);
+  if (event->type() == QEvent::Expose) noticeRoom(foreignSize());
+  if (event->type() == QEvent::WindowStateChange) refuseMaximizing();
+  return false;
+}
+
+// A window of fixed size cannot be maximised, but some platforms offer it all the same. A Wayland compositor
+// may end a program whose maximised window has another size than it said, so nothing more is shown of this
+// one, and it is made anew. A compositor that maximises that too gets its way.
+void Window::refuseMaximizing() {
+  const Qt::WindowStates states = windowHandle()->windowStates();
+  if (!states.testFlag(Qt::WindowMaximized)) return;
+  windowHandle()->setWindowStates(states & ~Qt::WindowMaximized);
+  if (!isOnWayland() || m_remapTimer.isActive()) return;
+  m_remapTimer.start(kRemapMilliseconds, this);
+  setUpdatesEnabled(false);
+  QTimer::singleShot(0, this, [this] {
+    hide();
+    setUpdatesEnabled(true);
+    show();
+  });
+}
+
+void Window::timerEvent(QTimerEvent* event) {
+  if (event->timerId() == m_remapTimer.timerId()) return m_remapTimer.stop();
+  if (event->timerId() != m_resizeTimer.timerId()) return QWidget::timerEvent(event);
+  m_resizeTimer.stop();
+  noticeRoom(size() == minimumSize() ? QSize() : size());
+}
+
+void Window::noticeRoom(const QSize& foreignSize) {
+  if (!m_controller || !isOnScreen()) return;
+  const Room room{.available = screen()->availableGeometry(),
+                  .decoration = windowHandle()->frameMargins(),
+                  .foreignSize = foreignSize};
+  if (m_room == room) return;
+  m_room = room;
+  m_controller->windowRoomDidChange();
 }
 
 void Window::closeEvent(QCloseEvent* event) {
@@ -61,4 +142,9 @@ void Window::closeEvent(QCloseEvent* event) {
 void Window::keyPressEvent(QKeyEvent* event) {
   if (m_controller) return m_controller->keyDown(event);
   QWidget::keyPressEvent(event);
+}
+
+bool Window::focusNextPrevChild(bool isForward) {
+  if (!focusWidget() && m_initialFirstResponder) m_initialFirstResponder->setFocus(Qt::OtherFocusReason);
+  return QWidget::focusNextPrevChild(isForward);
 }

@@ -1,9 +1,12 @@
 #pragma once
 
-#include <QEvent>
+#include <QBasicTimer>
+#include <QMargins>
 #include <QObject>
 #include <QPointer>
+#include <QRect>
 #include <QWidget>
+#include <optional>
 
 #include "platform/PlatformExport.h"
 
@@ -31,6 +34,8 @@ class PLATFORM_EXPORT WindowController : public QObject {
 
   virtual void windowDidBecomeKey();
   virtual void windowWillClose();
+  // The screen, the decoration or the size that the window manager gave the window changed.
+  virtual void windowRoomDidChange();
   virtual void keyDown(QKeyEvent* event);  // not accepted by any view; the base ignores it
 
  private:
@@ -39,8 +44,11 @@ class PLATFORM_EXPORT WindowController : public QObject {
   QPointer<Window> m_window;
 };
 
-// A titled, closable window of fixed size. Its frame is in screen points, y up, without the window manager's
-// decoration.
+// The compositor places and decorates windows.
+PLATFORM_EXPORT bool isOnWayland();
+
+// A titled, closable window that the user cannot resize. Its frame is in screen points, y up, without the
+// window manager's decoration. Main thread only.
 class PLATFORM_EXPORT Window : public QWidget {
   Q_OBJECT
 
@@ -49,13 +57,42 @@ class PLATFORM_EXPORT Window : public QWidget {
 
   WindowController* controller() const { return m_controller; }
 
+  // The view at which the keyboard begins while nothing in the window has the focus.
+  void setInitialFirstResponder(QWidget* view) { m_initialFirstResponder = view; }
+
+  // False until the window is painted first, and while it is hidden or minimised.
+  bool isOnScreen() const;
+  // The size that the window manager gave it instead of its own; invalid when it did not.
+  QSize foreignSize() const { return m_room ? m_room->foreignSize : QSize(); }
+  // The controller is told of the window's room again, as soon as the window is on the screen.
+  void forgetRoom() { m_room.reset(); }
+
  protected:
   bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void timerEvent(QTimerEvent* event) override;
+  bool focusNextPrevChild(bool isForward) override;
 
  private:
   friend class WindowController;
 
+  // What decides where the window can be and how much of it can be seen.
+  struct Room {
+    QRect available;  // of the screen
+    QMargins decoration;
+    QSize foreignSize;
+
+    bool operator==(const Room&) const = default;
+  };
+
+  void refuseMaximizing();
+  void noticeRoom(const QSize& foreignSize);
+
   WindowController* m_controller = nullptr;
+  QPointer<QWidget> m_initialFirstResponder;
+  std::optional<Room> m_room;
+  QBasicTimer m_resizeTimer;
+  QBasicTimer m_remapTimer;
 };

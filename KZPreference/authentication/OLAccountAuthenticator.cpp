@@ -30,6 +30,7 @@ OLAccountAuthenticator::OLAccountAuthenticator(PreferenceActionDelegateProtocol*
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "delegate:%@", prefsDelegate);
   m_registration = KZNotificationCenter::defaultCenter().addObserver(
       kRequiredNotification, [this, mainThread = m_mainThread](const KZNotification& notification) {
+        MVRNSInfoFuncTraceIMPL("KZPreference", "OLAccountAuthenticator::onAuthenticationRequired", "");
         mainThread->invoke([this, notification] { requireCredential(notification); });
       });
 }
@@ -44,6 +45,7 @@ void OLAccountAuthenticator::setAuthDelegate(OutlookAccountAuthDelegate* delegat
 }
 
 void OLAccountAuthenticator::requireCredential(const KZNotification& notification) {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
   if (isExchDiscoverAuthRequiring(notification)) return authorizeExchDiscovering(notification);
   if (isExchListmeetingAuthRequiring(notification)) authorizeExchMeetingListing(notification);
 }

@@ -10,6 +10,6 @@ QString localizedString(const char* key) {
   return table.text(key);
 }
 
-QIcon paneImage(const QString& name) {
+QIcon newPNGImageInThisBundle(const QString& name) {
   return KZRetinaHelper::shareInstance().newPNGImageInBundle(kImageBundle, name);
 }

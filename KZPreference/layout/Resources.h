@@ -11,4 +11,4 @@ QString localizedString(const char* key);
 
 // The folder of the images, and the image of that name in it; a null icon when there is none.
 extern const QString kImageBundle;
-QIcon paneImage(const QString& name);
+QIcon newPNGImageInThisBundle(const QString& name);

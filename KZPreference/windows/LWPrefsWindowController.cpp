@@ -1,15 +1,18 @@
 #include "KZPreference/windows/LWPrefsWindowController.h"
 
-#include <QActionGroup>
+#include <QAction>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <QScreen>
-#include <QToolBar>
-#include <QToolButton>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <utility>
 
 #include "KZPreference/layout/Resources.h"
+#include "KZPreference/windows/PaneToolbar.h"
 #include "host/KZUtility/KZTrace.h"
+#include "platform/Accessible.h"
 #include "platform/ContentView.h"
 #include "platform/FrameLayout.h"
 #include "platform/KeyView.h"
@@ -22,32 +25,34 @@ namespace {
 constexpr double kFadeSeconds = 0.25;
 constexpr double kSlowFadeSeconds = 1.25;
 constexpr Frame kInitialFrame{.x = 0, .y = 0, .width = 1000, .height = 1000};
+constexpr quint32 kScanCodeOfDigitOne = 10;
 const QString kFlexibleSpaceIdentifier = QStringLiteral("NSToolbarFlexibleSpaceItemIdentifier");
 
-void addSpaceTo(QToolBar* toolbar) {
-  auto* space = new QWidget;
-  space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-  toolbar->addWidget(space);
+// The place of a digit key; -1 for other keys. Some keyboards have the digits above other characters, so the
+// key's position counts too.
+int placeOfDigit(const QKeyEvent& key) {
+  if (key.key() >= Qt::Key_1 && key.key() <= Qt::Key_9) return key.key() - Qt::Key_1;
+  const bool isLetter = key.key() >= Qt::Key_A && key.key() <= Qt::Key_Z;
+  const quint32 position = key.nativeScanCode() - kScanCodeOfDigitOne;
+  return !isLetter && position < 9 ? static_cast<int>(position) : -1;
 }
 
 }  // namespace
 
-std::unique_ptr<LWPrefsWindowController> LWPrefsWindowController::s_shared;
+LWPrefsWindowController* LWPrefsWindowController::s_shared = nullptr;
 
 LWPrefsWindowController::LWPrefsWindowController() : m_viewAnimation(new ViewAnimation(this)) {
   connect(m_viewAnimation, &ViewAnimation::didEnd, this, &LWPrefsWindowController::animationDidEnd);
 }
 
 LWPrefsWindowController::~LWPrefsWindowController() {
-  // A pane that was never shown has no parent to delete it.
-  for (const QPointer<View>& view : std::as_const(m_toolbarViews))
-    if (view && !view->parent()) delete view;
+  forgetItems();
 }
 
 void LWPrefsWindowController::destroyPrefsWindowController() {
   if (!s_shared) return;
   s_shared->close();
-  s_shared.reset();
+  delete std::exchange(s_shared, nullptr);
 }
 
 void LWPrefsWindowController::initWindow() {
@@ -56,14 +61,27 @@ void LWPrefsWindowController::initWindow() {
   setWindow(window);
   window->setWindowTitle(localizedString("Preferences"));
 
+  // The toolbar is made before the panes, so that it comes before them in the tab order.
+  m_toolbar = new PaneToolbar(window);
   m_contentView = new ContentView(window);
   m_contentSubview = m_contentView->contentSubview();
   auto* column = new QVBoxLayout(window);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
+  column->addWidget(m_toolbar);
   column->addWidget(m_contentView);
   setFrame(window, kInitialFrame);
   m_isWindowCreated = true;
+}
+
+// A pane that was never shown has no parent to delete it.
+void LWPrefsWindowController::forgetItems() {
+  for (const QPointer<View>& view : std::as_const(m_toolbarViews))
+    if (view && !view->parent()) delete view;
+  m_toolbarViews.clear();
+  qDeleteAll(m_toolbarItems);
+  m_toolbarItems.clear();
+  m_toolbarIdentifiers.clear();
 }
 
 void LWPrefsWindowController::setupToolbar() {}
@@ -71,13 +89,11 @@ void LWPrefsWindowController::setupToolbar() {}
 void LWPrefsWindowController::showWindow() {
   if (!m_isWindowCreated) {
     initWindow();
-    m_toolbarIdentifiers.clear();
-    m_toolbarViews.clear();
-    m_toolbarItems.clear();
+    forgetItems();
     setupToolbar();
   }
   if (m_toolbarIdentifiers.isEmpty()) return;
-  if (!m_toolbar) {
+  if (!m_isToolbarFilled) {
     initToolbar();
     showFirstPane();
   }
@@ -85,27 +101,14 @@ void LWPrefsWindowController::showWindow() {
 }
 
 void LWPrefsWindowController::initToolbar() {
-  m_toolbar = new QToolBar(window());
-  m_toolbar->setObjectName(QStringLiteral("LWPreferencesToolbar"));
-  m_toolbar->setMovable(false);
-  m_toolbar->setContextMenuPolicy(Qt::PreventContextMenu);
-  m_toolbar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-  m_toolbar->setStyle(window()->style());
-  m_selection = new QActionGroup(m_toolbar);
+  m_isToolbarFilled = true;
   for (const QString& identifier : std::as_const(m_toolbarIdentifiers)) {
     if (identifier == kFlexibleSpaceIdentifier) {
-      addSpaceTo(m_toolbar);
-      continue;
+      m_toolbar->addFlexibleSpace();
+    } else {
+      m_toolbar->addItem(m_toolbarItems.value(identifier));
     }
-    QAction* item = m_toolbarItems.value(identifier);
-    m_toolbar->addAction(item);
-    if (!item->isCheckable()) continue;
-    m_selection->addAction(item);
-    QWidget* button = m_toolbar->widgetForAction(item);
-    button->setStyle(window()->style());
-    button->setFocusPolicy(Qt::TabFocus);
   }
-  static_cast<QVBoxLayout*>(window()->layout())->insertWidget(0, m_toolbar);
 }
 
 void LWPrefsWindowController::showFirstPane() {
@@ -136,14 +139,15 @@ void LWPrefsWindowController::addFlexibleSpacer() {
 
 void LWPrefsWindowController::addView(View* view, const QString& label) {
   const QString name = QStringLiteral("preference_%1").arg(label).toLower();
-  addView(view, label, paneImage(name));
+  addView(view, label, newPNGImageInThisBundle(name));
 }
 
 void LWPrefsWindowController::addView(View* view, const QString& label, const QIcon& image) {
   if (!view) return;
   m_toolbarViews.insert(label, view);
   addToolbarItemForIdentifier(label, label, image, &LWPrefsWindowController::toggleActivePreferenceView);
-  m_toolbarItems.value(label)->setCheckable(true);
+  setAccessibleRole(view, QAccessible::Pane);
+  view->setAccessibleName(label);
   if (!m_contentSubview) return;
   // The pane is added once, to get the window's palette and fonts before it is measured or drawn.
   addSubview(m_contentSubview, view, frameOf(view), VerticalAnchor::Top);
@@ -155,8 +159,9 @@ void LWPrefsWindowController::toggleActivePreferenceView(QAction* item) {
 }
 
 void LWPrefsWindowController::loadViewForIdentifier(const QString& identifier, Animate animate) {
-  if (!m_toolbarViews.contains(identifier)) return;
-  m_toolbarItems.value(identifier)->setChecked(true);
+  QAction* item = m_toolbarItems.value(identifier);
+  if (!m_isToolbarFilled || !item) return;
+  item->setChecked(true);
   displayViewForIdentifier(identifier, animate);
 }
 
@@ -164,38 +169,59 @@ void LWPrefsWindowController::displayViewForIdentifier(const QString& identifier
   View* newView = m_toolbarViews.value(identifier);
   if (!newView) return;
   removeSubviewsBelowTop();
-  const QList<QWidget*> shown = subviewsOf(m_contentSubview);
-  QWidget* oldView = shown.isEmpty() ? nullptr : shown.last();
+  QWidget* oldView = shownView();
   if (newView == oldView) return;
 
   const bool isFading = animate == Animate::Yes && m_crossFade;
-  const QPixmap oldPicture = isFading ? ViewAnimation::pictureOf(m_contentSubview) : QPixmap();
+  const QPixmap oldPicture =
+      isFading && window()->isOnScreen() ? ViewAnimation::pictureOf(m_contentSubview) : QPixmap();
   const Size size = frameOf(newView).size();
   const double height = frameOf(m_contentSubview).height;
   newView->setVisible(true);
   addSubview(m_contentSubview, newView, {0, height - size.height, size.width, size.height},
              VerticalAnchor::Top);
-  const Frame bounded = boundedByScreen(frameForView(newView));
-  m_contentView->setContentSize(size, {bounded.width, bounded.height - m_toolbar->sizeHint().height()});
+  window()->setInitialFirstResponder(newView);
+  // An item that has the focus tells its name itself.
+  if (window()->isOnScreen() && !m_toolbar->hasKeyboard()) announce(newView, identifier);
   if (isFading) return crossFadeView(newView, oldPicture);
 
   m_viewAnimation->stop();
+  clearFocus();
   if (oldView) removeFromSuperview(oldView);
-  setFrame(window(), bounded);
+  if (animate == Animate::Yes) return crossFadeView(newView, QPixmap());
+  fitToScreen(newView);
 }
 
 void LWPrefsWindowController::crossFadeView(View* newView, const QPixmap& oldPicture) {
+  const Frame endFrame = fittedToScreen(newView);
+  Frame startFrame = frameOf(window());
+  startFrame.x = endFrame.x;
+  startFrame.y = endFrame.maxY() - startFrame.height;
+  setFrame(window(), startFrame);
   const bool isSlow =
       m_shiftSlowsAnimation && QGuiApplication::keyboardModifiers().testFlag(Qt::ShiftModifier);
   m_viewAnimation->setDuration(isSlow ? kSlowFadeSeconds : kFadeSeconds);
-  m_viewAnimation->start(
-      {.newView = newView, .window = window(), .endFrame = boundedByScreen(frameForView(newView))},
-      oldPicture);
+  m_viewAnimation->start({.newView = newView, .window = window(), .endSize = endFrame.size()}, oldPicture);
 }
 
 void LWPrefsWindowController::animationDidEnd() {
+  clearFocus();
   removeSubviewsBelowTop();
-  clearFirstResponder(window());
+  windowRoomDidChange();
+}
+
+// Called before views are removed, because Qt would give the focus of a view that goes to any other. The
+// toolbar keeps the focus, so that the arrow keys go on choosing.
+void LWPrefsWindowController::clearFocus() {
+  QWidget* focused = window()->focusWidget();
+  if (!focused || m_toolbar->hasKeyboard()) return;
+  if (shownView()->isAncestorOf(focused)) return clearFirstResponder(window());
+  focused->clearFocus();
+}
+
+View* LWPrefsWindowController::shownView() const {
+  const QList<QWidget*> shown = subviewsOf(m_contentSubview);
+  return shown.isEmpty() ? nullptr : static_cast<View*>(shown.last());
 }
 
 void LWPrefsWindowController::removeSubviewsBelowTop() {
@@ -205,26 +231,74 @@ void LWPrefsWindowController::removeSubviewsBelowTop() {
 }
 
 Frame LWPrefsWindowController::frameForView(const View* view) const {
-  const Frame frame = frameOf(window());
-  const double contentHeight = frame.height - m_toolbar->sizeHint().height();
-  const float chromeHeight = static_cast<float>(frame.height - contentHeight);
   const Size size = frameOf(view).size();
+  const Frame frame = window() ? frameOf(window()) : Frame();
+  const double contentHeight = window() ? frame.height - m_toolbar->sizeHint().height() : 0;
+  const float chromeHeight = static_cast<float>(frame.height - contentHeight);
   const double height = size.height + static_cast<double>(chromeHeight);
   return {.x = frame.x, .y = frame.maxY() - height, .width = size.width, .height = height};
 }
 
-Frame LWPrefsWindowController::boundedByScreen(const Frame& frame) const {
-  const QSize screen = window()->screen()->availableSize();
-  Frame bounded = frame;
-  bounded.width = std::min(frame.width, double(screen.width()));
-  bounded.height = std::min(frame.height, double(screen.height()));
-  bounded.y = frame.maxY() - bounded.height;
-  return bounded;
+void LWPrefsWindowController::windowRoomDidChange() {
+  const View* view = shownView();
+  if (view && !m_viewAnimation->isRunning()) fitToScreen(view);
+}
+
+void LWPrefsWindowController::fitToScreen(const View* view) {
+  setFrame(window(), fittedToScreen(view));
+}
+
+// The frame for the view, moved up and to the left where it would leave the screen, and as large as the
+// screen allows. The rest of the view scrolls.
+Frame LWPrefsWindowController::fittedToScreen(const View* view) {
+  const Frame frame = frameForView(view);
+  const Frame room = roomFor(window());
+  Frame fitted = frame;
+  fitted.width = std::min(frame.width, room.width);
+  fitted.height = std::min(frame.height, room.height);
+  fitted.y = std::clamp(frame.maxY() - fitted.height, room.y, room.maxY() - fitted.height);
+  // A wider pane brings the window back; a window that the user put across the edge stays there.
+  const double growth = std::max(0.0, fitted.width - frameOf(window()).width);
+  fitted.x -= std::clamp(fitted.maxX() - room.maxX(), 0.0, growth);
+
+  // The decoration may not be known yet.
+  if (!window()->isOnScreen()) window()->forgetRoom();
+  const QSize given = window()->foreignSize();
+  const Size visible = given.isValid() ? Size{double(given.width()), double(given.height())} : fitted.size();
+  m_contentView->setContentSize(frameOf(view).size(),
+                                {visible.width, visible.height - m_toolbar->sizeHint().height()});
+  return fitted;
 }
 
 void LWPrefsWindowController::keyDown(QKeyEvent* event) {
   const bool isCommand = event->modifiers().testFlag(Qt::ControlModifier);
   const bool isShifted = event->modifiers().testFlag(Qt::ShiftModifier);
   if (isCommand && !isShifted && event->key() == Qt::Key_W) return close();
+  if (isCommand && choosePaneByKey(*event)) return;
   WindowController::keyDown(event);
+}
+
+bool LWPrefsWindowController::choosePaneByKey(const QKeyEvent& key) {
+  if (key.modifiers() & (Qt::AltModifier | Qt::MetaModifier)) return false;
+  const auto chooseNeighbour = [this](int step) {
+    m_toolbar->chooseNeighbour(step, PaneToolbar::AtEnd::Wrap);
+    return true;
+  };
+  // Shift belongs to the shortcut here.
+  const QScopedValueRollback slows(m_shiftSlowsAnimation, false);
+  switch (key.key()) {
+    case Qt::Key_PageDown:
+      return chooseNeighbour(1);
+    case Qt::Key_Tab:
+      return chooseNeighbour(key.modifiers().testFlag(Qt::ShiftModifier) ? -1 : 1);
+    case Qt::Key_PageUp:
+    case Qt::Key_Backtab:
+      return chooseNeighbour(-1);
+    default:
+      break;
+  }
+  const int place = placeOfDigit(key);
+  if (place < 0) return false;
+  m_toolbar->chooseItem(place);
+  return true;
 }

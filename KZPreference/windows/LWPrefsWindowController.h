@@ -1,24 +1,25 @@
 #pragma once
 
-#include <QAction>
 #include <QHash>
 #include <QIcon>
+#include <QPointer>
 #include <QStringList>
 
 #include "platform/Frame.h"
 #include "platform/WindowController.h"
 
 class ContentView;
-class QActionGroup;
-class QToolBar;
+class PaneToolbar;
+class QAction;
 class View;
 class ViewAnimation;
 
 enum class Animate { No, Yes };
 
-// A window that shows one of the panes in its toolbar. A switch keeps the window's upper edge in place and,
-// with `crossFade`, blends the panes. Subclasses add their panes in `setupToolbar`, which the first
-// `showWindow` calls. Main thread only.
+// A window that shows one of the panes in its toolbar. A switch keeps the window's upper edge in place, as
+// long as the screen has room, and blends the panes with `crossFade`. Subclasses add their panes in
+// `setupToolbar`, which the first `showWindow` calls; what was added before that is dropped. Main thread
+// only.
 class LWPrefsWindowController : public WindowController {
   Q_OBJECT
   Q_PROPERTY(bool crossFade READ crossFade WRITE setCrossFade)
@@ -33,7 +34,7 @@ class LWPrefsWindowController : public WindowController {
   // The one instance, of the class of the first call.
   template <typename Controller = LWPrefsWindowController>
   static LWPrefsWindowController& sharedPrefsWindowController() {
-    if (!s_shared) s_shared = std::make_unique<Controller>();
+    if (!s_shared) s_shared = new Controller;
     return *s_shared;
   }
   static void destroyPrefsWindowController();
@@ -46,7 +47,8 @@ class LWPrefsWindowController : public WindowController {
   // Shows nothing when there is no pane. An existing window keeps its pane and its position.
   void showWindow() override;
 
-  // Replaces an item with the same identifier, with a warning trace.
+  // Replaces an item with the same identifier, with a warning trace. A click selects the item and calls the
+  // action.
   void addToolbarItemForIdentifier(const QString& identifier, const QString& label, const QIcon& image,
                                    ToolbarAction action);
   void addFlexibleSpacer();
@@ -55,28 +57,36 @@ class LWPrefsWindowController : public WindowController {
   void addView(View* view, const QString& label);
   void addView(View* view, const QString& label, const QIcon& image);
 
-  // An unknown identifier changes nothing.
+  // Selects the item and shows its view. An unknown identifier changes nothing.
   void loadViewForIdentifier(const QString& identifier, Animate animate);
 
-  // The window's frame when it shows the view: same upper edge, the view's width.
+  // The window's frame when it shows the view: same upper edge, the view's width. Without a window, the
+  // view's size.
   Frame frameForView(const View* view) const;
 
  protected:
   virtual void setupToolbar();
+  void windowRoomDidChange() override;
   void keyDown(QKeyEvent* event) override;
 
  private:
   void initWindow();
+  void forgetItems();
   void initToolbar();
   void showFirstPane();
   void toggleActivePreferenceView(QAction* item);
   void displayViewForIdentifier(const QString& identifier, Animate animate);
   void crossFadeView(View* newView, const QPixmap& oldPicture);
   void animationDidEnd();
+  void clearFocus();
+  View* shownView() const;
   void removeSubviewsBelowTop();
-  Frame boundedByScreen(const Frame& frame) const;
+  void fitToScreen(const View* view);
+  Frame fittedToScreen(const View* view);
+  bool choosePaneByKey(const QKeyEvent& key);
 
-  static std::unique_ptr<LWPrefsWindowController> s_shared;
+  // Destroyed by `destroyPrefsWindowController` only: a window must not outlive the application object.
+  static LWPrefsWindowController* s_shared;
 
   bool m_isWindowCreated = false;
   bool m_crossFade = true;
@@ -87,6 +97,6 @@ class LWPrefsWindowController : public WindowController {
   ViewAnimation* m_viewAnimation;
   ContentView* m_contentView = nullptr;
   QWidget* m_contentSubview = nullptr;
-  QToolBar* m_toolbar = nullptr;
-  QActionGroup* m_selection = nullptr;
+  PaneToolbar* m_toolbar = nullptr;
+  bool m_isToolbarFilled = false;
 };

@@ -7,7 +7,9 @@
 
 NonSignInPreferenceWindowController::NonSignInPreferenceWindowController(
     PreferenceActionDelegateProtocol* delegate)
-    : PreferenceWindowController(delegate) {}
+    : PreferenceWindowController(delegate) {
+  initWithPreferenceActionDelegate();
+}
 
 NonSignInPreferenceWindowController::~NonSignInPreferenceWindowController() {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");

@@ -12,18 +12,31 @@
 #include "host/KZUtility/KZTrace.h"
 
 PreferenceWindowController::PreferenceWindowController(PreferenceActionDelegateProtocol* delegate)
-    : m_prefsDelegate(delegate) {
-  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "delegate:%@", delegate);
+    : m_prefsDelegate(delegate) {}
+
+void PreferenceWindowController::initWithPreferenceActionDelegate() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "delegate:%@", m_prefsDelegate);
+  initWithWindow();
+  checkOutlookInstalled();
   setDefaultPreference();
 }
 
+void PreferenceWindowController::initWithWindow() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "window:%@", window());
+}
+
+void PreferenceWindowController::checkOutlookInstalled() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "");
+}
+
 void PreferenceWindowController::setDefaultPreference() {
-  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "");
   setNotificationDefaultPreference();
   setVideoDeviceDefaultPreference();
 }
 
 void PreferenceWindowController::setNotificationDefaultPreference() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "");
   const Dictionary settings =
       KZPlistFileHandle::sharedInstance().meetingNotification().value_or(Dictionary());
   if (settings.contains(kKZMeetintNotificationToastMinutes)) return;
@@ -31,6 +44,7 @@ void PreferenceWindowController::setNotificationDefaultPreference() {
 }
 
 void PreferenceWindowController::setVideoDeviceDefaultPreference() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "");
   KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
   Dictionary settings = store.videoDevice().value_or(Dictionary());
   if (settings.contains(kKZVideoDeviceAutodetect)) return;
@@ -39,15 +53,15 @@ void PreferenceWindowController::setVideoDeviceDefaultPreference() {
 }
 
 void PreferenceWindowController::setOLAccountAuthenticator(OLAccountAuthenticator* authenticator) {
-  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "authenticator:%@", authenticator);
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "authenticator:%@", authenticator);
   m_olaccountAuthenticator = authenticator;
 }
 
 void PreferenceWindowController::setupToolbar() {
-  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "");
   createPreferenceViews();
   const auto add = [this](View* view, const char* label, const char* image) {
-    addView(view, localizedString(label), paneImage(QString::fromLatin1(image)));
+    addView(view, localizedString(label), newPNGImageInThisBundle(QString::fromLatin1(image)));
   };
   add(m_generalView, "General", "preference_general");
   add(m_accountView, "Account", "preference_account");
@@ -57,7 +71,7 @@ void PreferenceWindowController::setupToolbar() {
 }
 
 void PreferenceWindowController::createPreferenceViews() {
-  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "");
   const PaneSizes sizes = paneSizes();
   const Size notification = PrefNotificationView::caculateViewSize();
   const Size proximity = PrefProximityView::caculateViewSize();
@@ -87,7 +101,7 @@ void PreferenceWindowController::createPreferenceViews() {
 }
 
 void PreferenceWindowController::gotoAccountView() {
-  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "");
   loadViewForIdentifier(localizedString("Account"), Animate::Yes);
 }
 
@@ -103,29 +117,29 @@ void PreferenceWindowController::setCalendarIntergrationOption(const KZCalendarI
 void PreferenceWindowController::requireOtherCalendarSource() {}
 
 void PreferenceWindowController::windowDidBecomeKey() {
-  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "");
   if (m_meetingView) m_meetingView->windowDidBecomeKey();
 }
 
 void PreferenceWindowController::windowWillClose() {
-  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "");
   if (m_meetingView) m_meetingView->onWindowWillClose();
 }
 
 void PreferenceWindowController::onExchangeResolvingNeedCredential(const Dictionary& result) {
-  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "result:%@", result);
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "result:%@", result);
   if (m_meetingView) m_meetingView->needOutlookCredential(result);
 }
 
 void PreferenceWindowController::onExchangeResolveDone(const Dictionary& result) {
-  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "result:%@", result);
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "result:%@", result);
   if (m_meetingView) m_meetingView->onExchangeResolveDone(result);
   if (isEqualText(textValue(result, kKZResult), kKZSuccess))
     m_prefsDelegate->calendarIntergrationSourceChanged();
 }
 
 void PreferenceWindowController::requireToChangeCalendarIntegration(const Dictionary& requireInfo) {
-  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "requireInfo:%@", requireInfo);
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "requireInfo:%@", requireInfo);
   const QString source = textValue(requireInfo, kKZCalendarIntegrationSource);
   if (!isEqualText(source, kKZCalendarIntegrationSourceOutlook)) return requireOtherCalendarSource();
   showWindow();
@@ -134,7 +148,7 @@ void PreferenceWindowController::requireToChangeCalendarIntegration(const Dictio
 }
 
 void PreferenceWindowController::requireEnableProximityAutoDetect() {
-  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "");
   const Dictionary settings{{kKZVideoDeviceAutodetect, true}};
   KZPlistFileHandle::sharedInstance().setVideoDevice(settings);
   if (m_proximityView) m_proximityView->setPreference(settings);

@@ -39,6 +39,8 @@ class PreferenceWindowController : public LWPrefsWindowController, public Exchan
   };
 
   explicit PreferenceWindowController(PreferenceActionDelegateProtocol* delegate);  // not owned
+  // For the constructor of a variant, whose class the trace then names.
+  void initWithPreferenceActionDelegate();
 
   virtual PaneSizes paneSizes() const = 0;
   virtual View* createGeneralView(const Frame& frame) = 0;
@@ -56,6 +58,8 @@ class PreferenceWindowController : public LWPrefsWindowController, public Exchan
   PreferenceActionDelegateProtocol* m_prefsDelegate;
 
  private:
+  void initWithWindow();
+  void checkOutlookInstalled();
   void setDefaultPreference();
   void setNotificationDefaultPreference();
   void setVideoDeviceDefaultPreference();

@@ -8,7 +8,9 @@
 #include "host/KZUtility/KZTrace.h"
 
 SignInPreferenceWindowController::SignInPreferenceWindowController(PreferenceActionDelegateProtocol* delegate)
-    : PreferenceWindowController(delegate) {}
+    : PreferenceWindowController(delegate) {
+  initWithPreferenceActionDelegate();
+}
 
 SignInPreferenceWindowController::~SignInPreferenceWindowController() {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");

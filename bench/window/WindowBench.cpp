@@ -5,6 +5,7 @@
 #include <cmath>
 #include <vector>
 
+#include "bench/ReducedMotion.h"
 #include "companion/runtime/PreferencesWindow.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "platform/FrameLayout.h"
@@ -45,7 +46,7 @@ std::optional<FrameWatch::Clock::time_point> WindowBench::open(const QString& pl
 }
 
 WindowBench::Switches WindowBench::measureSwitches() {
-  m_window->controller()->setProperty("crossFade", m_fade == Fade::On);
+  if (m_fade == Fade::Off) reduceMotion(m_window);
   const qsizetype panes = paneItemsOf(*m_window).size();
   std::vector<double> painted;
   std::vector<double> settled;

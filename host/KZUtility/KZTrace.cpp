@@ -169,7 +169,14 @@ bool isEnabled() {
   return isTraceEnabled.load(std::memory_order_relaxed);
 }
 
-void write(KZTraceLevel level, const char* module, const char* method, const char* format,
+QString Method::name() const {
+  const QString name = kzMethodName(m_functionInfo);
+  if (!m_object) return name;
+  return QLatin1String(m_object->metaObject()->className()) + QLatin1String("::") +
+         name.mid(name.lastIndexOf(u':') + 1);
+}
+
+void write(KZTraceLevel level, const char* module, const Method& method, const char* format,
            const std::vector<Argument>& arguments) {
   std::shared_ptr<const KZTraceSink> sink;
   {
@@ -180,7 +187,7 @@ void write(KZTraceLevel level, const char* module, const char* method, const cha
   if (!sink) return;
   (*sink)({.level = level,
            .module = QString::fromUtf8(module),
-           .method = kzMethodName(method),
+           .method = method.name(),
            .text = formatted(format, arguments)});
 }
 

@@ -69,6 +69,20 @@ class KZ_HOST_EXPORT Argument {
   QVariant m_value;
 };
 
+// The method that is traced: Q_FUNC_INFO alone, or with the object whose class the record names, for a method
+// that several classes inherit.
+class KZ_HOST_EXPORT Method {
+ public:
+  Method(const char* functionInfo) : m_functionInfo(functionInfo) {}
+  Method(const QObject* object, const char* functionInfo) : m_object(object), m_functionInfo(functionInfo) {}
+
+  QString name() const;
+
+ private:
+  const QObject* m_object = nullptr;
+  const char* m_functionInfo;
+};
+
 template <typename T>
 inline constexpr bool isNumber = std::integral<std::remove_cvref_t<T>>;
 template <typename T>
@@ -103,7 +117,7 @@ using FormatFor = Format<std::type_identity_t<Arguments>...>;
 
 KZ_HOST_EXPORT bool isEnabled();
 
-KZ_HOST_EXPORT void write(KZTraceLevel level, const char* module, const char* method, const char* format,
+KZ_HOST_EXPORT void write(KZTraceLevel level, const char* module, const Method& method, const char* format,
                           const std::vector<Argument>& arguments);
 
 }  // namespace kztrace
@@ -111,24 +125,24 @@ KZ_HOST_EXPORT void write(KZTraceLevel level, const char* module, const char* me
 // "Class::method" of a Q_FUNC_INFO text; for a lambda, of the method that contains it.
 KZ_HOST_EXPORT QString kzMethodName(const char* functionInfo);
 
-// The method form: module, Q_FUNC_INFO, format, arguments.
+// The method form: module, Q_FUNC_INFO or {this, Q_FUNC_INFO}, format, arguments.
 template <typename... Arguments>
-void MVRNSInfoFuncTraceIMPL(const char* module, const char* method, kztrace::FormatFor<Arguments...> format,
-                            const Arguments&... arguments) {
+void MVRNSInfoFuncTraceIMPL(const char* module, const kztrace::Method& method,
+                            kztrace::FormatFor<Arguments...> format, const Arguments&... arguments) {
   if (!kztrace::isEnabled()) return;
   kztrace::write(KZTraceLevel::Info, module, method, format.text(), {kztrace::Argument(arguments)...});
 }
 
 template <typename... Arguments>
-void MVRNSWarningFuncTraceIMPL(const char* module, const char* method,
+void MVRNSWarningFuncTraceIMPL(const char* module, const kztrace::Method& method,
                                kztrace::FormatFor<Arguments...> format, const Arguments&... arguments) {
   if (!kztrace::isEnabled()) return;
   kztrace::write(KZTraceLevel::Warning, module, method, format.text(), {kztrace::Argument(arguments)...});
 }
 
 template <typename... Arguments>
-void MVRNSErrorFuncTraceIMPL(const char* module, const char* method, kztrace::FormatFor<Arguments...> format,
-                             const Arguments&... arguments) {
+void MVRNSErrorFuncTraceIMPL(const char* module, const kztrace::Method& method,
+                             kztrace::FormatFor<Arguments...> format, const Arguments&... arguments) {
   if (!kztrace::isEnabled()) return;
   kztrace::write(KZTraceLevel::Error, module, method, format.text(), {kztrace::Argument(arguments)...});
 }

@@ -69,8 +69,11 @@ TEST(KZTrace, FormatsByDirectiveAndNamesTheMethodInBothForms) {
   MVRNSErrorFuncTraceIMPL("Test", "void A::b(int)", "flag:%d text:%@, delegate:%@, c:%s.", true,
                           QString("100%d"), nullObject, "é");
   MVRNSWarningTraceIMPL("Test", "%s, number:%d", "void A::c()", 42);
+  const QObject object;
+  MVRNSInfoFuncTraceIMPL("Test", {&object, "void n::A::d(int)"}, "");
   const auto records = watch.records();
-  ASSERT_EQ(records.size(), 2U);
+  ASSERT_EQ(records.size(), 3U);
+  EXPECT_EQ(records[2].method, "QObject::d");
   EXPECT_EQ(records[0].text, "flag:1 text:100%d, delegate:(null), c:é.");
   EXPECT_EQ(records[0].method, "A::b");
   EXPECT_EQ(records[0].level, KZTraceLevel::Error);

@@ -11,6 +11,7 @@
 #include <optional>
 #include <thread>
 
+#include "bench/ReducedMotion.h"
 #include "companion/format/ControlFinder.h"
 #include "companion/record/Recorder.h"
 #include "companion/runtime/PreferencesWindow.h"
@@ -33,7 +34,7 @@ class RecordedInput : public testing::Test {
     ASSERT_TRUE(m_host.load(PREFERENCES));
     m_host.trigger(KZCommand::KZCmdShowPreference);
     eventpump::settle();
-    window()->controller()->setProperty("crossFade", false);
+    reduceMotion(window());
     m_lines.clear();
   }
   void TearDown() override { KZPlistFileHandle::sharedInstance().close(); }

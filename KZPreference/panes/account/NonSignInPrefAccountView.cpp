@@ -9,6 +9,7 @@
 #include "KZPreference/layout/Resources.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
+#include "host/KZUtility/KZTrace.h"
 #include "host/KZUtility/KZUtility.h"
 #include "platform/Accessible.h"
 #include "platform/FrameLayout.h"
@@ -44,12 +45,16 @@ QLineEdit* NonSignInPrefAccountView::createInputTextFieldWithRect(const char* na
 }
 
 QList<DrawnText> NonSignInPrefAccountView::drawnTexts() const {
+  return {drawAccountLabel()};
+}
+
+DrawnText NonSignInPrefAccountView::drawAccountLabel() const {
   const Size size = accountLabelSize();
-  return {{.text = accountLabel(),
-           .frame = {marginAtLeftEdge, frameOf(this).height - size.height - marginAtTopEdge, size.width,
-                     size.height},
-           .role = FontRole::BoldSystem,
-           .size = boldLabelFontSize}};
+  return {.text = accountLabel(),
+          .frame = {marginAtLeftEdge, frameOf(this).height - size.height - marginAtTopEdge, size.width,
+                    size.height},
+          .role = FontRole::BoldSystem,
+          .size = boldLabelFontSize};
 }
 
 void NonSignInPrefAccountView::initLabels() {
@@ -105,6 +110,7 @@ void NonSignInPrefAccountView::initEditButton() {
 }
 
 void NonSignInPrefAccountView::refreshAccountInfo() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
   m_bIsEditing = false;
   changeEditStatus();
 }
@@ -114,6 +120,7 @@ void NonSignInPrefAccountView::viewDidUnhide() {
 }
 
 void NonSignInPrefAccountView::onEditButton() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
   if (m_bIsEditing) {
     if (checkName(m_nameInputTxt->text(), m_emailInputTxt->text())) refreshAccountInfo();
     return;
@@ -127,6 +134,7 @@ void NonSignInPrefAccountView::onEditButton() {
 }
 
 void NonSignInPrefAccountView::onInputTxtEnter() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
   if (m_bIsEditing) onEditButton();
 }
 
@@ -140,6 +148,7 @@ void NonSignInPrefAccountView::keyPressEvent(QKeyEvent* event) {
 }
 
 void NonSignInPrefAccountView::changeEditStatus() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "m_bIsEditing:%d", m_bIsEditing);
   const QWidget* focused = window()->focusWidget();
   // Otherwise the focus would move to whatever comes next.
   if (focused == m_nameInputTxt || focused == m_emailInputTxt) m_editBtn->setFocus(Qt::OtherFocusReason);

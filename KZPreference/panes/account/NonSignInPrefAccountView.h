@@ -26,6 +26,7 @@ class NonSignInPrefAccountView final : public View, public NonSignInPrefAccountV
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  DrawnText drawAccountLabel() const;
   void initLabels();
   void initTxts();
   void initInputTextFields();

@@ -66,5 +66,6 @@ void PrefAccountView::setSite(const QString& site, const QString& email, const Q
 }
 
 void PrefAccountView::onChangeSiteButton() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
   m_actionDelegate->changeSite();
 }

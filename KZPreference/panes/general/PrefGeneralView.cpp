@@ -5,6 +5,7 @@
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZApplicationHelper.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
+#include "host/KZUtility/KZTrace.h"
 #include "platform/FrameLayout.h"
 
 PrefGeneralView::PrefGeneralView(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate)
@@ -16,6 +17,7 @@ PrefGeneralView::PrefGeneralView(const Frame& frame, PreferenceActionDelegatePro
 }
 
 void PrefGeneralView::initOutlookIntegratingState() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
   m_isSiteEnableOutlookIntegrating = KZApplicationHelper::sharedInstance().siteEnableOutlook();
   const KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
   m_isOutlookIntegrating = !store.isPlistKeyExist(KZEnableOutlookKZPlugin) || store.enableOutlookKZPlugin();
@@ -38,12 +40,14 @@ Frame PrefGeneralView::rectOutlookIntegrationButton() const {
 }
 
 void PrefGeneralView::onOutlookIntegratingButton() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
   m_isOutlookIntegrating = m_outlookIntegratingBtn->isChecked();
   KZPlistFileHandle::sharedInstance().setEnableOutlookKZPlugin(m_isOutlookIntegrating);
   m_actionDelegate->outlookIntegratingStateChange(m_isOutlookIntegrating);
 }
 
 void PrefGeneralView::showWarningView() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
   if (!m_warningView) {
     m_warningView = new MarigoldWarningView;
     m_warningView->setObjectName(QStringLiteral("m_warningView"));

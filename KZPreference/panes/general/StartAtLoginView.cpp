@@ -5,12 +5,14 @@
 #include "KZPreference/layout/Resources.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
+#include "host/KZUtility/KZTrace.h"
 #include "platform/FrameLayout.h"
 
 StartAtLoginView::StartAtLoginView(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate)
     : View(frame), m_actionDelegate(actionDelegate) {}
 
 void StartAtLoginView::initCheckingStartState() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "");
   const KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
   m_isStartWhenComputerStarts = !store.isPlistKeyExist(KZLaunchAtLogin) || store.launchAtLogin();
 }
@@ -34,6 +36,7 @@ QString StartAtLoginView::getLocalizedString(const char* key) const {
 }
 
 void StartAtLoginView::onStartCheckingButton() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "");
   m_isStartWhenComputerStarts = m_startCheckingBtn->isChecked();
   KZPlistFileHandle::sharedInstance().setLaunchAtLogin(m_isStartWhenComputerStarts);
   m_actionDelegate->checkingStartStateChanging(m_isStartWhenComputerStarts);

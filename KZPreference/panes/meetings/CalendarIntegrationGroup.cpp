@@ -71,6 +71,7 @@ void CalendarIntegrationGroup::loadEmailFromPreferences() {
 // Choosing a source
 
 void CalendarIntegrationGroup::enableOutlook() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "");
   m_outlookRadioBtn->setChecked(true);
   enableCredentialFields();
   updateByAppliedState();
@@ -90,7 +91,7 @@ void CalendarIntegrationGroup::disableCredentialControls() {
 }
 
 void CalendarIntegrationGroup::onOutlookButton() {
-  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "");
   enableOutlook();
   reportSource(kKZCalendarIntegrationSourceOutlook, TelemetryValue_FeatureName_Click_CalendarSourceOutlook);
 }
@@ -104,18 +105,18 @@ void CalendarIntegrationGroup::reportSource(const QString& source, const QString
 // Detecting the service
 
 void CalendarIntegrationGroup::onDetectButton() {
-  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "");
   detectExchangeService();
 }
 
 void CalendarIntegrationGroup::onEmailAddressEnter() {
-  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "");
   detectExchangeService();
 }
 
 void CalendarIntegrationGroup::detectExchangeService() {
   const QString email = m_emailInputTxt->text();
-  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "email:%@", email);
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "email:%@", email);
   if (!m_assist.isValidEmailAddress(email)) return m_message.showInvalidEmailMessage();
 
   m_message.hideMessage();
@@ -129,7 +130,7 @@ void CalendarIntegrationGroup::detectExchangeService() {
 // Credential
 
 void CalendarIntegrationGroup::needOutlookCredential(const Dictionary& result) {
-  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "result:%@", result);
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "result:%@", result);
   stopSpinner();
   m_usernameInputTxt->setText(QString());
   m_passwordInputTxt->setText(QString());
@@ -143,19 +144,22 @@ void CalendarIntegrationGroup::needOutlookCredential(const Dictionary& result) {
 }
 
 void CalendarIntegrationGroup::onPasswordTxtEnter() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "");
   sinkCredential();
 }
 void CalendarIntegrationGroup::onApplyButton() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "");
   sinkCredential();
 }
 
 void CalendarIntegrationGroup::sinkCredential() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "");
   if (username().isEmpty()) {
-    MVRNSErrorFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "username empty");
+    MVRNSErrorFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "username empty");
     return;
   }
   if (password().isEmpty()) {
-    MVRNSErrorFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "password empty");
+    MVRNSErrorFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "password empty");
     return;
   }
   startApplyingSpinner();
@@ -167,7 +171,7 @@ void CalendarIntegrationGroup::sinkCredential() {
 // Result
 
 void CalendarIntegrationGroup::onExchangeResolveDone(const Dictionary& result) {
-  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "result:%@", result);
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "result:%@", result);
   const bool isDone = isEqualText(textValue(result, kKZResult), kKZSuccess);
   m_isApplying = false;
   stopSpinner();
@@ -183,6 +187,7 @@ void CalendarIntegrationGroup::onExchangeResolveDone(const Dictionary& result) {
 }
 
 void CalendarIntegrationGroup::handleExchangeResolveSuccess(const Dictionary& result) {
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "");
   Dictionary exchange = dictionaryValue(result, QRT_ExchangeDiscover_Exchange);
   if (textValue(exchange, QRT_ExchangeDiscover_Username).isEmpty()) {
     exchange.insert(QRT_ExchangeDiscover_Username, username());
@@ -194,7 +199,7 @@ void CalendarIntegrationGroup::handleExchangeResolveSuccess(const Dictionary& re
 }
 
 void CalendarIntegrationGroup::onAuthFailure(const Dictionary& result) {
-  MVRNSErrorFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "result:%@", result);
+  MVRNSErrorFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "result:%@", result);
   m_isApplying = false;
   hideCredentialControls();
   stopSpinner();
@@ -202,7 +207,7 @@ void CalendarIntegrationGroup::onAuthFailure(const Dictionary& result) {
 }
 
 void CalendarIntegrationGroup::cancelRuningApply() {
-  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "m_isApplying:%d", m_isApplying);
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "m_isApplying:%d", m_isApplying);
   if (!m_isApplying) return;
   m_isApplying = false;
   m_actionDelegate->cancelApplyOutlookAccount({{QRT_ExchangeDiscover_Email, m_emailInputTxt->text()}});
@@ -213,7 +218,7 @@ void CalendarIntegrationGroup::cancelRuningApply() {
 void CalendarIntegrationGroup::windowDidBecomeKey() {}
 
 void CalendarIntegrationGroup::onWindowWillClose() {
-  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "");
   const bool isApplied = m_assist.isOLAccountApplied();
   reportSourceOnClose(isApplied);
   showAppliedState(isApplied);

@@ -57,12 +57,15 @@ void CalendarIntegrationSubView::setCalendarPreference(const Dictionary& prefere
 }
 
 void CalendarIntegrationSubView::setCalendarIntergrationOption(const KZCalendarIntegrationOption& option) {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "none:%d, google:%d", option.isEnableNone,
+                         option.isEnableGoogle);
   m_noneRadioBtn->setEnabled(option.isEnableNone);
   m_googleRadioBtn->setEnabled(option.isEnableGoogle);
   relayoutButtons();
 }
 
 void CalendarIntegrationSubView::relayoutButtons() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
   int row = 0;
   const auto place = [this, &row](QRadioButton* button) {
     Frame frame = frameOf(button);
@@ -92,12 +95,15 @@ void CalendarIntegrationSubView::enableWithoutAccount(QRadioButton* button) {
 }
 
 void CalendarIntegrationSubView::enableNone() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
   enableWithoutAccount(m_noneRadioBtn);
 }
 void CalendarIntegrationSubView::enableMivRa() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
   enableWithoutAccount(m_mivraRadioBtn);
 }
 void CalendarIntegrationSubView::enableGoogle() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
   enableWithoutAccount(m_googleRadioBtn);
 }
 

@@ -6,6 +6,7 @@
 #include "KZPreference/panes/meetings/PrefMeetingView+Visible.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZFoundation/KZConstants.h"
+#include "host/KZUtility/KZTrace.h"
 #include "platform/Accessible.h"
 #include "platform/FrameLayout.h"
 
@@ -35,11 +36,13 @@ void CalendarSubView::initDays() {
 }
 
 void CalendarSubView::setCalendarPreference(const Dictionary& preference) {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "prefs:%@", preference);
   const QString days = countValue(preference, kKZCalendarIntegrationDays);
   m_daysBtn->setTitle(days.isNull() ? kKZCalendarIntegrationDaysDefault : days);
 }
 
 void CalendarSubView::onDaysButton() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
   const QString days = m_daysBtn->title();
   m_actionDelegate->setCalendarDays(days);
   PreferenceTelemetry::sharedInstance().writeFeatrueName(

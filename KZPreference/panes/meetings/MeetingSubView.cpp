@@ -70,6 +70,7 @@ BRNHyperlinkTextField* MeetingSubView::createCopyButton(const char* name, const 
 }
 
 void MeetingSubView::setPMRUrl(const QString& pmrurl, const QString& sipurl) {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "pmrurl:%@, sipurl:%@", pmrurl, sipurl);
   if (!pmrurl.isEmpty()) m_pmrurl = pmrurl;
   if (!sipurl.isEmpty()) m_sipurl = sipurl;
   placeCopyButtons();
@@ -98,10 +99,13 @@ QSize MeetingSubView::minimumSizeHint() const {
 }
 
 QList<DrawnText> MeetingSubView::drawnTexts() const {
-  QList<DrawnText> texts{drawMeetingLabel()};
-  if (m_pmrurl.isEmpty() && m_sipurl.isEmpty()) return texts;
+  if (m_pmrurl.isEmpty() && m_sipurl.isEmpty()) return drawMinimum();
   const bool hasBoth = !m_pmrurl.isEmpty() && !m_sipurl.isEmpty();
-  return texts += hasBoth ? drawMaximum() : drawMedium();
+  return drawMinimum() + (hasBoth ? drawMaximum() : drawMedium());
+}
+
+QList<DrawnText> MeetingSubView::drawMinimum() const {
+  return {drawMeetingLabel()};
 }
 
 DrawnText MeetingSubView::drawMeetingLabel() const {
@@ -133,6 +137,7 @@ QList<DrawnText> MeetingSubView::drawMaximum() const {
 }
 
 void MeetingSubView::onEditButton() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
   m_actionDelegate->editMeetingNowSetting();
   PreferenceTelemetry::sharedInstance().writeFeatrueName(
       TelemetryValue_FeatureName_Click_EditMeetingNowSettings);
@@ -147,6 +152,7 @@ bool MeetingSubView::putOnPasteboard(const QString& text) {
 }
 
 void MeetingSubView::onCopyPmrurlButton() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
   if (!putOnPasteboard(m_pmrurl)) {
     MVRNSErrorFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "set pmr url to pasteboard failed");
     return;
@@ -156,6 +162,7 @@ void MeetingSubView::onCopyPmrurlButton() {
 }
 
 void MeetingSubView::onCopySipurlButton() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
   if (!putOnPasteboard(m_sipurl)) {
     MVRNSErrorFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "set sip url to pasteboard failed");
     return;
@@ -175,8 +182,10 @@ void MeetingSubView::setCopiedUrlBtn(BRNHyperlinkTextField* button) {
 }
 
 void MeetingSubView::resetCopyPmrUrlBtn() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
   m_copyPmrurlBtn->setStringValue(localizedString("Copy"));
 }
 void MeetingSubView::resetCopySipUrlBtn() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
   m_copySipurlBtn->setStringValue(localizedString("Copy"));
 }

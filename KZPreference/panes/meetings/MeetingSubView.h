@@ -31,6 +31,7 @@ class MeetingSubView final : public View {
   void resetCopySipUrlBtn();
 
   DrawnText drawMeetingLabel() const;
+  QList<DrawnText> drawMinimum() const;
   QList<DrawnText> drawMedium() const;
   QList<DrawnText> drawMaximum() const;
 

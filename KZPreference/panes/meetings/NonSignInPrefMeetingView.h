@@ -2,7 +2,7 @@
 
 #include "KZPreference/panes/meetings/MeetingsPane.h"
 #include "KZPreference/panes/meetings/NonSignInCalendarIntegrationSubView.h"
-#include "KZPreference/panes/meetings/PrefMeetingView+Visible.h"
+#include "KZPreference/panes/meetings/NonSignInPrefMeetingView+Visible.h"
 
 // The guest's Meetings pane: calendar days and calendar integration.
 class NonSignInPrefMeetingView final : public MeetingsPane, public NonSignInPrefMeetingViewVisible {

@@ -10,7 +10,6 @@
 namespace {
 
 constexpr double kIntegrationHeight = 198;
-constexpr double kGuestIntegrationHeight = 172;
 constexpr double kCredentialRoom = 220;
 
 }  // namespace
@@ -101,17 +100,4 @@ Size PrefMeetingViewVisible::caculateViewSize() {
   return {.width = std::max({meeting.width, calendar.width, integration.width}),
           .height = marginAtTopEdge + meeting.height + calendar.height + integration.height +
                     2 * marginBetweenSubViews + marginAtBottomEdge};
-}
-
-Size NonSignInPrefMeetingViewVisible::caculateIntegrationViewSize() {
-  return {.width = PrefMeetingViewVisible::caculateIntegrationViewSize().width,
-          .height = kGuestIntegrationHeight};
-}
-
-Size NonSignInPrefMeetingViewVisible::caculateViewSize() {
-  const Size calendar = caculateCalendarViewSize();
-  const Size integration = caculateIntegrationViewSize();
-  return {.width = std::max(calendar.width, integration.width),
-          .height = marginAtTopEdge + calendar.height + integration.height + marginBetweenSubViews +
-                    marginAtBottomEdge};
 }

@@ -28,11 +28,3 @@ class PrefMeetingViewVisible {
   static Size caculateIntegrationViewSize();
   static Size caculateViewSize();
 };
-
-// The guest's pane: the same texts, without the personal room.
-class NonSignInPrefMeetingViewVisible : public PrefMeetingViewVisible {
- public:
-  static Size caculateMeetingSubViewSize() = delete;
-  static Size caculateIntegrationViewSize();
-  static Size caculateViewSize();
-};

@@ -4,6 +4,7 @@
 #include "KZPreference/panes/meetings/CalendarSubView.h"
 #include "KZPreference/panes/meetings/MeetingSubView.h"
 #include "host/KZUIExtension/SplitLineView.h"
+#include "host/KZUtility/KZTrace.h"
 #include "platform/FrameLayout.h"
 
 PrefMeetingView::PrefMeetingView(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate)
@@ -12,6 +13,7 @@ PrefMeetingView::PrefMeetingView(const Frame& frame, PreferenceActionDelegatePro
 }
 
 void PrefMeetingView::initSubviews(PreferenceActionDelegateProtocol* actionDelegate) {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
   const Size meeting = caculateMeetingSubViewSize();
   const auto [calendarFrame, integrationFrame] = groupFrames(caculateIntegrationViewSize());
   const Frame meetingFrame{0, calendarFrame.maxY() + marginBetweenSubViews, meeting.width, meeting.height};
@@ -36,6 +38,7 @@ void PrefMeetingView::setCalendarIntergrationOption(const KZCalendarIntegrationO
 }
 
 void PrefMeetingView::relayoutCalendarView(const KZCalendarIntegrationOption& option) {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
   const int sources = int(option.isEnableNone) + int(option.isEnableGoogle);
   const double growth = sources * CalendarIntegrationGroup::sourceRowPitch;
   const auto raise = [growth](QWidget* view) {

@@ -16,6 +16,8 @@ class MeetingAlertsSubView final : public NotificationRow, public MeetingAlertsS
                          .minutes = {"5", "10", "15"},
                          .stateKey = kKZMeetintNotificationToast,
                          .minutesKey = kKZMeetintNotificationToastMinutes,
+                         .clickMethod = "onMeetingAlertsButton",
+                         .minutesMethod = "onMeetingAlertsMinutesButton",
                          .report = &PreferenceActionDelegateProtocol::setMeetingAlerts,
                          .clickFeature = TelemetryValue_FeatureName_Click_PreferenceMeetingAlert,
                          .minutesFeature = TelemetryValue_FeatureName_Click_PreferenceMeetingAlertMinutes}) {}

@@ -15,5 +15,7 @@ class MeetingCardSubView final : public NotificationRow, public MeetingCardSubVi
                          .minutes = {"3", "5", "10", "15"},
                          .stateKey = kKZMeetintNotificationCard,
                          .minutesKey = kKZMeetintNotificationCardMinutes,
+                         .clickMethod = "onMeetingCardButton",
+                         .minutesMethod = "onMeetingCardMinutesButton",
                          .report = &PreferenceActionDelegateProtocol::setMeetingCard}) {}
 };

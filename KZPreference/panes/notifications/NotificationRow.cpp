@@ -4,6 +4,7 @@
 #include "KZPreference/layout/PreferenceTelemetry.h"
 #include "KZPreference/layout/PrefsViewDefine.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
+#include "host/KZUtility/KZTrace.h"
 #include "platform/Accessible.h"
 #include "platform/FrameLayout.h"
 
@@ -45,6 +46,7 @@ void NotificationRow::initMinutes() {
 }
 
 void NotificationRow::setPreference(const Content& preference) {
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "prefs:%@", preference);
   if (preference) m_prefs = *preference;
   const bool isOn = flagValue(m_prefs, m_kind.stateKey).value_or(true);
   const QString minutes = countValue(m_prefs, m_kind.minutesKey);
@@ -54,6 +56,7 @@ void NotificationRow::setPreference(const Content& preference) {
 }
 
 void NotificationRow::onButton() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, m_kind.clickMethod}, "");
   const bool isOn = m_checkbox->isChecked();
   m_minutesBtn->setEnabled(isOn);
   (m_actionDelegate->*m_kind.report)(isOn, m_minutesBtn->title());
@@ -64,6 +67,7 @@ void NotificationRow::onButton() {
 }
 
 void NotificationRow::onMinutesButton() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", {this, m_kind.minutesMethod}, "");
   const QString minutes = m_minutesBtn->title();
   (m_actionDelegate->*m_kind.report)(m_checkbox->isChecked(), minutes);
   if (m_kind.minutesFeature.isNull()) return;

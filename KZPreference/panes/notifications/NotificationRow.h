@@ -25,6 +25,9 @@ class NotificationRow : public View {
     QStringList minutes;
     QString stateKey;
     QString minutesKey;
+    // What the trace calls the two actions in this row.
+    const char* clickMethod;
+    const char* minutesMethod;
     void (PreferenceActionDelegateProtocol::*report)(bool state, const QString& minutes);
     // Telemetry features; a null name sends none.
     QString clickFeature = {};

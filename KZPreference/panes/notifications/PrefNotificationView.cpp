@@ -4,6 +4,7 @@
 
 #include "KZPreference/panes/notifications/MeetingAlertsSubView.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
+#include "host/KZUtility/KZTrace.h"
 #include "platform/FrameLayout.h"
 #include "platform/PopUpButton.h"
 
@@ -25,6 +26,7 @@ PrefNotificationView::PrefNotificationView(const Frame& frame,
 }
 
 void PrefNotificationView::initSubviews() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
   const Frame row{0, 16, frameOf(this).width, MeetingAlertsSubView::caculateViewSize().height};
   m_meetingAlertsView = new MeetingAlertsSubView(row, m_actionDelegate);
   m_meetingAlertsView->setObjectName(QStringLiteral("MeetingAlertsSubView"));
@@ -32,6 +34,7 @@ void PrefNotificationView::initSubviews() {
 }
 
 void PrefNotificationView::setPreference(const Content& preference) {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "prefs:%@", preference);
   m_meetingAlertsView->setPreference(preference);
 }
 

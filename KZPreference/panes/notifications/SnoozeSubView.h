@@ -15,5 +15,7 @@ class SnoozeSubView final : public NotificationRow, public SnoozeSubViewVisible 
                          .minutes = {"3", "5", "10", "15"},
                          .stateKey = kKZMeetintNotificationSnooze,
                          .minutesKey = kKZMeetintNotificationSnoozeMinutes,
+                         .clickMethod = "onSnoozeButton",
+                         .minutesMethod = "onSnoozeMinutesButton",
                          .report = &PreferenceActionDelegateProtocol::setSnooze}) {}
 };

@@ -5,6 +5,7 @@
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
+#include "host/KZUtility/KZTrace.h"
 #include "platform/FrameLayout.h"
 
 PrefProximityView::PrefProximityView(const Frame& frame, PreferenceActionDelegateProtocol* actionDelegate)
@@ -22,15 +23,18 @@ void PrefProximityView::initAutodetectButton() {
 }
 
 void PrefProximityView::viewDidUnhide() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
   setPreference(KZPlistFileHandle::sharedInstance().videoDevice());
 }
 
 void PrefProximityView::setPreference(const Content& preference) {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "prefs:%@", preference);
   if (preference) m_prefs = *preference;
   m_autodetectBtn->setChecked(flagValue(m_prefs, kKZVideoDeviceAutodetect).value_or(true));
 }
 
 void PrefProximityView::onAutodetectButton() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
   const bool isOn = m_autodetectBtn->isChecked();
   Dictionary prefs = m_prefs;
   prefs.insert(kKZVideoDeviceAutodetect, isOn);

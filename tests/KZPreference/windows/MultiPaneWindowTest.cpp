@@ -1,12 +1,14 @@
 #include <gtest/gtest.h>
 
 #include <QLineEdit>
-#include <QProxyStyle>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 #include <QToolBar>
 #include <QVariantAnimation>
 
 #include "KZPreference/windows/LWPrefsWindowController.h"
+#include "bench/ReducedMotion.h"
 #include "host/KZUtility/KZTrace.h"
 #include "platform/FrameLayout.h"
 #include "platform/PopUpButton.h"
@@ -15,14 +17,6 @@
 #include "tests/kit/Input.h"
 
 namespace {
-
-class StillStyle final : public QProxyStyle {
- public:
-  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                QStyleHintReturn* answer) const override {
-    return hint == SH_Widget_Animate ? 0 : QProxyStyle::styleHint(hint, option, widget, answer);
-  }
-};
 
 class Controller final : public LWPrefsWindowController {
  public:
@@ -165,17 +159,21 @@ TEST_F(MultiPaneWindowTest, ShiftSlowsTheFade) {
   }
 }
 
-TEST_F(MultiPaneWindowTest, SwitchesAtOnceWithoutFadeAndWithReducedMotion) {
+TEST_F(MultiPaneWindowTest, WithoutFadeTheSizeIsAnimatedAndWithReducedMotionNothing) {
   show();
   m_controller.setCrossFade(false);
   click("Tall");
+  ASSERT_TRUE(isFading());
+  animation()->pause();
+  animation()->setCurrentTime(125);
+  EXPECT_EQ(shown(), QList<QWidget*>{pane("Tall240")});
+  EXPECT_NEAR(window()->height(), m_toolbarHeight + 150, 1);
+  animation()->setCurrentTime(250);
   expectSettledOn("Tall240", 240);
   m_controller.setCrossFade(true);
-  StillStyle still;
-  window()->setStyle(&still);
+  reduceMotion(window());
   click("Middle");
   expectSettledOn("Middle120", 120);
-  window()->setStyle(nullptr);
 }
 
 TEST_F(MultiPaneWindowTest, OnlyCommandAndASmallWCloses) {
@@ -205,19 +203,91 @@ TEST_F(MultiPaneWindowTest, OnlyCommandAndASmallWCloses) {
   }
 }
 
-TEST(MultiPaneWindow, APaneTallerThanTheScreenScrolls) {
+// The window's upper edge stays as long as there is room below it.
+TEST(MultiPaneWindow, EveryPaneIsOnTheScreenAndScrollsOnlyWhenItIsTaller) {
   muteKZTrace();
   class TallController final : public LWPrefsWindowController {
    protected:
     void setupToolbar() override {
       addView(new View({0, 0, 300, 100}), "Low");
+      addView(new View({0, 0, 500, 400}), "Middle");
       addView(new View({0, 0, 300, 5000}), "High");
     }
   } controller;
   controller.showWindow();
-  controller.loadViewForIdentifier("High", Animate::No);
-  EXPECT_LE(controller.window()->height(), controller.window()->screen()->availableSize().height());
-  EXPECT_EQ(controller.window()->findChild<QWidget*>("contentSubview")->height(), 5000);
+  Window* window = controller.window();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
+  auto* area = window->findChild<QScrollArea*>();
+  const QRect screen = window->screen()->availableGeometry();
+  for (const Animate animate : {Animate::No, Animate::Yes}) {
+    for (const char* label : {"Middle", "Low", "High", "Low"}) {
+      window->move(screen.right() - 310, screen.bottom() - 200);
+      controller.loadViewForIdentifier(label, animate);
+      auto* animation = controller.findChild<QVariantAnimation*>();
+      animation->setCurrentTime(animation->duration());
+      EXPECT_TRUE(screen.contains(window->frameGeometry())) << label;
+      EXPECT_EQ(area->verticalScrollBar()->isVisible(), QLatin1String(label) == "High") << label;
+      EXPECT_EQ(window->y() == screen.bottom() - 200, QLatin1String(label) == "Low") << label;
+    }
+  }
+  setKZTraceSink({});
+}
+
+TEST_F(MultiPaneWindowTest, ThePaneAskedForAtOnceIsTheFirstThatIsSeen) {
+  for (const char* label : {"Tall", "Middle"}) {
+    m_controller.showWindow();
+    const QPoint corner = window()->geometry().topLeft();
+    m_controller.loadViewForIdentifier(label, Animate::Yes);
+    EXPECT_FALSE(isFading());
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window()));
+    EXPECT_EQ(shown().last()->accessibleName(), label);
+    EXPECT_EQ(window()->geometry().topLeft(), corner);
+    m_controller.close();
+  }
+}
+
+TEST_F(MultiPaneWindowTest, IsNeverMaximised) {
+  show();
+  window()->windowHandle()->setWindowStates(Qt::WindowMaximized);
+  EXPECT_TRUE(kit::waitUntil([&] { return window()->windowHandle()->windowStates() == Qt::WindowNoState; }));
+  click("Tall");
+  animation()->setCurrentTime(250);
+  expectSettledOn("Tall240", 240);
+}
+
+// What was added before the first showing is dropped, and asking for it is harmless.
+TEST(MultiPaneWindow, ViewsAddedTooEarlyAreDropped) {
+  muteKZTrace();
+  Controller controller;
+  const QPointer<View> early = new View({0, 0, 300, 100});
+  controller.addView(early, "Early");
+  controller.loadViewForIdentifier("Early", Animate::Yes);
+  EXPECT_EQ(controller.frameForView(early).size(), (Size{300, 100}));
+  controller.showWindow();
+  EXPECT_FALSE(early);
+  EXPECT_EQ(controller.window()->findChild<QToolBar*>()->actions().size(), 3);
+  setKZTraceSink({});
+}
+
+// Its action replaces the switch of panes.
+TEST(MultiPaneWindow, AnItemWithItsOwnActionIsSelectedToo) {
+  muteKZTrace();
+  class HelpController final : public LWPrefsWindowController {
+   public:
+    int calls = 0;
+
+   protected:
+    void setupToolbar() override {
+      addView(new View({0, 0, 300, 100}), "Pane");
+      addToolbarItemForIdentifier("Help", "Help", QIcon(), ToolbarAction(&HelpController::help));
+    }
+    void help(QAction*) { ++calls; }
+  } controller;
+  controller.showWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(controller.window()));
+  kit::clickItem(*controller.window(), "Help");
+  EXPECT_EQ(controller.calls, 1);
+  EXPECT_TRUE(controller.window()->findChild<QToolBar*>()->actions().at(1)->isChecked());
   setKZTraceSink({});
 }
 

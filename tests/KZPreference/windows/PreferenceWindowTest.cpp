@@ -1,7 +1,9 @@
 #include <QCheckBox>
 #include <QTest>
+#include <QToolButton>
 
 #include "KZPreference/panes/account/PrefAccountView.h"
+#include "bench/ReducedMotion.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 #include "platform/FrameLayout.h"
@@ -18,6 +20,15 @@ class PreferenceWindowTest : public RecordingHost {
   static double widthOf(const QString& name) { return frameOf(window()->findChild<QWidget*>(name)).width; }
   QString shownPane() {
     return subviewsOf(window()->findChild<QWidget*>("contentSubview")).last()->objectName();
+  }
+  static QString selectedItem() {
+    for (const QToolButton* item : window()->findChildren<QToolButton*>())
+      if (item->isChecked()) return item->text();
+    return {};
+  }
+  static QString focusedItem() {
+    const auto* item = qobject_cast<QToolButton*>(window()->focusWidget());
+    return item ? item->text() : QString();
   }
 };
 
@@ -53,18 +64,83 @@ TEST_F(PreferenceWindowTest, OnlyASuccessSendsASourceChange) {
 TEST_F(PreferenceWindowTest, EveryPaneIsReachedAndUsedByKeyboard) {
   command(2);
   ASSERT_TRUE(QTest::qWaitForWindowActive(window()));
-  auto* checkbox = find<QCheckBox>("m_startCheckingBtn");
-  for (int press = 0; press < 10 && !checkbox->hasFocus(); ++press)
-    QTest::keyClick(window()->windowHandle(), Qt::Key_Tab);
-  ASSERT_TRUE(checkbox->hasFocus());
-  QTest::keyClick(window()->windowHandle(), Qt::Key_Space);
+  const auto press = [](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::keyClick(window()->windowHandle(), key, modifiers);
+  };
+  EXPECT_EQ(window()->focusWidget()->accessibleName(), "General");
+  press(Qt::Key_Tab);
+  ASSERT_TRUE(find<QCheckBox>("m_startCheckingBtn")->hasFocus());
+  press(Qt::Key_Space);
   EXPECT_EQ(takeSent(), QStringList{R"(4 {"kLaunchAtLogin":false})"});
-  for (int press = 0; press < 12 && shownPane() != "m_accountView"; ++press) {
-    QTest::keyClick(window()->windowHandle(), Qt::Key_Tab);
-    if (QApplication::focusWidget() && QApplication::focusWidget()->property("text") == "Account")
-      QTest::keyClick(window()->windowHandle(), Qt::Key_Space);
+
+  press(Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_EQ(focusedItem(), "General");
+  const struct {
+    Qt::Key key;
+    qsizetype pane;
+  } arrows[] = {{Qt::Key_Right, 1}, {Qt::Key_Right, 2}, {Qt::Key_Left, 1}, {Qt::Key_End, 4},
+                {Qt::Key_Right, 4}, {Qt::Key_Home, 0},  {Qt::Key_Left, 0}};
+  for (const auto& [key, pane] : arrows) {
+    press(key);
+    EXPECT_EQ(shownPane(), kPaneNames.at(pane)) << key;
+    EXPECT_EQ(focusedItem(), selectedItem()) << "the focus goes with the selection";
   }
-  EXPECT_EQ(shownPane(), "m_accountView");
+
+  // Without a focus, Tab begins at the pane that is shown, and Shift+Tab at its item.
+  reduceMotion(window());
+  for (const auto& [key, first] : {std::pair{Qt::Key_4, "m_checkbox"}, {Qt::Key_3, "m_editBtn"}}) {
+    window()->focusWidget()->clearFocus();
+    press(key, Qt::ControlModifier);
+    EXPECT_EQ(window()->focusWidget(), nullptr);
+    press(Qt::Key_Tab);
+    EXPECT_EQ(window()->focusWidget()->objectName(), first);
+    press(key == Qt::Key_4 ? Qt::Key_5 : Qt::Key_4, Qt::ControlModifier);
+    press(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(focusedItem(), selectedItem());
+    EXPECT_EQ(shownPane(), kPaneNames.at(key == Qt::Key_4 ? 4 : 3));
+  }
+}
+
+TEST_F(PreferenceWindowTest, ShortcutsChooseThePane) {
+  command(2);
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window()));
+  constexpr Qt::KeyboardModifiers control = Qt::ControlModifier;
+  const struct {
+    Qt::Key key;
+    Qt::KeyboardModifiers modifiers;
+    qsizetype pane;
+  } rows[] = {{Qt::Key_5, control, 4},
+              {Qt::Key_Tab, control, 0},
+              {Qt::Key_Backtab, control | Qt::ShiftModifier, 4},
+              {Qt::Key_PageUp, control, 3},
+              {Qt::Key_PageDown, control, 4},
+              {Qt::Key_PageDown, control, 0},
+              {Qt::Key_3, control | Qt::KeypadModifier, 2},
+              {Qt::Key_1, control | Qt::AltModifier, 2},
+              {Qt::Key_1, {}, 2},
+              {Qt::Key_9, control, 2},
+              {Qt::Key_1, control | Qt::ShiftModifier, 0}};
+  for (const auto& row : rows) {
+    QTest::keyClick(window()->windowHandle(), row.key, row.modifiers);
+    EXPECT_EQ(shownPane(), kPaneNames.at(row.pane)) << row.key;
+  }
+}
+
+// A key that is held down comes again and again, in each pane and while it fades.
+TEST_F(PreferenceWindowTest, KeysHeldThroughTenSwitchesDoNoHarm) {
+  command(2);
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window()));
+  takeSent();
+  for (const Qt::Key held : {Qt::Key_Tab, Qt::Key_Space, Qt::Key_Return, Qt::Key_Down}) {
+    for (int press = 0; press < 11; ++press) {
+      QKeyEvent key(QEvent::KeyPress, held, Qt::NoModifier, QString(), true);
+      QApplication::sendEvent(window()->focusWidget() ? window()->focusWidget() : window(), &key);
+      QTest::keyClick(window()->windowHandle(), Qt::Key_Tab, Qt::ControlModifier);
+      QCoreApplication::processEvents();
+    }
+  }
+  EXPECT_EQ(shownPane(), kPaneNames.at(44 % 5));
+  EXPECT_EQ(takeSent(), QStringList());
 }
 
 }  // namespace

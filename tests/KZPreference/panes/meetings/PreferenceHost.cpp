@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QTest>
 
+#include "bench/ReducedMotion.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZFoundation/KZNotificationCenter.h"
@@ -27,7 +28,7 @@ void PreferenceHost::openMeetings() {
   // Delete the last window first.
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   command(KZCommand::KZCmdShowPreference);
-  window()->controller()->setProperty("crossFade", false);
+  reduceMotion(window());
   if (!QTest::qWaitForWindowActive(window())) qFatal("the window does not become active");
   kit::clickItem(*window(), QStringLiteral("Meetings"));
 }
