@@ -126,6 +126,7 @@ void CalendarIntegrationGroup::initSpinner() {
   m_spinner = new Spinner;
   m_spinner->setObjectName(QStringLiteral("m_spinner"));
   m_spinner->hide();
+  setAccessibleRole(m_spinner, QAccessible::Animation);
   addSubview(this, m_spinner, Frame());
 }
 

@@ -252,15 +252,13 @@ void CalendarIntegrationGroup::hideCredentialControls() {
 // Spinner
 
 void CalendarIntegrationGroup::startDetectingSpinner() {
-  announce(this, localizedString("Looking up the account…"));
-  startSpinnerBeside(m_emailInputTxt, 10);
+  startSpinnerBeside(m_emailInputTxt, 10, localizedString("Looking up the account…"));
 }
 void CalendarIntegrationGroup::startApplyingSpinner() {
-  announce(this, localizedString("Applying…"));
-  startSpinnerBeside(m_applyBtn, 2);
+  startSpinnerBeside(m_applyBtn, 2, localizedString("Applying…"));
 }
 
-void CalendarIntegrationGroup::startSpinnerBeside(const QWidget* control, double gap) {
+void CalendarIntegrationGroup::startSpinnerBeside(const QWidget* control, double gap, const QString& spoken) {
   const Frame beside = frameOf(control);
   Frame spinner = frameOf(m_spinner);
   spinner.x = beside.maxX() + gap;
@@ -268,6 +266,8 @@ void CalendarIntegrationGroup::startSpinnerBeside(const QWidget* control, double
   setFrame(m_spinner, spinner);
   m_spinner->show();
   m_spinner->startAnimation();
+  m_spinner->setAccessibleName(spoken);
+  announce(m_spinner, spoken);
 }
 
 void CalendarIntegrationGroup::stopSpinner() {

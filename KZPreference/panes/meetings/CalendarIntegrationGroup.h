@@ -98,7 +98,7 @@ class CalendarIntegrationGroup : public View, public OutlookAccountAuthDelegate 
   void loadEmailFromPreferences();
   void startDetectingSpinner();
   void startApplyingSpinner();
-  void startSpinnerBeside(const QWidget* control, double gap);
+  void startSpinnerBeside(const QWidget* control, double gap, const QString& spoken);
   void stopSpinner();
 
   OLAccountAuthenticator* m_authenticator = nullptr;

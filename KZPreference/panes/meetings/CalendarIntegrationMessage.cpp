@@ -10,10 +10,13 @@ void CalendarIntegrationMessage::setMessageTxt(StaticText* messageTxt) {
 }
 
 void CalendarIntegrationMessage::showErrorMessage(const Dictionary& result) {
+  if (!m_messageTxt) return;
   const QString text = textValue(dictionaryValue(result, kKZErrorHandleData), kKZErrorMessage);
-  if (text.isEmpty()) return;
+  const QString failed = localizedString("Applied failed");
+  // Without a text the end of the spinner is all that is seen.
+  if (text.isEmpty()) return announce(m_messageTxt, failed);
   const bool isOwn = text == QLatin1String(kSignInFailedMessage);
-  show(isOwn ? localizedString("Applied failed") : text, SystemColor::Red, Announce::Yes);
+  show(isOwn ? failed : text, SystemColor::Red, Announce::Yes);
 }
 
 void CalendarIntegrationMessage::showInvalidAccountMessage(Announce announced) {

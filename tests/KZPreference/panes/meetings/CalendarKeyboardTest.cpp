@@ -98,18 +98,21 @@ TEST_P(CalendarKeyboard, TheWholeExchangeFlowNeedsNoMouse) {
 }
 
 TEST_P(CalendarKeyboard, ACredentialRequestWaitsForItsPane) {
-  kit::clickItem(*PreferenceHost::window(), "General");
+  PreferenceHost::window()->controller()->setProperty("crossFade", true);
+  const auto* fade = PreferenceHost::window()->controller()->findChild<ViewAnimation*>();
+  const auto showPane = [fade](const char* pane) {
+    kit::clickItem(*PreferenceHost::window(), pane);
+    EXPECT_TRUE(kit::waitUntil([fade] { return !fade->isRunning(); }));
+  };
+  showPane("General");
   host.needCredential();
   keys("secret");
   EXPECT_EQ(PreferenceHost::control<QLineEdit>("m_usernameInputTxt").text(), "");
-  kit::clickItem(*PreferenceHost::window(), "Meetings");
-  const auto* fade = PreferenceHost::window()->controller()->findChild<ViewAnimation*>();
-  ASSERT_TRUE(kit::waitUntil([fade] { return !fade->isRunning(); }));
+  showPane("Meetings");
   EXPECT_EQ(focused(), "m_usernameInputTxt");
   host.fail(QStringLiteral("No service there"));
-  kit::clickItem(*PreferenceHost::window(), "General");
-  kit::clickItem(*PreferenceHost::window(), "Meetings");
-  ASSERT_TRUE(kit::waitUntil([fade] { return !fade->isRunning(); }));
+  showPane("General");
+  showPane("Meetings");
   EXPECT_NE(focused(), "m_usernameInputTxt");
 }
 
@@ -117,9 +120,11 @@ TEST_P(CalendarKeyboard, TheStatusLineIsAnnouncedOnce) {
   kit::AssistiveTechnology reader;
   host.fail(QStringLiteral("No service there"));
   host.fail(QStringLiteral("Still none"));
+  host.fail(QString());
   host.resolveWith(QStringLiteral("ann@brenn.example"));
   host.openMeetings();
-  EXPECT_EQ(reader.takeAnnounced(), QStringList({"No service there", "Still none", "Applied successfully"}));
+  EXPECT_EQ(reader.takeAnnounced(),
+            QStringList({"No service there", "Still none", "Applied failed", "Applied successfully"}));
 }
 
 TEST_P(CalendarKeyboard, EveryControlHasARoleAndAName) {
