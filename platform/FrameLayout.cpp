@@ -108,7 +108,9 @@ class Placer final : public QObject {
 
   static void setGeometryOf(QWidget* view, const Frame& frame) {
     const QWidget* parent = view->parentWidget();
-    const QRect place = withNeededRoom(view, geometryIn(parent, frame), of(view) != nullptr);
+    QRect place = geometryIn(parent, frame);
+    // Measuring is slow, and most panes are never seen.
+    if (parent->isVisible()) place = withNeededRoom(view, place, of(view) != nullptr);
     view->setGeometry(QStyle::visualRect(parent->layoutDirection(), parent->rect(), place));
   }
 
