@@ -1,6 +1,7 @@
 #include "companion/app/CompanionExchange.h"
 
 #include <QPushButton>
+#include <QShortcut>
 
 #include "companion/runtime/PluginHost.h"
 #include "companion/texts/CompanionText.h"
@@ -63,6 +64,7 @@ void CompanionExchange::askAboutRedirect(const QUrl& target, const RedirectPromp
   const QPushButton* allow = box->addButton(companionText("&Allow"), QMessageBox::AcceptRole);
   box->setDefaultButton(box->addButton(companionText("&Do not allow"), QMessageBox::RejectRole));
   connect(box, &QMessageBox::finished, box, [box, allow, answer] { answer(box->clickedButton() == allow); });
+  connect(new QShortcut(Qt::CTRL | Qt::Key_W, box), &QShortcut::activated, box, &QDialog::reject);
   box->show();
   box->raise();
 }

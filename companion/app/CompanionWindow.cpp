@@ -2,10 +2,14 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QFontInfo>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QShortcut>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <utility>
@@ -20,9 +24,17 @@
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
+#include "platform/Accessible.h"
 #include "platform/Text.h"
 
 namespace {
+
+constexpr int kMargin = 20;
+constexpr double kTitleSize = 16;
+
+double fontScale() {
+  return QFontInfo(QApplication::font()).pixelSize() / systemFontSize;
+}
 
 Dictionary fromApplication() {
   return {{TelemetryKey_ActionFrom, TelemetryValue_ActionFrom_APP}};
@@ -32,18 +44,22 @@ Dictionary fromApplication() {
 
 CompanionWindow::CompanionWindow(PluginHost* host) : m_host(host) {
   setWindowTitle(QStringLiteral("Brenn Mivra Meetings – Companion"));
-  resize(900, 560);
+  // Smaller screens have room for it with the frame.
+  resize((QSize(900, 560) * fontScale()).boundedTo(screen()->availableSize() - QSize(20, 60)));
   auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(20, 16, 20, 16);
-  column->setSpacing(14);
-  column->addWidget(createHeader());
-  column->addWidget(createButtons());
-  column->addWidget(createFaultNotice(this));
-  column->addWidget(createPages(), 1);
+  column->setContentsMargins(0, 0, 0, 12);
+  column->setSpacing(8);
+  column->addWidget(createContent(), 1);
   m_notice = new QLabel;
   m_notice->setWordWrap(true);
   m_notice->setTextFormat(Qt::PlainText);
+  m_notice->setContentsMargins(kMargin, 0, kMargin, 0);
   column->addWidget(m_notice);
+  connect(new QShortcut(Qt::CTRL | Qt::Key_W, this), &QShortcut::activated, this, &QWidget::close);
+  // In the Preferences window too.
+  auto* quit = new QShortcut(Qt::CTRL | Qt::Key_Q, this);
+  quit->setContext(Qt::ApplicationShortcut);
+  connect(quit, &QShortcut::activated, this, &QWidget::close);
   // The guest's pane changes the identity.
   connect(&KZPlistFileHandle::sharedInstance(), &KZPlistFileHandle::valueChanged, this,
           &CompanionWindow::showIdentity);
@@ -55,14 +71,33 @@ void CompanionWindow::useServices(CompanionServices* services) {
   connect(&services->site(), &SiteService::siteWanted, this, &CompanionWindow::openSiteDialog);
 }
 
+// Scrolls where the window is too small for all of it.
+QWidget* CompanionWindow::createContent() {
+  auto* content = new QWidget;
+  auto* column = new QVBoxLayout(content);
+  column->setContentsMargins(kMargin, 16, kMargin, 4);
+  column->setSpacing(14);
+  column->addWidget(createHeader());
+  column->addWidget(createButtons());
+  column->addWidget(createFaultNotice(this));
+  column->addWidget(createPages(), 1);
+  auto* area = new QScrollArea;
+  area->setFrameShape(QFrame::NoFrame);
+  area->setFocusPolicy(Qt::NoFocus);
+  area->setWidgetResizable(true);
+  area->setWidget(content);
+  return area;
+}
+
 QWidget* CompanionWindow::createHeader() {
   auto* header = new QWidget;
   QHBoxLayout* row = addRow(header, 12);
   auto* texts = new QVBoxLayout;
   texts->setSpacing(2);
   auto* title = new QLabel(QStringLiteral("Brenn Mivra Meetings"));
-  title->setFont(fontFor(FontRole::BoldSystem, 16));
+  title->setFont(fontFor(FontRole::BoldSystem, kTitleSize * fontScale()));
   m_identity = new QLabel;
+  m_identity->setWordWrap(true);
   texts->addWidget(title);
   texts->addWidget(m_identity);
   row->addLayout(texts, 1);
@@ -107,8 +142,8 @@ QWidget* CompanionWindow::createSwitch() {
   m_guest = new QRadioButton(companionText("&Guest"));
   row->addWidget(m_signedIn);
   row->addWidget(m_guest);
-  connect(m_signedIn, &QRadioButton::clicked, this, [this] { become(demouser::Variant::SignedIn); });
-  connect(m_guest, &QRadioButton::clicked, this, [this] { become(demouser::Variant::Guest); });
+  connect(m_signedIn, &QRadioButton::clicked, this, [this] { change(demouser::Variant::SignedIn); });
+  connect(m_guest, &QRadioButton::clicked, this, [this] { change(demouser::Variant::Guest); });
   return box;
 }
 
@@ -140,6 +175,12 @@ QPushButton* CompanionWindow::createButton(const QString& title, const std::func
   QPushButton* button = ::createButton(title);
   connect(button, &QPushButton::clicked, this, action);
   return button;
+}
+
+// What was told last is the other user's.
+void CompanionWindow::change(demouser::Variant variant) {
+  showNotice({});
+  become(variant);
 }
 
 void CompanionWindow::become(demouser::Variant variant) {
@@ -201,6 +242,7 @@ void CompanionWindow::useSite(const QString& site) {
 
 void CompanionWindow::showNotice(const QString& text) {
   m_notice->setText(text);
+  announce(m_notice, text);
 }
 
 void CompanionWindow::showIdentity() {

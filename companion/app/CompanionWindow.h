@@ -48,12 +48,14 @@ class CompanionWindow final : public QWidget {
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  QWidget* createContent();
   QWidget* createPages();
   QWidget* createHeader();
   QWidget* createSwitch();
   QWidget* createButtons();
   QPushButton* createButton(const QString& title, const std::function<void()>& action);
 
+  void change(demouser::Variant variant);
   void showPage(int index);
   void showUpdate();
   void closePreferences();

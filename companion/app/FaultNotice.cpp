@@ -7,6 +7,7 @@
 #include "companion/texts/CompanionText.h"
 #include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
+#include "platform/Accessible.h"
 
 namespace {
 
@@ -72,12 +73,16 @@ QLabel* createFaultNotice(QWidget* parent) {
   notice->setBackgroundRole(QPalette::ToolTipBase);
   notice->setForegroundRole(QPalette::ToolTipText);
   const auto renew = [notice] {
-    notice->setText(faultNotices());
-    notice->setVisible(!notice->text().isEmpty());
+    const QString text = faultNotices();
+    if (text == notice->text()) return;
+    notice->setText(text);
+    notice->setVisible(!text.isEmpty());
+    announce(notice, text);
   };
   QObject::connect(&KZPlistFileHandle::sharedInstance(), &KZPlistFileHandle::saveProblemChanged, notice,
                    renew);
   QObject::connect(&KZKeyChainHandle::sharedInstance(), &KZKeyChainHandle::failed, notice, renew);
+  notice->hide();
   renew();
   return notice;
 }

@@ -2,9 +2,25 @@
 
 #include <QHeaderView>
 
+namespace {
+
+constexpr int kRowGap = 6;
+
+// As high as there is room for, not as its rows would be, but some of them are seen.
+class ListTable final : public QTableWidget {
+ public:
+  using QTableWidget::QTableWidget;
+  QSize sizeHint() const override { return minimumSizeHint(); }
+  QSize minimumSizeHint() const override {
+    constexpr int kLeastLines = 4;
+    return {QTableWidget::minimumSizeHint().width(), kLeastLines * (fontMetrics().height() + kRowGap)};
+  }
+};
+
+}  // namespace
+
 QTableWidget* createListTable(const QString& name, const QStringList& headings) {
-  constexpr int kRowGap = 6;
-  auto* table = new QTableWidget(0, static_cast<int>(headings.size()));
+  auto* table = new ListTable(0, static_cast<int>(headings.size()));
   table->setHorizontalHeaderLabels(headings);
   table->setAccessibleName(name);
   table->setEditTriggers(QAbstractItemView::NoEditTriggers);

@@ -3,14 +3,16 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QLocale>
 #include <QPushButton>
 #include <chrono>
 
 #include "companion/app/ListTable.h"
 #include "companion/app/Rows.h"
+#include "companion/runtime/ColumnWidths.h"
+#include "companion/runtime/TimeText.h"
 #include "companion/services/NextMeetings.h"
 #include "companion/texts/CompanionText.h"
+#include "platform/Accessible.h"
 
 namespace {
 
@@ -20,11 +22,11 @@ enum MeetingColumn { StartColumn, SubjectColumn, NoteColumn };
 
 QString startText(const QDateTime& start) {
   const QDateTime local = start.toLocalTime();
-  const QString time = QLocale().toString(local.time(), QLocale::ShortFormat);
+  const QString time = shortTime(local);
   const qint64 days = QDate::currentDate().daysTo(local.date());
   if (days == 0) return companionText("Today, %1").arg(time);
   if (days == 1) return companionText("Tomorrow, %1").arg(time);
-  return QLocale().toString(local, QLocale::ShortFormat);
+  return shortDateTime(local);
 }
 
 // Null where there is nothing to say.
@@ -58,8 +60,7 @@ MeetingsView::MeetingsView(NextMeetings* meetings)
   m_text->setObjectName(QStringLiteral("meetingsText"));
   m_text->setTextFormat(Qt::PlainText);
   m_text->setWordWrap(true);
-  m_table->setColumnWidth(StartColumn, 160);
-  m_table->setColumnWidth(NoteColumn, 160);
+  setColumnWidths(m_table, {24, 24, 24});
   m_table->horizontalHeader()->setSectionResizeMode(SubjectColumn, QHeaderView::Stretch);
   // Only the words for a time change; no request is made.
   m_minute.setInterval(1min);
@@ -72,11 +73,11 @@ MeetingsView::MeetingsView(NextMeetings* meetings)
 void MeetingsView::showMeetings() {
   const QList<ExchangeMeeting>& meetings = m_meetings->meetings();
   m_refresh->setEnabled(!m_meetings->isAsking());
-  if (m_meetings->isAsking()) {
-    m_text->setText(companionText("Asking for your next meetings."));
-  } else {
-    m_text->setText(m_meetings->text().isEmpty() ? companionText("Your next meetings:") : m_meetings->text());
-  }
+  QString text = m_meetings->text();
+  if (text.isEmpty()) text = companionText("Your next meetings:");
+  if (m_meetings->isAsking()) text = companionText("Asking for your next meetings.");
+  if (isVisible() && text != m_text->text()) announce(m_text, text);
+  m_text->setText(text);
   const int announced = announcedMinutes();
   QList<QStringList> rows;
   for (const ExchangeMeeting& meeting : meetings) {

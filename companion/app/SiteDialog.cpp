@@ -4,12 +4,16 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShortcut>
+#include <algorithm>
 
 #include "companion/app/Rows.h"
 #include "companion/network/WebAddress.h"
+#include "companion/runtime/FlowLayout.h"
 #include "companion/services/SiteService.h"
 #include "companion/texts/CompanionText.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
+#include "platform/Accessible.h"
 
 SiteDialog::SiteDialog(SiteService* service, QWidget* parent)
     : QDialog(parent),
@@ -18,7 +22,9 @@ SiteDialog::SiteDialog(SiteService* service, QWidget* parent)
       m_text(new QLabel) {
   setAttribute(Qt::WA_DeleteOnClose);
   setWindowTitle(companionText("Change site"));
-  setMinimumWidth(480);
+  constexpr int kLeastWidth = 480;
+  constexpr int kLeastCharacters = 45;
+  setMinimumWidth(std::max(kLeastWidth, kLeastCharacters * fontMetrics().averageCharWidth()));
   m_site->selectAll();
   auto* label = new QLabel(companionText("&Site of your meeting service:"));
   label->setBuddy(m_site);
@@ -31,9 +37,10 @@ SiteDialog::SiteDialog(SiteService* service, QWidget* parent)
   column->setSpacing(10);
   column->addWidget(label);
   column->addWidget(m_site);
-  column->addWidget(m_text);
+  column->addWidget(m_text, 1);
   column->addWidget(createButtons());
   m_change->setDefault(true);  // known to the dialog only now
+  connect(new QShortcut(Qt::CTRL | Qt::Key_W, this), &QShortcut::activated, this, &QDialog::reject);
   connect(m_site, &QLineEdit::textChanged, this, &SiteDialog::forgetFailure);
   m_site->setFocus();
 }
@@ -49,12 +56,11 @@ void SiteDialog::done(int result) {
 
 QWidget* SiteDialog::createButtons() {
   auto* bar = new QWidget;
-  QHBoxLayout* row = addRow(bar, 8);
+  auto* row = new FlowLayout(bar, 8, 8);
   auto* keep = new QPushButton(companionText("&Keep the old site"));
   m_useAnyway = new QPushButton(companionText("&Use it anyway"));
   m_change = new QPushButton(companionText("&Change"));
   m_useAnyway->hide();
-  row->addStretch(1);
   row->addWidget(keep);
   row->addWidget(m_useAnyway);
   row->addWidget(m_change);
@@ -76,7 +82,7 @@ void SiteDialog::ask(const QString& site) {
 void SiteDialog::askChosen() {
   forgetFailure();
   m_change->setEnabled(false);
-  m_text->setText(companionText("Asking the site."));
+  say(companionText("Asking the site."));
   m_service->lookUp(site(), [this](const SiteService::Result& result) {
     if (!result.site) return showFailure(result.failure);
     // The last line may destroy the dialog.
@@ -86,17 +92,29 @@ void SiteDialog::askChosen() {
   });
 }
 
+void SiteDialog::say(const QString& text) {
+  QString shown = text;
+  // A long name wraps at its dots.
+  if (fontMetrics().horizontalAdvance(site()) > m_text->width())
+    shown.replace(u'.', QStringLiteral(".\u200b"));
+  m_text->setText(shown);
+  // A dialog does not grow by itself for a text or buttons of more lines.
+  layout()->activate();
+  resize(width(), std::max(height(), layout()->totalHeightForWidth(width())));
+  announce(m_text, text);
+}
+
 void SiteDialog::showFailure(const QString& reason) {
   m_change->setEnabled(true);
-  m_text->setText(reason);
   m_useAnyway->setVisible(!siteAddress(site()).isEmpty());
+  say(reason);
 }
 
 void SiteDialog::forgetFailure() {
   // The field holds another site now.
   m_service->cancelLookUp();
   m_change->setEnabled(true);
-  m_text->clear();
+  say({});
   m_useAnyway->hide();
 }
 

@@ -26,6 +26,7 @@ class SiteDialog final : public QDialog {
   QString site() const;
   QWidget* createButtons();
   void askChosen();
+  void say(const QString& text);
   void showFailure(const QString& reason);
   void forgetFailure();
   void useAnyway();

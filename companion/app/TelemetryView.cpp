@@ -4,11 +4,12 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QLocale>
 #include <QPushButton>
 
 #include "companion/app/ListTable.h"
 #include "companion/app/Rows.h"
+#include "companion/runtime/ColumnWidths.h"
+#include "companion/runtime/TimeText.h"
 #include "companion/services/TelemetryService.h"
 #include "companion/texts/CompanionText.h"
 
@@ -35,8 +36,7 @@ TelemetryView::TelemetryView(TelemetryService* telemetry)
   m_text->setTextFormat(Qt::PlainText);
   m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
   m_text->setWordWrap(true);
-  m_table->setColumnWidth(0, 150);
-  m_table->setColumnWidth(1, 300);
+  setColumnWidths(m_table, {22, 44});
   m_table->horizontalHeader()->setStretchLastSection(true);
   m_soon.setSingleShot(true);
   m_soon.setInterval(0);
@@ -76,8 +76,7 @@ void TelemetryView::showRecords() {
   }
   QList<QStringList> rows;
   for (const TelemetryRecord& record : records) {
-    const QString time = QLocale().toString(record.time.toLocalTime(), QLocale::ShortFormat);
-    rows.append({time, record.feature, record.details});
+    rows.append({shortDateTime(record.time), record.feature, record.details});
   }
   setListRows(m_table, rows);
 }

@@ -1,5 +1,6 @@
 #include <QDeadlineTimer>
 #include <QDir>
+#include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QStandardPaths>
@@ -134,6 +135,7 @@ int main(int argc, char** argv) {
   QApplication::setApplicationName("companion");
   QApplication::setApplicationVersion(KZ_VERSION);
   QGuiApplication::setDesktopFileName("brenn-mivra-companion");
+  QApplication::setWindowIcon(QIcon(":/companion/companion.png"));
   QApplication::setQuitOnLastWindowClosed(false);
   const CompanionOptions options = CompanionOptions::read(Application::arguments());
   if (needsDisplay && QGuiApplication::platformName() == "offscreen") {

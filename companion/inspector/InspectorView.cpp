@@ -4,8 +4,8 @@
 #include <QClipboard>
 #include <QFileDialog>
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QGuiApplication>
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -20,6 +20,8 @@
 #include <numeric>
 
 #include "companion/inspector/InspectorFilter.h"
+#include "companion/runtime/ColumnWidths.h"
+#include "companion/runtime/FlowLayout.h"
 #include "companion/runtime/SaveDialog.h"
 #include "companion/texts/CompanionText.h"
 
@@ -61,14 +63,14 @@ QPushButton* createButton(const QString& title, const QString& toolTip, Receiver
                           void (Receiver::*action)()) {
   auto* button = new QPushButton(title);
   button->setToolTip(toolTip);
+  button->setAutoDefault(true);  // Return presses it too
   QObject::connect(button, &QPushButton::clicked, receiver, action);
   return button;
 }
 
 QPlainTextEdit* createDetails() {
-  constexpr int kPixels = 12;
   QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-  font.setPixelSize(kPixels);
+  font.setPixelSize(QFontInfo(QGuiApplication::font()).pixelSize() - 1);
   auto* details = new QPlainTextEdit;
   details->setReadOnly(true);
   details->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -134,9 +136,7 @@ void InspectorView::setUpTable() {
   m_table->horizontalHeader()->setHighlightSections(false);
   m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   m_table->horizontalHeader()->setStretchLastSection(true);
-  m_table->setColumnWidth(InspectorLog::TimeColumn, 96);
-  m_table->setColumnWidth(InspectorLog::KindColumn, 160);
-  m_table->setColumnWidth(InspectorLog::NameColumn, 220);
+  setColumnWidths(m_table, {14, 23, 32});
   connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
           &InspectorView::showDetails);
   auto* shortcut = new QShortcut(QKeySequence::Copy, m_table, nullptr, nullptr, Qt::WidgetShortcut);
@@ -145,9 +145,7 @@ void InspectorView::setUpTable() {
 
 QWidget* InspectorView::createBoxes() {
   auto* boxes = new QWidget;
-  auto* row = new QHBoxLayout(boxes);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(16);
+  auto* row = new FlowLayout(boxes, 16, 6);
   for (const auto& [group, title, meaning] : kGroupBoxes) {
     auto* box = new QCheckBox(companionText(title));
     box->setToolTip(companionText(meaning));
@@ -158,30 +156,29 @@ QWidget* InspectorView::createBoxes() {
     if (group == Group::Traces) box->setChecked(false);
     row->addWidget(box);
   }
-  row->addStretch(1);
   return boxes;
 }
 
 QWidget* InspectorView::createBar() {
   auto* bar = new QWidget;
-  auto* row = new QHBoxLayout(bar);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(8);
+  auto* row = new FlowLayout(bar, 8, 6);
+  constexpr int kFieldRoom = 120;
   auto* text = new QLineEdit;
   text->setPlaceholderText(companionText("Filter by name or content"));
   text->setAccessibleName(companionText("Filter by name or content"));
   text->setClearButtonEnabled(true);
+  text->setMinimumWidth(text->fontMetrics().horizontalAdvance(text->placeholderText()) + kFieldRoom);
   connect(text, &QLineEdit::textChanged, m_filter, &InspectorFilter::setText);
-  m_pause = createButton(companionText("Pause"), companionText("Keeps the list as it is while you read"),
+  m_pause = createButton(companionText("Paus&e"), companionText("Keeps the list as it is while you read"),
                          this, &InspectorView::togglePause);
-  row->addWidget(text, 1);
+  row->addWidget(text);
   row->addWidget(m_pause);
-  row->addWidget(createButton(companionText("Copy"),
+  row->addWidget(createButton(companionText("C&opy"),
                               companionText("Copies the selected rows, or all rows that are shown"), this,
                               &InspectorView::copy));
-  row->addWidget(
-      createButton(companionText("Clear"), companionText("Forgets all events"), m_log, &InspectorLog::clear));
-  row->addWidget(createButton(companionText("Export…"),
+  row->addWidget(createButton(companionText("C&lear"), companionText("Forgets all events"), m_log,
+                              &InspectorLog::clear));
+  row->addWidget(createButton(companionText("E&xport…"),
                               companionText("Writes the events that are shown to a file"), this,
                               &InspectorView::askForFile));
   return bar;
@@ -201,12 +198,12 @@ QWidget* InspectorView::createLists() {
 
 void InspectorView::togglePause() {
   const bool isPaused = m_log->flow() == InspectorLog::Flow::Paused;
-  m_pause->setText(companionText("Pause"));
+  m_pause->setText(companionText("Paus&e"));
   m_log->setFlow(isPaused ? InspectorLog::Flow::Live : InspectorLog::Flow::Paused);
 }
 
 void InspectorView::showWaiting(qsizetype count) {
-  m_pause->setText(count == 0 ? companionText("Continue") : companionText("Continue (%1 new)").arg(count));
+  m_pause->setText(count == 0 ? companionText("Co&ntinue") : companionText("Co&ntinue (%1 new)").arg(count));
 }
 
 void InspectorView::showDetails(const QModelIndex& current) {

@@ -7,7 +7,7 @@
 FlowLayout::FlowLayout(QWidget* widget, int horizontalGap, int verticalGap)
     : QLayout(widget), m_horizontalGap(horizontalGap), m_verticalGap(verticalGap) {
   setContentsMargins(0, 0, 0, 0);
-  QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
   policy.setHeightForWidth(true);
   widget->setSizePolicy(policy);
 }

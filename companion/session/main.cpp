@@ -141,10 +141,19 @@ int runSession(const QCommandLineParser& options) {
   return recordPath.isEmpty() || record.isWritten ? kPlayed : kUnusable;
 }
 
+// For the lack of a session bus, Qt would start one and leave it running.
+void keepToKnownBus() {
+  const QString runtimeFolder = qEnvironmentVariable("XDG_RUNTIME_DIR");
+  const bool hasBus = qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") ||
+                      (!runtimeFolder.isEmpty() && QFile::exists(runtimeFolder + "/bus"));
+  if (!hasBus) qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  keepToKnownBus();
   Application application(argc, argv);
   Application::setQuitOnLastWindowClosed(false);
   Application::setApplicationName("prefs-session");

@@ -144,8 +144,8 @@
         <translation>Wählen Sie eine Zeile, um ihren ganzen Inhalt zu sehen.</translation>
     </message>
     <message>
-        <source>Clear</source>
-        <translation>Leeren</translation>
+        <source>C&amp;lear</source>
+        <translation>&amp;Leeren</translation>
     </message>
     <message>
         <source>Command to host</source>
@@ -164,20 +164,16 @@
         <translation>Inhalt</translation>
     </message>
     <message>
-        <source>Continue</source>
-        <translation>Fortsetzen</translation>
+        <source>Co&amp;ntinue</source>
+        <translation>Fo&amp;rtsetzen</translation>
     </message>
     <message>
-        <source>Continue (%1 new)</source>
-        <translation>Fortsetzen (%1 neu)</translation>
+        <source>Co&amp;ntinue (%1 new)</source>
+        <translation>Fo&amp;rtsetzen (%1 neu)</translation>
     </message>
     <message>
         <source>Copies the selected rows, or all rows that are shown</source>
         <translation>Kopiert die ausgewählten Zeilen oder alle angezeigten</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>Kopieren</translation>
     </message>
     <message>
         <source>Events</source>
@@ -200,8 +196,8 @@
         <translation>Ereignisse exportieren</translation>
     </message>
     <message>
-        <source>Export…</source>
-        <translation>Exportieren…</translation>
+        <source>E&amp;xport…</source>
+        <translation>E&amp;xportieren…</translation>
     </message>
     <message>
         <source>Filter by name or content</source>
@@ -296,8 +292,8 @@
         <translation>Benachrichtigungen</translation>
     </message>
     <message>
-        <source>Pause</source>
-        <translation>Anhalten</translation>
+        <source>Paus&amp;e</source>
+        <translation>An&amp;halten</translation>
     </message>
     <message>
         <source>Personal room</source>

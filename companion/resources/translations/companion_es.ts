@@ -144,8 +144,8 @@
         <translation>Elija una fila para ver todo su contenido.</translation>
     </message>
     <message>
-        <source>Clear</source>
-        <translation>Vaciar</translation>
+        <source>C&amp;lear</source>
+        <translation>Li&amp;mpiar</translation>
     </message>
     <message>
         <source>Command to host</source>
@@ -164,20 +164,16 @@
         <translation>Contenido</translation>
     </message>
     <message>
-        <source>Continue</source>
-        <translation>Continuar</translation>
+        <source>Co&amp;ntinue</source>
+        <translation>Contin&amp;uar</translation>
     </message>
     <message>
-        <source>Continue (%1 new)</source>
-        <translation>Continuar (%1 por ver)</translation>
+        <source>Co&amp;ntinue (%1 new)</source>
+        <translation>Contin&amp;uar (%1 por ver)</translation>
     </message>
     <message>
         <source>Copies the selected rows, or all rows that are shown</source>
         <translation>Copia las filas seleccionadas o todas las que se muestran</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>Copiar</translation>
     </message>
     <message>
         <source>Events</source>
@@ -200,8 +196,8 @@
         <translation>Exportar eventos</translation>
     </message>
     <message>
-        <source>Export…</source>
-        <translation>Exportar…</translation>
+        <source>E&amp;xport…</source>
+        <translation>E&amp;xportar…</translation>
     </message>
     <message>
         <source>Filter by name or content</source>
@@ -296,8 +292,8 @@
         <translation>Notificaciones</translation>
     </message>
     <message>
-        <source>Pause</source>
-        <translation>Pausar</translation>
+        <source>Paus&amp;e</source>
+        <translation>Pa&amp;usar</translation>
     </message>
     <message>
         <source>Personal room</source>

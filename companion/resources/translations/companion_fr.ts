@@ -144,8 +144,8 @@
         <translation>Choisissez une ligne pour voir tout son contenu.</translation>
     </message>
     <message>
-        <source>Clear</source>
-        <translation>Effacer</translation>
+        <source>C&amp;lear</source>
+        <translation>Eff&amp;acer</translation>
     </message>
     <message>
         <source>Command to host</source>
@@ -164,20 +164,16 @@
         <translation>Contenu</translation>
     </message>
     <message>
-        <source>Continue</source>
-        <translation>Reprendre</translation>
+        <source>Co&amp;ntinue</source>
+        <translation>Repren&amp;dre</translation>
     </message>
     <message>
-        <source>Continue (%1 new)</source>
-        <translation>Reprendre (%1 en attente)</translation>
+        <source>Co&amp;ntinue (%1 new)</source>
+        <translation>Repren&amp;dre (%1 en attente)</translation>
     </message>
     <message>
         <source>Copies the selected rows, or all rows that are shown</source>
         <translation>Copie les lignes sélectionnées, ou toutes celles qui sont affichées</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>Copier</translation>
     </message>
     <message>
         <source>Events</source>
@@ -200,8 +196,8 @@
         <translation>Exporter les événements</translation>
     </message>
     <message>
-        <source>Export…</source>
-        <translation>Exporter…</translation>
+        <source>E&amp;xport…</source>
+        <translation>E&amp;xporter…</translation>
     </message>
     <message>
         <source>Filter by name or content</source>
@@ -296,8 +292,8 @@
         <translation>Notifications</translation>
     </message>
     <message>
-        <source>Pause</source>
-        <translation>Pause</translation>
+        <source>Paus&amp;e</source>
+        <translation>Pa&amp;use</translation>
     </message>
     <message>
         <source>Personal room</source>

@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>%1 Start the companion again.</source>
-        <translation>%1 Companion を起動し直してください。</translation>
+        <translation>%1Companion を起動し直してください。</translation>
     </message>
     <message>
         <source>%1 asks for a user name and password.</source>
@@ -144,8 +144,8 @@
         <translation>行を選択すると、内容全体が表示されます。</translation>
     </message>
     <message>
-        <source>Clear</source>
-        <translation>消去</translation>
+        <source>C&amp;lear</source>
+        <translation>消去(&amp;L)</translation>
     </message>
     <message>
         <source>Command to host</source>
@@ -164,20 +164,16 @@
         <translation>内容</translation>
     </message>
     <message>
-        <source>Continue</source>
-        <translation>再開</translation>
+        <source>Co&amp;ntinue</source>
+        <translation>再開(&amp;N)</translation>
     </message>
     <message>
-        <source>Continue (%1 new)</source>
-        <translation>再開（新着 %1 件）</translation>
+        <source>Co&amp;ntinue (%1 new)</source>
+        <translation>再開（新着 %1 件）(&amp;N)</translation>
     </message>
     <message>
         <source>Copies the selected rows, or all rows that are shown</source>
         <translation>選択した行、または表示中のすべての行をコピーします</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>コピー</translation>
     </message>
     <message>
         <source>Events</source>
@@ -200,8 +196,8 @@
         <translation>イベントを書き出す</translation>
     </message>
     <message>
-        <source>Export…</source>
-        <translation>書き出す…</translation>
+        <source>E&amp;xport…</source>
+        <translation>書き出す(&amp;X)…</translation>
     </message>
     <message>
         <source>Filter by name or content</source>
@@ -296,8 +292,8 @@
         <translation>通知</translation>
     </message>
     <message>
-        <source>Pause</source>
-        <translation>一時停止</translation>
+        <source>Paus&amp;e</source>
+        <translation>一時停止(&amp;E)</translation>
     </message>
     <message>
         <source>Personal room</source>

@@ -144,8 +144,8 @@
         <translation>选择一行以查看其完整内容。</translation>
     </message>
     <message>
-        <source>Clear</source>
-        <translation>清除</translation>
+        <source>C&amp;lear</source>
+        <translation>清除(&amp;L)</translation>
     </message>
     <message>
         <source>Command to host</source>
@@ -164,20 +164,16 @@
         <translation>内容</translation>
     </message>
     <message>
-        <source>Continue</source>
-        <translation>继续</translation>
+        <source>Co&amp;ntinue</source>
+        <translation>继续(&amp;N)</translation>
     </message>
     <message>
-        <source>Continue (%1 new)</source>
-        <translation>继续（%1 条新事件）</translation>
+        <source>Co&amp;ntinue (%1 new)</source>
+        <translation>继续（%1 条新事件）(&amp;N)</translation>
     </message>
     <message>
         <source>Copies the selected rows, or all rows that are shown</source>
         <translation>复制所选的行；未选择时复制显示的所有行</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>复制</translation>
     </message>
     <message>
         <source>Events</source>
@@ -200,8 +196,8 @@
         <translation>导出事件</translation>
     </message>
     <message>
-        <source>Export…</source>
-        <translation>导出…</translation>
+        <source>E&amp;xport…</source>
+        <translation>导出(&amp;X)…</translation>
     </message>
     <message>
         <source>Filter by name or content</source>
@@ -296,8 +292,8 @@
         <translation>通知</translation>
     </message>
     <message>
-        <source>Pause</source>
-        <translation>暂停</translation>
+        <source>Paus&amp;e</source>
+        <translation>暂停(&amp;E)</translation>
     </message>
     <message>
         <source>Personal room</source>
