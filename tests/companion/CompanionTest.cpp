@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QLineEdit>
+#include <QLocale>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
@@ -10,6 +11,7 @@
 #include "companion/app/DemoUser.h"
 #include "companion/inspector/InspectorLog.h"
 #include "companion/runtime/PluginHost.h"
+#include "companion/runtime/TimeText.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 
@@ -56,6 +58,42 @@ TEST(DemoUser, WhatAGuestEditedSurvivesASignIn) {
   demouser::become(demouser::Variant::Guest);
   EXPECT_EQ(store.displayName().toStdString(), "Grace Guest");
   store.close();
+}
+
+TEST(TimeText, HasNoSecondsInAnyLocale) {
+  const QDateTime time(QDate(2026, 3, 4), QTime(14, 5, 56));
+  for (const QLocale& locale : {QLocale::c(), QLocale("de_DE"), QLocale("en_US"), QLocale("ja_JP")}) {
+    QLocale::setDefault(locale);
+    for (const QString& text : {shortTime(time), shortDateTime(time)}) {
+      EXPECT_TRUE(text.contains(":05") && !text.contains("56")) << text.toStdString();
+    }
+  }
+  QLocale::setDefault(QLocale::c());
+}
+
+// What a session names but the program cannot use is said, not passed over.
+TEST(Companion, SaysWhyItDoesNotStart) {
+  const struct {
+    QStringList options;
+    const char* display;
+    const char* reason;
+  } rows[] = {{{}, ":9999", "the display :9999 cannot be used"},
+              {{"-reverse", "-style", "fusion", "--demo", "--nonsense"}, "", "Unknown option 'nonsense'."},
+              {{"--demo", "--plugin", "/nowhere.so"}, ":9999", "/nowhere.so cannot be loaded"},
+              {{"-platform", "offscreen", "--appearance", "pink"}, ":9999", "no appearance pink"}};
+  for (const auto& row : rows) {
+    QProcess companion;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char* name : {"WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) environment.remove(name);
+    environment.insert("DISPLAY", row.display);
+    companion.setProcessEnvironment(environment);
+    companion.start(COMPANION, row.options);
+    ASSERT_TRUE(companion.waitForFinished()) << row.reason;
+    EXPECT_NE(companion.exitCode(), 0) << row.reason;
+    EXPECT_EQ(companion.readAllStandardOutput(), "");
+    const QByteArray complaint = companion.readAllStandardError();
+    EXPECT_TRUE(complaint.contains(row.reason)) << complaint.toStdString();
+  }
 }
 
 TEST(Companion, PlaysItsDemonstrationWithoutADisplay) {
