@@ -107,7 +107,9 @@ class Placer final : public QObject {
 
   static void setGeometryOf(QWidget* view, const Frame& frame) {
     const QRect place = geometryIn(view->parentWidget(), frame);
-    view->setGeometry(withNeededRoom(view, place, of(view) != nullptr));
+    // Measuring is slow, and most panes are never seen.
+    const bool isSeen = view->parentWidget()->isVisible();
+    view->setGeometry(isSeen ? withNeededRoom(view, place, of(view) != nullptr) : place);
   }
 
   QList<QWidget*> children() const {

@@ -178,8 +178,9 @@ TEST(StaticTextLayout, WrapsWithinItsSuperview) {
   auto* text = new StaticText(QString(QStringLiteral("word ")).repeated(20), FontRole::Label, labelFontSize);
   text->setWordWrap(true);
   addSubview(&parent, text, {20, 70, 200, 20});
+  parent.show();
   const auto lines = [&] {
-    setFrame(text, frameOf(text));
+    QCoreApplication::sendPostedEvents(&parent, QEvent::LayoutRequest);
     return paintedTexts(*text).size();
   };
   EXPECT_EQ(lines(), 4);

@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
+#include <QToolButton>
 
 #include "host/KZUIExtension/FlatImageButton.h"
 #include "platform/PopUpButton.h"
@@ -49,17 +50,18 @@ double strongest(const QList<QColor>& colors, const QColor& ground) {
   return best;
 }
 
-QRectF indicatorOf(const QRectF& button) {
-  return {button.left() + 1, button.center().y() - 7, 14, 14};
+bool isChoice(const QWidget& control) {
+  return qobject_cast<const QRadioButton*>(&control) || qobject_cast<const QCheckBox*>(&control);
 }
 
 // The part of a control that shows what it is: its edge, or its picture.
 QRectF markOf(const QWidget& control, const QRectF& place) {
-  if (qobject_cast<const QRadioButton*>(&control) || qobject_cast<const QCheckBox*>(&control)) {
-    return indicatorOf(place);
-  }
+  if (isChoice(control)) return {place.left() + 1, place.center().y() - 7, 14, 14};
   if (qobject_cast<const FlatImageButton*>(&control)) {
     return {place.center().x() - 7.5, place.center().y() - 7.5, 15, 15};
+  }
+  if (const auto* item = qobject_cast<const QToolButton*>(&control); item && item->isChecked()) {
+    return {place.left() + 12, place.bottom() - 2, 8, 0.5};  // the line below its label
   }
   const bool hasEdge = qobject_cast<const QLineEdit*>(&control) ||
                        qobject_cast<const PopUpButton*>(&control) ||
@@ -112,14 +114,13 @@ class Contrast : public testing::TestWithParam<LookScheme> {
           .insert(control->objectName(), strongest(picture.colorsIn(mark), ground));
       if (!control->isEnabled()) continue;
       EXPECT_GE(edge, bounds.mark) << name;
-      const auto* button = qobject_cast<QAbstractButton*>(control);
-      const bool hasGlyph = (button && button->isChecked()) || qobject_cast<FlatImageButton*>(control) ||
-                            qobject_cast<PopUpButton*>(control);
+      const bool hasGlyph = (isChoice(*control) && static_cast<QAbstractButton*>(control)->isChecked()) ||
+                            qobject_cast<FlatImageButton*>(control) || qobject_cast<PopUpButton*>(control);
       EXPECT_GE(hasGlyph ? glyph : bounds.mark, bounds.mark) << name;
     }
   }
 
-  // What the focus changes is as much as the control is wide, and stands out from what was there.
+  // The focus changes more than a text cursor does, and what it changes stands out from what was there.
   static void checkFocus(QWidget& view, const char* state) {
     for (QWidget* control : view.findChildren<QWidget*>()) {
       if (!control->isVisibleTo(&view) || !control->isEnabled() || control->focusPolicy() == Qt::NoFocus)
@@ -133,7 +134,7 @@ class Contrast : public testing::TestWithParam<LookScheme> {
       qsizetype clear = 0;
       for (qsizetype at = 0; at < qMin(before.size(), after.size()); ++at)
         clear += contrast(before[at], after[at]) >= bounds.mark ? 1 : 0;
-      EXPECT_GE(clear, 14 * view.devicePixelRatio())
+      EXPECT_GE(clear, 24 * view.devicePixelRatio())
           << state << ": focus on " << qPrintable(control->objectName());
     }
   }

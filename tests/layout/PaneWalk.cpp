@@ -5,6 +5,7 @@
 #include <QTest>
 #include <QToolBar>
 
+#include "KZPreference/panes/meetings/PrefMeetingView.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 #include "platform/FrameLayout.h"
@@ -97,4 +98,9 @@ void PaneWalk::walkMeetings(Variant variant, const Look& look) {
   clickIn(pane, "m_copyPmrurlBtn");
   clickIn(pane, "m_copySipurlBtn");
   look(pane, "copied");
+  // The pane grows with each record.
+  for (int records = 2; records <= 3; ++records)
+    static_cast<PrefMeetingView&>(pane).setCalendarIntergrationOption(
+        {.isEnableNone = true, .isEnableGoogle = true});
+  look(pane, "three records");
 }

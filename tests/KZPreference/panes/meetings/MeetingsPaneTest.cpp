@@ -1,6 +1,5 @@
 #include <malloc.h>
 
-#include <QImage>
 #include <QLineEdit>
 #include <QRadioButton>
 
@@ -37,29 +36,6 @@ QList<double> sourceRows(const QWidget& pane) {
   for (const auto* button : pane.findChildren<QRadioButton*>())
     if (!button->isHidden()) rows.append(frameOf(button->parentWidget()).height - frameOf(button).y);
   return rows;
-}
-
-// The first column of the view's picture that is not its background.
-int firstInkOf(QWidget* view) {
-  const QImage picture = view->grab().toImage();
-  for (int x = 0; x < picture.width(); ++x) {
-    for (int y = 0; y < picture.height(); ++y) {
-      if (picture.pixel(x, y) != picture.pixel(0, 0)) return x;
-    }
-  }
-  return -1;
-}
-
-// The heading's frame grows to the right with every record, but its right-aligned text does not move.
-TEST_F(MeetingsPaneTest, TheHeadingStaysInLineWithTheOthers) {
-  const auto pane = signedInPane();
-  auto* heading = pane->findChild<QWidget*>("m_integrationTxt");
-  for (int records = 0; records <= 3; ++records) {
-    const int ink = firstInkOf(heading);
-    EXPECT_GE(ink, 0) << records;
-    EXPECT_LE(ink, 2) << records;
-    pane->setCalendarIntergrationOption({.isEnableNone = true, .isEnableGoogle = true});
-  }
 }
 
 // Rows are packed from the top. A source once hidden stays hidden, but takes its row when it is enabled
