@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QImage>
 #include <QLineEdit>
 #include <QLocale>
@@ -19,6 +20,7 @@
 #include "companion/runtime/TimeText.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
+#include "tests/kit/Input.h"
 
 namespace {
 
@@ -130,22 +132,36 @@ QStringList mnemonicsOf(const QWidget& window, const QTabBar& tabs) {
   return letters;
 }
 
-TEST(Companion, NoLetterOfAltMeansTwoThings) {
+// At a large font on a small screen every button is as wide as its text and inside its row.
+TEST(Companion, PagesAreWholeAndNoLetterOfAltMeansTwoThings) {
+  const QFont before = QApplication::font();
+  QFont large = before;
+  large.setPixelSize(27);
+  QApplication::setFont(large);
   for (const char* language : {"en", "de", "es", "fr", "ja", "zh_CN"}) {
     QLocale::setDefault(QLocale(language));
     Companion companion({});
     ASSERT_TRUE(companion.loadPlugin(FAKE_PLUGIN));
+    companion.window()->resize(780, 420);
     companion.window()->show();
     auto* tabs = companion.window()->findChild<QTabBar*>();
     for (int page = 0; page < tabs->count(); ++page) {
       tabs->setCurrentIndex(page);
+      kit::settle();
       QStringList letters = mnemonicsOf(*companion.window(), *tabs);
       EXPECT_GE(letters.size(), 12);
       letters.sort();
       EXPECT_EQ(QStringList(letters).removeDuplicates(), 0) << language << letters.join("").toStdString();
+      for (const auto* button : companion.window()->findChildren<QAbstractButton*>()) {
+        if (!button->isVisible() || button->text().isEmpty()) continue;
+        EXPECT_GE(button->width(), button->sizeHint().width()) << button->text().toStdString();
+        EXPECT_TRUE(button->parentWidget()->rect().contains(button->geometry()))
+            << button->text().toStdString();
+      }
     }
   }
   QLocale::setDefault(QLocale::c());
+  QApplication::setFont(before);
 }
 
 }  // namespace
