@@ -32,8 +32,13 @@ QSize pushSize(const QStyleOptionButton& option) {
 }
 
 QSize choiceSize(const QStyleOptionButton& option) {
+  // The line below a mnemonic may be lower than the font's own line: in another script, another font draws
+  // it.
+  const bool isMarked = option.text.contains(u'&');
+  const int height = isMarked ? option.fontMetrics.size(Qt::TextShowMnemonic, option.text).height()
+                              : option.fontMetrics.height();
   return {kIndicatorRoom + option.fontMetrics.horizontalAdvance(option.text) + 2,
-          qMax(kChoiceHeight, option.fontMetrics.height())};
+          qMax(kChoiceHeight, height)};
 }
 
 void drawPush(const QStyleOptionButton& option, QPainter* painter) {

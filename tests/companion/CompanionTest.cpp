@@ -1,12 +1,18 @@
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QImage>
 #include <QLineEdit>
+#include <QLocale>
 #include <QProcess>
+#include <QRegularExpression>
+#include <QStackedWidget>
+#include <QTabBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
 
+#include "companion/app/Companion.h"
 #include "companion/app/DemoUser.h"
 #include "companion/inspector/InspectorLog.h"
 #include "companion/runtime/PluginHost.h"
@@ -71,6 +77,38 @@ TEST(Companion, PlaysItsDemonstrationWithoutADisplay) {
   EXPECT_TRUE(lines.takeFirst().contains("no display"));
   EXPECT_EQ(lines.size(), 11);
   for (const QString& path : lines) EXPECT_FALSE(QImage(path).isNull()) << qPrintable(path);
+}
+
+// The letters of Alt on a page of the window, also of buttons beside the pages that are hidden now.
+QStringList mnemonicsOf(const QWidget& window, const QTabBar& tabs) {
+  QStringList texts;
+  for (int index = 0; index < tabs.count(); ++index) texts.append(tabs.tabText(index));
+  const auto* pages = window.findChild<QStackedWidget*>();
+  for (const auto* button : window.findChildren<QAbstractButton*>())
+    if (button->isVisible() || !pages->isAncestorOf(button)) texts.append(button->text());
+  static const QRegularExpression mark("&(\\w)");
+  QStringList letters;
+  for (const QString& text : texts)
+    if (const auto match = mark.match(text); match.hasMatch()) letters.append(match.captured(1).toUpper());
+  return letters;
+}
+
+TEST(Companion, NoLetterOfAltMeansTwoThings) {
+  for (const char* language : {"en", "de", "es", "fr", "ja", "zh_CN"}) {
+    QLocale::setDefault(QLocale(language));
+    Companion companion({});
+    ASSERT_TRUE(companion.loadPlugin(FAKE_PLUGIN));
+    companion.window()->show();
+    auto* tabs = companion.window()->findChild<QTabBar*>();
+    for (int page = 0; page < tabs->count(); ++page) {
+      tabs->setCurrentIndex(page);
+      QStringList letters = mnemonicsOf(*companion.window(), *tabs);
+      EXPECT_GE(letters.size(), 12);
+      letters.sort();
+      EXPECT_EQ(QStringList(letters).removeDuplicates(), 0) << language << letters.join("").toStdString();
+    }
+  }
+  QLocale::setDefault(QLocale::c());
 }
 
 }  // namespace

@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>%1 Start the companion again.</source>
-        <translation>%1 Companion を起動し直してください。</translation>
+        <translation>%1Companion を起動し直してください。</translation>
     </message>
     <message>
         <source>%1 asks for a user name and password.</source>
