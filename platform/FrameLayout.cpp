@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QPointer>
 #include <QScreen>
+#include <QStyle>
 #include <QVariant>
 #include <QWindow>
 #include <cmath>
@@ -107,10 +108,11 @@ class Placer final : public QObject {
   }
 
   static void setGeometryOf(QWidget* view, const Frame& frame) {
-    const QRect place = geometryIn(view->parentWidget(), frame);
+    const QWidget* parent = view->parentWidget();
+    QRect place = geometryIn(parent, frame);
     // Measuring is slow, and most panes are never seen.
-    const bool isSeen = view->parentWidget()->isVisible();
-    view->setGeometry(isSeen ? withNeededRoom(view, place, of(view) != nullptr) : place);
+    if (parent->isVisible()) place = withNeededRoom(view, place, of(view) != nullptr);
+    view->setGeometry(QStyle::visualRect(parent->layoutDirection(), parent->rect(), place));
   }
 
   QList<QWidget*> children() const {
@@ -140,7 +142,9 @@ class Placer final : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override {
     // A request comes from a child whose need of room changed.
     const QEvent::Type type = event->type();
-    if (type == QEvent::Resize || type == QEvent::Show || type == QEvent::LayoutRequest) place();
+    if (type == QEvent::Resize || type == QEvent::Show || type == QEvent::LayoutRequest ||
+        type == QEvent::LayoutDirectionChange)
+      place();
     if (event->type() == QEvent::ChildRemoved) remove(static_cast<QChildEvent*>(event)->child());
     return QObject::eventFilter(watched, event);
   }

@@ -6,7 +6,8 @@
 #include "platform/PlatformExport.h"
 
 // Keeps every view's exact frame in points, y up, and places the view from it; no other unit converts y. The
-// frame stays when the parent's height changes, so the view moves on the screen. Main thread only.
+// frame stays when the parent's height changes, so the view moves on the screen. Where the layout goes from
+// right to left, the views are placed as in a mirror, and their frames stay too. Main thread only.
 
 // Keeps the view's frame, or moves it with the parent's upper edge, when the parent's height changes.
 enum class VerticalAnchor { Bottom, Top };

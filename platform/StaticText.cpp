@@ -103,11 +103,12 @@ void StaticText::paintEvent(QPaintEvent*) {
   }
 }
 
-// The parent cuts its children off at its right edge, so the text is elided before that.
+// The parent cuts its children off at its edges, so the text is elided before that.
 QRectF StaticText::visiblePart() const {
-  const int room = parentWidget() && !isWindow() ? parentWidget()->width() - x() : width();
+  const QRect room = parentWidget() && !isWindow() ? parentWidget()->rect().translated(-x(), 0) : rect();
   QRect visible = contentsRect();
-  visible.setRight(qMin(visible.right(), room - 1));
+  visible.setLeft(qMax(visible.left(), room.left()));
+  visible.setRight(qMin(visible.right(), room.right()));
   return visible;
 }
 

@@ -103,5 +103,7 @@ void drawTextLine(QPainter* painter, const QRectF& box, Qt::Alignment alignment,
   if (alignment.testFlag(Qt::AlignRight)) x += room;
   if (alignment.testFlag(Qt::AlignHCenter)) x += room / 2;
   const double top = box.y() + (box.height() - metrics.height()) / 2;
+  // The full stop of an English sentence stays at its end, also in a layout from right to left.
+  painter->setLayoutDirection(Qt::LayoutDirectionAuto);
   painter->drawText(QPointF(x, std::round(top + metrics.ascent())), text);
 }

@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QPainter>
 #include <QShowEvent>
+#include <QStyle>
 
 #include "platform/FrameLayout.h"
 
@@ -18,7 +19,8 @@ QList<DrawnText> View::drawnTexts() const {
 
 QRectF View::boxOf(const DrawnText& drawn) const {
   const Frame& frame = drawn.frame;
-  return {frame.x, frameOf(this).height - frame.maxY(), frame.width, frame.height};
+  const double left = isRightToLeft() ? width() - frame.maxX() : frame.x;
+  return {left, frameOf(this).height - frame.maxY(), frame.width, frame.height};
 }
 
 void View::viewDidUnhide() {}
@@ -43,7 +45,8 @@ void View::paintEvent(QPaintEvent* event) {
   painter.setPen(palette().color(QPalette::WindowText));
   for (const DrawnText& drawn : texts) {
     painter.setFont(fontFor(drawn.role, drawn.size));
-    drawTextLine(&painter, boxOf(drawn), drawn.alignment, drawn.text.left(mostDrawnCharacters));
+    drawTextLine(&painter, boxOf(drawn), QStyle::visualAlignment(layoutDirection(), drawn.alignment),
+                 drawn.text.left(mostDrawnCharacters));
   }
 }
 

@@ -3,18 +3,36 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QScreen>
 #include <QTimer>
 #include <QTimerEvent>
 #include <QWindow>
 
 #include "platform/Look.h"
+#include "platform/LookPalette.h"
 
 namespace {
 
 // Under X11 an answer to an earlier size may come after the last one was asked for.
 constexpr int kResizeMilliseconds = 200;
 constexpr int kRemapMilliseconds = 1000;
+
+// The line around a window whose decoration has none.
+class WindowEdge final : public QWidget {
+ public:
+  explicit WindowEdge(QWidget* window) : QWidget(window) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    resize(window->size());
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    painter.setPen(lookColorsFor(lookSchemeFor(palette())).border);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  }
+};
 
 }  // namespace
 
@@ -80,9 +98,11 @@ bool Window::event(QEvent* event) {
       break;
     case QEvent::WinIdChange:
       if (windowHandle()) windowHandle()->installEventFilter(this);
+      if (isOnWayland() && !m_edge) m_edge = new WindowEdge(this);
       break;
     case QEvent::Resize:
       m_resizeTimer.start(kResizeMilliseconds, this);
+      if (m_edge) m_edge->resize(size());
       break;
     case QEvent::Move:
       noticeRoom(foreignSize());

@@ -93,6 +93,7 @@ class PLATFORM_EXPORT Window : public QWidget {
   WindowController* m_controller = nullptr;
   QPointer<QWidget> m_initialFirstResponder;
   std::optional<Room> m_room;
+  QWidget* m_edge = nullptr;
   QBasicTimer m_resizeTimer;
   QBasicTimer m_remapTimer;
 };

@@ -6,11 +6,13 @@
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QVBoxLayout>
+#include <QWindow>
 #include <algorithm>
 #include <utility>
 
 #include "KZPreference/layout/Resources.h"
 #include "KZPreference/windows/PaneToolbar.h"
+#include "host/KZUtility/KZApplicationHelper.h"
 #include "host/KZUtility/KZTrace.h"
 #include "platform/Accessible.h"
 #include "platform/ContentView.h"
@@ -97,7 +99,15 @@ void LWPrefsWindowController::showWindow() {
     initToolbar();
     showFirstPane();
   }
+  stayInFrontOfMainWindow();
   WindowController::showWindow();
+}
+
+void LWPrefsWindowController::stayInFrontOfMainWindow() {
+  const QWidget* mainWindow = KZApplicationHelper::sharedInstance().mainWindow();
+  const bool isInUse = mainWindow && mainWindow->isVisible();
+  window()->winId();  // makes the handle
+  window()->windowHandle()->setTransientParent(isInUse ? mainWindow->windowHandle() : nullptr);
 }
 
 void LWPrefsWindowController::initToolbar() {

@@ -74,6 +74,7 @@ class LWPrefsWindowController : public WindowController {
   void forgetItems();
   void initToolbar();
   void showFirstPane();
+  void stayInFrontOfMainWindow();
   void toggleActivePreferenceView(QAction* item);
   void displayViewForIdentifier(const QString& identifier, Animate animate);
   void crossFadeView(View* newView, const QPixmap& oldPicture);

@@ -3,6 +3,7 @@
 #include "KZPreference/panes/account/NonSignInPrefAccountView.h"
 #include "KZPreference/panes/general/NonSignInPrefGeneralView.h"
 #include "KZPreference/panes/meetings/NonSignInPrefMeetingView.h"
+#include "host/KZUtility/KZPlistFileHandle.h"
 #include "host/KZUtility/KZTrace.h"
 
 NonSignInPreferenceWindowController::NonSignInPreferenceWindowController(
@@ -37,7 +38,11 @@ View* NonSignInPreferenceWindowController::createAccountView(const Frame& frame)
 }
 
 MeetingsPane* NonSignInPreferenceWindowController::createMeetingView(const Frame& frame) {
-  return new NonSignInPrefMeetingView(frame, m_prefsDelegate);
+  const KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
+  auto* view = new NonSignInPrefMeetingView(frame, m_prefsDelegate);
+  view->setOLAccountAuthenticator(m_olaccountAuthenticator);
+  view->setCalendarPreference(store.calendarIntegration().value_or(Dictionary()));
+  return view;
 }
 
 void NonSignInPreferenceWindowController::registerMeetingView(MeetingsPane* view) {

@@ -86,8 +86,6 @@ void PreferenceWindowController::createPreferenceViews() {
   m_generalView = createGeneralView(frameFor(sizes.general));
   m_accountView = createAccountView(frameFor(sizes.account));
   m_meetingView = createMeetingView(frameFor(sizes.meetings));
-  m_meetingView->setOLAccountAuthenticator(m_olaccountAuthenticator);
-  m_meetingView->setCalendarPreference(store.calendarIntegration().value_or(Dictionary()));
   m_notificationView = new PrefNotificationView(frameFor(notification), m_prefsDelegate);
   m_notificationView->setPreference(store.meetingNotification());
   m_proximityView = new PrefProximityView(frameFor(proximity), m_prefsDelegate);

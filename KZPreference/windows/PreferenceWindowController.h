@@ -45,7 +45,7 @@ class PreferenceWindowController : public LWPrefsWindowController, public Exchan
   virtual PaneSizes paneSizes() const = 0;
   virtual View* createGeneralView(const Frame& frame) = 0;
   virtual View* createAccountView(const Frame& frame) = 0;
-  // Includes the settings that only this variant has.
+  // With all its settings.
   virtual MeetingsPane* createMeetingView(const Frame& frame) = 0;
   virtual void registerMeetingView(MeetingsPane* view) = 0;  // nullptr to unregister
   // The host asks for a calendar source that is not Outlook.
@@ -56,6 +56,7 @@ class PreferenceWindowController : public LWPrefsWindowController, public Exchan
   void windowWillClose() override;
 
   PreferenceActionDelegateProtocol* m_prefsDelegate;
+  OLAccountAuthenticator* m_olaccountAuthenticator = nullptr;
 
  private:
   void initWithWindow();
@@ -66,7 +67,6 @@ class PreferenceWindowController : public LWPrefsWindowController, public Exchan
   void createPreferenceViews();
 
   bool m_isRetired = false;
-  OLAccountAuthenticator* m_olaccountAuthenticator = nullptr;
   View* m_generalView = nullptr;
   View* m_accountView = nullptr;
   MeetingsPane* m_meetingView = nullptr;

@@ -38,10 +38,13 @@ View* SignInPreferenceWindowController::createAccountView(const Frame& frame) {
 }
 
 MeetingsPane* SignInPreferenceWindowController::createMeetingView(const Frame& frame) {
+  const KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
+  const Dictionary info = store.preferenceInfo().value_or(Dictionary());
   auto* view = new PrefMeetingView(frame, m_prefsDelegate);
-  const Dictionary info = KZPlistFileHandle::sharedInstance().preferenceInfo().value_or(Dictionary());
+  view->setOLAccountAuthenticator(m_olaccountAuthenticator);
   view->setPmrurl(textValue(info, QRT_Preference_PMRUrl), textValue(info, QRT_Preference_PMRSipUrl));
   view->setCalendarIntergrationOption(m_intergrationOption);
+  view->setCalendarPreference(store.calendarIntegration().value_or(Dictionary()));
   return view;
 }
 

@@ -15,6 +15,7 @@
 #include "companion/inspector/InspectorView.h"
 #include "companion/runtime/SaveDialog.h"
 #include "companion/texts/CompanionText.h"
+#include "host/KZUtility/KZApplicationHelper.h"
 #include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 
@@ -147,6 +148,7 @@ void Companion::showWindow() {
   // The desktop's colours may have come by now; the first frame has them then.
   QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
   m_window.show();
+  KZApplicationHelper::sharedInstance().setMainWindow(&m_window);
   QTimer patience;
   patience.setSingleShot(true);
   patience.start(kLongestFirstFrame);

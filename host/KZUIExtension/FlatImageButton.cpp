@@ -41,7 +41,9 @@ void FlatImageButton::paintEvent(QPaintEvent*) {
   const QIcon image = KZRetinaHelper::shareInstance().newPNGImageInBundle(m_bundle, currentName());
   QPainter painter(this);
   const QRect place = QRect(QPoint(), sizeHint().boundedTo(size()));
+  if (isRightToLeft()) painter.setTransform(QTransform(-1, 0, 0, 1, width(), 0));  // arrows point forward
   image.paint(&painter, place.translated(rect().center() - place.center()));
+  painter.resetTransform();
   if (!hasFocus() || !window()->testAttribute(Qt::WA_KeyboardFocusChange)) return;
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(QPen(palette().color(QPalette::WindowText), 1.5));

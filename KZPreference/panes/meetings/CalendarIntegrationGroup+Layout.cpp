@@ -83,7 +83,9 @@ void CalendarIntegrationGroup::initInputTextFields() {
       add("m_usernameInputTxt", username, {localizedString("User name"), username}, Echo::Plain);
   m_passwordInputTxt = add("m_passwordInputTxt", password,
                            {password, localizedString("Return applies the account.")}, Echo::Secret);
-  m_emailInputTxt->setTextMargins(0, 0, int(kDetectWidth), 0);
+  // Where the button is.
+  const int button = int(kDetectWidth);
+  m_emailInputTxt->setTextMargins(isRightToLeft() ? button : 0, 0, isRightToLeft() ? 0 : button, 0);
   m_emailInputTxt->setEnabled(false);
   m_usernameInputTxt->hide();
   m_passwordInputTxt->hide();

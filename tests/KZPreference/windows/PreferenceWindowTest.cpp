@@ -1,10 +1,13 @@
 #include <QCheckBox>
 #include <QTest>
 #include <QToolButton>
+#include <QWindow>
+#include <map>
 
 #include "KZPreference/panes/account/PrefAccountView.h"
 #include "bench/ReducedMotion.h"
 #include "host/KZFoundation/KZConstants.h"
+#include "host/KZUtility/KZApplicationHelper.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 #include "platform/FrameLayout.h"
 #include "platform/WindowController.h"
@@ -99,6 +102,56 @@ TEST_F(PreferenceWindowTest, EveryPaneIsReachedAndUsedByKeyboard) {
     EXPECT_EQ(focusedItem(), selectedItem());
     EXPECT_EQ(shownPane(), kPaneNames.at(key == Qt::Key_4 ? 4 : 3));
   }
+}
+
+TEST_F(PreferenceWindowTest, StaysInFrontOfTheMainWindowWhileThatIsVisible) {
+  QWidget mainWindow;
+  KZApplicationHelper::sharedInstance().setMainWindow(&mainWindow);
+  for (const bool isVisible : {false, true}) {
+    mainWindow.setVisible(isVisible);
+    command(2);
+    EXPECT_EQ(window()->windowHandle()->transientParent(), isVisible ? mainWindow.windowHandle() : nullptr);
+    window()->close();
+  }
+}
+
+// The frames stay, the places and what is drawn are mirrored.
+TEST_F(PreferenceWindowTest, MirrorsEveryPaneFromRightToLeft) {
+  auto& store = KZPlistFileHandle::sharedInstance();
+  store.setDisplayName("Ada");
+  store.setPreferenceInfo(Dictionary{{QRT_Preference_PMRUrl, "https://meet.example.com/ada"}});
+  using Places = std::map<QString, QRect>;
+  const auto measure = [this](Qt::LayoutDirection direction, QHash<QString, Frame>* frames) {
+    QApplication::setLayoutDirection(direction);
+    command(3);
+    settle();
+    command(2);
+    Places places;
+    reduceMotion(window());
+    for (const QString& pane : kPaneNames) {
+      QTest::keyClick(window()->windowHandle(), Qt::Key(Qt::Key_1 + kPaneNames.indexOf(pane)),
+                      Qt::ControlModifier);
+      for (QWidget* view : window()->findChild<QWidget*>(pane)->findChildren<QWidget*>()) {
+        if (view->objectName().isEmpty() || !view->parentWidget()->property("platformFrame").isValid())
+          continue;
+        const QRect place = view->geometry();
+        const int left =
+            direction == Qt::LeftToRight ? place.left() : view->parentWidget()->width() - place.right() - 1;
+        const QString name = pane + view->parentWidget()->objectName() + view->objectName();
+        places[name] = QRect(left, place.top(), place.width(), place.height());
+        frames->insert(name, frameOf(view));
+      }
+    }
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+    return places;
+  };
+  QHash<QString, Frame> frames;
+  QHash<QString, Frame> mirroredFrames;
+  const Places places = measure(Qt::LeftToRight, &frames);
+  EXPECT_GT(places.size(), 20U);
+  for (const auto& [name, place] : measure(Qt::RightToLeft, &mirroredFrames))
+    EXPECT_EQ(place, places.at(name)) << qPrintable(name) << place.left() << places.at(name).left();
+  EXPECT_EQ(mirroredFrames, frames);
 }
 
 TEST_F(PreferenceWindowTest, ShortcutsChooseThePane) {
