@@ -5,6 +5,7 @@
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
 
+#include "platform/Accessible.h"
 #include "platform/Look.h"
 
 PopUpButton::PopUpButton(const QStringList& items) {
@@ -51,7 +52,10 @@ void PopUpButton::changeEvent(QEvent* event) {
 // The base class's search by typed letters would consume the window's shortcuts.
 void PopUpButton::keyPressEvent(QKeyEvent* event) {
   if (event->modifiers().testFlag(Qt::ControlModifier)) return event->ignore();
+  const QString before = title();
   QComboBox::keyPressEvent(event);
+  // Screen readers expect the change in the list, which is not open.
+  if (title() != before) announce(this, title());
 }
 
 void PopUpButton::paintEvent(QPaintEvent*) {

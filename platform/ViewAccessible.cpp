@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "platform/Accessible.h"
+#include "platform/PopUpButton.h"
+#include "platform/PopUpButtonAccessible.h"
 #include "platform/View.h"
 
 namespace {
@@ -65,6 +67,7 @@ void ViewAccessible::install() {
 }
 
 QAccessibleInterface* ViewAccessible::made(const QString& /*className*/, QObject* object) {
+  if (auto* button = qobject_cast<PopUpButton*>(object)) return new PopUpButtonAccessible(button);
   auto* view = qobject_cast<View*>(object);
   return view ? new ViewAccessible(view) : nullptr;
 }

@@ -9,7 +9,7 @@ class View;
 // A view as assistive technology reads it: the texts that it paints and its subviews, by rows from the top.
 class PLATFORM_EXPORT ViewAccessible final : public QAccessibleWidget {
  public:
-  // From now on all views are read this way. Before the first one is made.
+  // From now on all views, and pop-up buttons, are read as they show. Before the first one is made.
   static void install();
 
   ~ViewAccessible() override;

@@ -1,7 +1,5 @@
 #include "companion/app/DesktopColors.h"
 
-#include <QDBusConnection>
-#include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusVariant>
@@ -44,11 +42,10 @@ LookScheme DesktopColors::scheme() const {
   return isDark ? LookScheme::HighContrastDark : LookScheme::HighContrastLight;
 }
 
-void DesktopColors::follow() {
+void DesktopColors::follow(QDBusConnection bus) {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
   connect(QGuiApplication::styleHints(), &QStyleHints::colorSchemeChanged, this, &DesktopColors::takeTheme);
 #endif
-  QDBusConnection bus = QDBusConnection::sessionBus();
   if (!bus.isConnected()) return;
   // Whoever the sender is: to look up the portal's owner, Qt would wait for the bus.
   bus.connect({}, kPath, kSettings, QStringLiteral("SettingChanged"), this, SLOT(takeChange(QDBusMessage)));

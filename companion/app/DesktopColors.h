@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDBusConnection>
 #include <QDBusMessage>
 #include <QObject>
 #include <optional>
@@ -17,7 +18,7 @@ class DesktopColors final : public QObject {
   DesktopColors();
 
   // Asks the portal on the session bus and listens to it from then on. Once.
-  void follow();
+  void follow(QDBusConnection bus);
   LookScheme scheme() const;
 
  Q_SIGNALS:

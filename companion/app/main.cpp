@@ -149,7 +149,7 @@ int main(int argc, char** argv) {
   }
   if (options.appearance == "system" && !options.isDemo) {
     QObject::connect(&desktop, &DesktopColors::changed, [&desktop] { applyScheme(desktop.scheme()); });
-    desktop.follow();
+    desktop.follow(QDBusConnection::sessionBus());
   }
   if (!options.language.isEmpty()) QLocale::setDefault(QLocale(options.language));
   // Qt's own texts: context menus, file dialogs, buttons. Without the file they are English.

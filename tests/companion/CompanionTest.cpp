@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QImage>
 #include <QLineEdit>
 #include <QLocale>
@@ -16,8 +17,10 @@
 #include "companion/app/DemoUser.h"
 #include "companion/inspector/InspectorLog.h"
 #include "companion/runtime/PluginHost.h"
+#include "companion/runtime/TimeText.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
+#include "tests/kit/Input.h"
 
 namespace {
 
@@ -64,6 +67,42 @@ TEST(DemoUser, WhatAGuestEditedSurvivesASignIn) {
   store.close();
 }
 
+TEST(TimeText, HasNoSecondsInAnyLocale) {
+  const QDateTime time(QDate(2026, 3, 4), QTime(14, 5, 56));
+  for (const QLocale& locale : {QLocale::c(), QLocale("de_DE"), QLocale("en_US"), QLocale("ja_JP")}) {
+    QLocale::setDefault(locale);
+    for (const QString& text : {shortTime(time), shortDateTime(time)}) {
+      EXPECT_TRUE(text.contains(":05") && !text.contains("56")) << text.toStdString();
+    }
+  }
+  QLocale::setDefault(QLocale::c());
+}
+
+// What a session names but the program cannot use is said, not passed over.
+TEST(Companion, SaysWhyItDoesNotStart) {
+  const struct {
+    QStringList options;
+    const char* display;
+    const char* reason;
+  } rows[] = {{{}, ":9999", "the display :9999 cannot be used"},
+              {{"-reverse", "-style", "fusion", "--demo", "--nonsense"}, "", "Unknown option 'nonsense'."},
+              {{"--demo", "--plugin", "/nowhere.so"}, ":9999", "/nowhere.so cannot be loaded"},
+              {{"-platform", "offscreen", "--appearance", "pink"}, ":9999", "no appearance pink"}};
+  for (const auto& row : rows) {
+    QProcess companion;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char* name : {"WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) environment.remove(name);
+    environment.insert("DISPLAY", row.display);
+    companion.setProcessEnvironment(environment);
+    companion.start(COMPANION, row.options);
+    ASSERT_TRUE(companion.waitForFinished()) << row.reason;
+    EXPECT_NE(companion.exitCode(), 0) << row.reason;
+    EXPECT_EQ(companion.readAllStandardOutput(), "");
+    const QByteArray complaint = companion.readAllStandardError();
+    EXPECT_TRUE(complaint.contains(row.reason)) << complaint.toStdString();
+  }
+}
+
 TEST(Companion, PlaysItsDemonstrationWithoutADisplay) {
   const QTemporaryDir folder;
   QProcess companion;
@@ -93,22 +132,36 @@ QStringList mnemonicsOf(const QWidget& window, const QTabBar& tabs) {
   return letters;
 }
 
-TEST(Companion, NoLetterOfAltMeansTwoThings) {
+// At a large font on a small screen every button is as wide as its text and inside its row.
+TEST(Companion, PagesAreWholeAndNoLetterOfAltMeansTwoThings) {
+  const QFont before = QApplication::font();
+  QFont large = before;
+  large.setPixelSize(27);
+  QApplication::setFont(large);
   for (const char* language : {"en", "de", "es", "fr", "ja", "zh_CN"}) {
     QLocale::setDefault(QLocale(language));
     Companion companion({});
     ASSERT_TRUE(companion.loadPlugin(FAKE_PLUGIN));
+    companion.window()->resize(780, 420);
     companion.window()->show();
     auto* tabs = companion.window()->findChild<QTabBar*>();
     for (int page = 0; page < tabs->count(); ++page) {
       tabs->setCurrentIndex(page);
+      kit::settle();
       QStringList letters = mnemonicsOf(*companion.window(), *tabs);
       EXPECT_GE(letters.size(), 12);
       letters.sort();
       EXPECT_EQ(QStringList(letters).removeDuplicates(), 0) << language << letters.join("").toStdString();
+      for (const auto* button : companion.window()->findChildren<QAbstractButton*>()) {
+        if (!button->isVisible() || button->text().isEmpty()) continue;
+        EXPECT_GE(button->width(), button->sizeHint().width()) << button->text().toStdString();
+        EXPECT_TRUE(button->parentWidget()->rect().contains(button->geometry()))
+            << button->text().toStdString();
+      }
     }
   }
   QLocale::setDefault(QLocale::c());
+  QApplication::setFont(before);
 }
 
 }  // namespace

@@ -80,6 +80,12 @@ TEST_F(SiteDialogTest, WhatIsNoNameCannotBeUsedAnyway) {
   button("Change")->click();
   ASSERT_TRUE(showsFailure());
   EXPECT_TRUE(text().contains("Enter one such as")) << text().toStdString();
+  enter(QString("outside.").repeated(30) + "example");
+  button("Change")->click();
+  ASSERT_TRUE(showsFailure());
+  const auto* label = dialog->findChild<QLabel*>("siteText");
+  EXPECT_GE(label->height(), label->heightForWidth(label->width())) << "the dialog grows with its text";
+  enter("no site");
   EXPECT_FALSE(button("Use it anyway")->isVisible());
 }
 

@@ -1,12 +1,16 @@
+#include <QLabel>
 #include <QPushButton>
+#include <QRadioButton>
+#include <algorithm>
 
 #include "companion/app/CompanionWindow.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
+#include "tests/kit/AssistiveTechnology.h"
 #include "tests/services/ServicesFixture.h"
 
 namespace {
 
-class UpdateButtonTest : public ServicesFixture {
+class CompanionWindowTest : public ServicesFixture {
  protected:
   void SetUp() override {
     ServicesFixture::SetUp();
@@ -36,17 +40,30 @@ class UpdateButtonTest : public ServicesFixture {
   CompanionWindow window{&host};
 };
 
-TEST_F(UpdateButtonTest, LeadsToANewerVersionWhileThereIsOne) {
+TEST_F(CompanionWindowTest, LeadsToANewerVersionWhileThereIsOne) {
   check("meetings.sandbox.example");
   ASSERT_TRUE(kit::waitUntil([this] { return shownButton("Get version 9.1.0") != nullptr; }));
   QPushButton* button = shownButton("Get version 9.1.0");
   EXPECT_EQ(shownButton("Check for updates")->nextInFocusChain(), button);
   button->setFocus();
-  QTest::keyClick(button, Qt::Key_Space);
+  QTest::keyClick(button, Qt::Key_Return);
   ASSERT_EQ(opened.size(), 1);
   EXPECT_EQ(opened.first().path(), "/download");
   check("current.sandbox.example");
   EXPECT_TRUE(kit::waitUntil([button] { return !button->isVisible(); }));
+}
+
+TEST_F(CompanionWindowTest, TellsANoticeAndForgetsItForAnotherUser) {
+  kit::AssistiveTechnology reader;
+  window.showNotice("Meetings come from Mivra now.");
+  EXPECT_EQ(reader.takeAnnounced(), QStringList{"Meetings come from Mivra now."});
+  const auto isShown = [this] {
+    const auto labels = window.findChildren<QLabel*>();
+    return std::ranges::any_of(labels, [](QLabel* label) { return label->text().startsWith("Meetings"); });
+  };
+  EXPECT_TRUE(isShown());
+  window.findChildren<QRadioButton*>().last()->click();
+  EXPECT_FALSE(isShown());
 }
 
 }  // namespace
