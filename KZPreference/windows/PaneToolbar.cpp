@@ -22,7 +22,10 @@ void PaneToolbar::addItem(QAction* item) {
   QWidget* button = widgetForAction(item);
   button->setStyle(style());
   button->installEventFilter(this);
-  connect(item, &QAction::toggled, this, &PaneToolbar::updateTabStop, Qt::UniqueConnection);
+  // The item that was selected before is deselected first, with none selected meanwhile.
+  connect(item, &QAction::toggled, this, [this](bool isSelected) {
+    if (isSelected) updateTabStop();
+  });
   updateTabStop();
 }
 
