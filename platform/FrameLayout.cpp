@@ -14,6 +14,7 @@
 
 namespace {
 
+constexpr int kEdgeMargin = 8;
 constexpr char kFrameProperty[] = "platformFrame";
 
 struct Placement {
@@ -51,8 +52,8 @@ QRect withNeededRoom(const QWidget* view, QRect place, bool isFilledFromTop) {
   const QRect room = view->parentWidget()->rect();
   if (least.width() > 0) {
     place.setWidth(qMax(place.width(), least.width()));
-    // As far as the part that is needed would leave the superview.
-    const int excess = qMin(place.left() + least.width() - (room.right() + 1), place.left());
+    // As far as the part that is needed would come too near to the superview's edge.
+    const int excess = qMin(place.left() + least.width() + kEdgeMargin - room.width(), place.left());
     if (excess > 0) place.translate(-excess, 0);
   }
   const int wrapped = view->hasHeightForWidth() ? view->heightForWidth(place.width()) : 0;

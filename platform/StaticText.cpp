@@ -106,7 +106,7 @@ void StaticText::paintEvent(QPaintEvent*) {
 // The parent cuts its children off at its edges, so the text is elided before that.
 QRectF StaticText::visiblePart() const {
   const QRect room = parentWidget() && !isWindow() ? parentWidget()->rect().translated(-x(), 0) : rect();
-  QRect visible = contentsRect();
+  QRect visible = QStyle::visualRect(layoutDirection(), rect(), contentsRect());
   visible.setLeft(qMax(visible.left(), room.left()));
   visible.setRight(qMin(visible.right(), room.right()));
   return visible;

@@ -13,6 +13,8 @@ fi
 source=$(cd "$(dirname "$0")/.." && pwd)
 mkdir -p "$1"
 root=$(cd "$1" && pwd)/debian13
+exec 9>"$root.lock"
+flock 9  # one run at a time
 
 if [[ ! -d $root ]]; then
   command -v debootstrap >/dev/null || DEBIAN_FRONTEND=noninteractive apt-get install -y -q debootstrap </dev/null

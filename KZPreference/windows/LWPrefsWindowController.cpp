@@ -191,8 +191,6 @@ void LWPrefsWindowController::displayViewForIdentifier(const QString& identifier
   addSubview(m_contentSubview, newView, {0, height - size.height, size.width, size.height},
              VerticalAnchor::Top);
   window()->setInitialFirstResponder(newView);
-  // An item that has the focus tells its name itself.
-  if (window()->isOnScreen() && !m_toolbar->hasKeyboard()) announce(newView, identifier);
   if (isFading) return crossFadeView(newView, oldPicture);
 
   m_viewAnimation->stop();
@@ -200,6 +198,7 @@ void LWPrefsWindowController::displayViewForIdentifier(const QString& identifier
   if (oldView) removeFromSuperview(oldView);
   if (animate == Animate::Yes) return crossFadeView(newView, QPixmap());
   fitToScreen(newView);
+  tellPane();
 }
 
 void LWPrefsWindowController::crossFadeView(View* newView, const QPixmap& oldPicture) {
@@ -218,6 +217,13 @@ void LWPrefsWindowController::animationDidEnd() {
   clearFocus();
   removeSubviewsBelowTop();
   windowRoomDidChange();
+  tellPane();
+}
+
+// An item of the toolbar that has the focus, and an opening window, tell the name themselves.
+void LWPrefsWindowController::tellPane() {
+  if (window()->isOnScreen() && !m_toolbar->hasKeyboard())
+    announce(shownView(), shownView()->accessibleName());
 }
 
 // Called before views are removed, because Qt would give the focus of a view that goes to any other. The

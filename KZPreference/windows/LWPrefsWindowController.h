@@ -79,6 +79,7 @@ class LWPrefsWindowController : public WindowController {
   void displayViewForIdentifier(const QString& identifier, Animate animate);
   void crossFadeView(View* newView, const QPixmap& oldPicture);
   void animationDidEnd();
+  void tellPane();
   void clearFocus();
   View* shownView() const;
   void removeSubviewsBelowTop();

@@ -24,7 +24,10 @@ void PaneToolbar::addItem(QAction* item) {
   button->setStyle(style());
   button->installEventFilter(this);
   renewAccessible(button);
-  connect(item, &QAction::toggled, this, &PaneToolbar::updateTabStop, Qt::UniqueConnection);
+  // The item that was selected before is deselected first, with none selected meanwhile.
+  connect(item, &QAction::toggled, this, [this](bool isSelected) {
+    if (isSelected) updateTabStop();
+  });
   updateTabStop();
 }
 

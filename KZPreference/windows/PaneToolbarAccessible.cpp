@@ -33,6 +33,7 @@ class PaneTabAccessible final : public QAccessibleWidget {
 
   QAccessible::State state() const override {
     QAccessible::State state = QAccessibleWidget::state();
+    state.checkable = state.checked = false;
     state.selectable = true;
     state.selected = button()->isChecked();
     return state;
@@ -68,11 +69,13 @@ class PaneTabListAccessible final : public QAccessibleWidget {
   QList<QWidget*> tabs() const { return tabsOf(static_cast<QToolBar*>(widget())); }
 };
 
+// A button is asked for before the toolbar has it, so its class decides: the button for the items without
+// room has a class of its own.
 QAccessibleInterface* pageTabsAccessible(const QString& /*className*/, QObject* object) {
   if (QToolBar* toolbar = pageTabs(object)) return new PaneTabListAccessible(toolbar);
-  auto* button = qobject_cast<QToolButton*>(object);
-  const QToolBar* toolbar = button ? pageTabs(button->parentWidget()) : nullptr;
-  return toolbar && tabsOf(toolbar).contains(button) ? new PaneTabAccessible(button) : nullptr;
+  const bool isItem = object && object->metaObject() == &QToolButton::staticMetaObject;
+  return isItem && pageTabs(object->parent()) ? new PaneTabAccessible(static_cast<QToolButton*>(object))
+                                              : nullptr;
 }
 
 }  // namespace

@@ -127,6 +127,7 @@ void CompanionWindow::addPage(const QString& title, const PageMaker& make) {
   m_pages->addWidget(place);
   m_pageMakers.append(make);
   m_tabs->addTab(title);
+  m_tabs->updateGeometry();  // which it does not do itself while it is hidden
 }
 
 void CompanionWindow::showPage(int index) {

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QWidget>
+#include <cmath>
 
 #include "host/KZFoundation/KZHostExport.h"
 
@@ -14,6 +15,9 @@ class KZ_HOST_EXPORT SplitLineView : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent*) override {
-    QPainter(this).fillRect(0, (height() - 1) / 2, width(), 1, palette().color(QPalette::Mid));
+    // Whole pixels of the device, so that all lines are equally thick at every scale.
+    const double thickness = std::floor(devicePixelRatioF()) / devicePixelRatioF();
+    const QRectF line(0, (height() - 1) / 2, width(), thickness);
+    QPainter(this).fillRect(line, palette().color(QPalette::Mid));
   }
 };

@@ -40,13 +40,14 @@ void setActive(bool isActive) {
 namespace kit {
 
 AssistiveTechnology::AssistiveTechnology() {
+  // Later versions of Qt report while nobody listens, too.
+  s_announced.clear();
+  s_typed.clear();
   setActive(true);
 }
 
 AssistiveTechnology::~AssistiveTechnology() {
   setActive(false);
-  s_announced.clear();
-  s_typed.clear();
 }
 
 QStringList AssistiveTechnology::takeAnnounced() {

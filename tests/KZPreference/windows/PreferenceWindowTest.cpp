@@ -1,5 +1,7 @@
+#include <QAccessible>
 #include <QCheckBox>
 #include <QTest>
+#include <QToolBar>
 #include <QToolButton>
 #include <QWindow>
 #include <map>
@@ -152,6 +154,31 @@ TEST_F(PreferenceWindowTest, MirrorsEveryPaneFromRightToLeft) {
   for (const auto& [name, place] : measure(Qt::RightToLeft, &mirroredFrames))
     EXPECT_EQ(place, places.at(name)) << qPrintable(name) << place.left() << places.at(name).left();
   EXPECT_EQ(mirroredFrames, frames);
+}
+
+TEST_F(PreferenceWindowTest, AssistiveTechnologySeesPageTabsAndThePane) {
+  command(2);
+  const QAccessibleInterface* list = QAccessible::queryAccessibleInterface(window()->findChild<QToolBar*>());
+  EXPECT_EQ(list->role(), QAccessible::PageTabList);
+  EXPECT_EQ(list->text(QAccessible::Name), "Preferences");
+  ASSERT_EQ(list->childCount(), 5);
+  for (int place = 4; place >= 0; --place) {
+    QAccessibleInterface* tab = list->child(place);
+    EXPECT_EQ(tab->role(), QAccessible::PageTab);
+    EXPECT_EQ(list->indexOfChild(tab), place);
+    tab->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(tab->text(QAccessible::Name), selectedItem());
+    EXPECT_TRUE(tab->text(QAccessible::Description).isEmpty());
+    const QAccessibleInterface* pane = QAccessible::queryAccessibleInterface(
+        subviewsOf(window()->findChild<QWidget*>("contentSubview")).last());
+    EXPECT_EQ(pane->text(QAccessible::Name), selectedItem());
+    EXPECT_FALSE(pane->state().invisible);
+    for (int other = 0; other < 5; ++other) {
+      const QAccessible::State state = list->child(other)->state();
+      EXPECT_EQ(state.selected, other == place);
+      EXPECT_FALSE(state.checkable || state.checked);
+    }
+  }
 }
 
 TEST_F(PreferenceWindowTest, ShortcutsChooseThePane) {
