@@ -207,12 +207,11 @@ void setWindowSize(QWidget* window, const Size& size) {
   placement.frame.width = size.width;
   placement.frame.height = size.height;
   keep(window, placement);
+  const QSize rounded = roundedSize(placement.frame);
   // The user cannot resize a window; a view without a parent must stay resizable.
-  if (qobject_cast<Window*>(window)) {
-    window->setFixedSize(roundedSize(placement.frame));
-  } else {
-    window->resize(roundedSize(placement.frame));
-  }
+  if (!qobject_cast<Window*>(window)) return window->resize(rounded);
+  // Each call is sent to the window manager.
+  if (window->size() != rounded || window->minimumSize() != rounded) window->setFixedSize(rounded);
 }
 
 Frame roomFor(const QWidget* window) {
