@@ -74,7 +74,10 @@ QAccessible::Role accessibleRoleOf(const QObject* view) {
 void setAccessibleRole(QWidget* view, QAccessible::Role role) {
   QAccessible::installFactory(accessibleWithRole);  // once: it ignores one that it has
   view->setProperty(kAccessibleRoleProperty, int(role));
-  // The toolkit may have made one already; the next query makes one with this role.
+  renewAccessible(view);
+}
+
+void renewAccessible(QWidget* view) {
   QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(QAccessible::queryAccessibleInterface(view)));
 }
 
