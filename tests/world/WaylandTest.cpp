@@ -12,11 +12,9 @@ TEST_F(WorldWayland, AWindowOfFixedSizeOutlivesMaximise) {
   XServer server(desktop.display());
   QFile configuration(desktop.folder() + "/weston.ini");
   ASSERT_TRUE(configuration.open(QIODevice::WriteOnly));
-  // The second setting is the first one's new name.
-  configuration.write(
-      "[core]\nuse-pixman=true\nrenderer=pixman\nidle-time=0\n[shell]\npanel-position=none\n");
+  configuration.write("[core]\nidle-time=0\n[shell]\npanel-position=none\n");
   configuration.close();
-  desktop.start("weston", {"--backend=x11-backend.so", "--socket=wayland-world",
+  desktop.start("weston", {"--backend=x11-backend.so", "--use-pixman", "--socket=wayland-world",
                            "--config=" + configuration.fileName(), "--width=1000", "--height=700"});
   ASSERT_TRUE(kit::waitUntil([&] {
     return QDir(desktop.folder()).exists("wayland-world.lock") && !server.takeChanges().isEmpty();
