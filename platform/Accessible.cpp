@@ -8,6 +8,8 @@
 #include <QVariant>
 #include <chrono>
 
+#include "platform/View.h"
+
 namespace {
 
 using namespace std::chrono_literals;
@@ -26,7 +28,9 @@ class RoleAccessible final : public QAccessibleWidget {
 };
 
 QAccessibleInterface* accessibleWithRole(const QString& /*className*/, QObject* object) {
-  const QAccessible::Role role = object ? accessibleRoleOf(object) : QAccessible::NoRole;
+  // A view has an accessible of its own, which asks for the role.
+  if (!object || qobject_cast<View*>(object)) return nullptr;
+  const QAccessible::Role role = accessibleRoleOf(object);
   return role == QAccessible::NoRole ? nullptr : new RoleAccessible(static_cast<QWidget*>(object), role);
 }
 
@@ -70,7 +74,10 @@ QAccessible::Role accessibleRoleOf(const QObject* view) {
 void setAccessibleRole(QWidget* view, QAccessible::Role role) {
   QAccessible::installFactory(accessibleWithRole);  // once: it ignores one that it has
   view->setProperty(kAccessibleRoleProperty, int(role));
-  // The toolkit may have made one already; the next query makes one with this role.
+  renewAccessible(view);
+}
+
+void renewAccessible(QWidget* view) {
   QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(QAccessible::queryAccessibleInterface(view)));
 }
 

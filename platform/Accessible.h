@@ -15,6 +15,9 @@ class QWidget;
 PLATFORM_EXPORT void setAccessibleRole(QWidget* view, QAccessible::Role role);
 QAccessible::Role accessibleRoleOf(const QObject* view);  // NoRole when none was set
 
+// Drops what the toolkit made of the view when it asked too early; the next query makes it anew.
+PLATFORM_EXPORT void renewAccessible(QWidget* view);
+
 // The view is labelled by the label, which has the same parent.
 PLATFORM_EXPORT void setAccessibleLabel(QWidget* view, QLabel* label);
 

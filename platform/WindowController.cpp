@@ -8,6 +8,7 @@
 #include <QTimer>
 #include <QTimerEvent>
 #include <QWindow>
+#include <utility>
 
 #include "platform/Look.h"
 #include "platform/LookPalette.h"
@@ -121,24 +122,29 @@ bool Window::eventFilter(QObject* watched, QEvent* event) {
 }
 
 // A window of fixed size cannot be maximised, but some platforms offer it all the same. A Wayland compositor
-// may end a program whose maximised window has another size than it said, so nothing more is shown of this
-// one, and it is made anew. A compositor that maximises that too gets its way.
+// may end a program whose maximised window has another size than it said, so this one is taken away before it
+// is painted again, and made anew: at most once a second, for compositors that maximise every window.
 void Window::refuseMaximizing() {
   const Qt::WindowStates states = windowHandle()->windowStates();
   if (!states.testFlag(Qt::WindowMaximized)) return;
   windowHandle()->setWindowStates(states & ~Qt::WindowMaximized);
-  if (!isOnWayland() || m_remapTimer.isActive()) return;
+  if (!isOnWayland()) return;
+  hide();
+  m_isMadeAnew = true;
+  if (!m_remapTimer.isActive()) QTimer::singleShot(0, this, &Window::makeAnew);
+}
+
+void Window::makeAnew() {
+  if (!std::exchange(m_isMadeAnew, false)) return;
   m_remapTimer.start(kRemapMilliseconds, this);
-  setUpdatesEnabled(false);
-  QTimer::singleShot(0, this, [this] {
-    hide();
-    setUpdatesEnabled(true);
-    show();
-  });
+  show();
 }
 
 void Window::timerEvent(QTimerEvent* event) {
-  if (event->timerId() == m_remapTimer.timerId()) return m_remapTimer.stop();
+  if (event->timerId() == m_remapTimer.timerId()) {
+    m_remapTimer.stop();
+    return makeAnew();
+  }
   if (event->timerId() != m_resizeTimer.timerId()) return QWidget::timerEvent(event);
   m_resizeTimer.stop();
   noticeRoom(size() == minimumSize() ? QSize() : size());
@@ -155,6 +161,7 @@ void Window::noticeRoom(const QSize& foreignSize) {
 }
 
 void Window::closeEvent(QCloseEvent* event) {
+  m_isMadeAnew = false;
   if (isVisible() && m_controller) m_controller->windowWillClose();
   QWidget::closeEvent(event);
 }

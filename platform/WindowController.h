@@ -88,9 +88,11 @@ class PLATFORM_EXPORT Window : public QWidget {
   };
 
   void refuseMaximizing();
+  void makeAnew();
   void noticeRoom(const QSize& foreignSize);
 
   WindowController* m_controller = nullptr;
+  bool m_isMadeAnew = false;
   QPointer<QWidget> m_initialFirstResponder;
   std::optional<Room> m_room;
   QWidget* m_edge = nullptr;

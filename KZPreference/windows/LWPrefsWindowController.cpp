@@ -125,7 +125,9 @@ void LWPrefsWindowController::showFirstPane() {
   const QString& first = m_toolbarIdentifiers.first();
   loadViewForIdentifier(first, Animate::No);
   const QRect screen = window()->screen()->availableGeometry();
-  window()->move(screen.center() - QPoint(window()->width() / 2, window()->height() / 2));
+  // Not the frame's position: the window would move by its decoration when it is first resized.
+  window()->setGeometry(
+      {screen.center() - QPoint(window()->width() / 2, window()->height() / 2), window()->size()});
   if (View* pane = m_toolbarViews.value(first)) pane->setFocus(Qt::OtherFocusReason);
 }
 

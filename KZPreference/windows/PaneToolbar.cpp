@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 
 #include "KZPreference/windows/PaneToolbarAccessible.h"
+#include "platform/Accessible.h"
 
 PaneToolbar::PaneToolbar(QWidget* window) : QToolBar(window), m_items(new QActionGroup(this)) {
   showAsPageTabs(this);
@@ -22,6 +23,7 @@ void PaneToolbar::addItem(QAction* item) {
   QWidget* button = widgetForAction(item);
   button->setStyle(style());
   button->installEventFilter(this);
+  renewAccessible(button);
   // The item that was selected before is deselected first, with none selected meanwhile.
   connect(item, &QAction::toggled, this, [this](bool isSelected) {
     if (isSelected) updateTabStop();

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/kit/Input.h"
 #include "tests/world/Desktop.h"
 #include "tests/world/LiveSession.h"
 #include "tests/world/ScreenReader.h"
@@ -25,16 +26,28 @@ struct World {
 
   explicit World(User user = User::SignedIn, const Desktop::Options& options = {})
       : desktop(options), session(desktop.environment()) {
+    if (options.manager != Desktop::Manager::None) {
+      EXPECT_TRUE(kit::waitUntil([this] { return server.hasManager(); }));
+    }
     session.play(
         {user == User::SignedIn
              ? R"({"set":"store","values":{"siteName":"meet.brenn.example","displayName":"Ada Lovelace",)"
-               R"("userName":"ada@brenn.example"}})"
+               R"("userName":"ada@brenn.example","preferenceInfo":{)"
+               R"("QRT_Preference_PMRUrl":"https://meet.brenn.example/ada",)"
+               R"("QRT_Preference_PMRSipUrl":"ada@meet.brenn.example"}}})"
              : R"({"command":1})"});
+  }
+
+  // Plays the steps that show the window and waits until it has the keyboard.
+  void show(const QStringList& steps = {kShow}) {
+    session.play(steps);
+    EXPECT_TRUE(kit::waitUntil([this] { return !server.focusedFrame().isNull(); }));
+    settle();
   }
 
   // Until no pane is fading.
   void settle() {
-    while (session.play({R"({"wait":20})", R"({"get":"window"})"}).join("").contains(R"("running":true)"))
+    while (session.play({R"({"wait":20})", R"({"get":"window"})"}).last().contains(R"("running":true)"))
       continue;
   }
 

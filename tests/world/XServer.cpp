@@ -16,6 +16,13 @@ std::unique_ptr<Reply, decltype(&std::free)> owned(Reply* reply) {
   return {reply, &std::free};
 }
 
+// Of everything that tells where a window is.
+template <typename Place>
+QRect frameOf(const Place* place) {
+  const int border = 2 * place->border_width;
+  return {place->x, place->y, place->width + border, place->height + border};
+}
+
 }  // namespace
 
 XServer::XServer(const QByteArray& display)
@@ -34,12 +41,19 @@ QRect XServer::screen() const {
   return {0, 0, m_screen->width_in_pixels, m_screen->height_in_pixels};
 }
 
+bool XServer::hasManager() {
+  const auto name =
+      owned(xcb_intern_atom_reply(m_connection, xcb_intern_atom(m_connection, 0, 5, "WM_S0"), nullptr));
+  const auto owner = owned(xcb_get_selection_owner_reply(
+      m_connection, xcb_get_selection_owner(m_connection, name->atom), nullptr));
+  return owner->owner != XCB_NONE;
+}
+
 QRect XServer::geometry(xcb_window_t window) {
   const auto reply =
       owned(xcb_get_geometry_reply(m_connection, xcb_get_geometry(m_connection, window), nullptr));
   if (!reply) return {};
-  const int border = 2 * reply->border_width;
-  return {reply->x, reply->y, reply->width + border, reply->height + border};
+  return frameOf(reply.get());
 }
 
 xcb_window_t XServer::topLevel(xcb_window_t window) {
@@ -55,7 +69,9 @@ xcb_window_t XServer::topLevel(xcb_window_t window) {
 QRect XServer::focusedFrame() {
   const auto focus =
       owned(xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
-  return focus && focus->focus > XCB_INPUT_FOCUS_POINTER_ROOT ? geometry(topLevel(focus->focus)) : QRect();
+  if (!focus || focus->focus <= XCB_INPUT_FOCUS_POINTER_ROOT) return {};
+  const QRect frame = geometry(topLevel(focus->focus));
+  return frame.width() < kSmallest ? QRect() : frame;
 }
 
 QList<XServer::Change> XServer::takeChanges() {
@@ -64,12 +80,17 @@ QList<XServer::Change> XServer::takeChanges() {
   QList<Change> changes;
   while (const auto event = owned(xcb_poll_for_event(m_connection))) {
     switch (event->response_type & ~0x80) {
+      case XCB_CREATE_NOTIFY: {
+        const auto* create = reinterpret_cast<xcb_create_notify_event_t*>(event.get());
+        m_frames.insert(create->window, frameOf(create));
+        break;
+      }
       case XCB_MAP_NOTIFY: {
-        const auto* map = reinterpret_cast<xcb_map_notify_event_t*>(event.get());
-        const QRect frame = geometry(map->window);
-        if (map->event != m_screen->root || frame.width() < kSmallest) break;
-        m_shown.append(map->window);
-        changes.append({map->window, frame});
+        const xcb_window_t window = reinterpret_cast<xcb_map_notify_event_t*>(event.get())->window;
+        const QRect frame = m_frames.value(window);
+        if (frame.width() < kSmallest) break;
+        m_shown.append(window);
+        changes.append({window, frame});
         break;
       }
       case XCB_UNMAP_NOTIFY:
@@ -77,8 +98,8 @@ QList<XServer::Change> XServer::takeChanges() {
         break;
       case XCB_CONFIGURE_NOTIFY: {
         const auto* configure = reinterpret_cast<xcb_configure_notify_event_t*>(event.get());
-        const int border = 2 * configure->border_width;
-        const QRect frame{configure->x, configure->y, configure->width + border, configure->height + border};
+        const QRect frame = frameOf(configure);
+        m_frames.insert(configure->window, frame);
         if (m_shown.contains(configure->window)) changes.append({configure->window, frame});
         break;
       }

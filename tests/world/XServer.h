@@ -2,6 +2,7 @@
 
 #include <xcb/xcb.h>
 
+#include <QHash>
 #include <QList>
 #include <QRect>
 #include <QString>
@@ -40,6 +41,7 @@ class XServer final {
   // Of the window that has the keyboard, its decoration included; null when none has.
   QRect focusedFrame();
   QRect screen() const;
+  bool hasManager();
 
   // Presses and releases the key of that keysym or ASCII character while the others are held.
   void press(xcb_keysym_t key, QList<xcb_keysym_t> held = {});
@@ -56,5 +58,6 @@ class XServer final {
 
   xcb_connection_t* m_connection;
   xcb_screen_t* m_screen;
+  QHash<xcb_window_t, QRect> m_frames;  // of all windows, shown or not
   QList<xcb_window_t> m_shown;
 };
