@@ -65,6 +65,10 @@ ViewAnimation::ViewAnimation(QObject* parent) : QObject(parent), m_progress(this
 
 ViewAnimation::~ViewAnimation() = default;
 
+bool ViewAnimation::animates(const Window& window) {
+  return window.isOnScreen() && window.style()->styleHint(QStyle::SH_Widget_Animate, nullptr, &window);
+}
+
 QPixmap ViewAnimation::pictureOf(QWidget* view) {
   return view->grab(QRect(QPoint(), view->size().boundedTo(view->screen()->size())));
 }
@@ -78,8 +82,7 @@ void ViewAnimation::start(const CrossFade& fade, const QPixmap& oldPicture) {
   m_window = fade.window;
   m_startSize = frameOf(fade.window).size();
   m_endSize = fade.endSize;
-  const bool isStill = !fade.window->style()->styleHint(QStyle::SH_Widget_Animate, nullptr, fade.window);
-  if (isStill || !fade.window->isOnScreen()) return finish();
+  if (!animates(*fade.window)) return finish();
 
   if (!oldPicture.isNull()) {
     auto* overlay = new FadeOverlay(fade.newView->parentWidget(), oldPicture, pictureOf(fade.newView));

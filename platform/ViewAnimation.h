@@ -26,6 +26,9 @@ class PLATFORM_EXPORT ViewAnimation : public QObject {
   explicit ViewAnimation(QObject* parent);
   ~ViewAnimation() override;
 
+  // False where a switch is immediate.
+  static bool animates(const Window& window);
+
   // As much of the view as a screen can show, from its upper left corner.
   static QPixmap pictureOf(QWidget* view);
 

@@ -10,6 +10,7 @@
 #include <QWindow>
 #include <utility>
 
+#include "platform/Accessible.h"
 #include "platform/Look.h"
 #include "platform/LookPalette.h"
 
@@ -81,6 +82,7 @@ bool isOnWayland() {
 Window::Window() {
   setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                  Qt::WindowCloseButtonHint);
+  setAccessibleRole(this, QAccessible::Window);
   setWindowLook(this);
 }
 

@@ -186,7 +186,7 @@ void LWPrefsWindowController::displayViewForIdentifier(const QString& identifier
 
   const bool isFading = animate == Animate::Yes && m_crossFade;
   const QPixmap oldPicture =
-      isFading && window()->isOnScreen() ? ViewAnimation::pictureOf(m_contentSubview) : QPixmap();
+      isFading && ViewAnimation::animates(*window()) ? ViewAnimation::pictureOf(m_contentSubview) : QPixmap();
   const Size size = frameOf(newView).size();
   const double height = frameOf(m_contentSubview).height;
   newView->setVisible(true);

@@ -10,7 +10,7 @@ QString described(const AccessibleNode& node) {
   return text;
 }
 
-const QStringList kTabs = {"filler Preferences",    "page tab list Preferences", "page tab General",
+const QStringList kTabs = {"frame Preferences",     "page tab list Preferences", "page tab General",
                            "page tab Account",      "page tab Meetings",         "page tab Notifications",
                            "page tab Video devices"};
 
