@@ -136,6 +136,7 @@ void CalendarIntegrationGroup::needOutlookCredential(const Dictionary& result) {
   m_passwordInputTxt->setText(QString());
   m_usernameInputTxt->show();
   m_passwordInputTxt->show();
+  m_messageTxt->lower();  // an earlier result would cover the user name field
   // After showing it: a hidden field cannot take the focus.
   makeFirstResponder(m_usernameInputTxt);
   m_passwordInputTxt->setEnabled(false);

@@ -39,6 +39,7 @@ void CalendarIntegrationMessage::show(const QString& text, SystemColor color, An
   if (!m_messageTxt) return;
   m_messageTxt->setText(text);
   m_messageTxt->setSystemColor(color);
+  m_messageTxt->raise();
   m_messageTxt->show();
   if (announced == Announce::Yes) announce(m_messageTxt, text);
 }

@@ -250,6 +250,18 @@ TEST_P(ExchangeFlow, AnAppliedAccountIsShownUnlessItsCredentialIsMarkedInvalid) 
     host.openMeetings(GetParam());
     EXPECT_EQ(shows().toStdString(), tried.shows.toStdString());
     EXPECT_EQ(PreferenceHost::control<QLineEdit>("m_emailInputTxt").text(), kEmail);
+    // The line and the user name field are in the same place.
+    const auto& username = PreferenceHost::control<QLineEdit>("m_usernameInputTxt");
+    const auto upper = [&] {
+      return username.parentWidget()->childAt(username.geometry().center())->objectName();
+    };
+    host.needCredential();
+    EXPECT_EQ(upper(), "m_usernameInputTxt");
+    host.fail(QStringLiteral("No service there"));
+    host.needCredential();
+    host.type("m_emailInputTxt", {});
+    host.press("m_emailInputTxt", Qt::Key_Return);
+    EXPECT_EQ(upper(), "m_messageTxt");
   }
 }
 
