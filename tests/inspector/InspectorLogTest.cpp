@@ -111,18 +111,6 @@ TEST(InspectorLog, IsBoundedByNumberAndByBytes) {
   }
 }
 
-TEST(InspectorLog, ABurstInOneTurnIsOneInsertAndBoundedToo) {
-  InspectorLog log;
-  const QSignalSpy inserts(&log, &QAbstractItemModel::rowsInserted);
-  for (int number = 0; number < InspectorLog::mostEvents + 500; ++number) {
-    traceTo(log, QString::number(number));
-  }
-  turn();
-  EXPECT_EQ(inserts.size(), 1);
-  EXPECT_LE(log.rowCount(), InspectorLog::mostEvents);
-  EXPECT_EQ(log.eventAt(0)->title.toInt(), InspectorLog::mostEvents + 500 - log.rowCount());
-}
-
 TEST(InspectorLog, TakesEventsFromManyThreadsInTheirOrder) {
   InspectorLog log;
   std::vector<std::unique_ptr<QThread>> workers;
