@@ -51,14 +51,6 @@ TEST_F(CommandTest, HandlesExactlyTheNumbersThatTheTablesList) {
   }
 }
 
-TEST_F(CommandTest, StartInstallsTheDefaultsAndShowsNothing) {
-  EXPECT_EQ(window(), nullptr);
-  EXPECT_EQ(takeSent(), QStringList());
-  EXPECT_EQ(store().meetingNotification(),
-            (Dictionary{{kKZMeetintNotificationToast, true}, {kKZMeetintNotificationToastMinutes, "15"}}));
-  EXPECT_EQ(store().videoDevice(), (Dictionary{{kKZVideoDeviceAutodetect, true}}));
-}
-
 TEST_F(CommandTest, AnyActionFromButTheAppsMeansOutlook) {
   const struct {
     Content content;

@@ -2,7 +2,6 @@
 #include <QTest>
 #include <limits>
 
-#include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 #include "platform/WindowController.h"
@@ -10,29 +9,14 @@
 
 namespace {
 
-const QStringList& keysThatAreRead() {
-  static const QStringList keys{"kz",
-                                "BrennOI",
-                                "customInfo",
-                                "disableCalendarIntegration",
-                                "enableListGoogleCalendarMeeting",
-                                "O365LoginData",
-                                "O365LoginParams",
-                                kKZResult,
-                                kKZErrorHandleData,
-                                kOpenPrefsViewType,
-                                kproximityCommand,
-                                TelemetryKey_ActionFrom,
-                                kKZCalendarIntegration,
-                                kKZCalendarIntegrationSource,
-                                kKZCalendarIntegrationExchange,
-                                QRT_Preference_PMRUrl,
-                                QRT_Preference_PMRSipUrl,
-                                QRT_ExchangeDiscover_ExchangeType,
-                                QRT_ExchangeDiscover_O365LoginParams,
-                                QRT_ExchangeDiscover_Exchange};
-  return keys;
-}
+const char* const kKeysThatAreRead =
+    "kz BrennOI customInfo disableCalendarIntegration enableListGoogleCalendarMeeting O365LoginData "
+    "O365LoginParams kKZResult kKZErrorHandleData kOpenPrefsViewType kproximityCommand "
+    "TelemetryKey_ActionFrom "
+    "kKZCalendarIntegration kKZCalendarIntegrationSource kKZCalendarIntegrationExchange "
+    "QRT_Preference_PMRUrl "
+    "QRT_Preference_PMRSipUrl QRT_ExchangeDiscover_ExchangeType QRT_ExchangeDiscover_O365LoginParams "
+    "QRT_ExchangeDiscover_Exchange";
 
 QVariantList valuesOfEveryType() {
   return {QVariant(),
@@ -62,7 +46,7 @@ class HostileContentTest : public RecordingHost {
 TEST_F(HostileContentTest, WrongTypesEverywhereCountAsAbsent) {
   for (const QVariant& value : valuesOfEveryType()) {
     Dictionary content;
-    for (const QString& key : keysThatAreRead()) content.insert(key, value);
+    for (const QString& key : QString(kKeysThatAreRead).split(' ')) content.insert(key, value);
     playAll(content);
     content.remove(kKZResult);
     content.insert("kz", Dictionary(content));
