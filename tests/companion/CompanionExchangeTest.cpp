@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QLocale>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTest>
