@@ -7,13 +7,12 @@ namespace {
 
 QAccessible::UpdateHandler s_earlierHandler = nullptr;
 
-void tellMasked(QAccessibleEvent* event);
-
-// The toolkit's own handling can only be reached with this handler away.
+// The toolkit's own handling can only be reached with this handler away. The host may have put another one in
+// front of it.
 void passOn(QAccessibleEvent* event) {
-  QAccessible::installUpdateHandler(s_earlierHandler);
+  const QAccessible::UpdateHandler installed = QAccessible::installUpdateHandler(s_earlierHandler);
   QAccessible::updateAccessibility(event);
-  QAccessible::installUpdateHandler(tellMasked);
+  QAccessible::installUpdateHandler(installed);
 }
 
 QString bulletsFor(const QString& text) {
