@@ -10,7 +10,6 @@
 #include <QWindow>
 #include <utility>
 
-#include "platform/Accessible.h"
 #include "platform/Look.h"
 #include "platform/LookPalette.h"
 
@@ -82,7 +81,6 @@ bool isOnWayland() {
 Window::Window() {
   setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                  Qt::WindowCloseButtonHint);
-  setAccessibleRole(this, QAccessible::Window);
   setWindowLook(this);
 }
 

@@ -62,6 +62,7 @@ void LWPrefsWindowController::initWindow() {
   auto* window = new Window;
   setWindow(window);
   window->setWindowTitle(localizedString("Preferences"));
+  setAccessibleRole(window, QAccessible::Window);
 
   // The toolbar is made before the panes, so that it comes before them in the tab order.
   m_toolbar = new PaneToolbar(window);

@@ -17,7 +17,7 @@ class KZ_HOST_EXPORT SplitLineView : public QWidget {
   void paintEvent(QPaintEvent*) override {
     // Whole pixels of the device, so that all lines are equally thick at every scale.
     const double thickness = std::floor(devicePixelRatioF()) / devicePixelRatioF();
-    const QRectF line(0, (height() - 1) / 2, width(), thickness);
+    const QRectF line(0, std::floor((height() - 1) / 2.0), width(), thickness);
     QPainter(this).fillRect(line, palette().color(QPalette::Mid));
   }
 };

@@ -33,7 +33,7 @@ TEST_F(WorldWindow, OpensInPlaceWithThePaneThatWasAskedFor) {
     const char* name;
     Manager manager;
     QStringList steps;
-    bool isFading;
+    bool mayFade;
   } cases[] = {
       {"General", Manager::Openbox, {kShow}, false},
       {"Account", Manager::Openbox, {kShowAccount}, false},
@@ -51,7 +51,7 @@ TEST_F(WorldWindow, OpensInPlaceWithThePaneThatWasAskedFor) {
     // Mapped for the first pane, it may be resized once before anything is painted, but not step by step.
     QSet<int> heights;
     for (const QRect& frame : frames) heights.insert(frame.height());
-    EXPECT_EQ(heights.size() > 2, each.isFading);
+    EXPECT_TRUE(each.mayFade || heights.size() <= 2) << heights.size() << " heights";
   }
 }
 
