@@ -106,15 +106,4 @@ TEST_F(OidcProviderTest, SignsInAndRefreshes) {
   EXPECT_EQ(items(), stored);
 }
 
-TEST_F(OidcProviderTest, RefusalIsAFailure) {
-  Result result;
-  signIn(result);
-  ASSERT_TRUE(waitForBrowser());
-  const QUrl login = openPage();
-  finished(browser.get(QNetworkRequest(login.resolved(QUrl(login.path() + "/abort")))));
-  ASSERT_TRUE(waitFor(result));
-  ASSERT_TRUE(result->error);
-  EXPECT_EQ(result->error->code, ADErrorCode::Refused);
-}
-
 }  // namespace

@@ -1,29 +1,20 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
-#include <QAction>
 #include <QApplication>
 #include <QLocale>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QSignalSpy>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QTest>
 
-#include "adal/ADAuthenticationSettings.h"
 #include "companion/app/CompanionExchange.h"
-#include "companion/app/DemoUser.h"
 #include "companion/app/Sandbox.h"
 #include "companion/inspector/InspectorLog.h"
 #include "companion/runtime/PluginHost.h"
-#include "companion/runtime/PreferencesWindow.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZFoundation/KZNotificationCenter.h"
-#include "host/KZUtility/KZKeyChainHandle.h"
-#include "host/KZUtility/KZPlistFileHandle.h"
-#include "platform/WindowController.h"
 
 namespace {
 
@@ -181,55 +172,6 @@ TEST_F(CompanionExchangeTest, ASandboxThatDiesEndsTheSearch) {
   QProcess::execute("kill", {"-9", QString::number(sandbox.processId())});
   ASSERT_TRUE(failed.wait(5000));
   EXPECT_TRUE(notificationNumber(2).contains("has ended"));
-}
-
-TEST_F(CompanionExchangeTest, TheMeetingsPaneFindsAnAccount) {
-  const QTemporaryDir folder;
-  KZPlistFileHandle& store = KZPlistFileHandle::sharedInstance();
-  ASSERT_TRUE(store.open(folder.path()));
-  KZKeyChainHandle::sharedInstance().useStorage(KZKeyChainHandle::Storage::Memory);
-  ASSERT_TRUE(host.load(PREFERENCES));
-  QLocale::setDefault(QLocale(QLocale::Spanish));
-  EXPECT_EQ(ADAuthenticationSettings::sharedInstance().text("Cancel"), "Cancelar");
-  QLocale::setDefault(QLocale::c());
-  ASSERT_NO_FATAL_FAILURE(startSandbox());
-  if (IsSkipped()) return;
-  host.notify(KZNotify::KZNotifyGetPreferenceDone,
-              Dictionary{{kKZResult, kKZSuccess}, {"kz", demouser::record()}});
-  host.trigger(KZCommand::KZCmdShowPreference);
-  Window* window = findPreferencesWindow();
-  ASSERT_NE(window, nullptr);
-  paneItemNamed(*window, "Meetings")->trigger();
-  const auto shown = [window](const char* name) {
-    QWidget* control = nullptr;
-    EXPECT_TRUE(QTest::qWaitFor(
-        [&] {
-          for (QWidget* one : window->findChildren<QWidget*>(name)) {
-            if (one->isVisible() && one->isEnabled()) control = one;
-          }
-          return control != nullptr;
-        },
-        8000))
-        << name;
-    return control;
-  };
-  const auto click = [&](const char* name) {
-    if (auto* button = qobject_cast<QAbstractButton*>(shown(name))) button->click();
-  };
-  const auto type = [&](const char* name, const QString& text) {
-    if (QWidget* field = shown(name)) QTest::keyClicks(field, text);
-  };
-  click("m_outlookRadioBtn");
-  type("m_emailInputTxt", "onprem@corp.sandbox.example");
-  click("m_detectBtn");
-  type("m_usernameInputTxt", "CORP\\onprem");
-  type("m_passwordInputTxt", password);
-  click("m_applyBtn");
-  const QString found = notificationNumber(3);
-  EXPECT_TRUE(found.startsWith("15 ") && found.contains("https://")) << qPrintable(found);
-  EXPECT_FALSE(found.contains(password));
-  host.shutDown();
-  store.close();
 }
 
 }  // namespace

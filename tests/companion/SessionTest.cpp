@@ -25,15 +25,6 @@ std::string textOf(const QStringList& lines) {
   return lines.join(u'\n').toStdString();
 }
 
-QJsonObject viewNamed(const QJsonObject& view, const QString& name) {
-  if (view.value("name") == name) return view;
-  for (const QJsonValue& child : view.value("children").toArray()) {
-    const QJsonObject found = viewNamed(child.toObject(), name);
-    if (!found.isEmpty()) return found;
-  }
-  return {};
-}
-
 struct Case {
   const char* what;
   QStringList script;

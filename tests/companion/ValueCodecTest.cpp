@@ -42,12 +42,4 @@ TEST(ValueCodec, KeepsTypesBothWays) {
   for (const auto& [given, expected] : cases) EXPECT_EQ(roundTrip(given), expected) << given;
 }
 
-TEST(ValueCodec, AConstantIsTheVeryObjectAndAnEqualTextIsNot) {
-  const QString constant = valuecodec::decode(json(R"("@kstartDetectVD")")).value.toString();
-  const QString equal = valuecodec::decode(json(R"("kstartDetectVD")")).value.toString();
-  EXPECT_EQ(constant.constData(), kstartDetectVD.constData());
-  EXPECT_EQ(equal, kstartDetectVD);
-  EXPECT_NE(equal.constData(), kstartDetectVD.constData());
-}
-
 }  // namespace

@@ -21,8 +21,6 @@ class DiscoveryFixture : public testing::Test {
 
   void SetUp() override;
 
-  // The test answers the challenges.
-  void answerNoChallenge() { m_authenticator.reset(); }
   void detect(const QString& email);
   void sinkPassword();
   // The open questions and all later ones.

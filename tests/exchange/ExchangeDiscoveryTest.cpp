@@ -1,6 +1,5 @@
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSet>
 
 #include "host/KZFoundation/KZConstants.h"
 #include "tests/exchange/DiscoveryFixture.h"
@@ -100,23 +99,6 @@ TEST_F(ExchangeDiscoveryTest, HandsAnOnlineAccountToSignInAndGoesOnWithItsToken)
   EXPECT_EQ(textValue(exchange, kKZCalendarIntegrationExchangeExternalUrl),
             "https://mail.online.sandbox.example/EWS/Exchange.asmx");
   EXPECT_TRUE(challenges.isEmpty());
-}
-
-TEST_F(ExchangeDiscoveryTest, EveryOnlineDomainSignsInAtItsOwnAuthority) {
-  QSet<QString> authorities;
-  for (const SandboxDescription::Account& account : description.accounts) {
-    if (!account.email.startsWith("online@")) continue;
-    detect(account.email);
-    const Dictionary need = waitFor(KZNotify::KZNotifyExchangeResolvingNeedCredential);
-    const QByteArray json = textValue(need, QRT_ExchangeDiscover_O365LoginParams).toUtf8();
-    const QString authority = QJsonDocument::fromJson(json)["authority"].toString();
-    EXPECT_FALSE(authority.isEmpty() || authorities.contains(authority)) << account.email.toStdString();
-    authorities.insert(authority);
-    discovery->sinkCredential(
-        {{QRT_CredentialType, QRT_CredentialTypeOAuthToken}, {QRT_CredentialContent, "good-token"}});
-    EXPECT_FALSE(waitForExchange().isEmpty()) << account.email.toStdString();
-  }
-  EXPECT_GT(authorities.size(), 1);
 }
 
 TEST_F(ExchangeDiscoveryTest, SaysThatATokenWasRefused) {

@@ -30,12 +30,6 @@ class ExchangeMeetingsTest : public DiscoveryFixture {
   QStringList failures;
 };
 
-TEST_F(ExchangeMeetingsTest, ListsWithTheSavedCredential) {
-  list(ownAccount);
-  EXPECT_EQ(subjects, inOrder);
-  EXPECT_EQ(challenges, QList<Dictionary>{(Dictionary{{"AuthRequiringType", 2}})});
-}
-
 TEST_F(ExchangeMeetingsTest, ReportsARefusedCredentialOnce) {
   password = "changed";
   list(ownAccount);

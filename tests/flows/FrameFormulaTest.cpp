@@ -13,15 +13,6 @@ const QString kName = QStringLiteral("Ada Lovelace");
 const QString kSite = QStringLiteral("meet.example.com");
 const QString kEmail = QStringLiteral("ada@example.com");
 
-QJsonObject viewCalled(const QJsonObject& view, const QString& name) {
-  if (view.value("name") == name) return view;
-  for (const QJsonValue& child : view.value("children").toArray()) {
-    const QJsonObject found = viewCalled(child.toObject(), name);
-    if (!found.isEmpty()) return found;
-  }
-  return {};
-}
-
 // Opens both variants and compares the frames of their panes with the formulas for the measured texts.
 class FrameFormulaTest : public testing::Test {
  protected:
@@ -98,7 +89,7 @@ class FrameFormulaTest : public testing::Test {
   void expectFrame(const QString& pane, const QString& name, double x, double y, double width,
                    double height) {
     const QJsonArray frame =
-        viewCalled(m_windows.value(pane).value("content").toObject(), name).value("frame").toArray();
+        viewNamed(m_windows.value(pane).value("content").toObject(), name).value("frame").toArray();
     const double expected[] = {x, y, width, height};
     ASSERT_EQ(frame.size(), 4) << qPrintable(name);
     for (int at = 0; at < 4; ++at)

@@ -15,19 +15,12 @@ QByteArray shown(const Dictionary& dictionary) {
 }  // namespace
 
 TEST(SecretMask, HidesTheValueOfEverySecretKeyAndOfNoOther) {
-  const char* hidden[] = {"QRT_CredentialContent",
-                          "QRT_ListingMeeting_exchOnlineToken",
-                          "Password",
-                          "password",
-                          "outlookPassword",
-                          "refreshToken",
-                          "access_token",
-                          "id_token",
-                          "code",
-                          "code_verifier",
-                          "client_secret",
-                          "someTOKENs"};
-  for (const char* key : hidden) EXPECT_EQ(shown({{key, kSecret}}), QByteArray("{\"") + key + "\":\"***\"}");
+  const QByteArray hidden =
+      "QRT_CredentialContent QRT_ListingMeeting_exchOnlineToken Password password outlookPassword "
+      "refreshToken "
+      "access_token id_token code code_verifier client_secret someTOKENs";
+  for (const QByteArray& key : hidden.split(' '))
+    EXPECT_EQ(shown({{key, kSecret}}), "{\"" + key + "\":\"***\"}");
   const char* open[] = {"QRT_CredentialType", "errorCode", "codes", "username", "displayName"};
   for (const char* key : open) EXPECT_TRUE(shown({{key, kSecret}}).contains(kSecret)) << key;
   EXPECT_EQ(shown({{"isTokenExpired", true}}), R"({"isTokenExpired":true})");

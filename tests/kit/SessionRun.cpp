@@ -1,5 +1,6 @@
 #include "tests/kit/SessionRun.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QProcess>
 
@@ -22,4 +23,13 @@ SessionRun runSessionWith(const QString& plugin, const QStringList& script, cons
   run.lines = QString::fromUtf8(session.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
   run.complaints = QString::fromUtf8(session.readAllStandardError());
   return run;
+}
+
+QJsonObject viewNamed(const QJsonObject& view, const QString& name) {
+  if (view.value("name") == name) return view;
+  for (const QJsonValue& child : view.value("children").toArray()) {
+    const QJsonObject found = viewNamed(child.toObject(), name);
+    if (!found.isEmpty()) return found;
+  }
+  return {};
 }

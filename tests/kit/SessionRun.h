@@ -17,6 +17,9 @@ struct SessionRun {
   QJsonObject result() const { return last().value("result").toObject(); }
 };
 
+// The described view of that name, at or below this one.
+QJsonObject viewNamed(const QJsonObject& view, const QString& name);
+
 // With the real plug-in; the script is passed on standard input.
 SessionRun runSession(const QStringList& script, const QStringList& options = {});
 

@@ -1,12 +1,9 @@
 #include <gtest/gtest.h>
 
-#include <QAbstractItemView>
 #include <QSignalSpy>
 #include <QTest>
 
-#include "platform/FrameLayout.h"
 #include "platform/PopUpButton.h"
-#include "platform/View.h"
 
 namespace {
 
@@ -35,30 +32,6 @@ TEST(PopUpButton, ShowsATitleThatIsNoItemUntilTheUserChooses) {
   EXPECT_EQ(button.title(), "5");
   ASSERT_EQ(chosen.count(), 1);
   EXPECT_EQ(chosen.first().first(), "5");
-}
-
-class UnhideCounter final : public View {
- public:
-  UnhideCounter() : View({0, 0, 10, 10}) {}
-  int count = 0;
-
- protected:
-  void viewDidUnhide() override { ++count; }
-};
-
-TEST(View, HearsThatItBecameVisibleAgain) {
-  QWidget window;
-  auto* view = new UnhideCounter;
-  addSubview(&window, view, {0, 0, 10, 10});
-  EXPECT_EQ(view->count, 0);
-  window.show();
-  EXPECT_EQ(view->count, 1);
-  view->hide();
-  view->show();
-  EXPECT_EQ(view->count, 2);
-  window.hide();
-  window.show();
-  EXPECT_EQ(view->count, 3);
 }
 
 }  // namespace

@@ -35,18 +35,6 @@ TEST(FrameLayout, KeepsExactFramesAndRoundsEdges) {
   }
 }
 
-TEST(FrameLayout, NeighboursThatTouchInPointsTouchInPixels) {
-  View parent({0, 0, 100, 100});
-  constexpr double rowHeight = 7.3;
-  const QWidget* below = childIn(&parent, {0, 0, 50, rowHeight});
-  for (int place = 1; place <= 12; ++place) {
-    const double y = place * rowHeight;
-    const QWidget* row = childIn(&parent, {0, y, 50, rowHeight});
-    EXPECT_EQ(row->geometry().bottom() + 1, below->geometry().top()) << y;
-    below = row;
-  }
-}
-
 TEST(FrameLayout, AnchorsHoldWhenTheParentChangesItsHeight) {
   QWidget parent;
   parent.resize(100, 100);

@@ -28,16 +28,6 @@ TEST(RecordFile, IsItsUsersAloneAndWhole) {
   EXPECT_FALSE(QFileInfo(path).permissions() & others);
 }
 
-TEST(RecordFile, SaysWhyItTakesNothing) {
-  RecordFile missing;
-  EXPECT_FALSE(missing.open("/nowhere/at/all"));
-  EXPECT_FALSE(missing.errorText().isEmpty());
-  RecordFile full;
-  ASSERT_TRUE(full.open("/dev/full"));
-  EXPECT_FALSE(full.write("one"));
-  EXPECT_FALSE(full.errorText().isEmpty());
-}
-
 TEST(RecordFile, AFailureEndsTheRecordAndNotTheSession) {
   const QStringList script = {R"({"command": 2})", R"({"echo": "played"})"};
   const SessionRun full = runSession(script, {"--record", "/dev/full"});

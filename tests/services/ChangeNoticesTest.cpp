@@ -19,10 +19,8 @@ class ChangeNoticesTest : public ServicesFixture {
  protected:
   void SetUp() override {
     ServicesFixture::SetUp();
-    QObject::connect(&changes, &ChangeNotices::message, &changes,
-                     [this](const QString& text) { notices.append(text); });
-    QObject::connect(&general, &GeneralSettings::message, &general,
-                     [this](const QString& text) { notices.append(text); });
+    collectNotices(changes);
+    collectNotices(general);
   }
 
   void openPane(const char* label) {
@@ -34,14 +32,7 @@ class ChangeNoticesTest : public ServicesFixture {
   // Waits until the user could use it.
   template <typename Control>
   static Control* shown(const char* name) {
-    Control* found = nullptr;
-    EXPECT_TRUE(kit::waitUntil([&] {
-      for (auto* one : findPreferencesWindow()->findChildren<Control*>(name)) {
-        if (one->isVisible() && one->isEnabled()) found = one;
-      }
-      return found != nullptr;
-    })) << name;
-    return found;
+    return kit::usable<Control>(*findPreferencesWindow(), name);
   }
 
   static void click(const char* name) {

@@ -22,6 +22,12 @@ class ServicesFixture : public testing::Test {
 
   static ExchangeConfiguration quickConfiguration();
 
+  template <typename Service>
+  void collectNotices(Service& service) {
+    QObject::connect(&service, &Service::message, &service,
+                     [this](const QString& text) { notices.append(text); });
+  }
+
   // The contents of the notifications of that kind, oldest first.
   QList<Dictionary> notifications(KZNotify index) const;
 

@@ -10,8 +10,7 @@ class SiteServiceTest : public ServicesFixture {
  protected:
   void SetUp() override {
     ServicesFixture::SetUp();
-    QObject::connect(&service, &SiteService::message, &service,
-                     [this](const QString& text) { notices.append(text); });
+    collectNotices(service);
   }
 
   SiteService::Result lookUp(const QString& site) {

@@ -57,15 +57,6 @@ TEST_F(TelemetryServiceTest, KeepsTheNewestFirstInBoundedFilesOfTheOwner) {
   EXPECT_TRUE(QDir(data).isEmpty());
 }
 
-TEST_F(TelemetryServiceTest, OffWritesNothing) {
-  choose("before");
-  service.setOn(false);
-  choose("meanwhile");
-  service.setOn(true);
-  choose("after");
-  EXPECT_EQ(features(), (QStringList{"after", "before"}));
-}
-
 TEST_F(TelemetryServiceTest, NothingPersonalIsKept) {
   choose("feature", {{"email", "ada@example.com"}, {TelemetryKey_Boolean, "true"}});
   QFile file(service.path());

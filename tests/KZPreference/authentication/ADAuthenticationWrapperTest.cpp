@@ -133,6 +133,9 @@ TEST_F(ADAuthenticationWrapperTest, RefreshRepeatsTheRequest) {
   ASSERT_TRUE(waitForCalls(2));
   EXPECT_EQ(host.tokens.last(), (Dictionary{{"GetTokenFailed", true}}))
       << "nothing is left of the last request";
+  signIn();
+  ASSERT_TRUE(waitForCalls(3));
+  EXPECT_EQ(host.credentials.size(), 1);
 }
 
 TEST_F(ADAuthenticationWrapperTest, ARequestThatCannotStartReportsNothing) {

@@ -94,6 +94,9 @@ TEST_F(LifecycleTest, DefaultsLeaveAStoreAloneThatHasMinutes) {
   command(1);
   EXPECT_EQ(store.meetingNotification(), (Dictionary{{kKZMeetintNotificationToastMinutes, 5}}));
   EXPECT_EQ(store.videoDevice(), (Dictionary{{"other", "kept"}, {kKZVideoDeviceAutodetect, true}}));
+  store.setVideoDevice({{kKZVideoDeviceAutodetect, false}});
+  command(1);
+  EXPECT_EQ(store.videoDevice(), (Dictionary{{kKZVideoDeviceAutodetect, false}}));
 }
 
 TEST_F(LifecycleTest, WhatArrivesDuringTheShutDownIsDropped) {
