@@ -10,7 +10,7 @@
 
 namespace {
 
-// Not that of a platform without a desktop.
+// Offscreen there is no desktop; the size there is Qt's own.
 double desktopFontSize() {
   if (QGuiApplication::platformName() == QLatin1String("offscreen")) return systemFontSize;
   return std::max<double>(systemFontSize, QFontInfo(QApplication::font()).pixelSize());

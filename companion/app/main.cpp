@@ -10,6 +10,7 @@
 #include <chrono>
 #include <cstdio>
 #include <optional>
+#include <string_view>
 
 #include "companion/app/Appearance.h"
 #include "companion/app/Companion.h"
@@ -34,7 +35,7 @@ void complain(const QString& text) {
   std::fprintf(stderr, "companion: %s\n", qPrintable(text));
 }
 
-// Qt has taken the option by the time that it is asked for here.
+// Qt does not tell whether its style comes from this option.
 StyleChoice styleChoice(int argc, char** argv) {
   for (int place = 1; place < argc; ++place) {
     const std::string_view argument = argv[place];

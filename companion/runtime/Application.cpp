@@ -6,8 +6,7 @@
 #include <string>
 #include <vector>
 
-// The command line that Qt reads and takes its options from; it refers to it as long as the application
-// exists.
+// The command line that Qt takes its own options from and refers to as long as the application exists.
 struct QtCommandLine {
   std::vector<std::string> texts;
   std::vector<char*> pointers;

@@ -20,13 +20,11 @@ QString missingText(const QString& source, const Dictionary& account) {
         "The meetings of your calendar are not listed here: this companion reads Microsoft Outlook only. "
         "Choose it in Preferences, Meetings.");
   }
-  if (source != kKZCalendarIntegrationSourceOutlook) {
+  // Without a stored source a pane may show Outlook as chosen.
+  if (source != kKZCalendarIntegrationSourceOutlook || meetingAddress(account).isEmpty()) {
     return companionText(
-        "No calendar is chosen. Choose Microsoft Outlook in Preferences, Meetings, to see your next "
-        "meetings.");
-  }
-  if (meetingAddress(account).isEmpty()) {
-    return companionText("No account is applied yet. Enter your email address in Preferences, Meetings.");
+        "To see your next meetings, choose Microsoft Outlook in Preferences, Meetings, and enter your email "
+        "address.");
   }
   // Sending the refused password again could lock the account.
   const bool isRefused = !flagValue(account, kKZCalendarIntegrationOnpremiseCredValid).value_or(true);

@@ -14,8 +14,8 @@ class KZ_HOST_EXPORT KZApplicationHelper {
   bool siteEnableOutlook() const { return m_siteEnableOutlook; }
   void setSiteEnableOutlook(bool isEnabled) { m_siteEnableOutlook = isEnabled; }
 
-  // The window that Preferences stay in front of, from their next showing on, while it is visible; nullptr
-  // for none. Not owned.
+  // The window that Preferences belong to, from their next showing on, while it is visible: on Wayland they
+  // stay in front of it. nullptr for none. Not owned.
   QWidget* mainWindow() const { return m_mainWindow; }
   void setMainWindow(QWidget* window) { m_mainWindow = window; }
 

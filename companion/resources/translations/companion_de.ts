@@ -256,16 +256,12 @@
         <translation>Videogeräte in der Nähe werden nicht mehr gesucht.</translation>
     </message>
     <message>
-        <source>No account is applied yet. Enter your email address in Preferences, Meetings.</source>
-        <translation>Es ist noch kein Konto eingerichtet. Geben Sie Ihre E-Mail-Adresse in den Einstellungen unter „Besprechungen“ ein.</translation>
+        <source>To see your next meetings, choose Microsoft Outlook in Preferences, Meetings, and enter your email address.</source>
+        <translation>Um Ihre nächsten Besprechungen zu sehen, wählen Sie in den Einstellungen unter „Besprechungen“ Microsoft Outlook und geben Sie Ihre E-Mail-Adresse ein.</translation>
     </message>
     <message>
         <source>No browser opened %1. Open the address yourself.</source>
         <translation>Kein Browser hat %1 geöffnet. Öffnen Sie die Adresse selbst.</translation>
-    </message>
-    <message>
-        <source>No calendar is chosen. Choose Microsoft Outlook in Preferences, Meetings, to see your next meetings.</source>
-        <translation>Es ist kein Kalender gewählt. Wählen Sie in den Einstellungen unter „Besprechungen“ Microsoft Outlook, um Ihre nächsten Besprechungen zu sehen.</translation>
     </message>
     <message>
         <source>No meetings in the days that you chose.</source>

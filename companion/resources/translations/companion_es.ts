@@ -256,16 +256,12 @@
         <translation>Ya no se buscan dispositivos de vídeo cercanos.</translation>
     </message>
     <message>
-        <source>No account is applied yet. Enter your email address in Preferences, Meetings.</source>
-        <translation>Aún no se ha aplicado ninguna cuenta. Introduzca su correo electrónico en Preferencias, Reuniones.</translation>
+        <source>To see your next meetings, choose Microsoft Outlook in Preferences, Meetings, and enter your email address.</source>
+        <translation>Para ver sus próximas reuniones, elija Microsoft Outlook en Preferencias, Reuniones e introduzca su correo electrónico.</translation>
     </message>
     <message>
         <source>No browser opened %1. Open the address yourself.</source>
         <translation>Ningún navegador abrió %1. Abra la dirección manualmente.</translation>
-    </message>
-    <message>
-        <source>No calendar is chosen. Choose Microsoft Outlook in Preferences, Meetings, to see your next meetings.</source>
-        <translation>No hay ningún calendario elegido. Elija Microsoft Outlook en Preferencias, Reuniones para ver sus próximas reuniones.</translation>
     </message>
     <message>
         <source>No meetings in the days that you chose.</source>

@@ -256,16 +256,12 @@
         <translation>Les appareils vidéo à proximité ne sont plus recherchés.</translation>
     </message>
     <message>
-        <source>No account is applied yet. Enter your email address in Preferences, Meetings.</source>
-        <translation>Aucun compte n’est encore appliqué. Saisissez votre adresse e-mail dans Préférences, Réunions.</translation>
+        <source>To see your next meetings, choose Microsoft Outlook in Preferences, Meetings, and enter your email address.</source>
+        <translation>Pour voir vos prochaines réunions, choisissez Microsoft Outlook dans Préférences, Réunions et saisissez votre adresse e-mail.</translation>
     </message>
     <message>
         <source>No browser opened %1. Open the address yourself.</source>
         <translation>Aucun navigateur n’a ouvert %1. Ouvrez l’adresse vous-même.</translation>
-    </message>
-    <message>
-        <source>No calendar is chosen. Choose Microsoft Outlook in Preferences, Meetings, to see your next meetings.</source>
-        <translation>Aucun calendrier n’est choisi. Choisissez Microsoft Outlook dans Préférences, Réunions pour voir vos prochaines réunions.</translation>
     </message>
     <message>
         <source>No meetings in the days that you chose.</source>

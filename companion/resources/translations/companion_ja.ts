@@ -256,16 +256,12 @@
         <translation>近くのビデオデバイスを検出しなくなりました。</translation>
     </message>
     <message>
-        <source>No account is applied yet. Enter your email address in Preferences, Meetings.</source>
-        <translation>アカウントがまだ適用されていません。「環境設定」の「ミーティング」でメールアドレスを入力してください。</translation>
+        <source>To see your next meetings, choose Microsoft Outlook in Preferences, Meetings, and enter your email address.</source>
+        <translation>次のミーティングを表示するには、「環境設定」の「ミーティング」で Microsoft Outlook を選択し、メールアドレスを入力してください。</translation>
     </message>
     <message>
         <source>No browser opened %1. Open the address yourself.</source>
         <translation>%1 を開くブラウザーがありません。アドレスを手動で開いてください。</translation>
-    </message>
-    <message>
-        <source>No calendar is chosen. Choose Microsoft Outlook in Preferences, Meetings, to see your next meetings.</source>
-        <translation>カレンダーが選択されていません。次のミーティングを表示するには、「環境設定」の「ミーティング」で Microsoft Outlook を選択してください。</translation>
     </message>
     <message>
         <source>No meetings in the days that you chose.</source>

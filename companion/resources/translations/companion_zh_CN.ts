@@ -256,16 +256,12 @@
         <translation>不再查找附近的视频设备。</translation>
     </message>
     <message>
-        <source>No account is applied yet. Enter your email address in Preferences, Meetings.</source>
-        <translation>尚未应用账户。请在“偏好设置”的“会议”中输入您的电子邮件地址。</translation>
+        <source>To see your next meetings, choose Microsoft Outlook in Preferences, Meetings, and enter your email address.</source>
+        <translation>要查看接下来的会议，请在“偏好设置”的“会议”中选择 Microsoft Outlook，并输入您的电子邮件地址。</translation>
     </message>
     <message>
         <source>No browser opened %1. Open the address yourself.</source>
         <translation>没有浏览器打开 %1。请自行打开该地址。</translation>
-    </message>
-    <message>
-        <source>No calendar is chosen. Choose Microsoft Outlook in Preferences, Meetings, to see your next meetings.</source>
-        <translation>尚未选择日历。请在“偏好设置”的“会议”中选择 Microsoft Outlook，以查看接下来的会议。</translation>
     </message>
     <message>
         <source>No meetings in the days that you chose.</source>
