@@ -8,6 +8,8 @@
 #include <QStandardPaths>
 #include <csignal>
 
+#include "tests/kit/Input.h"
+
 namespace {
 
 constexpr int kStartMilliseconds = 20'000;
@@ -54,7 +56,7 @@ Desktop::Desktop(const Options& options) {
   m_display = ":" + firstLineOf(server);
   m_sessionBus = QString::fromUtf8(firstLineOf(bus));
   start(busLauncher(), {"--launch-immediately"});
-  if (options.manager == Manager::Openbox) start("openbox", {"--sm-disable"});
+  if (options.manager == Manager::Openbox) startManager();
 }
 
 Desktop::~Desktop() {
@@ -80,6 +82,19 @@ QProcessEnvironment Desktop::environment(const QString& platform) const {
   environment.insert("QT_QPA_PLATFORM", platform);
   environment.insert("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
   return environment;
+}
+
+// A window that is mapped while openbox starts may stay without a frame for good, and on a busy machine
+// openbox now and then never ends its start.
+void Desktop::startManager() {
+  const QString ready = m_folder.filePath("manager-ready");
+  for (int attempt = 0; attempt < 3; ++attempt) {
+    QProcess& manager = start("openbox", {"--sm-disable", "--startup", "touch " + ready});
+    if (kit::waitUntil([&] { return QFile::exists(ready); })) return;
+    manager.kill();
+    manager.waitForFinished();
+  }
+  ADD_FAILURE() << "openbox does not start";
 }
 
 QProcess& Desktop::start(const QString& program, const QStringList& arguments) {

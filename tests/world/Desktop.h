@@ -38,6 +38,7 @@ class Desktop final {
   static std::unique_ptr<QProcess> ownedProcess(const QProcessEnvironment& environment);
 
  private:
+  void startManager();
   QByteArray firstLineOf(QProcess& process);
 
   QTemporaryDir m_folder;

@@ -26,9 +26,6 @@ struct World {
 
   explicit World(User user = User::SignedIn, const Desktop::Options& options = {})
       : desktop(options), session(desktop.environment()) {
-    if (options.manager != Desktop::Manager::None) {
-      EXPECT_TRUE(kit::waitUntil([this] { return server.hasManager(); }));
-    }
     session.play(
         {user == User::SignedIn
              ? R"({"set":"store","values":{"siteName":"meet.brenn.example","displayName":"Ada Lovelace",)"

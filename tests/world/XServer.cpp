@@ -41,14 +41,6 @@ QRect XServer::screen() const {
   return {0, 0, m_screen->width_in_pixels, m_screen->height_in_pixels};
 }
 
-bool XServer::hasManager() {
-  const auto name =
-      owned(xcb_intern_atom_reply(m_connection, xcb_intern_atom(m_connection, 0, 5, "WM_S0"), nullptr));
-  const auto owner = owned(xcb_get_selection_owner_reply(
-      m_connection, xcb_get_selection_owner(m_connection, name->atom), nullptr));
-  return owner->owner != XCB_NONE;
-}
-
 QRect XServer::geometry(xcb_window_t window) {
   const auto reply =
       owned(xcb_get_geometry_reply(m_connection, xcb_get_geometry(m_connection, window), nullptr));

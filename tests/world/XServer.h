@@ -41,7 +41,6 @@ class XServer final {
   // Of the window that has the keyboard, its decoration included; null when none has.
   QRect focusedFrame();
   QRect screen() const;
-  bool hasManager();
 
   // Presses and releases the key of that keysym or ASCII character while the others are held.
   void press(xcb_keysym_t key, QList<xcb_keysym_t> held = {});
