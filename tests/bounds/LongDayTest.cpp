@@ -49,7 +49,7 @@ TEST(LongDay, AnEventASecondLeavesMemoryFlat) {
   Companion companion({});
   companion.showWindow();
   ASSERT_TRUE(companion.loadPlugin(FAKE_PLUGIN));
-  QPushButton* const button = buttonOf(*companion.window(), "Close");
+  QPushButton* const button = buttonOf(*companion.window(), "&Close Preferences");
   ASSERT_TRUE(button);
   EXPECT_LT(growthOfADay(kSecondsOfADay, [button] { button->click(); }), kMostGrowth);
 }
