@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "KZPreference/contract/PreferenceActionDelegateProtocol.h"
+#include "KZPreference/layout/Resources.h"
 #include "adal/ADAuthenticationContext.h"
 #include "adal/ADAuthenticationSettings.h"
 #include "host/KZFoundation/KZConstants.h"
@@ -155,5 +156,5 @@ Dictionary ADAuthenticationWrapper::generateExchResolvingFailedResult(
     const ADAuthenticationResult& result) const {
   if (result.status == ADAuthenticationStatus::Succeeded) return {};
   return {{kKZResult, kKZFail},
-          {kKZErrorHandleData, Dictionary{{kKZErrorMessage, QString::fromLatin1(kSignInFailedMessage)}}}};
+          {kKZErrorHandleData, Dictionary{{kKZErrorMessage, localizedString("Applied failed")}}}};
 }

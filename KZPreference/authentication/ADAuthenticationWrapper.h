@@ -11,10 +11,6 @@
 class ADAuthenticationContext;
 class PreferenceActionDelegateProtocol;
 
-// The message of a failed sign-in. Hosts may compare it, so it is English; it is translated where it is
-// shown.
-inline constexpr char kSignInFailedMessage[] = "Applied failed";
-
 // Receives the result of resolving an Exchange account. Main thread only.
 class ExchangeResolveResultReceiving {
  public:

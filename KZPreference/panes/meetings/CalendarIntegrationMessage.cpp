@@ -1,6 +1,5 @@
 #include "KZPreference/panes/meetings/CalendarIntegrationMessage.h"
 
-#include "KZPreference/authentication/ADAuthenticationWrapper.h"
 #include "KZPreference/layout/Resources.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "platform/Accessible.h"
@@ -12,11 +11,9 @@ void CalendarIntegrationMessage::setMessageTxt(StaticText* messageTxt) {
 void CalendarIntegrationMessage::showErrorMessage(const Dictionary& result) {
   if (!m_messageTxt) return;
   const QString text = textValue(dictionaryValue(result, kKZErrorHandleData), kKZErrorMessage);
-  const QString failed = localizedString("Applied failed");
   // Without a text the end of the spinner is all that is seen.
-  if (text.isEmpty()) return announce(m_messageTxt, failed);
-  const bool isOwn = text == QLatin1String(kSignInFailedMessage);
-  show(isOwn ? failed : text, SystemColor::Red, Announce::Yes);
+  if (text.isEmpty()) return announce(m_messageTxt, localizedString("Applied failed"));
+  show(text, SystemColor::Red, Announce::Yes);
 }
 
 void CalendarIntegrationMessage::showInvalidAccountMessage(Announce announced) {

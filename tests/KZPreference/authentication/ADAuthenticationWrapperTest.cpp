@@ -115,6 +115,15 @@ TEST_F(ADAuthenticationWrapperTest, SignInBecomesACredentialOrAFailedResult) {
   signIn();
   ASSERT_TRUE(QTest::qWaitFor([this] { return trace.lines().filter("error status:2").size() == 2; }));
   EXPECT_EQ(host.calls(), 2);
+
+  wrapper->setExchangeResolveResultReceiver(&host);
+  opened.clear();
+  QLocale::setDefault(QLocale::German);
+  signIn();
+  EXPECT_TRUE(waitForCalls(3));
+  QLocale::setDefault(QLocale::c());
+  EXPECT_EQ(textValue(dictionaryValue(host.resolved.last(), kKZErrorHandleData), kKZErrorMessage),
+            "Übernehmen fehlgeschlagen");
 }
 
 TEST_F(ADAuthenticationWrapperTest, RefreshRepeatsTheRequest) {
