@@ -74,6 +74,7 @@ ADEndpointsOrError endpointsFromAnswer(const QString& authority, const ADWebAnsw
     const ADEndpoints usual{pathBelow(authority, "/oauth2/authorize"),
                             pathBelow(authority, "/oauth2/token"),
                             &generationOf(authority, {}),
+                            {},
                             {}};
     return {usual, {}};
   }
@@ -81,7 +82,8 @@ ADEndpointsOrError endpointsFromAnswer(const QString& authority, const ADWebAnsw
   const QStringList scopes = textsUnder(configuration, "scopes_supported");
   const ADEndpoints endpoints{QUrl(configuration.value(QLatin1String("authorization_endpoint")).toString()),
                               QUrl(configuration.value(QLatin1String("token_endpoint")).toString()),
-                              &generationOf(authority, scopes), scopes};
+                              &generationOf(authority, scopes), scopes,
+                              configuration.value(QLatin1String("issuer")).toString()};
   if (!isAllowedAddress(endpoints.authorization) || !isAllowedAddress(endpoints.token)) {
     return {{}, ADError{ADErrorCode::AddressNotAllowed, QStringLiteral("in the authority's configuration")}};
   }

@@ -25,6 +25,7 @@ struct ADEndpoints {
   QUrl token;
   const ADProtocolGeneration* generation = nullptr;
   QStringList knownScopes;  // empty: not known
+  QString issuer;           // empty: not known
 
   // "resource" and "scope", as the generation expects them.
   ADParameters resourceParameters(const QString& resource) const;

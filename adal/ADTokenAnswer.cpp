@@ -80,7 +80,8 @@ QString userOfIdToken(const QString& idToken, const QString& clientId) {
 
 }  // namespace
 
-ADTokenAnswerOrError tokenAnswer(const ADWebAnswer& answer, const QString& clientId, const QDateTime& now) {
+ADTokenAnswerOrError tokenAnswer(const ADWebAnswer& answer, const ADTokenExpectation& expected,
+                                 const QDateTime& now) {
   if (answer.error) return {{}, answer.error};
   const QJsonDocument document = QJsonDocument::fromJson(answer.body);
   const QJsonObject grant = document.object();
@@ -100,7 +101,7 @@ ADTokenAnswerOrError tokenAnswer(const ADWebAnswer& answer, const QString& clien
     return tokenFailure(ADErrorCode::ServerAnswer, QStringLiteral("no expiry"));
   granted.refreshToken = grant.value(QLatin1String("refresh_token")).toString();
   if (grant.contains(QLatin1String("id_token"))) {
-    granted.userId = userOfIdToken(grant.value(QLatin1String("id_token")).toString(), clientId);
+    granted.userId = userOfIdToken(grant.value(QLatin1String("id_token")).toString(), expected.clientId);
     if (granted.userId.isEmpty()) return tokenFailure(ADErrorCode::ServerAnswer, QStringLiteral("no user"));
   }
   return {granted, {}};
