@@ -92,6 +92,11 @@ ADEndpointsOrError endpointsFromAnswer(const QString& authority, const ADWebAnsw
 
 void findEndpoints(ADWebClient& web, const QString& authority,
                    const std::function<void(const ADEndpointsOrError&)>& done) {
+  const QUrl address(authority, QUrl::StrictMode);
+  if (!isAllowedAddress(address) || address.hasQuery() || address.hasFragment()) {
+    done({{}, ADError{ADErrorCode::AddressNotAllowed, QStringLiteral("the authority")}});
+    return;
+  }
   web.get(pathBelow(authority, "/.well-known/openid-configuration"),
           [authority, done](const ADWebAnswer& answer) { done(endpointsFromAnswer(authority, answer)); });
 }

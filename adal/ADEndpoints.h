@@ -37,7 +37,8 @@ struct ADEndpointsOrError {
   std::optional<ADError> error;
 };
 
-// Reads the authority's OpenID configuration document; without one, the usual paths are assumed.
+// Reads the authority's OpenID configuration document; without one, the usual paths are assumed. An authority
+// that is neither https nor http to the loopback address is an error, and `done` is called at once.
 void findEndpoints(ADWebClient& web, const QString& authority,
                    const std::function<void(const ADEndpointsOrError&)>& done);
 

@@ -20,12 +20,14 @@ ADTokenAnswerOrError tokenFailure(ADErrorCode code, const QString& details) {
 
 // Only error names from the standards are copied: the authority could send any text, a secret included.
 ADTokenAnswerOrError refusal(int status, const QString& name) {
+  if (status >= 500 || status == 429)
+    return tokenFailure(ADErrorCode::Unavailable, QStringLiteral("status %1").arg(status));
+  if (name == QLatin1String("temporarily_unavailable")) return tokenFailure(ADErrorCode::Unavailable, name);
   if (name == QLatin1String("invalid_grant")) return tokenFailure(ADErrorCode::InvalidGrant, {});
   if (name == QLatin1String("invalid_scope")) return tokenFailure(ADErrorCode::InvalidScope, {});
   static constexpr std::array known{"invalid_request",        "invalid_client",   "unauthorized_client",
                                     "unsupported_grant_type", "invalid_target",   "interaction_required",
-                                    "login_required",         "consent_required", "access_denied",
-                                    "temporarily_unavailable"};
+                                    "login_required",         "consent_required", "access_denied"};
   const bool isKnown =
       std::any_of(known.begin(), known.end(), [&](const char* text) { return name == QLatin1String(text); });
   if (isKnown) return tokenFailure(ADErrorCode::Refused, name);
