@@ -16,8 +16,9 @@ class KZTokenLookup {
   // null.
   virtual Dictionary getAccessTokenByEmail(const QString& email, const QString& username) = 0;
 
-  // Removes every token, from the keychain too. False on failure, with the reason in `error` unless it is
-  // null.
+  // Removes every token, from the keychain too: true when the keychain has confirmed that it has none. False
+  // with the reason in `error`, unless that is null: the tokens are gone for this run, and the keychain's are
+  // removed when it answers.
   [[nodiscard]] virtual bool clearCacheWithError(QString* error) = 0;
 };
 
