@@ -1,7 +1,6 @@
 #include "sandbox/Authority.h"
 
 #include <QCryptographicHash>
-#include <QDateTime>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -71,6 +70,7 @@ HttpResponse Authority::configuration() const {
                        {"authorization_endpoint", address() + "/oauth2/authorize"},
                        {"token_endpoint", address() + "/oauth2/token"},
                        {"scopes_supported", scopes},
+                       {"authorization_response_iss_parameter_supported", true},
                        {"code_challenge_methods_supported", QJsonArray{"S256"}}});
 }
 
@@ -119,6 +119,7 @@ HttpResponse Authority::answerPage(const QUrlQuery& query, bool isGiven) {
                         : QStringLiteral("<p>You refused.</p>"));
   }
   answer.addQueryItem("state", valueOf(query, "state"));
+  answer.addQueryItem("iss", address());
   redirect.setQuery(answer);
   return redirectTo(QString::fromLatin1(redirect.toEncoded()));
 }
@@ -195,7 +196,6 @@ QString Authority::idToken(const QString& clientId) const {
   QJsonObject claims = m_fault == Fault::NoUser ? QJsonObject() : m_userClaims;
   claims.insert("iss", address());
   claims.insert("aud", clientId);
-  claims.insert("exp", QDateTime::currentSecsSinceEpoch() + m_lifetime);
   const auto part = [](const QJsonObject& object) {
     return QString::fromLatin1(QJsonDocument(object).toJson(QJsonDocument::Compact).toBase64(urlSafeBase64));
   };

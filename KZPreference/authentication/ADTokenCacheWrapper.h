@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QRecursiveMutex>
+#include <QMutex>
 #include <QString>
 
 #include "host/KZFoundation/Dictionary.h"
@@ -28,6 +28,6 @@ class ADTokenCacheWrapper final {
   ADTokenCacheWrapper() = default;
   ~ADTokenCacheWrapper() = default;
 
-  QRecursiveMutex m_monitor;
+  QMutex m_mutex;
   ADTokenRefreshDelegate* m_refreshTokenDelegate = nullptr;
 };

@@ -4,23 +4,8 @@
 #include <QSemaphore>
 #include <QThread>
 
-MainThreadInvoker::MainThreadInvoker() : m_receiver(std::make_unique<QObject>()) {}
-MainThreadInvoker::~MainThreadInvoker() = default;
-
-void MainThreadInvoker::post(const Work& work) {
-  const QMutexLocker lock(&m_mutex);
-  if (!m_receiver) return;
-  ++m_postedCount;
-  QMetaObject::invokeMethod(
-      m_receiver.get(),
-      [this, work] {
-        --m_postedCount;
-        work();
-      },
-      Qt::QueuedConnection);
-}
-
-void MainThreadInvoker::invoke(const Work& work) {
+void MainThreadInvoker::invoke(const std::function<void()>& work) {
+  auto done = std::make_shared<QSemaphore>();
   {
     QMutexLocker lock(&m_mutex);
     if (!m_receiver) return;
@@ -28,12 +13,10 @@ void MainThreadInvoker::invoke(const Work& work) {
       lock.unlock();
       return work();
     }
-  }
-  const auto done = std::make_shared<QSemaphore>();
-  {
-    // Released when the work is done, or when it is dropped.
+    // Released when the work is done, or when it is dropped with its receiver.
     const std::shared_ptr<void> release(nullptr, [done](void*) { done->release(); });
-    post([work, release] { work(); });
+    QMetaObject::invokeMethod(
+        m_receiver.get(), [work, release] { work(); }, Qt::QueuedConnection);
   }
   done->acquire();
 }

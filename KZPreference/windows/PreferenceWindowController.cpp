@@ -121,7 +121,6 @@ void PreferenceWindowController::windowDidBecomeKey() {
 
 void PreferenceWindowController::windowWillClose() {
   MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "");
-  m_prefsDelegate->cancelSignIn();
   if (m_meetingView) m_meetingView->onWindowWillClose();
 }
 
