@@ -40,7 +40,7 @@ ExchangeConfiguration ServiceNetwork::exchange() const {
 }
 
 std::unique_ptr<HttpCall> ServiceNetwork::fetch(const QUrl& address, HttpCall::Done done) {
-  return std::make_unique<HttpCall>(m_network, exchange().network,
+  return std::make_unique<HttpCall>(exchange().network,
                                     HttpRequest{.address = address, .redirects = Redirects::Follow},
                                     std::move(done));
 }

@@ -34,7 +34,6 @@ class ServiceNetwork final : public QObject {
  private:
   const NetworkReach m_reach;
   const ExchangeConfiguration m_configuration;
-  QNetworkAccessManager m_network;
   SandboxDescription m_sandbox;  // empty while it is not running
   QString m_missing;
 };
