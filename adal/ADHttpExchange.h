@@ -59,10 +59,11 @@ struct ADAL_EXPORT ADHttpResponse {
   QByteArray header(const char* name) const;
 };
 
-// One HTTP request and its response, on a connection of its own, which ends with it. What QNetworkAccessManager
-// does unasked must not happen here: it answers an offer of Negotiate with Kerberos, which asks name servers and
-// holds up whoever deletes the manager meanwhile. No challenge is answered, no redirect followed, no request
-// repeated, no cookie kept. Deleting the exchange ends it without a response. Main thread only.
+// One HTTP request and its response, on a connection of its own, which ends with it. What
+// QNetworkAccessManager does unasked must not happen here: it answers an offer of Negotiate with Kerberos,
+// which asks name servers and holds up whoever deletes the manager meanwhile. No challenge is answered, no
+// redirect followed, no request repeated, no cookie kept. Deleting the exchange ends it without a response.
+// Main thread only.
 class ADAL_EXPORT ADHttpExchange final : public QObject {
  public:
   using Done = std::function<void(const ADHttpResponse&)>;

@@ -88,7 +88,8 @@ ADHttpRequest HttpCall::httpRequest() const {
                        .time = m_configuration.limits.request,
                        .responseBytes = m_configuration.limits.responseBytes};
   if (!m_request.body.isEmpty()) result.headers.emplaceBack("Content-Type", "text/xml; charset=utf-8");
-  if (!m_request.authorization.isEmpty()) result.headers.emplaceBack("Authorization", m_request.authorization);
+  if (!m_request.authorization.isEmpty())
+    result.headers.emplaceBack("Authorization", m_request.authorization);
   if (m_configuration.endpoint) result.peer = m_configuration.endpoint(m_request.address);
   return result;
 }

@@ -88,7 +88,7 @@ TEST_F(ADHttpExchangeTest, RefusesWhatIsMalformedTooLongOrCutOff) {
       {ok + "Content-Length: 1\r\nContent-Length: 2\r\n\r\nxx", ADHttpFailure::Malformed},
       {ok + "Transfer-Encoding: gzip, chunked\r\n\r\n0\r\n\r\n", ADHttpFailure::Malformed},
       {chunked + "-1\r\n", ADHttpFailure::Malformed},
-      {chunked + "1\r\nxyz", ADHttpFailure::Malformed},
+      {chunked + "1\r\nxyz\r\n", ADHttpFailure::Malformed},
       {QByteArray(70'000, 'x'), ADHttpFailure::Malformed},
       {ok + QByteArray("X: y\r\n").repeated(20'000), ADHttpFailure::Malformed},
       {ok + "Content-Length: 9999999999\r\n\r\n", ADHttpFailure::TooLong},
@@ -125,8 +125,9 @@ TEST_F(ADHttpExchangeTest, LeavesAnOfferOfKerberosAlone) {
   const QByteArray settings = QFile::encodeName(folder.filePath("krb5.conf"));
   ASSERT_EQ(mkfifo(settings.constData(), S_IRUSR | S_IWUSR), 0);
   qputenv("KRB5_CONFIG", settings);
-  answer = "HTTP/1.1 401 Unauthorized\r\nWWW-Authenticate: Negotiate\r\nWWW-Authenticate: NTLM\r\n"
-           "WWW-Authenticate: Basic realm=\"x\"\r\n\r\n";
+  answer =
+      "HTTP/1.1 401 Unauthorized\r\nWWW-Authenticate: Negotiate\r\nWWW-Authenticate: NTLM\r\n"
+      "WWW-Authenticate: Basic realm=\"x\"\r\n\r\n";
   QElapsedTimer clock;
   clock.start();
   const ADHttpResponse response = ask();
@@ -139,17 +140,21 @@ TEST_F(ADHttpExchangeTest, LeavesAnOfferOfKerberosAlone) {
 TEST_F(ADHttpExchangeTest, TellsAnExpiredCertificateFromAnUntrustedOne) {
   const QTemporaryDir folder;
   const QString file = folder.filePath("certificate.pem");
-  const auto openssl = [&file](const QStringList& arguments) {
+  const auto openssl = [](const QStringList& arguments) {
     QProcess process;
     process.start("openssl", arguments);
     const bool isMade = process.waitForFinished() && process.exitCode() == 0;
     return isMade ? process.readAllStandardOutput() : QByteArray();
   };
-  openssl({"req", "-x509", "-newkey", "ec", "-pkeyopt", "ec_paramgen_curve:prime256v1", "-nodes", "-keyout", file,
-           "-out", file + ".certificate", "-subj", "/CN=expired", "-addext", "subjectAltName=DNS:old.example"});
+  const QStringList anew{"req",    "-newkey", "ec", "-pkeyopt", "ec_paramgen_curve:prime256v1",
+                         "-nodes", "-keyout"};
+  openssl(anew + QStringList{file, "-x509", "-out", file + ".authority", "-subj", "/CN=authority"});
+  openssl(anew + QStringList{file + ".key", "-out", file + ".request", "-subj", "/CN=old.example", "-addext",
+                             "subjectAltName=DNS:old.example"});
   const QSslCertificate expired(
-      openssl({"x509", "-in", file + ".certificate", "-signkey", file, "-days", "-1"}));
-  QFile key(file);
+      openssl({"x509", "-req", "-in", file + ".request", "-CA", file + ".authority", "-CAkey", file,
+               "-set_serial", "2", "-days", "-1", "-copy_extensions", "copyall"}));
+  QFile key(file + ".key");
   if (expired.isNull() || !key.open(QIODevice::ReadOnly)) GTEST_SKIP() << "the openssl program is missing";
   QSslConfiguration tls;
   tls.setLocalCertificate(expired);
@@ -159,7 +164,7 @@ TEST_F(ADHttpExchangeTest, TellsAnExpiredCertificateFromAnUntrustedOne) {
   ASSERT_NO_FATAL_FAILURE(serve(std::move(encrypted)));
   ADHttpPeer peer{.address = "127.0.0.1", .port = server->serverPort()};
   EXPECT_EQ(ask("https://old.example", peer).failure, ADHttpFailure::CertificateUntrusted);
-  peer.certificates = {expired};
+  peer.certificates = QSslCertificate::fromPath(file + ".authority");
   EXPECT_EQ(ask("https://old.example", peer).failure, ADHttpFailure::CertificateExpired);
   EXPECT_EQ(ask("https://new.example", peer).failure, ADHttpFailure::CertificateOfOtherName);
   EXPECT_TRUE(request.isEmpty());
