@@ -3,12 +3,10 @@
 #include <QMutexLocker>
 
 #include "KZPreference/authentication/ADTokenCacheItem+Mivra.h"
+#include "KZPreference/authentication/AppRegistration.h"
 #include "adal/ADTokenCache.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZTrace.h"
-
-const QString appRegistration_clientId = QStringLiteral("3f9c1e42-7a5b-4d8e-9c21-6b0a4e7d5f13");
-const QString appRegistration_redirectUri = QStringLiteral("urn:ietf:wg:oauth:2.0:oob");
 
 namespace {
 

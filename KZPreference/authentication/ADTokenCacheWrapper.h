@@ -8,10 +8,6 @@
 class ADTokenRefreshDelegate;
 struct ADTokenCacheItem;
 
-// The application's registration with the sign-in authority, for the host.
-extern Q_DECL_EXPORT const QString appRegistration_clientId;
-extern Q_DECL_EXPORT const QString appRegistration_redirectUri;
-
 // Looks up one user's tokens in the default token cache. Any thread.
 class ADTokenCacheWrapper final {
  public:
