@@ -4,7 +4,6 @@
 #include <utility>
 #include <vector>
 
-#include "adal/ADAddress.h"
 #include "adal/ADRefresh.h"
 #include "adal/ADSignIn.h"
 
@@ -24,9 +23,9 @@ ADAuthenticationContext::~ADAuthenticationContext() {
 
 std::unique_ptr<ADAuthenticationContext> ADAuthenticationContext::initWithAuthority(
     const QString& authority, ADAuthorityValidation /*validation*/, ADError& error) {
-  const QUrl address(authority, QUrl::StrictMode);
-  if (!isAllowedAddress(address) || address.hasQuery() || address.hasFragment()) {
-    error = {ADErrorCode::AddressNotAllowed, QStringLiteral("the authority")};
+  // Empty is not valid either.
+  if (!QUrl(authority, QUrl::StrictMode).isValid()) {
+    error = {ADErrorCode::InvalidArgument, QStringLiteral("the authority is no address")};
     return nullptr;
   }
   return std::unique_ptr<ADAuthenticationContext>(new ADAuthenticationContext(authority));

@@ -15,8 +15,8 @@ enum class ADAuthorityValidation { Off };
 // their completions.
 class ADAL_EXPORT ADAuthenticationContext final {
  public:
-  // Null, with the reason in `error`, for an authority that is neither https nor http to the loopback
-  // address.
+  // Null, with the reason in `error`, for a text that cannot be read as an address. Requests to an address
+  // that is neither https nor http to the loopback address fail with AddressNotAllowed.
   [[nodiscard]] static std::unique_ptr<ADAuthenticationContext> initWithAuthority(
       const QString& authority, ADAuthorityValidation validation, ADError& error);
   ~ADAuthenticationContext();

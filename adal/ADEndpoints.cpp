@@ -74,6 +74,7 @@ ADEndpointsOrError endpointsFromAnswer(const QString& authority, const ADWebAnsw
     const ADEndpoints usual{pathBelow(authority, "/oauth2/authorize"),
                             pathBelow(authority, "/oauth2/token"),
                             &generationOf(authority, {}),
+                            {},
                             {}};
     return {usual, {}};
   }
@@ -81,7 +82,8 @@ ADEndpointsOrError endpointsFromAnswer(const QString& authority, const ADWebAnsw
   const QStringList scopes = textsUnder(configuration, "scopes_supported");
   const ADEndpoints endpoints{QUrl(configuration.value(QLatin1String("authorization_endpoint")).toString()),
                               QUrl(configuration.value(QLatin1String("token_endpoint")).toString()),
-                              &generationOf(authority, scopes), scopes};
+                              &generationOf(authority, scopes), scopes,
+                              configuration.value(QLatin1String("issuer")).toString()};
   if (!isAllowedAddress(endpoints.authorization) || !isAllowedAddress(endpoints.token)) {
     return {{}, ADError{ADErrorCode::AddressNotAllowed, QStringLiteral("in the authority's configuration")}};
   }
@@ -90,6 +92,11 @@ ADEndpointsOrError endpointsFromAnswer(const QString& authority, const ADWebAnsw
 
 void findEndpoints(ADWebClient& web, const QString& authority,
                    const std::function<void(const ADEndpointsOrError&)>& done) {
+  const QUrl address(authority, QUrl::StrictMode);
+  if (!isAllowedAddress(address) || address.hasQuery() || address.hasFragment()) {
+    done({{}, ADError{ADErrorCode::AddressNotAllowed, QStringLiteral("the authority")}});
+    return;
+  }
   web.get(pathBelow(authority, "/.well-known/openid-configuration"),
           [authority, done](const ADWebAnswer& answer) { done(endpointsFromAnswer(authority, answer)); });
 }

@@ -25,6 +25,7 @@ struct ADEndpoints {
   QUrl token;
   const ADProtocolGeneration* generation = nullptr;
   QStringList knownScopes;  // empty: not known
+  QString issuer;           // empty: not known
 
   // "resource" and "scope", as the generation expects them.
   ADParameters resourceParameters(const QString& resource) const;
@@ -36,7 +37,8 @@ struct ADEndpointsOrError {
   std::optional<ADError> error;
 };
 
-// Reads the authority's OpenID configuration document; without one, the usual paths are assumed.
+// Reads the authority's OpenID configuration document; without one, the usual paths are assumed. An authority
+// that is neither https nor http to the loopback address is an error, and `done` is called at once.
 void findEndpoints(ADWebClient& web, const QString& authority,
                    const std::function<void(const ADEndpointsOrError&)>& done);
 

@@ -14,6 +14,8 @@ QString errorName(ADErrorCode code) {
       return QStringLiteral("cache busy");
     case ADErrorCode::Network:
       return QStringLiteral("network");
+    case ADErrorCode::Unavailable:
+      return QStringLiteral("unavailable");
     case ADErrorCode::ServerAnswer:
       return QStringLiteral("bad answer");
     case ADErrorCode::InvalidGrant:
@@ -31,6 +33,11 @@ QString errorName(ADErrorCode code) {
 }
 
 }  // namespace
+
+bool canBeTriedLater(ADErrorCode code) {
+  return code == ADErrorCode::CacheBusy || code == ADErrorCode::Network || code == ADErrorCode::Unavailable ||
+         code == ADErrorCode::TimedOut;
+}
 
 QString ADError::text() const {
   return details.isEmpty() ? errorName(code) : errorName(code) + QStringLiteral(": ") + details;

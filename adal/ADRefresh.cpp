@@ -44,7 +44,7 @@ void ADRefresh::redeem(const QString& refreshToken) {
   form += m_endpoints.resourceParameters(m_request.resource);
   if (!m_namesScopes) form.removeIf([](const auto& field) { return field.first == QLatin1String("scope"); });
   m_web.post(m_endpoints.token, form, [this](const ADWebAnswer& answer) {
-    onAnswer(tokenAnswer(answer, m_request.clientId, adNow()));
+    onAnswer(tokenAnswer(answer, {m_request.clientId, m_endpoints.issuer}, adNow()));
   });
 }
 

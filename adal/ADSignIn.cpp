@@ -206,7 +206,8 @@ void ADSignIn::redeem(const QString& code) {
                    {QStringLiteral("code_verifier"), QString::fromLatin1(m_verifier)}} +
       m_endpoints.resourceParameters(m_request.resource);
   m_web.post(m_endpoints.token, form, [this](const ADWebAnswer& answer) {
-    const ADTokenAnswerOrError granted = tokenAnswer(answer, m_request.clientId, adNow());
+    const ADTokenAnswerOrError granted =
+        tokenAnswer(answer, {m_request.clientId, m_endpoints.issuer}, adNow());
     if (granted.error) {
       fail(*granted.error);
     } else if (granted.answer.userId.isEmpty()) {

@@ -20,12 +20,14 @@ ADTokenAnswerOrError tokenFailure(ADErrorCode code, const QString& details) {
 
 // Only error names from the standards are copied: the authority could send any text, a secret included.
 ADTokenAnswerOrError refusal(int status, const QString& name) {
+  if (status >= 500 || status == 429)
+    return tokenFailure(ADErrorCode::Unavailable, QStringLiteral("status %1").arg(status));
+  if (name == QLatin1String("temporarily_unavailable")) return tokenFailure(ADErrorCode::Unavailable, name);
   if (name == QLatin1String("invalid_grant")) return tokenFailure(ADErrorCode::InvalidGrant, {});
   if (name == QLatin1String("invalid_scope")) return tokenFailure(ADErrorCode::InvalidScope, {});
   static constexpr std::array known{"invalid_request",        "invalid_client",   "unauthorized_client",
                                     "unsupported_grant_type", "invalid_target",   "interaction_required",
-                                    "login_required",         "consent_required", "access_denied",
-                                    "temporarily_unavailable"};
+                                    "login_required",         "consent_required", "access_denied"};
   const bool isKnown =
       std::any_of(known.begin(), known.end(), [&](const char* text) { return name == QLatin1String(text); });
   if (isKnown) return tokenFailure(ADErrorCode::Refused, name);
@@ -80,7 +82,8 @@ QString userOfIdToken(const QString& idToken, const QString& clientId) {
 
 }  // namespace
 
-ADTokenAnswerOrError tokenAnswer(const ADWebAnswer& answer, const QString& clientId, const QDateTime& now) {
+ADTokenAnswerOrError tokenAnswer(const ADWebAnswer& answer, const ADTokenExpectation& expected,
+                                 const QDateTime& now) {
   if (answer.error) return {{}, answer.error};
   const QJsonDocument document = QJsonDocument::fromJson(answer.body);
   const QJsonObject grant = document.object();
@@ -100,7 +103,7 @@ ADTokenAnswerOrError tokenAnswer(const ADWebAnswer& answer, const QString& clien
     return tokenFailure(ADErrorCode::ServerAnswer, QStringLiteral("no expiry"));
   granted.refreshToken = grant.value(QLatin1String("refresh_token")).toString();
   if (grant.contains(QLatin1String("id_token"))) {
-    granted.userId = userOfIdToken(grant.value(QLatin1String("id_token")).toString(), clientId);
+    granted.userId = userOfIdToken(grant.value(QLatin1String("id_token")).toString(), expected.clientId);
     if (granted.userId.isEmpty()) return tokenFailure(ADErrorCode::ServerAnswer, QStringLiteral("no user"));
   }
   return {granted, {}};

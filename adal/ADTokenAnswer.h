@@ -23,6 +23,12 @@ struct ADTokenAnswerOrError {
   std::optional<ADError> error;
 };
 
+// What a token answer must agree with.
+struct ADTokenExpectation {
+  QString clientId;
+  QString issuer;  // empty: any
+};
+
 // The account and resource that tokens are stored for.
 struct ADTokenTarget {
   QString userId;
@@ -33,7 +39,8 @@ struct ADTokenTarget {
 
 // An id_token that names no user, or is for another client, is an error. Its signature is not checked,
 // because TLS has authenticated the token endpoint that it comes from.
-ADTokenAnswerOrError tokenAnswer(const ADWebAnswer& answer, const QString& clientId, const QDateTime& now);
+ADTokenAnswerOrError tokenAnswer(const ADWebAnswer& answer, const ADTokenExpectation& expected,
+                                 const QDateTime& now);
 
 // The items to store for an answer, the refresh token's first, the access token's last. Every refresh token
 // is stored as one for several resources: the protocol does not bind it to one, and a look-up needs both

@@ -1,8 +1,10 @@
 #include "adal/ADWebClient.h"
 
+#include <QLocale>
 #include <QMetaEnum>
 #include <QNetworkReply>
 #include <QNetworkRequest>
+#include <QTimeZone>
 #include <utility>
 
 #include "adal/ADAddress.h"
@@ -25,7 +27,14 @@ QNetworkRequest boundedRequest(const QUrl& address) {
 }
 
 ADWebAnswer noWholeAnswer(ADErrorCode code, const QString& details) {
-  return {ADError{code, details}, 0, {}};
+  return {ADError{code, details}, 0, {}, {}};
+}
+
+QDateTime dateOf(const QNetworkReply& reply) {
+  QDateTime date = QLocale::c().toDateTime(QString::fromLatin1(reply.rawHeader("Date")),
+                                           QStringLiteral("ddd, dd MMM yyyy hh:mm:ss 'GMT'"));
+  date.setTimeZone(QTimeZone::utc());
+  return date;
 }
 
 // Errors below this are of the connection, the others of the server's response.
@@ -82,7 +91,7 @@ void ADWebClient::readAnswer() {
     settle(noWholeAnswer(ADErrorCode::Network, QString::fromLatin1(name)));
     return;
   }
-  settle({{}, status, m_reply->readAll()});
+  settle({{}, status, m_reply->readAll(), dateOf(*m_reply)});
 }
 
 void ADWebClient::settle(const ADWebAnswer& answer) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QNetworkAccessManager>
 #include <QObject>
 #include <QPointer>
@@ -18,6 +19,7 @@ struct ADWebAnswer {
   std::optional<ADError> error;  // set when there was no complete response
   int status = 0;
   QByteArray body;
+  QDateTime date;  // the server's time at the response; invalid when it does not say
 };
 
 // One exchange at a time with an authority, bounded in time and size. Follows no redirect and stores no

@@ -15,7 +15,9 @@ install(TARGETS KZHost EXPORT BrennMivraHostTargets
   LIBRARY DESTINATION ${privateLibraries}
   FILE_SET HEADERS DESTINATION include/brenn-mivra)
 install(TARGETS KZPlatform KZAdal LIBRARY DESTINATION ${privateLibraries} NAMELINK_SKIP)
-install(TARGETS KZPreference LIBRARY DESTINATION ${privateLibraries})
+install(TARGETS KZPreference
+  LIBRARY DESTINATION ${privateLibraries}
+  FILE_SET HEADERS DESTINATION include/brenn-mivra)
 install(TARGETS companion kz-sandbox prefs-session RUNTIME DESTINATION bin)
 install(FILES packaging/brenn-mivra-companion.desktop DESTINATION share/applications)
 install(FILES packaging/brenn-mivra-companion.svg DESTINATION share/icons/hicolor/scalable/apps)

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QMutexLocker>
 #include <QSaveFile>
 
@@ -119,19 +120,26 @@ bool ADMivraCacheDelegate::deleteItem(OSStatusError* error) {
   return false;
 }
 
-void ADMivraCacheDelegate::readFromFile(const QString& path) {
+bool ADMivraCacheDelegate::readFromFile(const QString& path) {
   const QMutexLocker lock(&m_monitor);
+  _data.reset();
   QFile file(path);
-  _data = file.open(QIODevice::ReadOnly) ? std::optional(file.readAll()) : std::nullopt;
+  // A pipe could be waited for without end.
+  if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) return false;
+  const QByteArray contents = file.readAll();
+  if (file.error() != QFileDevice::NoError) return false;
+  _data = contents;
+  return true;
 }
 
-void ADMivraCacheDelegate::writeToFile(const QString& path) {
+bool ADMivraCacheDelegate::writeToFile(const QString& path) {
   const QMutexLocker lock(&m_monitor);
   QSaveFile file(path);
   const bool isOpen = _data && file.open(QIODevice::WriteOnly) &&
                       file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
-  if (isOpen && file.write(*_data) == _data->size() && file.commit()) return;
+  if (isOpen && file.write(*_data) == _data->size() && file.commit()) return true;
   qWarning("Failed to write cache to %s!", qUtf8Printable(path));
+  return false;
 }
 
 std::unique_ptr<ADMivraCacheDelegate> ADMivraCacheDelegate::copyWithZone() const {

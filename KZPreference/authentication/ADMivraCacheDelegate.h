@@ -8,15 +8,10 @@
 #include <optional>
 
 #include "adal/ADTokenCacheDelegate.h"
+#include "host/KZFoundation/KZTokenCacheStorage.h"
 
 // The path for a token cache in a file; the plug-in itself uses no file.
 const QString& defaultSavePath();
-
-// Why the keychain failed.
-struct OSStatusError {
-  QString domain;
-  qint32 code = 0;
-};
 
 // Stores the default token cache as one keychain item, read before every access and written after every
 // change. Any thread.
@@ -39,8 +34,9 @@ class ADMivraCacheDelegate final : public ADTokenCacheDelegate {
   // Empties the default cache, then deletes the item. A missing item is no failure.
   [[nodiscard]] bool clearCacheWithError(OSStatusError* error);
 
-  void readFromFile(const QString& path);
-  void writeToFile(const QString& path);
+  // Whether the file was read or written. A file that cannot be read leaves no data.
+  bool readFromFile(const QString& path);
+  bool writeToFile(const QString& path);
 
   std::unique_ptr<ADMivraCacheDelegate> copyWithZone() const;
 

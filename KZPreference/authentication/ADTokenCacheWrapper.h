@@ -1,16 +1,12 @@
 #pragma once
 
-#include <QMutex>
+#include <QRecursiveMutex>
 #include <QString>
 
 #include "host/KZFoundation/Dictionary.h"
 
 class ADTokenRefreshDelegate;
 struct ADTokenCacheItem;
-
-// The application's registration with the sign-in authority, for the host.
-extern Q_DECL_EXPORT const QString appRegistration_clientId;
-extern Q_DECL_EXPORT const QString appRegistration_redirectUri;
 
 // Looks up one user's tokens in the default token cache. Any thread.
 class ADTokenCacheWrapper final {
@@ -32,6 +28,6 @@ class ADTokenCacheWrapper final {
   ADTokenCacheWrapper() = default;
   ~ADTokenCacheWrapper() = default;
 
-  QMutex m_mutex;
+  QRecursiveMutex m_monitor;
   ADTokenRefreshDelegate* m_refreshTokenDelegate = nullptr;
 };

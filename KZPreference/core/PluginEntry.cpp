@@ -25,9 +25,26 @@ Dictionary PluginEntry::getAccessTokenByEmail(const QString& email, const QStrin
   return ADTokenCacheWrapper::sharedInstance().getAccessTokenByEmail(email, username);
 }
 
-bool PluginEntry::clearCacheWithError(QString* error) {
-  OSStatusError status;
-  const bool isCleared = ADMivraCacheDelegate::sharedInstance().clearCacheWithError(&status);
-  if (!isCleared && error) *error = QStringLiteral("%1 %2").arg(status.domain).arg(status.code);
-  return isCleared;
+QString PluginEntry::defaultSavePath() const {
+  return ::defaultSavePath();
+}
+
+bool PluginEntry::readFromFile(const QString& path) {
+  return ADMivraCacheDelegate::sharedInstance().readFromFile(path);
+}
+
+bool PluginEntry::writeToFile(const QString& path) {
+  return ADMivraCacheDelegate::sharedInstance().writeToFile(path);
+}
+
+qint32 PluginEntry::readFromKeychain() {
+  return ADMivraCacheDelegate::sharedInstance().readFromKeychain();
+}
+
+qint32 PluginEntry::writeToKeychain() {
+  return ADMivraCacheDelegate::sharedInstance().writeToKeychain();
+}
+
+bool PluginEntry::clearCacheWithError(OSStatusError* error) {
+  return ADMivraCacheDelegate::sharedInstance().clearCacheWithError(error);
 }

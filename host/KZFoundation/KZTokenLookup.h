@@ -4,7 +4,7 @@
 
 #include "host/KZFoundation/Dictionary.h"
 
-// Access to the plug-in's token cache, which its root object implements beside KZPluginFactory. Main thread
+// Look-ups in the plug-in's token cache, which its root object offers beside KZPluginFactory. Main thread
 // only.
 class KZTokenLookup {
  public:
@@ -15,10 +15,6 @@ class KZTokenLookup {
   // The cached access token of that account with its state; empty when there is none. Either text may be
   // null.
   virtual Dictionary getAccessTokenByEmail(const QString& email, const QString& username) = 0;
-
-  // Removes every token, from the keychain too. False on failure, with the reason in `error` unless it is
-  // null.
-  [[nodiscard]] virtual bool clearCacheWithError(QString* error) = 0;
 };
 
 Q_DECLARE_INTERFACE(KZTokenLookup, "example.brenn-mivra.KZTokenLookup/1")

@@ -16,7 +16,7 @@ constexpr FaultCase faultCases[] = {
     {"Silent", Fault::Silent, ADErrorCode::Network},
     {"Slow", Fault::Slow, ADErrorCode::Network},
     {"CutOff", Fault::CutOff, ADErrorCode::Network},
-    {"ServerError", Fault::ServerError, ADErrorCode::ServerAnswer},
+    {"ServerError", Fault::ServerError, ADErrorCode::Unavailable},
     {"Html", Fault::Html, ADErrorCode::ServerAnswer},
     {"Flood", Fault::Flood, ADErrorCode::ServerAnswer},
     {"RedirectElsewhere", Fault::RedirectElsewhere, ADErrorCode::ServerAnswer},

@@ -10,7 +10,7 @@
 #include <QPushButton>
 #include <QToolTip>
 
-#include "KZPreference/layout/PrefsViewDefine.h"
+#include "KZPreference/layout/PrefsVisible.h"
 #include "platform/FrameLayout.h"
 #include "platform/StaticText.h"
 #include "platform/View.h"

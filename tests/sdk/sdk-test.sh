@@ -51,10 +51,15 @@ printf '%s\n' '{"command": 2}' '{"get": "window"}' >script
 "$prefix/bin/prefs-session" script | tee session.log
 grep -q '"visible":true' session.log || fail "prefs-session opened no window"
 
+cp "$here/exports.cpp" "$work/host/main.cpp"
+cmake --build "$work/out"
+timeout 60 "$work/out/small-host" || fail "the plug-in does not offer what its headers say"
+
 # Every header that exports or declares an interface is part of the SDK, and needs none that is not.
 while IFS= read -r header; do
   [[ -f $prefix/include/brenn-mivra/$header ]] || fail "the SDK lacks $header"
-done < <(cd "$root" && grep -rlE 'KZ_HOST_EXPORT [A-Za-z]|Q_DECLARE_INTERFACE' --include='*.h' host)
-(cd "$prefix/include/brenn-mivra" && find host -name '*.h' | sort | sed 's/.*/#include "&"/') >"$work/host/main.cpp"
+done < <(cd "$root" &&
+  grep -rlE 'KZ_HOST_EXPORT [A-Za-z]|KZ_EXPORTED_CONSTANT c|Q_DECLARE_INTERFACE' --include='*.h' host KZPreference)
+(cd "$prefix/include/brenn-mivra" && find . -name '*.h' | sort | sed 's/.*/#include "&"/') >"$work/host/main.cpp"
 echo 'int main() {}' >>"$work/host/main.cpp"
 cmake --build "$work/out"

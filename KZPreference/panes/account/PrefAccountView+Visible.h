@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "KZPreference/layout/PrefsViewDefine.h"
+#include "KZPreference/layout/PrefsVisible.h"
 #include "KZPreference/layout/Resources.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 

@@ -1,7 +1,7 @@
 #include "KZPreference/panes/account/PrefAccountView.h"
 
 #include "KZPreference/layout/Controls.h"
-#include "KZPreference/layout/PrefsViewDefine.h"
+#include "KZPreference/layout/PrefsVisible.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 #include "host/KZUtility/KZTrace.h"
 #include "platform/Accessible.h"

@@ -3,7 +3,7 @@
 #include <QRadioButton>
 
 #include "KZPreference/layout/Controls.h"
-#include "KZPreference/layout/PrefsViewDefine.h"
+#include "KZPreference/layout/PrefsVisible.h"
 #include "KZPreference/layout/Resources.h"
 #include "KZPreference/panes/meetings/CalendarIntegrationGroup.h"
 #include "KZPreference/panes/meetings/PrefMeetingView+Visible.h"

@@ -2,7 +2,7 @@
 
 #include "KZPreference/layout/Controls.h"
 #include "KZPreference/layout/PreferenceTelemetry.h"
-#include "KZPreference/layout/PrefsViewDefine.h"
+#include "KZPreference/layout/PrefsVisible.h"
 #include "KZPreference/panes/meetings/PrefMeetingView+Visible.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZFoundation/KZConstants.h"

@@ -2,7 +2,7 @@
 
 #include "KZPreference/layout/Controls.h"
 #include "KZPreference/layout/PreferenceTelemetry.h"
-#include "KZPreference/layout/PrefsViewDefine.h"
+#include "KZPreference/layout/PrefsVisible.h"
 #include "host/KZCommonUI/KZTelemetryConstants.h"
 #include "host/KZUtility/KZTrace.h"
 #include "platform/Accessible.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "KZPreference/layout/PrefsViewDefine.h"
+#include "KZPreference/layout/PrefsVisible.h"
 #include "KZPreference/layout/Resources.h"
 
 // Text and size of the Video devices pane, known before the pane exists.

@@ -4,7 +4,7 @@
 #include <QTest>
 
 #include "KZPreference/core/PreferenceActionDelegate.h"
-#include "KZPreference/layout/PrefsViewDefine.h"
+#include "KZPreference/layout/PrefsVisible.h"
 #include "KZPreference/panes/meetings/PrefMeetingView+Visible.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUIExtension/BRNHyperlinkTextField.h"
