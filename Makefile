@@ -32,7 +32,7 @@ test-debian13:
 # Against programs that others wrote: providers, a browser, keyrings, name and web servers.
 test-real: $(BUILD)/build.ninja
 	@tools/install-packages.sh real
-	@$(NINJA) KZPreference prefs-session
+	@$(NINJA) KZPreference discover prefs-session
 	@tools/test-real.sh $(BUILD)
 
 lint: $(BUILD)/build.ninja

@@ -19,11 +19,12 @@ fi
 npm install --silent --no-audit --no-fund --no-package-lock --prefix "$folder" >"$folder/npm.log" 2>&1 || true
 
 export KZ_PROGRAMS=$build/bin KZ_PICTURES=$folder/pictures KZ_PRIVATE_BUS=$root/tests/host/keychain/with-private-bus.sh
+export QT_QPA_PLATFORM=offscreen
 user=()
 ((EUID == 0)) || user=(--map-root-user)
 cd "$folder"
 unshare "${user[@]}" --net --mount --pid --fork --kill-child --mount-proc \
-  bash -c 'ip link set lo up && node --test --test-concurrency 1 --test-timeout 120000 \
+  bash -c 'ip link set lo up && node --test --test-concurrency 1 --test-timeout 600000 \
     --test-reporter ./table.mjs --test-reporter-destination stdout' 2>errors.log &
 child=$!
 trap 'kill -KILL "$child" 2>/dev/null' EXIT

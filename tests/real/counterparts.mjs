@@ -7,15 +7,15 @@ function packageVersion(name) {
   return JSON.parse(readFileSync(`node_modules/${name}/package.json`)).version;
 }
 
-async function programVersion(program, option) {
-  return (await output(program, [option])).match(/\d+(\.\d+)+/)[0];
+async function programVersion(command) {
+  return (await output('sh', ['-c', `${command} 2>&1`])).match(/\d+(\.\d+)+/)[0];
 }
 
 // Each need is the name of an npm package, or a program with its option for the version.
 async function find(need) {
   const [name, option] = need.split(' ');
   try {
-    return { title: `${name} ${option ? await programVersion(name, option) : packageVersion(name)}` };
+    return { title: `${name} ${option ? await programVersion(need) : packageVersion(name)}` };
   } catch {
     return { title: name, isMissing: true };
   }

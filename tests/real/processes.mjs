@@ -25,6 +25,8 @@ export async function until(what, look, milliseconds = 20000) {
 export function start(program, args, options = {}) {
   const child = spawn(program, args, { stdio: ['pipe', 'pipe', 'inherit'], ...options });
   running.add(child);
+  // A program may end without reading.
+  child.stdin.on('error', () => {});
   child.once('error', () => running.delete(child));
   child.once('exit', () => running.delete(child));
   return child;
@@ -38,10 +40,10 @@ export async function end(child, signal) {
 }
 
 export async function output(program, args, { input = '', env = process.env } = {}) {
-  const child = start(program, args, { env, stdio: 'pipe' });
+  const child = start(program, args, { env, timeout: 60000 });
   child.stdin.end(input);
   let text = '';
-  for (const stream of [child.stdout, child.stderr]) stream?.on('data', (part) => (text += part));
+  child.stdout.on('data', (part) => (text += part));
   const [status] = await once(child, 'close');
   if (status !== 0) throw new Error(`${program} ended with ${status}: ${text}`);
   return text;
@@ -53,9 +55,9 @@ export class Session {
   #marker = 0;
   printed = [];
 
-  constructor(args = [], env = {}) {
+  constructor(args = [], env = process.env) {
     this.#child = start(`${programs}/prefs-session`, ['--live', ...args], {
-      env: { ...process.env, QT_QPA_PLATFORM: 'offscreen', LC_ALL: 'C.UTF-8', LANGUAGE: '', ...env },
+      env: { ...env, LC_ALL: 'C.UTF-8', LANGUAGE: '' },
     });
     const lines = createInterface({ input: this.#child.stdout });
     lines.on('line', (line) => this.printed.push(JSON.parse(line)));

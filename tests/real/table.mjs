@@ -1,9 +1,11 @@
-// A reporter for node --test: one row a test, and below the table why the failed ones failed.
+// A reporter for node --test: one row a test, and below the table why the failed ones failed. What the programs say on
+// standard error goes there.
 export default async function* table(events) {
   const suites = [];
   const failures = [];
   yield `${row('Test', 'Counterpart', 'Result')}${row('---', '---', '---')}`;
   for await (const { type, data } of events) {
+    if (type === 'test:stderr') process.stderr.write(data.message);
     if (type === 'test:start') suites[data.nesting] = data.name;
     if ((type !== 'test:pass' && type !== 'test:fail') || (data.details.type === 'suite' && !data.skip)) continue;
     const isSuite = data.details.type === 'suite';
@@ -16,6 +18,6 @@ export default async function* table(events) {
 }
 
 function row(...cells) {
-  const widths = [66, 46, 0];
+  const widths = [74, 68, 0];
   return `| ${cells.map((cell, at) => cell.padEnd(widths[at])).join(' | ')} |\n`;
 }
