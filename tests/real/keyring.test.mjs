@@ -3,7 +3,7 @@ import { afterEach, beforeEach, test } from 'node:test';
 import { describeWith } from './counterparts.mjs';
 import { GnomeKeyring, KeePassXC } from './keyrings.mjs';
 import { applyAccount, openMeetings, resolved, tokenRequest } from './preferences.mjs';
-import { Session } from './processes.mjs';
+import { Session, until } from './processes.mjs';
 import { startMockProvider } from './providers.mjs';
 
 const user = 'johndoe';
@@ -66,14 +66,7 @@ function keyringTests(Keyring) {
     assert.equal(await token(), undefined);
     assert.match(JSON.stringify(session.printed), /locked/i);
     await keyring.run('unlocked');
-    await session.waitFor('the tokens are read', () => true);
-    const end = Date.now() + 60000;
-    let found;
-    while (!found && Date.now() < end) {
-      await session.play({ wait: 500 });
-      found = await token();
-    }
-    assert.equal(found, signedIn);
+    assert.equal(await until('the tokens are read', token, 60000), signedIn);
   });
 
   test('locked while signing in: kept once unlocked', async () => {

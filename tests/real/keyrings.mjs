@@ -15,9 +15,11 @@ async function startBus() {
   return { env: JSON.parse(line), stop: () => end(child) };
 }
 
-async function askBus(env, method, ...args) {
-  const of = ['--session', '--print-reply', '--dest=org.freedesktop.DBus', '/org/freedesktop/DBus'];
-  return output('dbus-send', [...of, `org.freedesktop.DBus.${method}`, ...args], { env });
+// Whether the service has a default collection yet; no without the service.
+async function isReady(env) {
+  const to = ['--session', '--print-reply', `--dest=${name}`, '/org/freedesktop/secrets'];
+  const ask = output('dbus-send', [...to, 'org.freedesktop.Secret.Service.ReadAlias', 'string:default'], { env });
+  return (await ask.catch(() => '')).includes('path "/org/');
 }
 
 class Keyring {
@@ -36,9 +38,7 @@ class Keyring {
   async run(state) {
     await this.end();
     this.child = await this.launch(state);
-    await until(`${name} is on the bus`, async () =>
-      (await askBus(this.env, 'NameHasOwner', `string:${name}`)).includes('boolean true'),
-    );
+    await until('the keyring is ready', () => isReady(this.env));
   }
 
   async end() {
