@@ -179,8 +179,7 @@ TEST_F(KZKeychainQueueTest, TriesUntilTheKeyringConfirms) {
 TEST_F(KZKeychainQueueTest, ASilentKeyringIsWaitedForOnce) {
   const auto queue = queueWith(kHasty);
   keyring->close();
-  queue->prefetch(item("a"));
-  queue->prefetch(item("b"));
+  queue->prefetch({item("a"), item("b")});
   QElapsedTimer timer;
   timer.start();
   EXPECT_EQ(queue->read(item("a")).status, Status::Silent);
@@ -217,9 +216,8 @@ TEST_F(KZKeychainQueueTest, ALockedItemHoldsUpNoOther) {
     keyring->isUserWilling = isWilling;
     keyring->takeCalls();
     const auto queue = queueWith(kPace, Unlocking::AskOnce);
+    queue->prefetch({item("a"), item("b")});
     queue->write(item("c"), "1");
-    queue->prefetch(item("a"));
-    queue->prefetch(item("b"));
     queue->settle();
     EXPECT_TRUE(keyring->has("c", "1"));
     seen.clear();
@@ -248,7 +246,7 @@ TEST_F(KZKeychainQueueTest, TheEndIsBoundedAndNamesWhatIsLost) {
   EXPECT_TRUE(keyring->has("kept", "1"));
   keyring->close();
   queue->write(item("lost"), "1");
-  queue->prefetch(item("read"));
+  queue->prefetch({item("read")});
   EXPECT_EQ(queue->remove(item("kept")), Status::Silent);
   QElapsedTimer timer;
   timer.start();
