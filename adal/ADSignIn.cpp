@@ -10,6 +10,7 @@
 #include "adal/ADAddress.h"
 #include "adal/ADAuthenticationSettings.h"
 #include "adal/ADLogger.h"
+#include "adal/ADRefresh.h"
 #include "adal/ADTokenAnswer.h"
 
 namespace {
@@ -69,14 +70,6 @@ ADSignIn::ADSignIn(const ADSignInRequest& request)
 
 ADSignIn::~ADSignIn() {
   stopWaiting();
-}
-
-void ADSignIn::join(const void* owner, ADAuthenticationCallback completion) {
-  m_waiting.append({owner, std::move(completion)});
-}
-
-void ADSignIn::leave(const void* owner) {
-  m_waiting.removeIf([owner](const auto& waiting) { return waiting.first == owner; });
 }
 
 void ADSignIn::start() {
@@ -217,7 +210,7 @@ void ADSignIn::redeem(const QString& code) {
                                                                             .authority = m_request.authority,
                                                                             .resource = m_request.resource,
                                                                             .clientId = m_request.clientId});
-      storeItems(items);
+      storeSignedIn(items);
       finish(ADAuthenticationResult::succeeded(items.last()));
     }
   });
@@ -234,9 +227,10 @@ void ADSignIn::finish(const ADAuthenticationResult& result) {
       result.error ? ADLogLevel::Error : ADLogLevel::Info,
       QStringLiteral("sign-in: %1").arg(result.error ? result.error->text() : QStringLiteral("succeeded")));
   // From the event loop, so that a completion may destroy the contexts that hold this.
-  QTimer::singleShot(0, this, [this, result] {
-    const std::shared_ptr<ADSignIn> self = shared_from_this();
-    while (!m_waiting.isEmpty()) m_waiting.takeFirst().second(result);
+  // A caller may tell results apart by what is outstanding: the refreshes in progress come first.
+  ADRefresh::whenNoneIsInProgress([self = weak_from_this(), result] {
+    const std::shared_ptr<ADSignIn> signIn = self.lock();
+    if (signIn) signIn->m_completions.call(result);
   });
 }
 

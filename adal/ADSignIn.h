@@ -5,7 +5,7 @@
 #include <QTimer>
 #include <memory>
 
-#include "adal/ADAuthenticationResult.h"
+#include "adal/ADCompletions.h"
 #include "adal/ADEndpoints.h"
 #include "adal/ADLoopbackListener.h"
 #include "adal/ADRequest.h"
@@ -22,11 +22,7 @@ class ADSignIn final : public QObject, public std::enable_shared_from_this<ADSig
   explicit ADSignIn(const ADSignInRequest& request);
   ~ADSignIn() override;
 
-  // Calls `completion` with the result, unless `owner` leaves before.
-  void join(const void* owner, ADAuthenticationCallback completion);
-  void leave(const void* owner);
-
-  bool isFinished() const { return m_isFinished; }
+  ADCompletions& completions() { return m_completions; }
 
  private:
   void start();
@@ -43,7 +39,7 @@ class ADSignIn final : public QObject, public std::enable_shared_from_this<ADSig
   void stopWaiting();
 
   const ADSignInRequest m_request;
-  QList<std::pair<const void*, ADAuthenticationCallback>> m_waiting;
+  ADCompletions m_completions;
   QByteArray m_state;
   QByteArray m_verifier;
   QUrl m_redirectUri;  // as sent, with the listener's port

@@ -1,6 +1,7 @@
 #include "sandbox/Authority.h"
 
 #include <QCryptographicHash>
+#include <QDateTime>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -194,6 +195,7 @@ QString Authority::idToken(const QString& clientId) const {
   QJsonObject claims = m_fault == Fault::NoUser ? QJsonObject() : m_userClaims;
   claims.insert("iss", address());
   claims.insert("aud", clientId);
+  claims.insert("exp", QDateTime::currentSecsSinceEpoch() + m_lifetime);
   const auto part = [](const QJsonObject& object) {
     return QString::fromLatin1(QJsonDocument(object).toJson(QJsonDocument::Compact).toBase64(urlSafeBase64));
   };

@@ -1,10 +1,10 @@
 #include "KZPreference/authentication/ADAuthenticationWrapper.h"
 
-#include <QPointer>
 #include <QUrl>
 #include <atomic>
 #include <utility>
 
+#include "KZPreference/authentication/MainThreadInvoker.h"
 #include "KZPreference/contract/PreferenceActionDelegateProtocol.h"
 #include "KZPreference/layout/Resources.h"
 #include "adal/ADAuthenticationContext.h"
@@ -35,77 +35,98 @@ struct TokenParameters {
 }  // namespace
 
 ADAuthenticationWrapper::ADAuthenticationWrapper(PreferenceActionDelegateProtocol* actionDelegate)
-    : m_prefsActionDelegate(actionDelegate) {
+    : m_prefsActionDelegate(actionDelegate), m_mainThread(std::make_shared<MainThreadInvoker>()) {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "actionDelegate:%@", actionDelegate);
   ADAuthenticationSettings::sharedInstance().setBrowserOpener(
       [](const QUrl& address) { return KZWorkspace::sharedWorkspace().openURL(address); });
 }
 
-ADAuthenticationWrapper::~ADAuthenticationWrapper() = default;
+ADAuthenticationWrapper::~ADAuthenticationWrapper() {
+  m_mainThread->close();
+}
 
 void ADAuthenticationWrapper::setExchangeResolveResultReceiver(ExchangeResolveResultReceiving* receiver) {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "receiver:%@", receiver);
   m_exchResolvingResultReceiver = receiver;
 }
 
+// Requests
+
 void ADAuthenticationWrapper::startWithParams(const Dictionary& params) {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "params:%@", params);
   if (params.isEmpty()) return;
   const TokenParameters wanted(params);
-  ADAuthenticationContext* const context = createContext(wanted.authority, Q_FUNC_INFO);
-  if (context == nullptr) return;
+  const Context context = createContext(wanted.authority, Q_FUNC_INFO);
+  if (!context) return;
   context->acquireTokenWithResource(
       wanted.resource, wanted.clientId, wanted.redirectUri, ADPromptBehavior::Always,
       ADUserIdentifier::identifierWithId(wanted.email, ADUserIdentifier::Type::OptionalDisplayableId),
       QString(), QString(), completionFor(context, Q_FUNC_INFO));
+  // After the new one has joined it, an equal sign-in goes on; any other one ends here.
+  m_signIn = context;
 }
 
-void ADAuthenticationWrapper::refreshTokenWithParams(const Dictionary& params, const Dictionary& extraInfo) {
+void ADAuthenticationWrapper::cancelSignIn() {
+  MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
+  m_signIn.reset();
+}
+
+bool ADAuthenticationWrapper::refreshTokenWithParams(const Dictionary& params, const Dictionary& extraInfo,
+                                                     const ADAuthenticationCallback& ended) {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "params:%@, extraInfo:%@", params, extraInfo);
   m_isRefreshing = true;
   m_extraInfo = extraInfo;
   const TokenParameters wanted(params);
   // Without a context the refresh stays outstanding, and the next result is reported as its own.
-  ADAuthenticationContext* const context = createContext(wanted.authority, Q_FUNC_INFO);
-  if (context == nullptr) return;
+  const Context context = createContext(wanted.authority, Q_FUNC_INFO);
+  if (!context) return false;
+  m_refreshes.push_back(context);
   context->acquireTokenWithRefreshToken(wanted.refreshToken, wanted.resource, wanted.clientId,
-                                        wanted.redirectUri, completionFor(context, Q_FUNC_INFO));
+                                        wanted.redirectUri, completionFor(context, Q_FUNC_INFO, ended));
+  return true;
 }
 
-ADAuthenticationContext* ADAuthenticationWrapper::createContext(const QString& authority,
-                                                                const char* method) {
+ADAuthenticationWrapper::Context ADAuthenticationWrapper::createContext(const QString& authority,
+                                                                        const char* method) {
   ADError error;
-  std::unique_ptr<ADAuthenticationContext> context =
-      ADAuthenticationContext::initWithAuthority(authority, ADAuthorityValidation::Off, error);
+  Context context = ADAuthenticationContext::initWithAuthority(authority, ADAuthorityValidation::Off, error);
   if (!context) {
     MVRNSErrorFuncTraceIMPL("KZPreference", method, "Failed to create AuthenticationContext:%@",
                             error.text());
-    return nullptr;
   }
-  m_contexts.push_back(std::move(context));
-  return m_contexts.back().get();
+  return context;
 }
 
-ADAuthenticationCallback ADAuthenticationWrapper::completionFor(const ADAuthenticationContext* context,
-                                                                const char* method) {
-  return oneShotCompletion(&m_receiver, method, [this, context](const ADAuthenticationResult& result) {
-    std::erase_if(m_contexts, [context](const auto& kept) { return kept.get() == context; });
-    onTokenAcquired(result);
-  });
+// Results
+
+bool ADAuthenticationWrapper::hasUnreportedResult() const {
+  return m_mainThread->hasPosted();
 }
 
-ADAuthenticationCallback ADAuthenticationWrapper::oneShotCompletion(QObject* receiver, const char* method,
-                                                                    ADAuthenticationCallback deliver) {
+ADAuthenticationCallback ADAuthenticationWrapper::completionFor(const Context& context, const char* method,
+                                                                const ADAuthenticationCallback& ended) {
+  const std::weak_ptr request(context);
+  return oneShotCompletion(m_mainThread, method,
+                           [this, request, ended](const ADAuthenticationResult& result) {
+                             const Context done = request.lock();
+                             if (!done) return;  // cancelled after its result was posted
+                             if (m_signIn == done) m_signIn.reset();
+                             std::erase(m_refreshes, done);
+                             if (ended) ended(result);
+                             onTokenAcquired(result);
+                           });
+}
+
+ADAuthenticationCallback ADAuthenticationWrapper::oneShotCompletion(
+    const std::shared_ptr<MainThreadInvoker>& mainThread, const char* method,
+    ADAuthenticationCallback deliver) {
   const auto fBlockHit = std::make_shared<std::atomic_bool>(false);
-  return [fBlockHit, method, receiver = QPointer(receiver),
-          deliver = std::move(deliver)](const ADAuthenticationResult& result) {
+  return [fBlockHit, method, mainThread, deliver = std::move(deliver)](const ADAuthenticationResult& result) {
     if (fBlockHit->exchange(true)) {
       MVRNSErrorFuncTraceIMPL("KZPreference", method, "fBlockHit is YES");
       return;
     }
-    if (receiver == nullptr) return;
-    QMetaObject::invokeMethod(
-        receiver, [deliver, result] { deliver(result); }, Qt::QueuedConnection);
+    mainThread->post([deliver, result] { deliver(result); });
   };
 }
 
@@ -119,37 +140,48 @@ void ADAuthenticationWrapper::onTokenAcquired(const ADAuthenticationResult& resu
   }
 }
 
+// Each result is reported last: the receiver may start another request, or destroy this object.
+
 void ADAuthenticationWrapper::onTokenAcquiringSuccessed(const ADAuthenticationResult& result) {
   if (!result.tokenCacheItem) {
     MVRNSErrorFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "cacheItem is nil");
     return;
   }
-  const ADTokenCacheItem& item = *result.tokenCacheItem;
-  if (m_isRefreshing) {
-    Dictionary answer = m_extraInfo;
-    answer.insert(QRT_ListingMeeting_exchOnlineToken, item.accessToken);
-    answer.insert(QStringLiteral("isTokenExpired"), false);
-    m_prefsActionDelegate->notifyExchOnlineTokenGot(answer);
-  } else {
-    m_prefsActionDelegate->sinkOutlookAccountCredential(
-        {{QRT_CredentialType, QRT_CredentialTypeOAuthToken},
-         {QRT_CredentialUsername, item.userInformation.userId},
-         {QRT_CredentialContent, item.accessToken}});
+  if (std::exchange(m_isRefreshing, false)) {
+    m_prefsActionDelegate->notifyExchOnlineTokenGot(refreshAnswer(m_extraInfo, result));
+    return;
   }
-  m_isRefreshing = false;
+  const ADTokenCacheItem& item = *result.tokenCacheItem;
+  m_prefsActionDelegate->sinkOutlookAccountCredential(
+      dictionaryWithPairs({{QRT_CredentialType, QRT_CredentialTypeOAuthToken},
+                           {QRT_CredentialUsername, item.userInformation.userId},
+                           {QRT_CredentialContent, item.accessToken}}));
 }
 
 void ADAuthenticationWrapper::onTokenAcquiringFailed(const ADAuthenticationResult& result) {
   MVRNSErrorFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "status:%d, error:%@", static_cast<int>(result.status),
                           result.error ? result.error->text() : QString());
-  if (m_isRefreshing) {
-    Dictionary answer = m_extraInfo;
-    answer.insert(QStringLiteral("GetTokenFailed"), true);
-    m_prefsActionDelegate->notifyExchOnlineTokenGot(answer);
+  if (std::exchange(m_isRefreshing, false)) {
+    m_prefsActionDelegate->notifyExchOnlineTokenGot(refreshAnswer(m_extraInfo, result));
   } else if (m_exchResolvingResultReceiver != nullptr) {
     m_exchResolvingResultReceiver->onExchangeResolveDone(generateExchResolvingFailedResult(result));
   }
-  m_isRefreshing = false;
+}
+
+Dictionary ADAuthenticationWrapper::refreshAnswer(const Dictionary& request,
+                                                  const ADAuthenticationResult& result) {
+  Dictionary answer = request;
+  if (result.tokenCacheItem) {
+    answer.insert(
+        dictionaryWithPairs({{QRT_ListingMeeting_exchOnlineToken, result.tokenCacheItem->accessToken},
+                             {QStringLiteral("isTokenExpired"), false}}));
+    return answer;
+  }
+  const bool isPassing = result.error && canBeTriedLater(result.error->code);
+  answer.insert(QStringLiteral("GetTokenFailed"), true);
+  answer.insert(QStringLiteral("GetTokenFailedReason"),
+                isPassing ? QStringLiteral("TryLater") : QStringLiteral("SignInAgain"));
+  return answer;
 }
 
 Dictionary ADAuthenticationWrapper::generateExchResolvingFailedResult(

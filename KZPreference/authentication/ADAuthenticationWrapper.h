@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QObject>
 #include <QString>
 #include <memory>
 #include <vector>
@@ -9,6 +8,7 @@
 #include "host/KZFoundation/Dictionary.h"
 
 class ADAuthenticationContext;
+class MainThreadInvoker;
 class PreferenceActionDelegateProtocol;
 
 // Receives the result of resolving an Exchange account. Main thread only.
@@ -32,34 +32,52 @@ class ADAuthenticationWrapper final {
   void setExchangeResolveResultReceiver(ExchangeResolveResultReceiving* receiver);
 
   // Keys: authority, resource, clientId, redirectUri, email; for a refresh also refreshToken. Empty
-  // parameters, or an authority that cannot be used, start nothing and report nothing.
+  // parameters, or an authority that cannot be read, start nothing and report nothing.
+
+  // Ends a sign-in in progress, except an equal one, which goes on.
   void startWithParams(const Dictionary& params);
-  // The result contains the extra info.
-  void refreshTokenWithParams(const Dictionary& params, const Dictionary& extraInfo);
+  // Ends a sign-in in progress without a result.
+  void cancelSignIn();
+
+  // The answer contains the extra info. Returns false when nothing started; else `ended` is called with the
+  // result, just before the answer is sent.
+  bool refreshTokenWithParams(const Dictionary& params, const Dictionary& extraInfo,
+                              const ADAuthenticationCallback& ended = {});
+
+  // A result has come and is not reported yet. A refresh that begins now would be taken for its request.
+  bool hasUnreportedResult() const;
 
   // Reports the result as a refresh if one is outstanding, whatever the request was.
   void onTokenAcquired(const ADAuthenticationResult& result);
 
   Dictionary generateExchResolvingFailedResult(const ADAuthenticationResult& result) const;
 
-  // A callback for any thread. It delivers its first result from the receiver's event loop, or drops it when
-  // the receiver is destroyed. It drops all later results with a trace. Copies share this state.
-  static ADAuthenticationCallback oneShotCompletion(QObject* receiver, const char* method,
-                                                    ADAuthenticationCallback deliver);
+  // The request with what a refresh adds to it.
+  static Dictionary refreshAnswer(const Dictionary& request, const ADAuthenticationResult& result);
+
+  // A callback for any thread. It delivers its first result on the main thread, from the event loop. It drops
+  // all later results with a trace. Copies share this state.
+  static ADAuthenticationCallback oneShotCompletion(const std::shared_ptr<MainThreadInvoker>& mainThread,
+                                                    const char* method, ADAuthenticationCallback deliver);
 
  private:
+  // Shared with nobody: a completion only looks whether its request was cancelled.
+  using Context = std::shared_ptr<ADAuthenticationContext>;
+
   void onTokenAcquiringSuccessed(const ADAuthenticationResult& result);
   void onTokenAcquiringFailed(const ADAuthenticationResult& result);
 
-  // nullptr, with a trace, for an authority that cannot be used. Kept until its request is complete.
-  ADAuthenticationContext* createContext(const QString& authority, const char* method);
-  ADAuthenticationCallback completionFor(const ADAuthenticationContext* context, const char* method);
+  // Null, with a trace, for an authority that cannot be read.
+  static Context createContext(const QString& authority, const char* method);
+  ADAuthenticationCallback completionFor(const Context& context, const char* method,
+                                         const ADAuthenticationCallback& ended = {});
 
   PreferenceActionDelegateProtocol* m_prefsActionDelegate;
   ExchangeResolveResultReceiving* m_exchResolvingResultReceiver = nullptr;
   bool m_isRefreshing = false;
   Dictionary m_extraInfo;
 
-  QObject m_receiver;  // of completions
-  std::vector<std::unique_ptr<ADAuthenticationContext>> m_contexts;
+  std::shared_ptr<MainThreadInvoker> m_mainThread;
+  Context m_signIn;  // in progress, or null
+  std::vector<Context> m_refreshes;
 };

@@ -1,6 +1,7 @@
 #include "KZPreference/authentication/ADTokenCacheWrapper.h"
 
-#include <QMutexLocker>
+#include <chrono>
+#include <mutex>
 
 #include "KZPreference/authentication/ADTokenCacheItem+Mivra.h"
 #include "KZPreference/authentication/AppRegistration.h"
@@ -9,6 +10,9 @@
 #include "host/KZUtility/KZTrace.h"
 
 namespace {
+
+// Reading the cache may write to the trace, and a trace sink may wait for a look-up on another thread.
+constexpr std::chrono::seconds kLongestWait{5};
 
 bool isSameUser(const QString& userId, const QString& name) {
   // The lengths are compared first, because that is much cheaper.
@@ -28,8 +32,9 @@ void ADTokenCacheWrapper::setRefreshTokenDelegate(ADTokenRefreshDelegate* delega
 
 Dictionary ADTokenCacheWrapper::getAccessTokenByEmail(const QString& email, const QString& username) {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "email:%@, username:%@", email, username);
-  const ADTokenCache::Items cached = [&] {
-    const QMutexLocker lock(&m_mutex);
+  const ADTokenCache::Items cached = [this]() -> ADTokenCache::Items {
+    const std::unique_lock lock(m_monitor, kLongestWait);
+    if (!lock) return {{}, ADError{ADErrorCode::CacheBusy, QStringLiteral("another look-up")}};
     return ADTokenCache::defaultCache().allItems();
   }();
   if (cached.error) {
@@ -52,16 +57,18 @@ Dictionary ADTokenCacheWrapper::getAccessTokenByEmail(const QString& email, cons
 
 Dictionary ADTokenCacheWrapper::getTokenFromAccessTokenCache(const ADTokenCacheItem& accessTokenItem,
                                                              const ADTokenCacheItem& refreshTokenItem) const {
-  const bool isExpired = isExpiredWithPrejudge(accessTokenItem);
-  Dictionary information{{QRT_ListingMeeting_exchOnlineToken, accessTokenItem.accessToken},
-                         {QStringLiteral("isTokenExpired"), isExpired}};
-  if (!isExpired) return information;
-  information.insert(QStringLiteral("refreshTokenInfo"),
-                     Dictionary{{QStringLiteral("authority"), accessTokenItem.authority},
-                                {QStringLiteral("resource"), accessTokenItem.resource},
-                                {QStringLiteral("clientId"), accessTokenItem.clientId},
-                                {QStringLiteral("redirectUri"), appRegistration_redirectUri},
-                                {QStringLiteral("email"), accessTokenItem.userInformation.userId},
-                                {QStringLiteral("refreshToken"), refreshTokenItem.refreshToken}});
-  return information;
+  if (!isExpiredWithPrejudge(accessTokenItem)) {
+    return dictionaryWithPairs({{QRT_ListingMeeting_exchOnlineToken, accessTokenItem.accessToken},
+                                {QStringLiteral("isTokenExpired"), false}});
+  }
+  const Dictionary refreshTokenInfo =
+      dictionaryWithPairs({{QStringLiteral("authority"), accessTokenItem.authority},
+                           {QStringLiteral("resource"), accessTokenItem.resource},
+                           {QStringLiteral("clientId"), accessTokenItem.clientId},
+                           {QStringLiteral("redirectUri"), appRegistration_redirectUri},
+                           {QStringLiteral("email"), accessTokenItem.userInformation.userId},
+                           {QStringLiteral("refreshToken"), refreshTokenItem.refreshToken}});
+  return dictionaryWithPairs({{QRT_ListingMeeting_exchOnlineToken, accessTokenItem.accessToken},
+                              {QStringLiteral("isTokenExpired"), true},
+                              {QStringLiteral("refreshTokenInfo"), refreshTokenInfo}});
 }

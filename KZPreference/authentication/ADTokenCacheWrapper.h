@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QMutex>
+#include <QRecursiveMutex>
 #include <QString>
 
 #include "host/KZFoundation/Dictionary.h"
@@ -28,6 +28,6 @@ class ADTokenCacheWrapper final {
   ADTokenCacheWrapper() = default;
   ~ADTokenCacheWrapper() = default;
 
-  QMutex m_mutex;
+  QRecursiveMutex m_monitor;
   ADTokenRefreshDelegate* m_refreshTokenDelegate = nullptr;
 };

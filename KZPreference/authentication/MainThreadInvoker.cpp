@@ -4,8 +4,23 @@
 #include <QSemaphore>
 #include <QThread>
 
-void MainThreadInvoker::invoke(const std::function<void()>& work) {
-  auto done = std::make_shared<QSemaphore>();
+MainThreadInvoker::MainThreadInvoker() : m_receiver(std::make_unique<QObject>()) {}
+MainThreadInvoker::~MainThreadInvoker() = default;
+
+void MainThreadInvoker::post(const Work& work) {
+  const QMutexLocker lock(&m_mutex);
+  if (!m_receiver) return;
+  ++m_postedCount;
+  QMetaObject::invokeMethod(
+      m_receiver.get(),
+      [this, work] {
+        --m_postedCount;
+        work();
+      },
+      Qt::QueuedConnection);
+}
+
+void MainThreadInvoker::invoke(const Work& work) {
   {
     QMutexLocker lock(&m_mutex);
     if (!m_receiver) return;
@@ -13,10 +28,12 @@ void MainThreadInvoker::invoke(const std::function<void()>& work) {
       lock.unlock();
       return work();
     }
-    // Released when the work is done, or when it is dropped with its receiver.
+  }
+  const auto done = std::make_shared<QSemaphore>();
+  {
+    // Released when the work is done, or when it is dropped.
     const std::shared_ptr<void> release(nullptr, [done](void*) { done->release(); });
-    QMetaObject::invokeMethod(
-        m_receiver.get(), [work, release] { work(); }, Qt::QueuedConnection);
+    post([work, release] { work(); });
   }
   done->acquire();
 }

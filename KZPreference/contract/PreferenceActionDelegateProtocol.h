@@ -26,6 +26,7 @@ class PreferenceActionDelegateProtocol {
 
   // Exchange and Office 365.
   virtual void applyOutlookAccount(const Dictionary& accountInfo) = 0;
+  virtual void cancelSignIn() = 0;  // ends one that waits for the user, without a result
   virtual void sinkOutlookAccountCredential(const Dictionary& credential) = 0;
   virtual void cancelApplyOutlookAccount(const Dictionary& accountInfo) = 0;
   virtual void notifyListExchMeetingAuthFailure() = 0;

@@ -1,5 +1,5 @@
 #include "KZPreference/authentication/ADAuthenticationWrapper.h"
-#include "KZPreference/authentication/ADTokenCacheWrapper.h"
+#include "KZPreference/authentication/TokenRequests.h"
 #include "KZPreference/core/KZPreference.h"
 #include "KZPreference/windows/PreferenceWindowController.h"
 #include "host/KZFoundation/KZConstants.h"
@@ -41,22 +41,5 @@ void KZPreference::onO365LoginRequesting(const Content& content) {
 
 void KZPreference::onGetExchonlineToken(const Content& content) {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "Content:%@", content);
-  const Dictionary request = content.value_or(Dictionary());
-  const Dictionary exchange =
-      dictionaryValue(dictionaryValue(request, kKZCalendarIntegration), kKZCalendarIntegrationExchange);
-  const Dictionary token = ADTokenCacheWrapper::sharedInstance().getAccessTokenByEmail(
-      textValue(exchange, kKZCalendarIntegrationExchangeEmail),
-      textValue(exchange, kKZCalendarIntegrationExchangeUsername));
-  if (isSet(token, QStringLiteral("isTokenExpired"))) {
-    m_ADAuthWrapper->refreshTokenWithParams(dictionaryValue(token, QStringLiteral("refreshTokenInfo")),
-                                            request);
-    return;
-  }
-  if (token.isEmpty()) {
-    sendPluginCommand(KZCommand::KZCmdExchOnlineTokenGot, content);
-    return;
-  }
-  Dictionary reply = request;
-  reply.insert(token);
-  sendPluginCommand(KZCommand::KZCmdExchOnlineTokenGot, reply);
+  m_tokenRequests->request(content);
 }

@@ -29,6 +29,7 @@ PreferenceWindowController& KZPreference::ensuredWindowController() {
 
 void KZPreference::initGuestPreference() {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
+  m_ADAuthWrapper->cancelSignIn();
   if (m_preferenceWindowController) destroyAppPreference();
   installWindowController(
       std::make_unique<NonSignInPreferenceWindowController>(m_preferenceActionDelegate.get()));
@@ -45,6 +46,7 @@ void KZPreference::showAppPreference(const Content& content) {
 
 void KZPreference::destroyAppPreference() {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "");
+  m_ADAuthWrapper->cancelSignIn();
   const PreferenceWindowController* const closing = m_preferenceWindowController.get();
   if (!closing) return;
   m_ADAuthWrapper->setExchangeResolveResultReceiver(nullptr);

@@ -4,6 +4,7 @@
 
 #include "KZPreference/authentication/ADAuthenticationWrapper.h"
 #include "KZPreference/authentication/OLAccountAuthenticator.h"
+#include "KZPreference/authentication/TokenRequests.h"
 #include "KZPreference/core/PreferenceActionDelegate.h"
 #include "KZPreference/layout/PreferenceTelemetry.h"
 #include "KZPreference/windows/SignInPreferenceWindowController.h"
@@ -29,6 +30,8 @@ KZPreference::KZPreference(KZPluginCoreMgr* core) : KZPluginMgr(core) {
   PreferenceTelemetry::sharedInstance().setTelemetryDelegate(this);
   m_ADAuthWrapper = std::make_unique<ADAuthenticationWrapper>(m_preferenceActionDelegate.get());
   m_ADAuthWrapper->setExchangeResolveResultReceiver(m_preferenceWindowController.get());
+  m_preferenceActionDelegate->setADAuthWrapper(m_ADAuthWrapper.get());
+  m_tokenRequests = std::make_unique<TokenRequests>(m_ADAuthWrapper.get(), this);
 }
 
 KZPreference::~KZPreference() {

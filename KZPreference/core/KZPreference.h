@@ -15,6 +15,7 @@ class KZWarningWindowController;
 class OLAccountAuthenticator;
 class PreferenceActionDelegate;
 class PreferenceWindowController;
+class TokenRequests;
 
 // The plug-in's principal object: dispatches the host's commands and notifications, owns the window
 // controller and all it needs, and sends the plug-in's commands. Main thread only.
@@ -77,6 +78,7 @@ class KZPreference final : public KZPluginMgr, public PluginCommandSender {
 
   // Destroyed in reverse order, so that each object is destroyed before those that it uses.
   std::unique_ptr<ADAuthenticationWrapper> m_ADAuthWrapper;
+  std::unique_ptr<TokenRequests> m_tokenRequests;
   std::unique_ptr<PreferenceActionDelegate> m_preferenceActionDelegate;
   std::unique_ptr<OLAccountAuthenticator> m_olaccountAuthenticator;
   std::unique_ptr<PreferenceWindowController> m_preferenceWindowController;

@@ -1,5 +1,6 @@
 #include "KZPreference/core/PreferenceActionDelegate.h"
 
+#include "KZPreference/authentication/ADAuthenticationWrapper.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 #include "host/KZUtility/KZTrace.h"
@@ -39,6 +40,10 @@ PreferenceActionDelegate::PreferenceActionDelegate(PluginCommandSender* preferen
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "delegate:%@", preference);
 }
 
+void PreferenceActionDelegate::setADAuthWrapper(ADAuthenticationWrapper* wrapper) {
+  m_ADAuthWrapper = wrapper;
+}
+
 void PreferenceActionDelegate::setPrefMeetingView(CalendarPreferenceReceiver* view) {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "prefMeetingView:%@", view);
   m_prefMeetingView = view;
@@ -61,7 +66,13 @@ void PreferenceActionDelegate::outlookIntegratingStateChange(bool flag) {
 
 void PreferenceActionDelegate::applyOutlookAccount(const Dictionary& accountInfo) {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "accountInfo:%@", accountInfo);
+  // Before the command, in response to which the host may start the next sign-in.
+  cancelSignIn();
   m_preference->sendPluginCommand(KZCmdApplyOutlookAccount, accountInfo);
+}
+
+void PreferenceActionDelegate::cancelSignIn() {
+  if (m_ADAuthWrapper) m_ADAuthWrapper->cancelSignIn();
 }
 
 void PreferenceActionDelegate::sinkOutlookAccountCredential(const Dictionary& credential) {

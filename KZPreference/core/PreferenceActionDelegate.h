@@ -3,17 +3,22 @@
 #include "KZPreference/contract/PluginCommandSender.h"
 #include "KZPreference/contract/PreferenceActionDelegateProtocol.h"
 
+class ADAuthenticationWrapper;
+
 // Carries out the actions of panes and authenticators: each is written to the store, sent to the host, or
 // passed to the Meetings panes. Main thread only.
 class PreferenceActionDelegate final : public PreferenceActionDelegateProtocol {
  public:
   explicit PreferenceActionDelegate(PluginCommandSender* preference);  // not owned
 
+  void setADAuthWrapper(ADAuthenticationWrapper* wrapper);  // not owned
+
   void setPrefMeetingView(CalendarPreferenceReceiver* view) override;
   void setNonSignInPrefMeetingView(CalendarPreferenceReceiver* view) override;
   void checkingStartStateChanging(bool flag) override;
   void outlookIntegratingStateChange(bool flag) override;
   void applyOutlookAccount(const Dictionary& accountInfo) override;
+  void cancelSignIn() override;
   void sinkOutlookAccountCredential(const Dictionary& credential) override;
   void cancelApplyOutlookAccount(const Dictionary& accountInfo) override;
   void notifyListExchMeetingAuthFailure() override;
@@ -34,6 +39,7 @@ class PreferenceActionDelegate final : public PreferenceActionDelegateProtocol {
 
  private:
   PluginCommandSender* m_preference;
+  ADAuthenticationWrapper* m_ADAuthWrapper = nullptr;
   CalendarPreferenceReceiver* m_prefMeetingView = nullptr;
   CalendarPreferenceReceiver* m_nonSignInPrefMeetingView = nullptr;
 };

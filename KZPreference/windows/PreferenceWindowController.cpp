@@ -121,6 +121,7 @@ void PreferenceWindowController::windowDidBecomeKey() {
 
 void PreferenceWindowController::windowWillClose() {
   MVRNSInfoFuncTraceIMPL("KZPreference", {this, Q_FUNC_INFO}, "");
+  m_prefsDelegate->cancelSignIn();
   if (m_meetingView) m_meetingView->onWindowWillClose();
 }
 

@@ -9,6 +9,7 @@
 #include <thread>
 
 #include "KZPreference/authentication/AdalMivraLogDelegate.h"
+#include "KZPreference/authentication/MainThreadInvoker.h"
 #include "KZPreference/core/PreferenceActionDelegate.h"
 #include "adal/ADAuthenticationSettings.h"
 #include "adal/ADLogger.h"
@@ -140,7 +141,8 @@ TEST_F(ADAuthenticationWrapperTest, RefreshRepeatsTheRequest) {
 
   wrapper->refreshTokenWithParams(params("refresh-revoked"), {});
   ASSERT_TRUE(waitForCalls(2));
-  EXPECT_EQ(host.tokens.last(), (Dictionary{{"GetTokenFailed", true}}))
+  EXPECT_EQ(host.tokens.last(),
+            (Dictionary{{"GetTokenFailed", true}, {"GetTokenFailedReason", "SignInAgain"}}))
       << "nothing is left of the last request";
   signIn();
   ASSERT_TRUE(waitForCalls(3));
@@ -191,29 +193,31 @@ TEST_F(ADAuthenticationWrapperTest, DestroyingItCancelsItsRequests) {
   EXPECT_EQ(host.calls(), 0);
 }
 
-TEST_F(ADAuthenticationWrapperTest, OnlyTheFirstCompletionIsDeliveredInTheReceiversThread) {
-  auto receiver = std::make_unique<QObject>();
+TEST_F(ADAuthenticationWrapperTest, OnlyTheFirstCompletionIsDeliveredOnTheMainThread) {
+  const auto mainThread = std::make_shared<MainThreadInvoker>();
   std::vector<std::thread::id> deliveries;
   const ADAuthenticationCallback deliver = [&](const ADAuthenticationResult&) {
     deliveries.push_back(std::this_thread::get_id());
   };
-  const ADAuthenticationCallback completion =
-      ADAuthenticationWrapper::oneShotCompletion(receiver.get(), Q_FUNC_INFO, deliver);
-  std::thread worker([copy = completion] {
+  const auto newCompletion = [&] {
+    return ADAuthenticationWrapper::oneShotCompletion(mainThread, Q_FUNC_INFO, deliver);
+  };
+  const ADAuthenticationCallback completion = newCompletion();
+  std::thread([copy = completion] {
     copy({});
     copy({});
-  });
-  worker.join();
+  }).join();
   completion({});
   EXPECT_TRUE(deliveries.empty()) << "never from within the completion";
   QTest::qWait(20);
   EXPECT_EQ(deliveries, std::vector{std::this_thread::get_id()});
   EXPECT_EQ(trace.lines().filter("error fBlockHit is YES").size(), 2);
 
-  ADAuthenticationWrapper::oneShotCompletion(receiver.get(), Q_FUNC_INFO, deliver)({});
-  receiver.reset();
+  newCompletion()({});
+  mainThread->close();
+  std::thread(newCompletion(), ADAuthenticationResult()).join();
   QTest::qWait(20);
-  EXPECT_EQ(deliveries.size(), 1U);
+  EXPECT_EQ(deliveries.size(), 1U) << "nothing is delivered to what is closed";
 }
 
 TEST_F(ADAuthenticationWrapperTest, TracesNoSecret) {

@@ -1,0 +1,71 @@
+#include "tests/KZPreference/authentication/TokenHost.h"
+
+#include <gtest/gtest.h>
+
+#include "adal/ADAuthenticationSettings.h"
+#include "adal/ADTokenCache.h"
+#include "host/KZFoundation/KZConstants.h"
+#include "tests/kit/Input.h"
+
+TokenHost::TokenHost() {
+  ADAuthenticationSettings::sharedInstance().setDefaultStorageDelegate(nullptr);
+  EXPECT_FALSE(ADTokenCache::defaultCache().replaceAllItems({}));
+}
+
+TokenHost::~TokenHost() {
+  onAnswer = {};
+  EXPECT_FALSE(ADTokenCache::defaultCache().replaceAllItems({}));
+}
+
+void TokenHost::addUser(const QString& user, Token token) {
+  addUser(user, provider.authority(), provider.grant(user));
+  if (token == Token::Expired) return;
+  QList<ADTokenCacheItem> items = ADTokenCache::defaultCache().allItems().items;
+  items[items.size() - 2].expiresOn = adNow().addSecs(3600);
+  EXPECT_FALSE(ADTokenCache::defaultCache().replaceAllItems(items));
+}
+
+void TokenHost::addUser(const QString& user, const QString& authority, const QString& refreshToken) {
+  ADTokenCacheItem access;
+  access.userInformation.userId = user;
+  access.authority = authority;
+  access.resource = QStringLiteral("https://mail.example.com");
+  access.clientId = QStringLiteral("client-1");
+  ADTokenCacheItem refresh = access;
+  access.accessToken = QStringLiteral("stored-of-") + user;
+  access.expiresOn = adNow().addSecs(-1);
+  refresh.resource.clear();
+  refresh.refreshToken = refreshToken;
+  refresh.multiResource = true;
+  EXPECT_FALSE(ADTokenCache::defaultCache().addOrUpdateItems({access, refresh}));
+}
+
+int TokenHost::ask(const QString& user) {
+  const int number = ++m_asked;
+  command(KZCommand::KZCmdGetExchOnlineToken,
+          Dictionary{{QStringLiteral("number"), number},
+                     {kKZCalendarIntegration,
+                      Dictionary{{kKZCalendarIntegrationExchange,
+                                  Dictionary{{kKZCalendarIntegrationExchangeEmail, user}}}}}});
+  return number;
+}
+
+std::optional<Dictionary> TokenHost::answerTo(int request) const {
+  const auto found = m_answers.constFind(request);
+  return found == m_answers.constEnd() ? std::nullopt : std::optional(*found);
+}
+
+bool TokenHost::waitForAnswers(int count, int milliseconds) const {
+  return kit::waitUntil([&] { return order.size() >= count; }, milliseconds);
+}
+
+quint64 TokenHost::sendPluginCommand(const KZEventIdentify& event, const Content& content) {
+  const auto command = static_cast<KZCommand>(event.m_componentEventIndex);
+  if (command == KZCommand::KZCmdSinkOutlookAccountCredential) credentials.append(*content);
+  if (command != KZCommand::KZCmdExchOnlineTokenGot) return TestHost::sendPluginCommand(event, content);
+  const int number = content->value(QStringLiteral("number")).toInt();
+  m_answers.insert(number, *content);
+  order.append(number);
+  if (onAnswer) onAnswer(*content);
+  return 0;
+}
