@@ -65,6 +65,16 @@ TEST_F(GuestAccountPaneTest, AnInvalidEmailStaysInTheFieldUntilItChanges) {
   EXPECT_EQ(profile().displayName(), "Ada");
 }
 
+TEST_F(GuestAccountPaneTest, EmptyFieldsMeanTheStoredOnes) {
+  clickLink();
+  type(name(), "");
+  type(email(), "");
+  clickLink();
+  EXPECT_FALSE(isEditing());
+  EXPECT_EQ(shownName(), "Ada");
+  EXPECT_EQ(profile().userName(), "ada@example.com");
+}
+
 TEST_F(GuestAccountPaneTest, LongEntriesAreCutToTheHostsLimit) {
   clickLink();
   name()->setText(QString(100'000, u'n'));

@@ -220,6 +220,16 @@ TEST_P(ExchangeFlow, SuccessWithoutAUserNameStoresEmptyTexts) {
   EXPECT_TRUE(!password.isNull() && password.isEmpty());
 }
 
+TEST_P(ExchangeFlow, ClosingInMidFlightAfterAnAccountWasAppliedCancelsThatOne) {
+  apply();
+  host.resolveWith(kEmail);
+  host.type("m_emailInputTxt", QStringLiteral("bob@brenn.example"));
+  host.click("m_detectBtn");
+  host.takeSent();
+  PreferenceHost::window()->close();
+  EXPECT_EQ(host.takeSent(), QStringList{QStringLiteral("16") + kDetect.mid(2)});
+}
+
 TEST_P(ExchangeFlow, AnAppliedAccountIsShownUnlessItsCredentialIsMarkedInvalid) {
   const struct {
     QVariant mark;
