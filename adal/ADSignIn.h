@@ -31,12 +31,14 @@ class ADSignIn final : public QObject, public std::enable_shared_from_this<ADSig
   [[nodiscard]] std::optional<ADError> openListener();
   void showDialog(ADSignInDialog::Kind kind);
   void openBrowser();
-  ADLoopbackListener::Verdict onCallback(const ADParameters& answer);
+  bool isExpected(const ADParameters& answer) const;
+  void onAnswer(const ADParameters& answer);
   void onCodeEntered(const QString& entered);
   void redeem(const QString& code);
   void fail(const ADError& error);
   void finish(const ADAuthenticationResult& result);
   void stopWaiting();
+  void giveUp();
 
   const ADSignInRequest m_request;
   ADCompletions m_completions;

@@ -71,6 +71,7 @@ HttpResponse Authority::configuration() const {
                        {"authorization_endpoint", address() + "/oauth2/authorize"},
                        {"token_endpoint", address() + "/oauth2/token"},
                        {"scopes_supported", scopes},
+                       {"authorization_response_iss_parameter_supported", true},
                        {"code_challenge_methods_supported", QJsonArray{"S256"}}});
 }
 
@@ -119,6 +120,7 @@ HttpResponse Authority::answerPage(const QUrlQuery& query, bool isGiven) {
                         : QStringLiteral("<p>You refused.</p>"));
   }
   answer.addQueryItem("state", valueOf(query, "state"));
+  answer.addQueryItem("iss", address());
   redirect.setQuery(answer);
   return redirectTo(QString::fromLatin1(redirect.toEncoded()));
 }

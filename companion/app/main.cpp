@@ -131,15 +131,15 @@ int runCompanion(CompanionOptions options) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  const bool needsDisplay = chooseDisplay(argc, argv);
+  const DisplayChoice display = chooseDisplay(argc, argv);
   Application application(argc, argv);
   QApplication::setApplicationName("companion");
   QApplication::setApplicationVersion(KZ_VERSION);
   QGuiApplication::setDesktopFileName("brenn-mivra-companion");
   QApplication::setWindowIcon(QIcon(":/companion/companion.png"));
   QApplication::setQuitOnLastWindowClosed(false);
-  const CompanionOptions options = CompanionOptions::read(Application::arguments());
-  if (needsDisplay && QGuiApplication::platformName() == "offscreen") {
+  const CompanionOptions options = CompanionOptions::read(Application::arguments(), display);
+  if (display == DisplayChoice::Session && QGuiApplication::platformName() == "offscreen") {
     complain(displayProblem());
     return kUnusable;
   }

@@ -414,17 +414,4 @@ TEST_F(ADRefreshTest, CompletionMayDestroyTheContext) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return isDone; }));
 }
 
-TEST_F(ADRefreshTest, ConfigurationMustNotLeadOutOfTheProtectedWeb) {
-  server.handle("/common/.well-known/openid-configuration", [this](const sandbox::HttpRequest&) {
-    return sandbox::jsonResponse({{"issuer", authority->address()},
-                                  {"authorization_endpoint", "https://login.example.com/a"},
-                                  {"token_endpoint", "http://login.example.com/t"}});
-  });
-  context = contextFor(authority->address());
-  Result result;
-  refresh(result, "refresh-unknown");
-  ASSERT_TRUE(waitFor(result));
-  EXPECT_EQ(result->error->code, ADErrorCode::AddressNotAllowed);
-}
-
 }  // namespace

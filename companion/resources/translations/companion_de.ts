@@ -48,6 +48,10 @@
         <translation>%1 lässt Sie nicht zu. Bitten Sie Ihre Administration um Zugang.</translation>
     </message>
     <message>
+        <source>%1 does not offer the encryption that is needed. Ask your administrator to mend it.</source>
+        <translation>%1 bietet nicht die nötige Verschlüsselung an. Bitten Sie Ihre Administration, das zu beheben.</translation>
+    </message>
+    <message>
         <source>%1 gave no usable answer. Check its name, or tell your administrator.</source>
         <translation>%1 hat keine brauchbare Antwort gegeben. Prüfen Sie den Namen oder wenden Sie sich an Ihre Administration.</translation>
     </message>
@@ -322,6 +326,14 @@
     <message>
         <source>The certificate of %1 belongs to another name. Ask your administrator to mend it.</source>
         <translation>Das Zertifikat von %1 gilt für einen anderen Namen. Bitten Sie Ihre Administration, das zu beheben.</translation>
+    </message>
+    <message>
+        <source>The certificate of %1 has expired. Check the date of this computer, or ask your administrator to renew it.</source>
+        <translation>Das Zertifikat von %1 ist abgelaufen. Prüfen Sie das Datum dieses Computers, oder bitten Sie Ihre Administration, es zu erneuern.</translation>
+    </message>
+    <message>
+        <source>The certificate of %1 is not valid yet. Check the date of this computer.</source>
+        <translation>Das Zertifikat von %1 ist noch nicht gültig. Prüfen Sie das Datum dieses Computers.</translation>
     </message>
     <message>
         <source>The certificate of %1 is not trusted. Ask your administrator before you go on.</source>

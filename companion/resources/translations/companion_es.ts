@@ -48,6 +48,10 @@
         <translation>%1 no le permite el acceso. Solicítelo a su administrador.</translation>
     </message>
     <message>
+        <source>%1 does not offer the encryption that is needed. Ask your administrator to mend it.</source>
+        <translation>%1 no ofrece el cifrado necesario. Pida a su administrador que lo corrija.</translation>
+    </message>
+    <message>
         <source>%1 gave no usable answer. Check its name, or tell your administrator.</source>
         <translation>%1 no dio una respuesta utilizable. Compruebe el nombre o avise a su administrador.</translation>
     </message>
@@ -322,6 +326,14 @@
     <message>
         <source>The certificate of %1 belongs to another name. Ask your administrator to mend it.</source>
         <translation>El certificado de %1 corresponde a otro nombre. Pida a su administrador que lo corrija.</translation>
+    </message>
+    <message>
+        <source>The certificate of %1 has expired. Check the date of this computer, or ask your administrator to renew it.</source>
+        <translation>El certificado de %1 ha caducado. Compruebe la fecha de este equipo o pida a su administrador que lo renueve.</translation>
+    </message>
+    <message>
+        <source>The certificate of %1 is not valid yet. Check the date of this computer.</source>
+        <translation>El certificado de %1 aún no es válido. Compruebe la fecha de este equipo.</translation>
     </message>
     <message>
         <source>The certificate of %1 is not trusted. Ask your administrator before you go on.</source>

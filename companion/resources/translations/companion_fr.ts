@@ -48,6 +48,10 @@
         <translation>%1 vous refuse l’accès. Demandez un accès à votre administrateur.</translation>
     </message>
     <message>
+        <source>%1 does not offer the encryption that is needed. Ask your administrator to mend it.</source>
+        <translation>%1 ne propose pas le chiffrement nécessaire. Demandez à votre administrateur de le corriger.</translation>
+    </message>
+    <message>
         <source>%1 gave no usable answer. Check its name, or tell your administrator.</source>
         <translation>%1 n’a pas donné de réponse exploitable. Vérifiez son nom ou prévenez votre administrateur.</translation>
     </message>
@@ -322,6 +326,14 @@
     <message>
         <source>The certificate of %1 belongs to another name. Ask your administrator to mend it.</source>
         <translation>Le certificat de %1 est établi pour un autre nom. Demandez à votre administrateur de le corriger.</translation>
+    </message>
+    <message>
+        <source>The certificate of %1 has expired. Check the date of this computer, or ask your administrator to renew it.</source>
+        <translation>Le certificat de %1 a expiré. Vérifiez la date de cet ordinateur ou demandez à votre administrateur de le renouveler.</translation>
+    </message>
+    <message>
+        <source>The certificate of %1 is not valid yet. Check the date of this computer.</source>
+        <translation>Le certificat de %1 n’est pas encore valable. Vérifiez la date de cet ordinateur.</translation>
     </message>
     <message>
         <source>The certificate of %1 is not trusted. Ask your administrator before you go on.</source>

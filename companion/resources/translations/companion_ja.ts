@@ -48,6 +48,10 @@
         <translation>%1 へのアクセスが許可されていません。管理者にアクセス権を依頼してください。</translation>
     </message>
     <message>
+        <source>%1 does not offer the encryption that is needed. Ask your administrator to mend it.</source>
+        <translation>%1 は必要な暗号化に対応していません。管理者に修正を依頼してください。</translation>
+    </message>
+    <message>
         <source>%1 gave no usable answer. Check its name, or tell your administrator.</source>
         <translation>%1 から有効な応答がありませんでした。名前を確認するか、管理者に連絡してください。</translation>
     </message>
@@ -322,6 +326,14 @@
     <message>
         <source>The certificate of %1 belongs to another name. Ask your administrator to mend it.</source>
         <translation>%1 の証明書は別の名前のものです。管理者に修正を依頼してください。</translation>
+    </message>
+    <message>
+        <source>The certificate of %1 has expired. Check the date of this computer, or ask your administrator to renew it.</source>
+        <translation>%1 の証明書は期限切れです。このコンピューターの日付を確認するか、管理者に更新を依頼してください。</translation>
+    </message>
+    <message>
+        <source>The certificate of %1 is not valid yet. Check the date of this computer.</source>
+        <translation>%1 の証明書はまだ有効期間に入っていません。このコンピューターの日付を確認してください。</translation>
     </message>
     <message>
         <source>The certificate of %1 is not trusted. Ask your administrator before you go on.</source>

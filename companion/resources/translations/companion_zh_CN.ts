@@ -48,6 +48,10 @@
         <translation>%1 拒绝您访问。请向管理员申请访问权限。</translation>
     </message>
     <message>
+        <source>%1 does not offer the encryption that is needed. Ask your administrator to mend it.</source>
+        <translation>%1 不提供所需的加密。请让管理员修正。</translation>
+    </message>
+    <message>
         <source>%1 gave no usable answer. Check its name, or tell your administrator.</source>
         <translation>%1 未给出可用的响应。请检查名称或联系管理员。</translation>
     </message>
@@ -322,6 +326,14 @@
     <message>
         <source>The certificate of %1 belongs to another name. Ask your administrator to mend it.</source>
         <translation>%1 的证书属于其他名称。请让管理员修正。</translation>
+    </message>
+    <message>
+        <source>The certificate of %1 has expired. Check the date of this computer, or ask your administrator to renew it.</source>
+        <translation>%1 的证书已过期。请检查此计算机的日期，或让管理员更新证书。</translation>
+    </message>
+    <message>
+        <source>The certificate of %1 is not valid yet. Check the date of this computer.</source>
+        <translation>%1 的证书尚未生效。请检查此计算机的日期。</translation>
     </message>
     <message>
         <source>The certificate of %1 is not trusted. Ask your administrator before you go on.</source>
