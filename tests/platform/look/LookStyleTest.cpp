@@ -175,6 +175,18 @@ TEST_F(LookStyleTest, AFieldCanDoWithoutRing) {
   EXPECT_EQ(picture.pixelColor(40, 1), field->palette().color(QPalette::Base));
 }
 
+TEST_F(LookStyleTest, APopUpShowsItsTextUncut) {
+  auto* popUp = add(new PopUpButton({"7", "14"}), {20, 100, 50, 22});
+  popUp->setTitle("14");
+  show();
+  const QRect room(2, 3, 30, 16);
+  const QRect ink = drawnOn(Qt::white, popUp->grab().toImage(), room);
+  // Both digits are whole and do not overlap the tile.
+  EXPECT_GE(ink.width(), popUp->fontMetrics().tightBoundingRect("14").width() - 2);
+  EXPECT_LT(ink.right(), room.right());
+  EXPECT_GE(ink.height(), 8);
+}
+
 TEST_F(LookStyleTest, AMenuReadsTheMarksInItsTexts) {
   QMenu menu;
   menu.setStyle(lookStyle());
