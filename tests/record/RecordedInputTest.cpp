@@ -133,6 +133,15 @@ TEST_F(RecordedInput, AChoiceIsOneStepByMouseAndByKeyboard) {
             "{\"choose\":\"m_minutesBtn\",\"item\":\"" + button->title().toStdString() + "\"}");
 }
 
+TEST_F(RecordedInput, KeysThatAreNoText) {
+  press(Qt::Key_Tab);
+  press(Qt::Key_W, Qt::ControlModifier);
+  EXPECT_TRUE(stepsIn(m_lines).value(0).startsWith("{\"key\":\"Tab\"")) << qPrintable(steps());
+  EXPECT_TRUE(stepsIn(m_lines).value(1).startsWith("{\"key\":\"w\"")) << qPrintable(steps());
+  EXPECT_TRUE(steps().endsWith("\"modifiers\":[\"command\"]}")) << qPrintable(steps());
+  EXPECT_FALSE(window()->isVisible());
+}
+
 TEST_F(RecordedInput, AKeyOfAPasswordIsNoStep) {
   showPane("Meetings");
   clickOn(control("m_outlookRadioBtn"));
