@@ -38,7 +38,8 @@ class KZTokenCacheStorage {
   // Takes the blob from the keychain; afterwards there is none when the status is not 0.
   [[nodiscard]] virtual qint32 readFromKeychain() = 0;
 
-  // Without a blob, -25300, and the keychain is left as it is.
+  // Without a blob, -25300, and the keychain is left as it is. Otherwise 0: the blob counts at once, and is
+  // carried to the keyring in the background.
   [[nodiscard]] virtual qint32 writeToKeychain() = 0;
 
   // Removes every token, from the keychain too: true when the keychain has confirmed that it has none. False
