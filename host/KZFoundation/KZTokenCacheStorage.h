@@ -27,8 +27,8 @@ class KZTokenCacheStorage {
   // A path for the file, in the user's home folder. The plug-in itself uses no file.
   virtual QString defaultSavePath() const = 0;
 
-  // Takes the blob from the file, as it is: a damaged one counts as an empty cache when it is used, with an
-  // error trace. False, and no blob, when the file cannot be read.
+  // Takes the blob from the file, as it is. A damaged one is not used, with an error trace: the cache keeps
+  // what it has, and the next run starts without tokens. False, and no blob, when the file cannot be read.
   [[nodiscard]] virtual bool readFromFile(const QString& path) = 0;
 
   // Replaces the file, for its owner only. False, with a message in the system log and the old file
