@@ -80,9 +80,10 @@ void TokenRequests::refresh(const Content& content, const Dictionary& token) {
 }
 
 // The wrapper answers the request that started the refresh, as soon as this returns. The others follow in the
-// order in which they came.
+// order in which they came, while the next refresh is out.
 void TokenRequests::onRefreshed(const ADAuthenticationResult& result) {
   const QList<Content> waiting = m_waiting.take(*std::exchange(m_refreshing, {}));
+  if (!m_turns.isEmpty()) later([this] { takeTurn(); });
   for (const Content& content : waiting) {
     later([this, content, result] {
       const Dictionary token = tokenFor(content);
@@ -90,7 +91,6 @@ void TokenRequests::onRefreshed(const ADAuthenticationResult& result) {
       answer(content, ADAuthenticationWrapper::refreshAnswer({}, result));
     });
   }
-  if (!m_turns.isEmpty()) later([this] { takeTurn(); });
 }
 
 void TokenRequests::answer(const Content& content, const Dictionary& token) {
