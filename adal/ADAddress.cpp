@@ -21,6 +21,12 @@ bool isAllowedAddress(const QUrl& address) {
   return address.scheme() == QLatin1String("https") || isPlainLoopback(address);
 }
 
+bool isSameOrigin(const QUrl& left, const QUrl& right) {
+  const int usualPort = left.scheme() == QLatin1String("https") ? 443 : 80;
+  return left.scheme() == right.scheme() && left.host() == right.host() &&
+         left.port(usualPort) == right.port(usualPort);
+}
+
 bool isLoopbackRedirect(const QUrl& address) {
   return address.isValid() && isPlainLoopback(address) && !address.hasFragment() &&
          address.userInfo().isEmpty();

@@ -11,6 +11,8 @@
 // Whether secrets may be sent there: https, or plain http to the loopback address.
 bool isAllowedAddress(const QUrl& address);
 
+bool isSameOrigin(const QUrl& left, const QUrl& right);
+
 // Whether the loopback listener can receive the redirect: plain http to the loopback address.
 bool isLoopbackRedirect(const QUrl& address);
 

@@ -10,7 +10,7 @@
 struct ADAuthenticationContext::Private {
   QString authority;
   std::vector<std::shared_ptr<ADSignIn>> signIns;
-  std::vector<std::unique_ptr<ADRefresh>> refreshes;
+  std::vector<std::shared_ptr<ADRefresh>> refreshes;
 };
 
 ADAuthenticationContext::ADAuthenticationContext(const QString& authority) : d(std::make_unique<Private>()) {
@@ -18,7 +18,8 @@ ADAuthenticationContext::ADAuthenticationContext(const QString& authority) : d(s
 }
 
 ADAuthenticationContext::~ADAuthenticationContext() {
-  for (const std::shared_ptr<ADSignIn>& signIn : d->signIns) signIn->leave(this);
+  for (const std::shared_ptr<ADSignIn>& signIn : d->signIns) signIn->completions().leave(this);
+  for (const std::shared_ptr<ADRefresh>& refresh : d->refreshes) refresh->completions().leave(this);
 }
 
 std::unique_ptr<ADAuthenticationContext> ADAuthenticationContext::initWithAuthority(
@@ -43,8 +44,9 @@ void ADAuthenticationContext::acquireTokenWithResource(
                                                                  .userIdentifier = userIdentifier,
                                                                  .extraQueryParameters = extraQueryParameters,
                                                                  .claims = claims});
-  std::erase_if(d->signIns, [](const std::shared_ptr<ADSignIn>& old) { return old->isFinished(); });
-  signIn->join(this, std::move(completionBlock));
+  std::erase_if(d->signIns,
+                [](const std::shared_ptr<ADSignIn>& old) { return old->completions().isEmpty(); });
+  signIn->completions().join(this, std::move(completionBlock));
   d->signIns.push_back(signIn);
 }
 
@@ -53,11 +55,10 @@ void ADAuthenticationContext::acquireTokenWithRefreshToken(const QString& refres
                                                            const QString& resource, const QString& clientId,
                                                            const QUrl& /*redirectUri*/,
                                                            ADAuthenticationCallback completionBlock) {
-  std::erase_if(d->refreshes, [](const std::unique_ptr<ADRefresh>& old) { return old->isFinished(); });
-  d->refreshes.push_back(std::make_unique<ADRefresh>(ADRefreshRequest{.authority = d->authority,
-                                                                      .refreshToken = refreshToken,
-                                                                      .resource = resource,
-                                                                      .clientId = clientId},
-                                                     std::move(completionBlock)));
-  d->refreshes.back()->start();
+  const std::shared_ptr<ADRefresh> refresh = ADRefresh::forRequest(
+      {.authority = d->authority, .refreshToken = refreshToken, .resource = resource, .clientId = clientId});
+  std::erase_if(d->refreshes,
+                [](const std::shared_ptr<ADRefresh>& old) { return old->completions().isEmpty(); });
+  refresh->completions().join(this, std::move(completionBlock));
+  d->refreshes.push_back(refresh);
 }

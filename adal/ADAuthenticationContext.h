@@ -11,8 +11,8 @@
 enum class ADAuthorityValidation { Off };
 
 // Gets tokens from one authority and stores them in the default cache. Main thread only; nothing blocks. Each
-// completion is called once, from the event loop. Destroying the context cancels its requests without calling
-// their completions.
+// completion is called once, from the event loop, a sign-in's when no refresh is in progress. Destroying the
+// context cancels its requests without calling their completions.
 class ADAL_EXPORT ADAuthenticationContext final {
  public:
   // Null, with the reason in `error`, for a text that cannot be read as an address. Requests to an address
@@ -29,6 +29,9 @@ class ADAL_EXPORT ADAuthenticationContext final {
                                 const QString& extraQueryParameters, const QString& claims,
                                 ADAuthenticationCallback completionBlock);
 
+  // Redeems a refresh token. A request equal to one in progress joins it; another one for the same stored
+  // token waits for it, and redeems what is stored by then. A stored token of another authority's origin or
+  // of another client is not sent: the request fails.
   void acquireTokenWithRefreshToken(const QString& refreshToken, const QString& resource,
                                     const QString& clientId, const QUrl& redirectUri,
                                     ADAuthenticationCallback completionBlock);

@@ -11,6 +11,7 @@ struct ADAuthenticationSettings::Private {
   mutable QMutex mutex;
   BrowserOpener opener;
   TextLookUp lookUp;
+  TextLanguage language;
   ADRequestLimits limits;
 
   template <typename T>
@@ -40,8 +41,9 @@ void ADAuthenticationSettings::setDefaultStorageDelegate(ADTokenCacheDelegate* d
 void ADAuthenticationSettings::setBrowserOpener(BrowserOpener opener) {
   d->assign(d->opener, std::move(opener));
 }
-void ADAuthenticationSettings::setTextLookUp(TextLookUp lookUp) {
+void ADAuthenticationSettings::setTextLookUp(TextLookUp lookUp, TextLanguage language) {
   d->assign(d->lookUp, std::move(lookUp));
+  d->assign(d->language, std::move(language));
 }
 void ADAuthenticationSettings::setLimits(const ADRequestLimits& limits) {
   d->assign(d->limits, limits);
@@ -55,6 +57,11 @@ bool ADAuthenticationSettings::openBrowser(const QUrl& address) const {
 QString ADAuthenticationSettings::text(const char* english) const {
   const TextLookUp lookUp = d->copyOf(d->lookUp);
   return lookUp ? lookUp(english) : QString::fromUtf8(english);
+}
+
+QString ADAuthenticationSettings::textLanguage() const {
+  const TextLanguage language = d->copyOf(d->language);
+  return language ? language() : QStringLiteral("en");
 }
 
 ADRequestLimits ADAuthenticationSettings::limits() const {

@@ -5,6 +5,7 @@
 #include <QJsonObject>
 
 #include "adal/ADAddress.h"
+#include "adal/ADLogger.h"
 #include "adal/ADWebClient.h"
 
 namespace {
@@ -14,9 +15,12 @@ constexpr ADProtocolGeneration resourceGeneration{"resource", "openid", "login"}
 constexpr ADProtocolGeneration scopeGeneration{"scope", "openid profile email offline_access",
                                                "login consent"};
 
+QString withoutSlash(const QString& address) {
+  return address.endsWith(QLatin1Char('/')) ? address.chopped(1) : address;
+}
+
 QUrl pathBelow(const QString& authority, const char* path) {
-  const QString root = authority.endsWith(QLatin1Char('/')) ? authority.chopped(1) : authority;
-  return QUrl(root + QLatin1String(path));
+  return QUrl(withoutSlash(authority) + QLatin1String(path));
 }
 
 QStringList textsUnder(const QJsonObject& document, const char* key) {
@@ -45,7 +49,21 @@ QString scopeForResource(const QString& resource) {
   return resource + QLatin1String(resource.endsWith(QLatin1Char('/')) ? ".default" : "/.default");
 }
 
+// A remote authority must not direct requests to programs on this machine.
+bool isAllowedEndpoint(const QUrl& endpoint, const QString& authority) {
+  return isAllowedAddress(endpoint) && !endpoint.hasFragment() &&
+         (endpoint.scheme() == QLatin1String("https") || QUrl(authority).scheme() == QLatin1String("http"));
+}
+
+ADEndpointsOrError endpointsFailure(ADErrorCode code, const QString& details) {
+  return {{}, ADError{code, details}};
+}
+
 }  // namespace
+
+bool isIssuer(const QString& issuer, const QString& authority) {
+  return !issuer.isEmpty() && withoutSlash(issuer) == withoutSlash(authority);
+}
 
 ADParameters ADEndpoints::resourceParameters(const QString& resource) const {
   ADParameters parameters;
@@ -69,24 +87,37 @@ ADParameters ADEndpoints::promptParameters(ADPromptBehavior behavior) const {
 
 ADEndpointsOrError endpointsFromAnswer(const QString& authority, const ADWebAnswer& answer) {
   if (answer.error) return {{}, answer.error};
-  const QJsonDocument document = QJsonDocument::fromJson(answer.body);
-  if (answer.status != 200 || !document.isObject()) {
-    const ADEndpoints usual{pathBelow(authority, "/oauth2/authorize"),
-                            pathBelow(authority, "/oauth2/token"),
-                            &generationOf(authority, {}),
-                            {},
-                            {}};
-    return {usual, {}};
+  if (answer.status == 404 || answer.status == 410) {
+    ADLogger::log(ADLogLevel::Info,
+                  QStringLiteral("the authority has no configuration: the usual paths are assumed"));
+    return {{.authorization = pathBelow(authority, "/oauth2/authorize"),
+             .token = pathBelow(authority, "/oauth2/token"),
+             .generation = &generationOf(authority, {}),
+             .knownScopes = {},
+             .issuer = {}},
+            {}};
   }
-  const QJsonObject configuration = document.object();
+  const QString status = QStringLiteral("status %1 for the configuration").arg(answer.status);
+  if (answer.status == 429 || answer.status >= 500) return endpointsFailure(ADErrorCode::Unavailable, status);
+  if (answer.status != 200) return endpointsFailure(ADErrorCode::ServerAnswer, status);
+
+  const QJsonObject configuration = QJsonDocument::fromJson(answer.body).object();
   const QStringList scopes = textsUnder(configuration, "scopes_supported");
-  const ADEndpoints endpoints{QUrl(configuration.value(QLatin1String("authorization_endpoint")).toString()),
-                              QUrl(configuration.value(QLatin1String("token_endpoint")).toString()),
-                              &generationOf(authority, scopes), scopes,
-                              configuration.value(QLatin1String("issuer")).toString()};
-  if (!isAllowedAddress(endpoints.authorization) || !isAllowedAddress(endpoints.token)) {
-    return {{}, ADError{ADErrorCode::AddressNotAllowed, QStringLiteral("in the authority's configuration")}};
-  }
+  const ADEndpoints endpoints{
+      .authorization = QUrl(configuration.value(QLatin1String("authorization_endpoint")).toString()),
+      .token = QUrl(configuration.value(QLatin1String("token_endpoint")).toString()),
+      .generation = &generationOf(authority, scopes),
+      .knownScopes = scopes,
+      .issuer = configuration.value(QLatin1String("issuer")).toString(),
+      .namesIssuer =
+          configuration.value(QLatin1String("authorization_response_iss_parameter_supported")).toBool()};
+  if (!isIssuer(endpoints.issuer, authority))
+    return endpointsFailure(ADErrorCode::ServerAnswer,
+                            QStringLiteral("the configuration does not name this issuer"));
+  if (!isAllowedEndpoint(endpoints.authorization, authority) ||
+      !isAllowedEndpoint(endpoints.token, authority))
+    return endpointsFailure(ADErrorCode::AddressNotAllowed,
+                            QStringLiteral("in the authority's configuration"));
   return {endpoints, {}};
 }
 

@@ -24,8 +24,9 @@ struct ADEndpoints {
   QUrl authorization;
   QUrl token;
   const ADProtocolGeneration* generation = nullptr;
-  QStringList knownScopes;  // empty: not known
-  QString issuer;           // empty: not known
+  QStringList knownScopes;   // empty: not known
+  QString issuer;            // empty: not known
+  bool namesIssuer = false;  // in the answer of the sign-in page
 
   // "resource" and "scope", as the generation expects them.
   ADParameters resourceParameters(const QString& resource) const;
@@ -37,9 +38,13 @@ struct ADEndpointsOrError {
   std::optional<ADError> error;
 };
 
-// Reads the authority's OpenID configuration document; without one, the usual paths are assumed. An authority
-// that is neither https nor http to the loopback address is an error, and `done` is called at once.
+// Reads the authority's OpenID configuration document, which must be its own. If it has none (404), the usual
+// paths are assumed. An authority that is neither https nor http to the loopback address is an error, and
+// `done` is called at once.
 void findEndpoints(ADWebClient& web, const QString& authority,
                    const std::function<void(const ADEndpointsOrError&)>& done);
+
+// Whether the names are of one authority: equal except for a slash at the end.
+bool isIssuer(const QString& issuer, const QString& authority);
 
 ADEndpointsOrError endpointsFromAnswer(const QString& authority, const ADWebAnswer& answer);

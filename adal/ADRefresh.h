@@ -2,35 +2,55 @@
 
 #include <QObject>
 #include <QString>
+#include <functional>
+#include <memory>
 #include <optional>
 
 #include "adal/ADAuthenticationResult.h"
+#include "adal/ADCompletions.h"
 #include "adal/ADEndpoints.h"
 #include "adal/ADRequest.h"
 #include "adal/ADTokenAnswer.h"
 #include "adal/ADWebClient.h"
 
-// Redeems one refresh token. Destroying it cancels the request without calling the completion. A failure
-// leaves the stored tokens unchanged.
-class ADRefresh final : public QObject {
+// One redemption of a refresh token, shared by equal requests. A stored token is redeemed once at a time:
+// another request for it waits, and then redeems what is stored by then. A token is sent only to the
+// authority and as the client that got it. When all of its owners have left, it is cancelled. A failure
+// leaves the stored tokens unchanged. Main thread only.
+class ADRefresh final : public QObject, public std::enable_shared_from_this<ADRefresh> {
  public:
-  ADRefresh(const ADRefreshRequest& request, ADAuthenticationCallback completion);
+  // The refresh in progress for an equal request, or a new one.
+  static std::shared_ptr<ADRefresh> forRequest(const ADRefreshRequest& request);
 
-  void start();
-  bool isFinished() const { return !m_completion; }
+  // Calls `action` from the event loop, as soon as no refresh is in progress or has a completion to call.
+  static void whenNoneIsInProgress(const std::function<void()>& action);
+
+  explicit ADRefresh(const ADRefreshRequest& request);
+  ~ADRefresh() override;
+
+  ADCompletions& completions() { return m_completions; }
 
  private:
-  void redeem(const QString& refreshToken);
+  static void goOn();
+  static void goOnLater();
+
+  bool answers(const ADRefresh& other) const;
+  bool usesTokenOf(const ADRefresh& other) const;
+  std::optional<ADTokenCacheItem> storedHolder() const;
+  QString token() const { return m_holder ? m_holder->refreshToken : m_request.refreshToken; }
+  void start();
+  void redeem();
   void onAnswer(const ADTokenAnswerOrError& answer);
-  void store(const ADTokenAnswer& answer);
-  std::optional<ADTokenCacheItem> successor() const;
+  [[nodiscard]] ADAuthenticationResult store(const ADTokenAnswer& answer) const;
+  void fail(ADErrorCode code, const QString& details);
   void finish(const ADAuthenticationResult& result);
 
   const ADRefreshRequest m_request;
-  ADAuthenticationCallback m_completion;
+  ADCompletions m_completions;
   ADWebClient m_web;
   ADEndpoints m_endpoints;
-  std::optional<ADTokenCacheItem> m_holder;  // the stored item whose refresh token is being redeemed
-  bool m_namesScopes = true;
+  std::optional<ADTokenCacheItem> m_holder;  // the stored item whose refresh token is redeemed
+  bool m_hasStarted = false;
+  bool m_isFinished = false;
   bool m_hasTriedSuccessor = false;
 };

@@ -4,12 +4,14 @@
 #include <QCryptographicHash>
 #include <QRandomGenerator>
 #include <QThread>
+#include <algorithm>
 #include <array>
 #include <utility>
 
 #include "adal/ADAddress.h"
 #include "adal/ADAuthenticationSettings.h"
 #include "adal/ADLogger.h"
+#include "adal/ADRefresh.h"
 #include "adal/ADTokenAnswer.h"
 
 namespace {
@@ -36,10 +38,14 @@ bool canShowDialogs() {
   return qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr;
 }
 
-// Deleted later, because the dialog or the listener may be the caller.
-template <typename T>
-void releaseLater(std::unique_ptr<T>& object) {
-  if (object) object.release()->deleteLater();
+bool contains(const ADParameters& parameters, const QString& name) {
+  return std::any_of(parameters.begin(), parameters.end(),
+                     [&](const auto& parameter) { return parameter.first == name; });
+}
+
+ADBrowserPage pageFor(const ADAuthenticationResult& result) {
+  if (!result.error) return ADBrowserPage::SignedIn;
+  return result.error->code == ADErrorCode::Refused ? ADBrowserPage::Refused : ADBrowserPage::Failed;
 }
 
 }  // namespace
@@ -64,19 +70,11 @@ ADSignIn::ADSignIn(const ADSignInRequest& request)
   m_deadline.setSingleShot(true);
   connect(&m_deadline, &QTimer::timeout, this, [this] { fail({ADErrorCode::TimedOut, {}}); });
   // Windows and sockets must not outlive the application object; this object may.
-  connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, &ADSignIn::stopWaiting);
+  connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, &ADSignIn::giveUp);
 }
 
 ADSignIn::~ADSignIn() {
-  stopWaiting();
-}
-
-void ADSignIn::join(const void* owner, ADAuthenticationCallback completion) {
-  m_waiting.append({owner, std::move(completion)});
-}
-
-void ADSignIn::leave(const void* owner) {
-  m_waiting.removeIf([owner](const auto& waiting) { return waiting.first == owner; });
+  giveUp();
 }
 
 void ADSignIn::start() {
@@ -117,7 +115,8 @@ void ADSignIn::openPage(const ADEndpoints& endpoints) {
 
 std::optional<ADError> ADSignIn::openListener() {
   m_listener =
-      std::make_unique<ADLoopbackListener>([this](const ADParameters& answer) { return onCallback(answer); });
+      std::make_unique<ADLoopbackListener>([this](const ADParameters& answer) { return isExpected(answer); });
+  connect(m_listener.get(), &ADLoopbackListener::answered, this, &ADSignIn::onAnswer);
   const std::optional<ADError> failure = m_listener->listen(m_redirectUri);
   m_redirectUri = m_listener->redirectUri();
   return failure;
@@ -162,35 +161,41 @@ void ADSignIn::openBrowser() {
   if (!m_dialog) fail({ADErrorCode::InvalidArgument, QStringLiteral("no browser opened")});
 }
 
-ADLoopbackListener::Verdict ADSignIn::onCallback(const ADParameters& answer) {
-  using Verdict = ADLoopbackListener::Verdict;
-  if (m_isFinished || onlyValue(answer, QStringLiteral("state")) != QString::fromLatin1(m_state)) {
-    ADLogger::log(ADLogLevel::Warn,
-                  QStringLiteral("sign-in: an answer without this request's state was ignored"));
-    return Verdict::NotOurs;
+bool ADSignIn::isExpected(const ADParameters& answer) const {
+  if (onlyValue(answer, QStringLiteral("state")) != QString::fromLatin1(m_state)) return false;
+  if (!m_endpoints.issuer.isEmpty()) {
+    // Another authority's answer must not be redeemed at this one.
+    const bool hasIssuer = contains(answer, QStringLiteral("iss"));
+    const QString issuer = onlyValue(answer, QStringLiteral("iss")).value_or(QString());
+    if (hasIssuer ? !isIssuer(issuer, m_endpoints.issuer) : m_endpoints.namesIssuer) return false;
   }
   const std::optional<QString> code = onlyValue(answer, QStringLiteral("code"));
+  return onlyValue(answer, QStringLiteral("error")) || (code && !code->isEmpty());
+}
+
+void ADSignIn::onAnswer(const ADParameters& answer) {
   const std::optional<QString> error = onlyValue(answer, QStringLiteral("error"));
-  if (error) {
-    fail(*error == QLatin1String("access_denied")
-             ? ADError{ADErrorCode::Refused, *error}
-             : ADError{ADErrorCode::Refused, QStringLiteral("by the sign-in page")});
-    return Verdict::Taken;
+  if (!error) {
+    redeem(*onlyValue(answer, QStringLiteral("code")));
+    return;
   }
-  if (!code || code->isEmpty()) return Verdict::NotOurs;
-  redeem(*code);
-  return Verdict::Taken;
+  fail(*error == QLatin1String("access_denied")
+           ? ADError{ADErrorCode::Refused, *error}
+           : ADError{ADErrorCode::Refused, QStringLiteral("by the sign-in page")});
 }
 
 // Users may paste the code, or the whole address at which the browser ended.
 void ADSignIn::onCodeEntered(const QString& entered) {
-  const qsizetype mark = entered.indexOf(QLatin1Char('?'));
-  if (mark < 0) {
+  const ADParameters answer =
+      decodedParameters(entered.section(QLatin1Char('?'), 1).section(QLatin1Char('#'), 0, 0).toUtf8());
+  const bool isAddress =
+      entered.contains(QLatin1String("://")) || contains(answer, QStringLiteral("state")) ||
+      contains(answer, QStringLiteral("code")) || contains(answer, QStringLiteral("error"));
+  if (!isAddress) {
     redeem(entered);
-    return;
-  }
-  if (onCallback(decodedParameters(entered.sliced(mark + 1).toUtf8())) ==
-      ADLoopbackListener::Verdict::NotOurs) {
+  } else if (isExpected(answer)) {
+    onAnswer(answer);
+  } else {
     m_dialog->showProblem(
         ADAuthenticationSettings::sharedInstance().text("This is not the expected answer."));
   }
@@ -217,7 +222,7 @@ void ADSignIn::redeem(const QString& code) {
                                                                             .authority = m_request.authority,
                                                                             .resource = m_request.resource,
                                                                             .clientId = m_request.clientId});
-      storeItems(items);
+      storeSignedIn(items);
       finish(ADAuthenticationResult::succeeded(items.last()));
     }
   });
@@ -230,23 +235,29 @@ void ADSignIn::fail(const ADError& error) {
 void ADSignIn::finish(const ADAuthenticationResult& result) {
   if (std::exchange(m_isFinished, true)) return;
   stopWaiting();
+  if (m_listener) ADLoopbackListener::end(std::move(m_listener), pageFor(result));
   ADLogger::log(
       result.error ? ADLogLevel::Error : ADLogLevel::Info,
       QStringLiteral("sign-in: %1").arg(result.error ? result.error->text() : QStringLiteral("succeeded")));
   // From the event loop, so that a completion may destroy the contexts that hold this.
-  QTimer::singleShot(0, this, [this, result] {
-    const std::shared_ptr<ADSignIn> self = shared_from_this();
-    while (!m_waiting.isEmpty()) m_waiting.takeFirst().second(result);
+  // A caller may tell results apart by what is outstanding: the refreshes in progress come first.
+  ADRefresh::whenNoneIsInProgress([self = weak_from_this(), result] {
+    const std::shared_ptr<ADSignIn> signIn = self.lock();
+    if (signIn) signIn->m_completions.call(result);
   });
 }
 
 void ADSignIn::stopWaiting() {
   m_deadline.stop();
-  if (m_dialog) {
-    m_dialog->disconnect(this);
-    m_dialog->hide();
-  }
-  if (m_listener) m_listener->close();
-  releaseLater(m_dialog);
-  releaseLater(m_listener);
+  if (!m_dialog) return;
+  m_dialog->disconnect(this);
+  m_dialog->hide();
+  // Later, because it may be the caller.
+  m_dialog.release()->deleteLater();
+}
+
+// Ends at once, also in the browser.
+void ADSignIn::giveUp() {
+  stopWaiting();
+  if (m_listener) ADLoopbackListener::close(std::move(m_listener), ADBrowserPage::Failed);
 }

@@ -5,7 +5,7 @@
 #include <QTimer>
 #include <memory>
 
-#include "adal/ADAuthenticationResult.h"
+#include "adal/ADCompletions.h"
 #include "adal/ADEndpoints.h"
 #include "adal/ADLoopbackListener.h"
 #include "adal/ADRequest.h"
@@ -22,11 +22,7 @@ class ADSignIn final : public QObject, public std::enable_shared_from_this<ADSig
   explicit ADSignIn(const ADSignInRequest& request);
   ~ADSignIn() override;
 
-  // Calls `completion` with the result, unless `owner` leaves before.
-  void join(const void* owner, ADAuthenticationCallback completion);
-  void leave(const void* owner);
-
-  bool isFinished() const { return m_isFinished; }
+  ADCompletions& completions() { return m_completions; }
 
  private:
   void start();
@@ -35,15 +31,17 @@ class ADSignIn final : public QObject, public std::enable_shared_from_this<ADSig
   [[nodiscard]] std::optional<ADError> openListener();
   void showDialog(ADSignInDialog::Kind kind);
   void openBrowser();
-  ADLoopbackListener::Verdict onCallback(const ADParameters& answer);
+  bool isExpected(const ADParameters& answer) const;
+  void onAnswer(const ADParameters& answer);
   void onCodeEntered(const QString& entered);
   void redeem(const QString& code);
   void fail(const ADError& error);
   void finish(const ADAuthenticationResult& result);
   void stopWaiting();
+  void giveUp();
 
   const ADSignInRequest m_request;
-  QList<std::pair<const void*, ADAuthenticationCallback>> m_waiting;
+  ADCompletions m_completions;
   QByteArray m_state;
   QByteArray m_verifier;
   QUrl m_redirectUri;  // as sent, with the listener's port

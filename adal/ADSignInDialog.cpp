@@ -62,7 +62,7 @@ ADSignInDialog::ADSignInDialog(Kind kind, const QUrl& address) {
 
   auto* const buttons = new QDialogButtonBox;
   auto* const againBtn =
-      buttons->addButton(dialogText("Open the browser again"), QDialogButtonBox::ActionRole);
+      buttons->addButton(dialogText("Open the &browser again"), QDialogButtonBox::ActionRole);
   againBtn->setObjectName(QStringLiteral("m_openAgainBtn"));
   againBtn->setAutoDefault(false);
   connect(againBtn, &QPushButton::clicked, this, &ADSignInDialog::openAgainRequested);
@@ -71,7 +71,7 @@ ADSignInDialog::ADSignInDialog(Kind kind, const QUrl& address) {
   cancelBtn->setAutoDefault(false);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   if (m_codeTxt != nullptr) {
-    m_continueBtn = buttons->addButton(dialogText("Continue"), QDialogButtonBox::AcceptRole);
+    m_continueBtn = buttons->addButton(dialogText("Co&ntinue"), QDialogButtonBox::AcceptRole);
     m_continueBtn->setObjectName(QStringLiteral("m_continueBtn"));
     m_continueBtn->setDefault(true);
     m_continueBtn->setEnabled(false);

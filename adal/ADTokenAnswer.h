@@ -26,7 +26,8 @@ struct ADTokenAnswerOrError {
 // What a token answer must agree with.
 struct ADTokenExpectation {
   QString clientId;
-  QString issuer;  // empty: any
+  QString issuer;       // empty: any
+  QString userId = {};  // empty: any
 };
 
 // The account and resource that tokens are stored for.
@@ -37,8 +38,10 @@ struct ADTokenTarget {
   QString clientId;
 };
 
-// An id_token that names no user, or is for another client, is an error. Its signature is not checked,
-// because TLS has authenticated the token endpoint that it comes from.
+// An authority that does not say how long its access token is good is taken to mean an hour. An id_token that
+// is for another client, from another issuer, expired by the server's own clock, or of no or another user is
+// an error. Its signature is not checked, because TLS has authenticated the token endpoint that it comes
+// from.
 ADTokenAnswerOrError tokenAnswer(const ADWebAnswer& answer, const ADTokenExpectation& expected,
                                  const QDateTime& now);
 
@@ -47,5 +50,5 @@ ADTokenAnswerOrError tokenAnswer(const ADWebAnswer& answer, const ADTokenExpecta
 // items.
 QList<ADTokenCacheItem> itemsForAnswer(const ADTokenAnswer& answer, const ADTokenTarget& target);
 
-// Stores the items in the default cache in one write. A failure is logged.
-void storeItems(const QList<ADTokenCacheItem>& items);
+// Stores the items of a sign-in in the default cache, in place of what they supersede. A failure is logged.
+void storeSignedIn(const QList<ADTokenCacheItem>& items);

@@ -17,6 +17,26 @@ bool isSameData(const QByteArray& left, const QByteArray& right) {
   return left.constData() == right.constData() || left == right;
 }
 
+QList<ADTokenCacheItem> withoutSuperseded(const QList<ADTokenCacheItem>& items,
+                                          const ADTokenCacheItem& refresh, const ADTokenCacheItem& access) {
+  QList<ADTokenCacheItem> kept = items;
+  kept.removeIf([&access](const ADTokenCacheItem& item) {
+    return !item.isMultiResourceRefreshToken() && item.resource == access.resource &&
+           item.isOfSameUser(access);
+  });
+  const QList<ADTokenCacheItem> remaining = kept;
+  const auto isNeeded = [&remaining](const ADTokenCacheItem& token) {
+    return std::any_of(remaining.begin(), remaining.end(), [&token](const ADTokenCacheItem& item) {
+      return !item.isMultiResourceRefreshToken() && item.isOfSameGrant(token);
+    });
+  };
+  kept.removeIf([&](const ADTokenCacheItem& item) {
+    return item.isMultiResourceRefreshToken() && item.isOfSameUser(access) &&
+           (item.isSameEntry(refresh) || !isNeeded(item));
+  });
+  return kept;
+}
+
 }  // namespace
 
 ADTokenCache::ADTokenCache() = default;
@@ -45,29 +65,42 @@ ADTokenCache::Items ADTokenCache::allItems() {
 }
 
 ADTokenCache::Failure ADTokenCache::addOrUpdateItems(const QList<ADTokenCacheItem>& items) {
-  return write([&] {
-    for (const ADTokenCacheItem& item : items) {
-      const auto known = std::find_if(m_items.begin(), m_items.end(),
-                                      [&](const ADTokenCacheItem& other) { return item.isSameEntry(other); });
-      if (known != m_items.end()) {
-        *known = item;
-      } else {
-        m_items.append(item);
-      }
+  return change([&](QList<ADTokenCacheItem>& stored) {
+    for (const ADTokenCacheItem& item : items) addOrUpdate(stored, item);
+    return true;
+  });
+}
+
+ADTokenCache::Failure ADTokenCache::addSignedInItems(const QList<ADTokenCacheItem>& items) {
+  return change([&](QList<ADTokenCacheItem>& stored) {
+    const ADTokenCacheItem& access = items.last();
+    const QList<ADTokenCacheItem> candidates = items + stored;
+    const auto refresh =
+        std::find_if(candidates.begin(), candidates.end(), [&access](const ADTokenCacheItem& item) {
+          return item.isMultiResourceRefreshToken() && item.isOfSameGrant(access);
+        });
+    if (refresh == candidates.end()) {
+      addOrUpdate(stored, access);
+    } else {
+      stored = QList{*refresh, access} + withoutSuperseded(stored, *refresh, access);
     }
+    return true;
   });
 }
 
 ADTokenCache::Failure ADTokenCache::replaceAllItems(const QList<ADTokenCacheItem>& items) {
-  return write([&] { m_items = items; });
+  return change([&](QList<ADTokenCacheItem>& stored) {
+    stored = items;
+    return true;
+  });
 }
 
-ADTokenCache::Failure ADTokenCache::write(const std::function<void()>& change) {
+ADTokenCache::Failure ADTokenCache::change(const Change& change) {
   const QMutexLocker lock(&m_mutex);
   if (m_insideDelegate) return cacheBusy();
   const QScopedValueRollback inside(m_insideDelegate, true);
   if (m_delegate != nullptr) m_delegate->willWriteCache(*this);
-  change();
+  if (!change(m_items)) return {};
   m_serialized = {};
   if (m_delegate != nullptr) m_delegate->didWriteCache(*this);
   return {};

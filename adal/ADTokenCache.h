@@ -12,7 +12,7 @@
 
 class ADTokenCacheDelegate;
 
-// The tokens of all users, in the order in which they were first stored. Any thread.
+// The tokens of all users, in the order in which look-ups should prefer them. Any thread.
 class ADAL_EXPORT ADTokenCache final {
  public:
   struct Items {
@@ -20,6 +20,8 @@ class ADAL_EXPORT ADTokenCache final {
     std::optional<ADError> error;
   };
   using Failure = std::optional<ADError>;  // empty on success
+  // Changes the items. Returns whether they shall be written; if not, it has changed nothing.
+  using Change = std::function<bool(QList<ADTokenCacheItem>& items)>;
 
   ADTokenCache();
   ~ADTokenCache();
@@ -34,9 +36,16 @@ class ADAL_EXPORT ADTokenCache final {
   // A snapshot; costs no copy of the items. Fails only from inside the storage delegate.
   [[nodiscard]] Items allItems();
 
-  // Each item replaces the same entry, or is appended. All are stored in one write, so that an old refresh
-  // token is never removed before its successor is stored.
+  // One write, so that an old token is never removed before its successor is stored. `change` sees what is
+  // stored now, and runs under the cache's lock.
+  [[nodiscard]] Failure change(const Change& change);
+  // Each item replaces the same entry, or is appended.
   [[nodiscard]] Failure addOrUpdateItems(const QList<ADTokenCacheItem>& items);
+  // The items of a sign-in, the access token last. They become the first of all, in place of what they
+  // supersede: the user's access tokens for the same resource, whichever the authority and client, and the
+  // user's refresh tokens that no other access token needs. Without a refresh token nothing is superseded,
+  // because look-ups need both.
+  [[nodiscard]] Failure addSignedInItems(const QList<ADTokenCacheItem>& items);
   [[nodiscard]] Failure replaceAllItems(const QList<ADTokenCacheItem>& items);
 
   QByteArray serialize();
@@ -48,8 +57,6 @@ class ADAL_EXPORT ADTokenCache final {
   void exclusively(const std::function<void()>& action);
 
  private:
-  [[nodiscard]] Failure write(const std::function<void()>& change);
-
   QRecursiveMutex m_mutex;
   ADTokenCacheDelegate* m_delegate = nullptr;
   bool m_insideDelegate = false;

@@ -4,6 +4,7 @@
 #include <QDataStream>
 #include <QIODevice>
 #include <QTimeZone>
+#include <algorithm>
 #include <atomic>
 
 namespace {
@@ -66,11 +67,27 @@ bool ADTokenCacheItem::isExpired() const {
 }
 
 bool ADTokenCacheItem::isSameEntry(const ADTokenCacheItem& other) const {
-  if (multiResource != other.multiResource || authority != other.authority || clientId != other.clientId)
-    return false;
   // A refresh token for several resources is one entry, whichever resource it was first requested for.
-  if (!multiResource && resource != other.resource) return false;
+  return multiResource == other.multiResource && (multiResource || resource == other.resource) &&
+         isOfSameGrant(other);
+}
+
+bool ADTokenCacheItem::isOfSameUser(const ADTokenCacheItem& other) const {
   return userInformation.userId.compare(other.userInformation.userId, Qt::CaseInsensitive) == 0;
+}
+
+bool ADTokenCacheItem::isOfSameGrant(const ADTokenCacheItem& other) const {
+  return authority == other.authority && clientId == other.clientId && isOfSameUser(other);
+}
+
+void addOrUpdate(QList<ADTokenCacheItem>& items, const ADTokenCacheItem& item) {
+  const auto known = std::find_if(items.begin(), items.end(),
+                                  [&item](const ADTokenCacheItem& other) { return item.isSameEntry(other); });
+  if (known != items.end()) {
+    *known = item;
+  } else {
+    items.append(item);
+  }
 }
 
 QByteArray serializedTokens(const QList<ADTokenCacheItem>& items) {

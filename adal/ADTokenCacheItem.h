@@ -39,8 +39,15 @@ struct ADAL_EXPORT ADTokenCacheItem {
   // for access tokens the same resource.
   bool isSameEntry(const ADTokenCacheItem& other) const;
 
+  bool isOfSameUser(const ADTokenCacheItem& other) const;
+  // Same user, authority and client: whether a refresh token of the one gets access tokens like the other.
+  bool isOfSameGrant(const ADTokenCacheItem& other) const;
+
   bool operator==(const ADTokenCacheItem&) const = default;
 };
+
+// Replaces the same entry, or appends.
+void addOrUpdate(QList<ADTokenCacheItem>& items, const ADTokenCacheItem& item);
 
 // The stored form of a token cache: a mark, a version, the items, a check sum over everything before it.
 QByteArray serializedTokens(const QList<ADTokenCacheItem>& items);

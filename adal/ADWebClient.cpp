@@ -40,6 +40,14 @@ QDateTime dateOf(const QNetworkReply& reply) {
 // Errors below this are of the connection, the others of the server's response.
 constexpr int firstAnswerError = 100;
 
+constexpr int mostRedirects = 5;
+
+bool isSameOrigin(const QUrl& left, const QUrl& right) {
+  const int usual = left.scheme() == QLatin1String("https") ? 443 : 80;
+  return left.scheme() == right.scheme() && left.host() == right.host() &&
+         left.port(usual) == right.port(usual);
+}
+
 }  // namespace
 
 ADWebClient::ADWebClient(QObject* parent) : QObject(parent) {
@@ -54,26 +62,47 @@ ADWebClient::~ADWebClient() {
 }
 
 void ADWebClient::get(const QUrl& address, Done done) {
-  watch(m_manager.get(boundedRequest(address)), std::move(done));
+  begin(std::move(done));
+  m_redirectsLeft = mostRedirects;
+  watch(m_manager.get(boundedRequest(address)));
 }
 
 void ADWebClient::post(const QUrl& address, const ADParameters& form, Done done) {
+  begin(std::move(done));
   QNetworkRequest request = boundedRequest(address);
   request.setHeader(QNetworkRequest::ContentTypeHeader,
                     QByteArrayLiteral("application/x-www-form-urlencoded"));
-  watch(m_manager.post(request, encodedParameters(form)), std::move(done));
+  watch(m_manager.post(request, encodedParameters(form)));
 }
 
-void ADWebClient::watch(QNetworkReply* reply, Done done) {
+void ADWebClient::begin(Done done) {
   const ADRequestLimits limits = ADAuthenticationSettings::sharedInstance().limits();
-  m_reply = reply;
   m_limit = limits.answerBytes;
   m_done = std::move(done);
+  m_deadline.start(limits.transfer);
+}
+
+void ADWebClient::watch(QNetworkReply* reply) {
+  m_reply = reply;
   // The reply stops reading from the socket one byte past the limit.
   reply->setReadBufferSize(m_limit + 1);
   connect(reply, &QNetworkReply::readyRead, this, &ADWebClient::checkSize);
   connect(reply, &QNetworkReply::finished, this, &ADWebClient::readAnswer);
-  m_deadline.start(limits.transfer);
+}
+
+void ADWebClient::follow(const QUrl& target) {
+  const QUrl address = m_reply->url().resolved(target);
+  if (!isAllowedAddress(address) || !isSameOrigin(address, m_reply->url())) {
+    settle(noWholeAnswer(ADErrorCode::ServerAnswer, QStringLiteral("redirected elsewhere")));
+    return;
+  }
+  if (m_redirectsLeft-- == 0) {
+    settle(noWholeAnswer(ADErrorCode::ServerAnswer, QStringLiteral("redirected too often")));
+    return;
+  }
+  m_reply->disconnect(this);
+  m_reply->deleteLater();
+  watch(m_manager.get(boundedRequest(address)));
 }
 
 void ADWebClient::checkSize() {
@@ -89,6 +118,11 @@ void ADWebClient::readAnswer() {
   if (status == 0 || (error != QNetworkReply::NoError && error < firstAnswerError)) {
     const char* const name = QMetaEnum::fromType<QNetworkReply::NetworkError>().valueToKey(error);
     settle(noWholeAnswer(ADErrorCode::Network, QString::fromLatin1(name)));
+    return;
+  }
+  const QUrl target = m_reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
+  if (!target.isEmpty() && m_reply->operation() == QNetworkAccessManager::GetOperation) {
+    follow(target);
     return;
   }
   settle({{}, status, m_reply->readAll(), dateOf(*m_reply)});

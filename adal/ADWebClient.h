@@ -22,8 +22,9 @@ struct ADWebAnswer {
   QDateTime date;  // the server's time at the response; invalid when it does not say
 };
 
-// One exchange at a time with an authority, bounded in time and size. Follows no redirect and stores no
-// cookies, so that secrets reach no other host. Destroying it cancels the exchange without calling `done`.
+// One exchange at a time with an authority, bounded in time and size. A GET follows redirects within its
+// origin, a POST follows none, and no cookies are stored, so that secrets reach no other host. Destroying it
+// cancels the exchange without calling `done`.
 class ADWebClient final : public QObject {
  public:
   using Done = std::function<void(const ADWebAnswer&)>;
@@ -35,7 +36,9 @@ class ADWebClient final : public QObject {
   void post(const QUrl& address, const ADParameters& form, Done done);
 
  private:
-  void watch(QNetworkReply* reply, Done done);
+  void begin(Done done);
+  void watch(QNetworkReply* reply);
+  void follow(const QUrl& target);
   void checkSize();
   void readAnswer();
   void settle(const ADWebAnswer& answer);
@@ -44,5 +47,6 @@ class ADWebClient final : public QObject {
   QTimer m_deadline;
   QPointer<QNetworkReply> m_reply;
   qint64 m_limit = 0;
+  int m_redirectsLeft = 0;
   Done m_done;
 };

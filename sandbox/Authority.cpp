@@ -1,6 +1,7 @@
 #include "sandbox/Authority.h"
 
 #include <QCryptographicHash>
+#include <QDateTime>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -70,6 +71,7 @@ HttpResponse Authority::configuration() const {
                        {"authorization_endpoint", address() + "/oauth2/authorize"},
                        {"token_endpoint", address() + "/oauth2/token"},
                        {"scopes_supported", scopes},
+                       {"authorization_response_iss_parameter_supported", true},
                        {"code_challenge_methods_supported", QJsonArray{"S256"}}});
 }
 
@@ -118,6 +120,7 @@ HttpResponse Authority::answerPage(const QUrlQuery& query, bool isGiven) {
                         : QStringLiteral("<p>You refused.</p>"));
   }
   answer.addQueryItem("state", valueOf(query, "state"));
+  answer.addQueryItem("iss", address());
   redirect.setQuery(answer);
   return redirectTo(QString::fromLatin1(redirect.toEncoded()));
 }
@@ -194,6 +197,7 @@ QString Authority::idToken(const QString& clientId) const {
   QJsonObject claims = m_fault == Fault::NoUser ? QJsonObject() : m_userClaims;
   claims.insert("iss", address());
   claims.insert("aud", clientId);
+  claims.insert("exp", QDateTime::currentSecsSinceEpoch() + m_lifetime);
   const auto part = [](const QJsonObject& object) {
     return QString::fromLatin1(QJsonDocument(object).toJson(QJsonDocument::Compact).toBase64(urlSafeBase64));
   };

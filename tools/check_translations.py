@@ -18,12 +18,11 @@ def first_argument_of(*functions):
 SANDBOX_MEANING = re.compile(r'\{Case::\w+,\s*"[^"]*",\s*(?:"[^"]*",\s*"[^"]*",\s*)?' + LITERAL)
 
 # Per table: its files, the code that uses it, and where texts are looked up there or passed to a helper that does, such as
-# titles of panes, texts of the sign-in dialog and of the page that ends a sign-in.
+# titles of panes and texts of the sign-in dialog.
 TABLES = [
     ("KZPreference/resources/translations/*.ts", ["KZPreference/*.h", "KZPreference/*.cpp", "adal/*.cpp"],
      [first_argument_of("(?:\\w*L|l)ocalizedString", "dialogText", "labelFor", "text"),
-      re.compile(r"\badd\(m_\w+,\s*" + LITERAL),
-      re.compile(r"\bcallbackPage\(" + LITERAL.replace("((", "(?:(", 1) + r",\s*" + LITERAL)]),
+      re.compile(r"\badd\(m_\w+,\s*" + LITERAL)]),
     ("host/resources/translations/*.ts", ["host/*.h", "host/*.cpp"], [first_argument_of("warningText")]),
     ("companion/resources/translations/*.ts", ["companion/*.h", "companion/*.cpp", "sandbox/Cases.cpp"],
      [first_argument_of("companionText", "textKey"), SANDBOX_MEANING]),

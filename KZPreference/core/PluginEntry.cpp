@@ -10,7 +10,7 @@
 PluginEntry::PluginEntry() {
   AdalMivraLogDelegate::load();
   ADMivraCacheDelegate::load();
-  ADAuthenticationSettings::sharedInstance().setTextLookUp(&localizedString);
+  ADAuthenticationSettings::sharedInstance().setTextLookUp(&localizedString, &localizedLanguage);
 }
 
 KZPluginCoreMgr* PluginEntry::core() {

@@ -20,7 +20,6 @@ constexpr FaultCase faultCases[] = {
     {"Html", Fault::Html, ADErrorCode::ServerAnswer},
     {"Flood", Fault::Flood, ADErrorCode::ServerAnswer},
     {"RedirectElsewhere", Fault::RedirectElsewhere, ADErrorCode::ServerAnswer},
-    {"NoExpiry", Fault::NoExpiry, ADErrorCode::ServerAnswer},
     {"NoUser", Fault::NoUser, ADErrorCode::ServerAnswer},
     {"NoAccessToken", Fault::NoAccessToken, ADErrorCode::ServerAnswer},
     {"OtherAudience", Fault::OtherAudience, ADErrorCode::ServerAnswer},

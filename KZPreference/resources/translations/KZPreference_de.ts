@@ -204,36 +204,48 @@
         <translation>&amp;Code:</translation>
     </message>
     <message>
-        <source>Open the browser again</source>
-        <translation>Browser erneut öffnen</translation>
+        <source>Open the &amp;browser again</source>
+        <translation>&amp;Browser erneut öffnen</translation>
     </message>
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
     <message>
-        <source>Continue</source>
-        <translation>Weiter</translation>
+        <source>Co&amp;ntinue</source>
+        <translation>&amp;Weiter</translation>
     </message>
     <message>
         <source>This is not the expected answer.</source>
         <translation>Das ist nicht die erwartete Antwort.</translation>
     </message>
     <message>
-        <source>Your answer has arrived. You can close this page.</source>
-        <translation>Ihre Anmeldung ist eingegangen. Sie können diese Seite schließen.</translation>
+        <source>You are signed in</source>
+        <translation>Sie sind angemeldet</translation>
     </message>
     <message>
-        <source>This request is too long.</source>
-        <translation>Diese Anfrage ist zu lang.</translation>
+        <source>You can close this page.</source>
+        <translation>Sie können diese Seite schließen.</translation>
     </message>
     <message>
-        <source>This request cannot be read.</source>
-        <translation>Diese Anfrage ist nicht lesbar.</translation>
+        <source>Sign-in was refused</source>
+        <translation>Die Anmeldung wurde abgelehnt</translation>
     </message>
     <message>
-        <source>There is nothing here.</source>
-        <translation>Hier ist nichts.</translation>
+        <source>Sign-in did not work</source>
+        <translation>Die Anmeldung hat nicht geklappt</translation>
+    </message>
+    <message>
+        <source>To try again, go back to Preferences.</source>
+        <translation>Kehren Sie zu den Einstellungen zurück, um es noch einmal zu versuchen.</translation>
+    </message>
+    <message>
+        <source>Sign-in is not finished yet</source>
+        <translation>Die Anmeldung ist noch nicht abgeschlossen</translation>
+    </message>
+    <message>
+        <source>Preferences shows whether it worked.</source>
+        <translation>In den Einstellungen sehen Sie, ob sie geklappt hat.</translation>
     </message>
     <message>
         <source>Copy personal room</source>

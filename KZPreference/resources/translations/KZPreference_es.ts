@@ -204,36 +204,48 @@
         <translation>Códi&amp;go:</translation>
     </message>
     <message>
-        <source>Open the browser again</source>
-        <translation>Abrir de nuevo el navegador</translation>
+        <source>Open the &amp;browser again</source>
+        <translation>Abrir de nuevo el &amp;navegador</translation>
     </message>
     <message>
         <source>Cancel</source>
         <translation>Cancelar</translation>
     </message>
     <message>
-        <source>Continue</source>
-        <translation>Continuar</translation>
+        <source>Co&amp;ntinue</source>
+        <translation>Con&amp;tinuar</translation>
     </message>
     <message>
         <source>This is not the expected answer.</source>
         <translation>Esta no es la respuesta esperada.</translation>
     </message>
     <message>
-        <source>Your answer has arrived. You can close this page.</source>
-        <translation>Su respuesta ha llegado. Puede cerrar esta página.</translation>
+        <source>You are signed in</source>
+        <translation>Ha iniciado sesión</translation>
     </message>
     <message>
-        <source>This request is too long.</source>
-        <translation>Esta solicitud es demasiado larga.</translation>
+        <source>You can close this page.</source>
+        <translation>Puede cerrar esta página.</translation>
     </message>
     <message>
-        <source>This request cannot be read.</source>
-        <translation>Esta solicitud no se puede leer.</translation>
+        <source>Sign-in was refused</source>
+        <translation>Se ha rechazado el inicio de sesión</translation>
     </message>
     <message>
-        <source>There is nothing here.</source>
-        <translation>Aquí no hay nada.</translation>
+        <source>Sign-in did not work</source>
+        <translation>No se ha podido iniciar sesión</translation>
+    </message>
+    <message>
+        <source>To try again, go back to Preferences.</source>
+        <translation>Para volver a intentarlo, regrese a Preferencias.</translation>
+    </message>
+    <message>
+        <source>Sign-in is not finished yet</source>
+        <translation>El inicio de sesión aún no ha terminado</translation>
+    </message>
+    <message>
+        <source>Preferences shows whether it worked.</source>
+        <translation>En Preferencias verá si se ha completado.</translation>
     </message>
     <message>
         <source>Copy personal room</source>

@@ -204,36 +204,48 @@
         <translation>&amp;Code :</translation>
     </message>
     <message>
-        <source>Open the browser again</source>
-        <translation>Rouvrir le navigateur</translation>
+        <source>Open the &amp;browser again</source>
+        <translation>Rouvrir le &amp;navigateur</translation>
     </message>
     <message>
         <source>Cancel</source>
         <translation>Annuler</translation>
     </message>
     <message>
-        <source>Continue</source>
-        <translation>Continuer</translation>
+        <source>Co&amp;ntinue</source>
+        <translation>Con&amp;tinuer</translation>
     </message>
     <message>
         <source>This is not the expected answer.</source>
         <translation>Ce n’est pas la réponse attendue.</translation>
     </message>
     <message>
-        <source>Your answer has arrived. You can close this page.</source>
-        <translation>Votre réponse est arrivée. Vous pouvez fermer cette page.</translation>
+        <source>You are signed in</source>
+        <translation>Vous êtes connecté</translation>
     </message>
     <message>
-        <source>This request is too long.</source>
-        <translation>Cette requête est trop longue.</translation>
+        <source>You can close this page.</source>
+        <translation>Vous pouvez fermer cette page.</translation>
     </message>
     <message>
-        <source>This request cannot be read.</source>
-        <translation>Cette requête est illisible.</translation>
+        <source>Sign-in was refused</source>
+        <translation>La connexion a été refusée</translation>
     </message>
     <message>
-        <source>There is nothing here.</source>
-        <translation>Il n’y a rien ici.</translation>
+        <source>Sign-in did not work</source>
+        <translation>La connexion a échoué</translation>
+    </message>
+    <message>
+        <source>To try again, go back to Preferences.</source>
+        <translation>Pour réessayer, revenez aux préférences.</translation>
+    </message>
+    <message>
+        <source>Sign-in is not finished yet</source>
+        <translation>La connexion n’est pas encore terminée</translation>
+    </message>
+    <message>
+        <source>Preferences shows whether it worked.</source>
+        <translation>Les préférences indiquent si elle a réussi.</translation>
     </message>
     <message>
         <source>Copy personal room</source>

@@ -204,36 +204,48 @@
         <translation>コード(&amp;C)：</translation>
     </message>
     <message>
-        <source>Open the browser again</source>
-        <translation>ブラウザーをもう一度開く</translation>
+        <source>Open the &amp;browser again</source>
+        <translation>ブラウザーをもう一度開く(&amp;B)</translation>
     </message>
     <message>
         <source>Cancel</source>
         <translation>キャンセル</translation>
     </message>
     <message>
-        <source>Continue</source>
-        <translation>続ける</translation>
+        <source>Co&amp;ntinue</source>
+        <translation>続ける(&amp;N)</translation>
     </message>
     <message>
         <source>This is not the expected answer.</source>
         <translation>想定した応答ではありません。</translation>
     </message>
     <message>
-        <source>Your answer has arrived. You can close this page.</source>
-        <translation>サインインの応答を受け取りました。このページは閉じてかまいません。</translation>
+        <source>You are signed in</source>
+        <translation>サインインしました</translation>
     </message>
     <message>
-        <source>This request is too long.</source>
-        <translation>この要求は長すぎます。</translation>
+        <source>You can close this page.</source>
+        <translation>このページは閉じてかまいません。</translation>
     </message>
     <message>
-        <source>This request cannot be read.</source>
-        <translation>この要求は読み取れません。</translation>
+        <source>Sign-in was refused</source>
+        <translation>サインインが拒否されました</translation>
     </message>
     <message>
-        <source>There is nothing here.</source>
-        <translation>ここには何もありません。</translation>
+        <source>Sign-in did not work</source>
+        <translation>サインインできませんでした</translation>
+    </message>
+    <message>
+        <source>To try again, go back to Preferences.</source>
+        <translation>もう一度試すには、「環境設定」に戻ってください。</translation>
+    </message>
+    <message>
+        <source>Sign-in is not finished yet</source>
+        <translation>サインインはまだ完了していません</translation>
+    </message>
+    <message>
+        <source>Preferences shows whether it worked.</source>
+        <translation>結果は「環境設定」で確認できます。</translation>
     </message>
     <message>
         <source>Copy personal room</source>

@@ -204,36 +204,48 @@
         <translation>代码(&amp;C)：</translation>
     </message>
     <message>
-        <source>Open the browser again</source>
-        <translation>再次打开浏览器</translation>
+        <source>Open the &amp;browser again</source>
+        <translation>再次打开浏览器(&amp;B)</translation>
     </message>
     <message>
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
     <message>
-        <source>Continue</source>
-        <translation>继续</translation>
+        <source>Co&amp;ntinue</source>
+        <translation>继续(&amp;N)</translation>
     </message>
     <message>
         <source>This is not the expected answer.</source>
         <translation>这不是预期的登录结果。</translation>
     </message>
     <message>
-        <source>Your answer has arrived. You can close this page.</source>
-        <translation>已收到您的登录结果。您可以关闭此页面。</translation>
+        <source>You are signed in</source>
+        <translation>您已登录</translation>
     </message>
     <message>
-        <source>This request is too long.</source>
-        <translation>此请求过长。</translation>
+        <source>You can close this page.</source>
+        <translation>您可以关闭此页面。</translation>
     </message>
     <message>
-        <source>This request cannot be read.</source>
-        <translation>无法读取此请求。</translation>
+        <source>Sign-in was refused</source>
+        <translation>登录被拒绝</translation>
     </message>
     <message>
-        <source>There is nothing here.</source>
-        <translation>这里没有内容。</translation>
+        <source>Sign-in did not work</source>
+        <translation>登录未成功</translation>
+    </message>
+    <message>
+        <source>To try again, go back to Preferences.</source>
+        <translation>要重试，请返回“偏好设置”。</translation>
+    </message>
+    <message>
+        <source>Sign-in is not finished yet</source>
+        <translation>登录尚未完成</translation>
+    </message>
+    <message>
+        <source>Preferences shows whether it worked.</source>
+        <translation>请在“偏好设置”中查看登录结果。</translation>
     </message>
     <message>
         <source>Copy personal room</source>
