@@ -42,12 +42,6 @@ constexpr int firstAnswerError = 100;
 
 constexpr int mostRedirects = 5;
 
-bool isSameOrigin(const QUrl& left, const QUrl& right) {
-  const int usual = left.scheme() == QLatin1String("https") ? 443 : 80;
-  return left.scheme() == right.scheme() && left.host() == right.host() &&
-         left.port(usual) == right.port(usual);
-}
-
 }  // namespace
 
 ADWebClient::ADWebClient(QObject* parent) : QObject(parent) {
