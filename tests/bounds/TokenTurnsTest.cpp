@@ -70,9 +70,10 @@ TEST_F(TokenTurnsTest, CostLittleBesideTheRefreshes) {
     ratios.append(2 * atOnce / (before + after));
     controls.append(after / before);
   }
-  std::printf("tokens: %d requests for %d users take %.2f times the refreshes, which take %.0f us (control %.2f, "
-              "medians of %d)\n",
-              kTokenRequests, kTokenUsers, middle(ratios), middle(alone), middle(controls), kTurnRounds);
+  std::printf(
+      "tokens: %d requests for %d users take %.2f times the refreshes, which take %.0f us (control %.2f, "
+      "medians of %d)\n",
+      kTokenRequests, kTokenUsers, middle(ratios), middle(alone), middle(controls), kTurnRounds);
   EXPECT_LT(middle(ratios), kMostTimes);
 }
 
