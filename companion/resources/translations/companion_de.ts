@@ -352,6 +352,10 @@
         <translation>Die Suche nach einem Exchange-Dienst wurde abgebrochen.</translation>
     </message>
     <message>
+        <source>The sign-in of %1 cannot be renewed now. Refresh later.</source>
+        <translation>Die Anmeldung von %1 kann gerade nicht erneuert werden. Aktualisieren Sie später.</translation>
+    </message>
+    <message>
         <source>The sign-in of %1 could not be renewed. Detect the account again to sign in.</source>
         <translation>Die Anmeldung von %1 konnte nicht erneuert werden. Suchen Sie das Konto erneut, um sich anzumelden.</translation>
     </message>

@@ -352,6 +352,10 @@
         <translation>Se abandonó la búsqueda de un servicio de Exchange.</translation>
     </message>
     <message>
+        <source>The sign-in of %1 cannot be renewed now. Refresh later.</source>
+        <translation>El inicio de sesión de %1 no se puede renovar ahora. Actualice más tarde.</translation>
+    </message>
+    <message>
         <source>The sign-in of %1 could not be renewed. Detect the account again to sign in.</source>
         <translation>No se pudo renovar el inicio de sesión de %1. Busque la cuenta de nuevo para iniciar sesión.</translation>
     </message>

@@ -352,6 +352,10 @@
         <translation>La recherche d’un service Exchange a été abandonnée.</translation>
     </message>
     <message>
+        <source>The sign-in of %1 cannot be renewed now. Refresh later.</source>
+        <translation>La connexion de %1 ne peut pas être renouvelée pour le moment. Actualisez plus tard.</translation>
+    </message>
+    <message>
         <source>The sign-in of %1 could not be renewed. Detect the account again to sign in.</source>
         <translation>La connexion de %1 n’a pas pu être renouvelée. Recherchez de nouveau le compte pour vous connecter.</translation>
     </message>

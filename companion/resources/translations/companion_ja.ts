@@ -352,6 +352,10 @@
         <translation>Exchange サービスの検索を中止しました。</translation>
     </message>
     <message>
+        <source>The sign-in of %1 cannot be renewed now. Refresh later.</source>
+        <translation>現在、%1 のサインインを更新できません。後で再読み込みしてください。</translation>
+    </message>
+    <message>
         <source>The sign-in of %1 could not be renewed. Detect the account again to sign in.</source>
         <translation>%1 のサインインを更新できませんでした。アカウントをもう一度検索して、サインインしてください。</translation>
     </message>

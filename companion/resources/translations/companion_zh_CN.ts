@@ -352,6 +352,10 @@
         <translation>已放弃查找 Exchange 服务。</translation>
     </message>
     <message>
+        <source>The sign-in of %1 cannot be renewed now. Refresh later.</source>
+        <translation>目前无法更新 %1 的登录状态。请稍后刷新。</translation>
+    </message>
+    <message>
         <source>The sign-in of %1 could not be renewed. Detect the account again to sign in.</source>
         <translation>无法更新 %1 的登录状态。请重新查找账户以登录。</translation>
     </message>

@@ -38,6 +38,7 @@ class PreferencesSignIn : public testing::Test, public TokenHost {
     authority = std::make_unique<sandbox::Authority>(m_server, "/common");
     KZWorkspace::sharedWorkspace().setOpener([this](const QUrl& address) {
       opened.append(address);
+      if (onOpen) onOpen();
       return true;
     });
   }
@@ -75,6 +76,7 @@ class PreferencesSignIn : public testing::Test, public TokenHost {
 
   std::unique_ptr<sandbox::Authority> authority;
   QList<QUrl> opened;
+  std::function<void()> onOpen;  // from within the request to open a page
 
  private:
   sandbox::HttpServer m_server;
@@ -155,6 +157,20 @@ TEST_F(PreferencesSignIn, GetsItsResultAmongRefreshesThatGetTheirs) {
     EXPECT_TRUE(token.startsWith(QStringLiteral("access-of-%1-").arg((number - 1) % users))) << number;
   }
   EXPECT_EQ(provider.reuses(), 0);
+}
+
+TEST_F(PreferencesSignIn, MayBeGivenUpWhileItsPageIsBeingOpened) {
+  const std::function<void()> giveUp[] = {[] { window()->close(); }, [] { KZPreferenceCore::shutDown(); }};
+  for (const auto& act : giveUp) {
+    openMeetings();
+    opened.clear();
+    onOpen = act;
+    requestSignIn();
+    ASSERT_TRUE(kit::waitUntil([this] { return !opened.isEmpty(); }));
+    kit::settle();
+    EXPECT_FALSE(isDialogShown());
+    EXPECT_FALSE(isListening(opened.first()));
+  }
 }
 
 TEST_F(PreferencesSignIn, ClosingPreferencesEndsNoRefresh) {
