@@ -13,7 +13,7 @@ TEST_JOBS ?= $(shell expr 2 \* $(JOBS))
 CONFIGURE = cmake -S . -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo
 NINJA = ninja -C $(BUILD) -j $(JOBS)
 
-.PHONY: run build test test-debian13 lint sanitize bench pictures documents package clean packages
+.PHONY: run build test test-debian13 test-real lint sanitize bench pictures documents package clean packages
 
 run: $(BUILD)/build.ninja
 	@$(NINJA) companion
@@ -28,6 +28,12 @@ test: build
 # The same under the next Debian, in a chroot.
 test-debian13:
 	@tools/test-debian13.sh $(BUILD)
+
+# Against programs that others wrote: providers, a browser, keyrings, name and web servers.
+test-real: $(BUILD)/build.ninja
+	@tools/install-packages.sh real
+	@$(NINJA) KZPreference discover prefs-session
+	@tools/test-real.sh $(BUILD)
 
 lint: $(BUILD)/build.ninja
 	@$(NINJA) build.ninja >/dev/null

@@ -31,9 +31,9 @@ struct PageContent {
 };
 
 PageContent contentOf(ADBrowserPage page) {
-  constexpr char tick[] = "M15 25l6 6 12-13";
-  constexpr char cross[] = "M17 17l14 14M31 17l-14 14";
-  constexpr char dots[] = "M16 24h.01M24 24h.01M32 24h.01";
+  static constexpr char tick[] = "M15 25l6 6 12-13";
+  static constexpr char cross[] = "M17 17l14 14M31 17l-14 14";
+  static constexpr char dots[] = "M16 24h.01M24 24h.01M32 24h.01";
   const auto text = [](const char* english) {
     return ADAuthenticationSettings::sharedInstance().text(english);
   };

@@ -43,6 +43,14 @@ bool contains(const ADParameters& parameters, const QString& name) {
                      [&](const auto& parameter) { return parameter.first == name; });
 }
 
+// Only error names from the standard are copied: the page could send any text.
+ADError pageError(const QString& name) {
+  if (name == QLatin1String("access_denied")) return {ADErrorCode::Refused, name};
+  if (name == QLatin1String("temporarily_unavailable") || name == QLatin1String("server_error"))
+    return {ADErrorCode::Unavailable, name};
+  return {ADErrorCode::Refused, QStringLiteral("by the sign-in page")};
+}
+
 ADBrowserPage pageFor(const ADAuthenticationResult& result) {
   if (!result.error) return ADBrowserPage::SignedIn;
   return result.error->code == ADErrorCode::Refused ? ADBrowserPage::Refused : ADBrowserPage::Failed;
@@ -179,9 +187,7 @@ void ADSignIn::onAnswer(const ADParameters& answer) {
     redeem(*onlyValue(answer, QStringLiteral("code")));
     return;
   }
-  fail(*error == QLatin1String("access_denied")
-           ? ADError{ADErrorCode::Refused, *error}
-           : ADError{ADErrorCode::Refused, QStringLiteral("by the sign-in page")});
+  fail(pageError(*error));
 }
 
 // Users may paste the code, or the whole address at which the browser ended.
@@ -239,8 +245,8 @@ void ADSignIn::finish(const ADAuthenticationResult& result) {
   ADLogger::log(
       result.error ? ADLogLevel::Error : ADLogLevel::Info,
       QStringLiteral("sign-in: %1").arg(result.error ? result.error->text() : QStringLiteral("succeeded")));
-  // From the event loop, so that a completion may destroy the contexts that hold this.
-  // A caller may tell results apart by what is outstanding: the refreshes in progress come first.
+  // From the event loop, so that a completion may destroy the contexts that hold this. A caller may tell
+  // results apart by what is outstanding: the refreshes in progress come first.
   ADRefresh::whenNoneIsInProgress([self = weak_from_this(), result] {
     const std::shared_ptr<ADSignIn> signIn = self.lock();
     if (signIn) signIn->m_completions.call(result);

@@ -87,7 +87,7 @@ void ADSignInDialog::addCodeRow(QVBoxLayout* rows) {
   rows->addWidget(m_codeTxt);
   connect(m_codeTxt, &QLineEdit::textChanged, this,
           [this](const QString& text) { m_continueBtn->setEnabled(!text.trimmed().isEmpty()); });
-  setFocusProxy(m_codeTxt);
+  m_codeTxt->setFocus();
 }
 
 void ADSignInDialog::submit() {
@@ -96,4 +96,9 @@ void ADSignInDialog::submit() {
 
 void ADSignInDialog::showProblem(const QString& text) {
   m_messageTxt->setText(text);
+  if (m_codeTxt == nullptr) return;
+  // So that a screen reader says it, and pasting replaces what was wrong.
+  m_codeTxt->setAccessibleDescription(text);
+  m_codeTxt->selectAll();
+  m_codeTxt->setFocus();
 }

@@ -14,7 +14,7 @@ constexpr quint16 tokenFormatVersion = 1;
 constexpr qsizetype tokenCheckSumSize = 32;
 
 QByteArray tokenCheckSum(QByteArrayView data) {
-  return QCryptographicHash::hash(data.toByteArray(), QCryptographicHash::Sha256);
+  return QCryptographicHash::hash(data, QCryptographicHash::Sha256);
 }
 
 void prepareTokenStream(QDataStream& stream) {
@@ -96,12 +96,12 @@ QByteArray serializedTokens(const QList<ADTokenCacheItem>& items) {
   prepareTokenStream(stream);
   stream << tokenFormatMark << tokenFormatVersion << static_cast<quint32>(items.size());
   for (const ADTokenCacheItem& item : items) writeTokenItem(stream, item);
-  return data + tokenCheckSum(data);
+  return data.append(tokenCheckSum(data));
 }
 
 std::optional<QList<ADTokenCacheItem>> deserializedTokens(const QByteArray& data) {
   if (data.size() <= tokenCheckSumSize) return {};
-  const QByteArray body = data.chopped(tokenCheckSumSize);
+  const QByteArray body = QByteArray::fromRawData(data.constData(), data.size() - tokenCheckSumSize);
   if (tokenCheckSum(body) != data.last(tokenCheckSumSize)) return {};
 
   QDataStream stream(body);

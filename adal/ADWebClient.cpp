@@ -1,9 +1,6 @@
 #include "adal/ADWebClient.h"
 
 #include <QLocale>
-#include <QMetaEnum>
-#include <QNetworkReply>
-#include <QNetworkRequest>
 #include <QTimeZone>
 #include <utility>
 
@@ -12,124 +9,105 @@
 
 namespace {
 
-QNetworkRequest boundedRequest(const QUrl& address) {
-  QNetworkRequest request(address);
-  request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
-  for (const auto attribute :
-       {QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::CookieSaveControlAttribute,
-        QNetworkRequest::AuthenticationReuseAttribute}) {
-    request.setAttribute(attribute, QNetworkRequest::Manual);
+constexpr int mostRedirects = 5;
+
+ADWebAnswer noWholeAnswer(ADErrorCode code, const char* details) {
+  return {ADError{code, QString::fromLatin1(details)}, 0, {}, {}};
+}
+
+ADWebAnswer noWholeAnswer(ADHttpFailure failure) {
+  switch (failure) {
+    case ADHttpFailure::None:
+    case ADHttpFailure::Unreachable:
+      break;
+    case ADHttpFailure::HostUnknown:
+      return noWholeAnswer(ADErrorCode::Network, "unknown host");
+    case ADHttpFailure::TooSlow:
+      return noWholeAnswer(ADErrorCode::Network, "no answer in time");
+    case ADHttpFailure::Encryption:
+      return noWholeAnswer(ADErrorCode::Network, "no encryption in common");
+    case ADHttpFailure::CertificateOfOtherName:
+      return noWholeAnswer(ADErrorCode::Network, "certificate of another name");
+    case ADHttpFailure::CertificateUntrusted:
+      return noWholeAnswer(ADErrorCode::Network, "untrusted certificate");
+    case ADHttpFailure::CertificateExpired:
+      return noWholeAnswer(ADErrorCode::Network, "expired certificate");
+    case ADHttpFailure::CertificateNotYetValid:
+      return noWholeAnswer(ADErrorCode::Network, "certificate not valid yet");
+    case ADHttpFailure::Malformed:
+      return noWholeAnswer(ADErrorCode::ServerAnswer, "no HTTP");
+    case ADHttpFailure::TooLong:
+      return noWholeAnswer(ADErrorCode::ServerAnswer, "too long");
   }
-  request.setRawHeader("Accept", "application/json");
-  // A compressed response would be decompressed before its size is known.
-  request.setRawHeader("Accept-Encoding", "identity");
-  return request;
+  return noWholeAnswer(ADErrorCode::Network, "refused or broken connection");
 }
 
-ADWebAnswer noWholeAnswer(ADErrorCode code, const QString& details) {
-  return {ADError{code, details}, 0, {}, {}};
-}
-
-QDateTime dateOf(const QNetworkReply& reply) {
-  QDateTime date = QLocale::c().toDateTime(QString::fromLatin1(reply.rawHeader("Date")),
+QDateTime dateOf(const ADHttpResponse& response) {
+  QDateTime date = QLocale::c().toDateTime(QString::fromLatin1(response.header("Date")),
                                            QStringLiteral("ddd, dd MMM yyyy hh:mm:ss 'GMT'"));
   date.setTimeZone(QTimeZone::utc());
   return date;
 }
 
-// Errors below this are of the connection, the others of the server's response.
-constexpr int firstAnswerError = 100;
-
-constexpr int mostRedirects = 5;
-
 }  // namespace
 
-ADWebClient::ADWebClient(QObject* parent) : QObject(parent) {
-  m_deadline.setSingleShot(true);
-  connect(&m_deadline, &QTimer::timeout, this,
-          [this] { settle(noWholeAnswer(ADErrorCode::Network, QStringLiteral("no answer in time"))); });
-}
-
-ADWebClient::~ADWebClient() {
-  m_done = {};
-  settle({});
-}
-
 void ADWebClient::get(const QUrl& address, Done done) {
-  begin(std::move(done));
-  m_redirectsLeft = mostRedirects;
-  watch(m_manager.get(boundedRequest(address)));
+  begin({.address = address}, std::move(done));
 }
 
 void ADWebClient::post(const QUrl& address, const ADParameters& form, Done done) {
-  begin(std::move(done));
-  QNetworkRequest request = boundedRequest(address);
-  request.setHeader(QNetworkRequest::ContentTypeHeader,
-                    QByteArrayLiteral("application/x-www-form-urlencoded"));
-  watch(m_manager.post(request, encodedParameters(form)));
+  begin({.address = address,
+         .body = encodedParameters(form),
+         .headers = {{"Content-Type", "application/x-www-form-urlencoded"}}},
+        std::move(done));
 }
 
-void ADWebClient::begin(Done done) {
+void ADWebClient::begin(const ADHttpRequest& request, Done done) {
   const ADRequestLimits limits = ADAuthenticationSettings::sharedInstance().limits();
-  m_limit = limits.answerBytes;
+  m_request = request;
+  m_request.headers.emplaceBack("Accept", "application/json");
+  m_request.responseBytes = limits.answerBytes;
+  m_deadline = QDeadlineTimer(limits.transfer);
+  m_redirectsLeft = mostRedirects;
   m_done = std::move(done);
-  m_deadline.start(limits.transfer);
+  this->request();
 }
 
-void ADWebClient::watch(QNetworkReply* reply) {
-  m_reply = reply;
-  // The reply stops reading from the socket one byte past the limit.
-  reply->setReadBufferSize(m_limit + 1);
-  connect(reply, &QNetworkReply::readyRead, this, &ADWebClient::checkSize);
-  connect(reply, &QNetworkReply::finished, this, &ADWebClient::readAnswer);
+void ADWebClient::request() {
+  m_request.time = std::chrono::milliseconds(m_deadline.remainingTime());
+  m_exchange =
+      std::make_unique<ADHttpExchange>(m_request, [this](const ADHttpResponse& response) { read(response); });
 }
 
-void ADWebClient::follow(const QUrl& target) {
-  const QUrl address = m_reply->url().resolved(target);
-  if (!isAllowedAddress(address) || !isSameOrigin(address, m_reply->url())) {
-    settle(noWholeAnswer(ADErrorCode::ServerAnswer, QStringLiteral("redirected elsewhere")));
+void ADWebClient::read(const ADHttpResponse& response) {
+  if (response.failure != ADHttpFailure::None) {
+    settle(noWholeAnswer(response.failure));
+    return;
+  }
+  const QByteArray location = response.header("Location");
+  const bool isRedirect = response.status > 300 && response.status < 400 && !location.isEmpty();
+  if (isRedirect && m_request.body.isEmpty()) {
+    follow(location);
+    return;
+  }
+  settle({{}, response.status, response.body, dateOf(response)});
+}
+
+void ADWebClient::follow(const QByteArray& location) {
+  const QUrl address = m_request.address.resolved(QUrl::fromEncoded(location));
+  if (!isAllowedAddress(address) || !isSameOrigin(address, m_request.address)) {
+    settle(noWholeAnswer(ADErrorCode::ServerAnswer, "redirected elsewhere"));
     return;
   }
   if (m_redirectsLeft-- == 0) {
-    settle(noWholeAnswer(ADErrorCode::ServerAnswer, QStringLiteral("redirected too often")));
+    settle(noWholeAnswer(ADErrorCode::ServerAnswer, "redirected too often"));
     return;
   }
-  m_reply->disconnect(this);
-  m_reply->deleteLater();
-  watch(m_manager.get(boundedRequest(address)));
-}
-
-void ADWebClient::checkSize() {
-  if (m_reply->bytesAvailable() <= m_limit) return;
-  settle(noWholeAnswer(ADErrorCode::ServerAnswer, QStringLiteral("too long")));
-}
-
-void ADWebClient::readAnswer() {
-  checkSize();
-  if (m_reply == nullptr) return;
-  const QNetworkReply::NetworkError error = m_reply->error();
-  const int status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-  if (status == 0 || (error != QNetworkReply::NoError && error < firstAnswerError)) {
-    const char* const name = QMetaEnum::fromType<QNetworkReply::NetworkError>().valueToKey(error);
-    settle(noWholeAnswer(ADErrorCode::Network, QString::fromLatin1(name)));
-    return;
-  }
-  const QUrl target = m_reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
-  if (!target.isEmpty() && m_reply->operation() == QNetworkAccessManager::GetOperation) {
-    follow(target);
-    return;
-  }
-  settle({{}, status, m_reply->readAll(), dateOf(*m_reply)});
+  m_request.address = address;
+  request();
 }
 
 void ADWebClient::settle(const ADWebAnswer& answer) {
-  m_deadline.stop();
-  if (m_reply != nullptr) {
-    m_reply->disconnect(this);
-    m_reply->abort();
-    m_reply->deleteLater();
-    m_reply = nullptr;
-  }
   const Done done = std::exchange(m_done, {});
-  if (done) done(answer);
+  done(answer);
 }

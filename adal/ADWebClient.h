@@ -2,18 +2,15 @@
 
 #include <QByteArray>
 #include <QDateTime>
-#include <QNetworkAccessManager>
-#include <QObject>
-#include <QPointer>
-#include <QTimer>
+#include <QDeadlineTimer>
+#include <QUrl>
 #include <functional>
+#include <memory>
 #include <optional>
 
 #include "adal/ADAddress.h"
 #include "adal/ADError.h"
-
-class QNetworkReply;
-class QNetworkRequest;
+#include "adal/ADHttpExchange.h"
 
 struct ADWebAnswer {
   std::optional<ADError> error;  // set when there was no complete response
@@ -25,28 +22,23 @@ struct ADWebAnswer {
 // One exchange at a time with an authority, bounded in time and size. A GET follows redirects within its
 // origin, a POST follows none, and no cookies are stored, so that secrets reach no other host. Destroying it
 // cancels the exchange without calling `done`.
-class ADWebClient final : public QObject {
+class ADWebClient final {
  public:
   using Done = std::function<void(const ADWebAnswer&)>;
-
-  explicit ADWebClient(QObject* parent = nullptr);
-  ~ADWebClient() override;
 
   void get(const QUrl& address, Done done);
   void post(const QUrl& address, const ADParameters& form, Done done);
 
  private:
-  void begin(Done done);
-  void watch(QNetworkReply* reply);
-  void follow(const QUrl& target);
-  void checkSize();
-  void readAnswer();
+  void begin(const ADHttpRequest& request, Done done);
+  void request();
+  void read(const ADHttpResponse& response);
+  void follow(const QByteArray& location);
   void settle(const ADWebAnswer& answer);
 
-  QNetworkAccessManager m_manager;
-  QTimer m_deadline;
-  QPointer<QNetworkReply> m_reply;
-  qint64 m_limit = 0;
+  std::unique_ptr<ADHttpExchange> m_exchange;
+  QDeadlineTimer m_deadline;
+  ADHttpRequest m_request;
   int m_redirectsLeft = 0;
   Done m_done;
 };

@@ -25,7 +25,7 @@ constexpr Account allAccounts[] = {
     {Case::Online, "online@page.sandbox.example", "", "",
      "Office 365 that responds to the sign-in with a web page"},
     {Case::Online, "online@endless.sandbox.example", "", "",
-     "Office 365 that does not say how long the sign-in is valid: an hour is assumed"},
+     "Office 365 that does not say how long the sign-in is valid"},
     {Case::OtherEmail, "moved@moved.sandbox.example", "CORP\\onprem", "correct horse",
      "Redirects to onprem@corp.sandbox.example"},
     {Case::PlainRedirect, "hosted@hosted.sandbox.example", "CORP\\onprem", "correct horse",

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Installs with apt the missing packages for building, testing and running. Asks nothing; quick when none is missing.
+# install-packages.sh [real]: installs with apt the missing packages for building, testing and running, and with "real"
+# those of the programs that `make test-real` runs against. Asks nothing; quick when none is missing.
 set -euo pipefail
 
 packages=(
@@ -25,6 +26,10 @@ packages=(
   # lint, and the checks of the documents
   clang-format clang-tidy python3 git
 )
+
+if [[ ${1-} == real ]]; then
+  packages=(chromium keepassxc gnome-keyring dbus dnsmasq-base nginx openssl iproute2 util-linux)
+fi
 
 installed=$(dpkg-query -W -f '${db:Status-Abbrev} ${Package}\n' "${packages[@]}" 2>/dev/null | sed -n 's/^ii *//p' || true)
 mapfile -t missing < <(printf '%s\n' "${packages[@]}" | grep -vxF "$installed")

@@ -1,11 +1,10 @@
 #include "companion/app/CompanionOptions.h"
 
 #include <QCommandLineParser>
-#include <QGuiApplication>
 
 #include "companion/runtime/PluginHost.h"
 
-CompanionOptions CompanionOptions::read(const QStringList& arguments) {
+CompanionOptions CompanionOptions::read(const QStringList& arguments, DisplayChoice display) {
   QCommandLineParser parser;
   parser.setApplicationDescription(
       "A small meeting application that shows the preferences plug-in at work.\n"
@@ -28,8 +27,7 @@ CompanionOptions CompanionOptions::read(const QStringList& arguments) {
   options.isDemoAsked = parser.isSet("demo");
   options.isGuest = parser.isSet("guest");
   options.saysWhenShown = parser.isSet("first-frame");
-  const bool isOffscreen = QGuiApplication::platformName() == "offscreen";
-  options.isDemo = options.isDemoAsked || (isOffscreen && !options.saysWhenShown);
+  options.isDemo = options.isDemoAsked || (display == DisplayChoice::Missing && !options.saysWhenShown);
   if (parser.isSet("network")) options.reach = NetworkReach::Network;
   options.appearance = parser.value("appearance");
   options.language = parser.value("language");

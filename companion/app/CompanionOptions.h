@@ -3,6 +3,7 @@
 #include <QString>
 #include <QStringList>
 
+#include "companion/app/Display.h"
 #include "companion/network/NetworkConfiguration.h"
 
 // The options of the command line.
@@ -20,6 +21,7 @@ struct CompanionOptions {
   QString stateFolder;  // empty: the user's own
   QString pluginPath;
 
-  // Ends the program after --help or an invalid command line.
-  static CompanionOptions read(const QStringList& arguments);
+  // Without a display it plays the demonstration, unless one was chosen. Ends the program after --help or an
+  // invalid command line.
+  static CompanionOptions read(const QStringList& arguments, DisplayChoice display);
 };

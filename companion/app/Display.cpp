@@ -20,19 +20,19 @@ bool hasPlugin(const QString& name) {
 
 }  // namespace
 
-bool chooseDisplay(int argc, char** argv) {
-  if (isGiven(argc, argv, {"-platform", "--platform"})) return false;
+DisplayChoice chooseDisplay(int argc, char** argv) {
+  if (isGiven(argc, argv, {"-platform", "--platform"})) return DisplayChoice::Chosen;
   if (isGiven(argc, argv, {"--demo"})) {
     if (!qgetenv("QT_QPA_PLATFORM").startsWith("offscreen")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    return false;
+    return DisplayChoice::Chosen;
   }
-  if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) return false;
+  if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) return DisplayChoice::Chosen;
   // Qt tries these in order. Without the last one it would abort where no display can be used.
   QByteArray platforms = "offscreen";
   if (!qEnvironmentVariableIsEmpty("DISPLAY")) platforms.prepend("xcb;");
   if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) platforms.prepend("wayland;");
   qputenv("QT_QPA_PLATFORM", platforms);
-  return platforms.contains(';');
+  return platforms.contains(';') ? DisplayChoice::Session : DisplayChoice::Missing;
 }
 
 QString displayProblem() {

@@ -2,9 +2,14 @@
 
 #include <QString>
 
-// Which of Qt's platforms the program runs on: the session's display, or none. Before the application object.
-// True when a display is expected, since the session names one and the command line asks for nothing else.
-[[nodiscard]] bool chooseDisplay(int argc, char** argv);
+enum class DisplayChoice {
+  Session,  // the one that the session names
+  Chosen,   // by the command line or the environment; it may be offscreen
+  Missing,  // the session names none: offscreen
+};
 
-// Once the application object runs without the display that was expected: the reason, and what helps.
+// Which of Qt's platforms the program runs on. Before the application object.
+[[nodiscard]] DisplayChoice chooseDisplay(int argc, char** argv);
+
+// Once the application object runs without the session's display: the reason, and what helps.
 QString displayProblem();

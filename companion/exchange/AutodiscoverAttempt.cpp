@@ -25,8 +25,7 @@ void AutodiscoverAttempt::start(Mode mode, const QUrl& address, Done done) {
 }
 
 void AutodiscoverAttempt::call(const HttpRequest& request, HttpCall::Done done) {
-  m_call = std::make_unique<HttpCall>(m_context.network, m_context.configuration.network, request,
-                                      std::move(done));
+  m_call = std::make_unique<HttpCall>(m_context.configuration.network, request, std::move(done));
 }
 
 void AutodiscoverAttempt::readProbe(const HttpResponse& response) {

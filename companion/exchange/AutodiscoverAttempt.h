@@ -27,7 +27,6 @@ constexpr qsizetype kMostHops = 10;
 
 // Shared by all attempts of one discovery, and outlives them.
 struct DiscoveryContext {
-  QNetworkAccessManager& network;
   const ExchangeConfiguration& configuration;
   RedirectConsent& consent;
   // Empty while there is no credential: a challenge then ends the attempt.

@@ -36,7 +36,7 @@ ExchangeDiscovery::ExchangeDiscovery(const ExchangeConfiguration& configuration,
     : m_configuration(configuration),
       m_account(textValue(content, QRT_ExchangeDiscover_Email).trimmed()),
       m_consent(configuration.prompt),
-      m_context{.network = m_network, .configuration = m_configuration, .consent = m_consent} {
+      m_context{.configuration = m_configuration, .consent = m_consent} {
   m_stagger.setSingleShot(true);
   m_stagger.setInterval(m_configuration.stagger);
   connect(&m_stagger, &QTimer::timeout, this, &ExchangeDiscovery::startNext);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QList>
-#include <QNetworkAccessManager>
 #include <QObject>
 #include <QSet>
 #include <QTimer>
@@ -71,7 +70,6 @@ class ExchangeDiscovery final : public QObject {
 
   const ExchangeConfiguration m_configuration;
   const QString m_account;  // the email of command 15
-  QNetworkAccessManager m_network;
   RedirectConsent m_consent;
   DiscoveryContext m_context;
   State m_state = State::Searching;

@@ -80,7 +80,7 @@ void ExchangeMeetings::list(const Dictionary& exchange, const QString& token, in
 
 void ExchangeMeetings::request(const QByteArray& authorization) {
   const QDateTime now = QDateTime::currentDateTimeUtc();
-  m_call = std::make_unique<HttpCall>(m_network, m_configuration.network,
+  m_call = std::make_unique<HttpCall>(m_configuration.network,
                                       HttpRequest{.address = m_address,
                                                   .body = meetingRequest(now, now.addDays(m_days)),
                                                   .authorization = authorization},

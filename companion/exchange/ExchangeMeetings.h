@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QDateTime>
-#include <QNetworkAccessManager>
 #include <QUrl>
 #include <functional>
 #include <memory>
@@ -39,7 +38,6 @@ class ExchangeMeetings final {
 
   const ExchangeConfiguration m_configuration;
   const Done m_done;
-  QNetworkAccessManager m_network;
   std::unique_ptr<HttpCall> m_call;
   QUrl m_address;
   int m_days = 0;

@@ -1,5 +1,6 @@
 #include "companion/format/ControlFinder.h"
 
+#include <QRegularExpression>
 #include <QWidget>
 #include <algorithm>
 
@@ -11,11 +12,20 @@ QString controlNameOf(const QWidget& view) {
   return qobject_cast<const View*>(&view) ? QString::fromLatin1(view.metaObject()->className()) : QString();
 }
 
-ControlFinder::ControlFinder(const QWidget* content) {
-  if (!content) return;
-  const QList<QWidget*> shown = subviewsOf(content);
+ControlFinder::ControlFinder(const QWidget* content, const QWidgetList& otherWindows) {
+  if (content) collectPanes(*content);
+  for (QWidget* window : otherWindows) {
+    const QString name = QString::fromLatin1(window->metaObject()->className());
+    for (QWidget* control : window->findChildren<QWidget*>(QRegularExpression(QStringLiteral("^m_")))) {
+      m_entries.append({control, Place::OtherWindow, {{name, name}, {control->objectName(), {}}}});
+    }
+  }
+}
+
+void ControlFinder::collectPanes(const QWidget& content) {
+  const QList<QWidget*> shown = subviewsOf(&content);
   for (QWidget* pane : shown) collect(pane, pane == shown.last() ? Place::InFront : Place::Behind, {});
-  for (View* pane : content->findChildren<View*>(Qt::FindDirectChildrenOnly)) {
+  for (View* pane : content.findChildren<View*>(Qt::FindDirectChildrenOnly)) {
     if (!shown.contains(pane)) collect(pane, Place::Away, {});
   }
 }

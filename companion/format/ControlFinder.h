@@ -3,6 +3,7 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
+#include <QWidgetList>
 
 class QWidget;
 
@@ -10,10 +11,10 @@ class QWidget;
 // the name of its class.
 QString controlNameOf(const QWidget& view);  // null for a part of a control
 
-// Finds the controls that are alive below a view, by name.
+// Finds the controls that are alive below a view, by name, and those of other windows.
 class ControlFinder final {
  public:
-  explicit ControlFinder(const QWidget* content);  // nullptr: there are none
+  explicit ControlFinder(const QWidget* content, const QWidgetList& otherWindows = {});  // nullptr: no view
 
   struct [[nodiscard]] Found {
     QWidget* control = nullptr;
@@ -22,7 +23,7 @@ class ControlFinder final {
 
   // "m_field", or with parents in front where that is not unique: "Group/m_field". A parent is given by its
   // name or its class, or left out. A name in the pane in front comes before the same name in a pane that is
-  // fading away, and that before one in a pane that is not in the window.
+  // fading away, that before one in a pane that is not in the window, and that before one in another window.
   Found find(const QString& name) const;
 
   // The shortest name that finds the control, or the nearest of its parents that has one; null when there is
@@ -30,7 +31,7 @@ class ControlFinder final {
   QString nameOf(const QWidget* control) const;
 
  private:
-  enum class Place { InFront, Behind, Away };
+  enum class Place { InFront, Behind, Away, OtherWindow };
   struct Part {
     QString name;
     QString className;
@@ -38,12 +39,13 @@ class ControlFinder final {
   struct Entry {
     QWidget* control;
     Place place;
-    QList<Part> path;  // from the content view down, the control itself last
+    QList<Part> path;  // from the content view or the other window down, the control itself last
 
     bool isNamed(const QStringList& wanted) const;
     QString name(qsizetype parts) const;  // with as many parts as that
   };
 
+  void collectPanes(const QWidget& content);
   void collect(QWidget* view, Place place, const QList<Part>& path);
   // Those in the nearest place only.
   QList<const Entry*> matching(const QString& name) const;

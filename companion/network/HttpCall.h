@@ -1,19 +1,14 @@
 #pragma once
 
 #include <QByteArray>
-#include <QNetworkAccessManager>
 #include <QObject>
-#include <QPointer>
 #include <QSet>
-#include <QTimer>
 #include <QUrl>
 #include <functional>
+#include <memory>
 
 #include "companion/network/NetworkConfiguration.h"
 #include "companion/network/NetworkFailure.h"
-
-class QNetworkReply;
-class QNetworkRequest;
 
 // Whether a redirect is reported, or followed as long as that is safe and not too far.
 enum class Redirects { Report, Follow };
@@ -41,28 +36,21 @@ class HttpCall final : public QObject {
  public:
   using Done = std::function<void(const HttpResponse&)>;
 
-  // `done` is called later, and may delete the call. The network must outlive it.
-  HttpCall(QNetworkAccessManager& network, const NetworkConfiguration& configuration,
-           const HttpRequest& request, Done done);
-  ~HttpCall() override;
+  // `done` is called later, and may delete the call.
+  HttpCall(const NetworkConfiguration& configuration, const HttpRequest& request, Done done);
 
  private:
   void follow(const QUrl& address);
   void request();
-  QNetworkReply* send();
-  QNetworkRequest networkRequest() const;
-  bool isTooLong() const;
-  HttpResponse response() const;
-  FailureKind connectionFailure() const;
-  void fail(FailureKind kind) { settle({.failure = {.kind = kind, .host = m_request.address.host()}}); }
+  ADHttpRequest httpRequest() const;
+  HttpResponse read(const ADHttpResponse& response) const;
+  HttpResponse failed(FailureKind kind) const;
+  void fail(FailureKind kind) { settle(failed(kind)); }
   void settle(HttpResponse response);
 
-  QNetworkAccessManager& m_network;
   const NetworkConfiguration m_configuration;
   HttpRequest m_request;
   QSet<QUrl> m_visited;
-  QTimer m_deadline;
-  QPointer<QNetworkReply> m_reply;
-  bool m_isOtherName = false;
+  std::unique_ptr<ADHttpExchange> m_exchange;
   Done m_done;
 };

@@ -1,18 +1,14 @@
 #pragma once
 
-#include <QList>
-#include <QSslCertificate>
 #include <QString>
 #include <QUrl>
 #include <chrono>
 #include <functional>
 #include <optional>
 
-struct NetworkEndpoint {
-  QString address;
-  quint16 port = 0;
-  QList<QSslCertificate> certificates = {};  // the authorities to trust; empty for those of the system
-};
+#include "adal/ADHttpExchange.h"
+
+using NetworkEndpoint = ADHttpPeer;
 
 // Where a host is to be reached in place of where its name points; nothing for the ordinary way.
 using EndpointFinder = std::function<std::optional<NetworkEndpoint>(const QUrl&)>;

@@ -38,6 +38,15 @@ QString failurePattern(FailureKind kind) {
       return companionText("You did not allow %1. Detect again if you trust it.");
     case FailureKind::Certificate:
       return companionText("The certificate of %1 is not trusted. Ask your administrator before you go on.");
+    case FailureKind::CertificateExpired:
+      return companionText(
+          "The certificate of %1 has expired. Check the date of this computer, or ask your administrator to "
+          "renew it.");
+    case FailureKind::CertificateNotYetValid:
+      return companionText("The certificate of %1 is not valid yet. Check the date of this computer.");
+    case FailureKind::Encryption:
+      return companionText(
+          "%1 does not offer the encryption that is needed. Ask your administrator to mend it.");
     case FailureKind::CertificateOfOtherName:
       return companionText(
           "The certificate of %1 belongs to another name. Ask your administrator to mend it.");

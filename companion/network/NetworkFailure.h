@@ -4,7 +4,8 @@
 
 #include "host/KZFoundation/Dictionary.h"
 
-// Why a request failed. Later values explain more: of several failures the highest one is shown.
+// Why a request failed. Later values explain more: of several failures the highest one is shown, and what
+// the user did before what a server did.
 enum class FailureKind {
   None,
   HostUnknown,
@@ -17,11 +18,14 @@ enum class FailureKind {
   BadResponse,
   Unsafe,
   TooManyRedirects,
-  Declined,
+  Encryption,
   Certificate,
+  CertificateExpired,
+  CertificateNotYetValid,
   CertificateOfOtherName,
   UnsupportedSignIn,
   ServerMessage,
+  Declined,
   BadUsername,
   NoCredential,
   CredentialRefused,

@@ -51,6 +51,14 @@ QAction* paneItemNamed(const Window& window, const QString& label) {
   return place >= 0 && items.size() == english.size() ? items.at(place) : nullptr;
 }
 
+QWidgetList findSignInWindows() {
+  QWidgetList found = QApplication::topLevelWidgets();
+  // By name, since the class stays inside the plug-in.
+  found.removeIf(
+      [](const QWidget* window) { return !window->isVisible() || !window->inherits("ADSignInDialog"); });
+  return found;
+}
+
 ViewAnimation* animationOf(const Window& window) {
   return window.controller()->findChild<ViewAnimation*>();
 }

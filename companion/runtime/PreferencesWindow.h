@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QString>
+#include <QWidgetList>
 
 class QAction;
 class QToolBar;
@@ -9,7 +10,7 @@ class QWidget;
 class ViewAnimation;
 class Window;
 
-// Finds the parts of the plug-in's window without knowing the plug-in.
+// Finds the plug-in's windows and their parts without knowing the plug-in.
 
 // nullptr while no controller has built its window.
 Window* findPreferencesWindow();
@@ -25,5 +26,8 @@ QList<QAction*> paneItemsOf(const Window& window);
 
 // By the label that is shown, else by the English label's place; nullptr when there is no such pane.
 QAction* paneItemNamed(const Window& window, const QString& label);
+
+// Those that wait for a user to sign in with the browser, as far as they are shown.
+QWidgetList findSignInWindows();
 
 ViewAnimation* animationOf(const Window& window);

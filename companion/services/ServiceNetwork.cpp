@@ -12,11 +12,14 @@ ServiceNetwork::ServiceNetwork(NetworkReach reach, ExchangeConfiguration configu
       m_missing(companionText("The sandbox is still starting. Try again in a moment.")) {}
 
 void ServiceNetwork::useSandbox(const SandboxDescription& sandbox) {
+  m_state = State::Running;
   m_sandbox = sandbox;
+  m_sandboxDomain = sandbox.domain;
   Q_EMIT changed();
 }
 
 void ServiceNetwork::loseSandbox(const QString& reason) {
+  m_state = State::Lost;
   m_sandbox = {};
   m_missing = companionText("%1 Start the companion again.").arg(reason);
   Q_EMIT changed();
@@ -24,7 +27,9 @@ void ServiceNetwork::loseSandbox(const QString& reason) {
 
 QString ServiceNetwork::refusalOf(const QUrl& address) const {
   if (!isReady()) return m_missing;
-  if (m_reach == NetworkReach::Network || isWithinDomain(address.host(), m_sandbox.domain)) return {};
+  const bool isOfSandbox = isWithinDomain(address.host(), m_sandboxDomain);
+  if (isOfSandbox && m_state == State::Lost) return m_missing;
+  if (isOfSandbox || m_reach == NetworkReach::Network) return {};
   return companionText(
              "%1 is outside the sandbox and was not asked. Use an account or a site of the page Try out, or "
              "start the companion with --network.")
@@ -40,9 +45,8 @@ ExchangeConfiguration ServiceNetwork::exchange() const {
 }
 
 std::unique_ptr<HttpCall> ServiceNetwork::fetch(const QUrl& address, HttpCall::Done done) {
-  return std::make_unique<HttpCall>(m_network, exchange().network,
-                                    HttpRequest{.address = address, .redirects = Redirects::Follow},
-                                    std::move(done));
+  return std::make_unique<HttpCall>(
+      exchange().network, HttpRequest{.address = address, .redirects = Redirects::Follow}, std::move(done));
 }
 
 QString openInBrowser(const QUrl& page) {

@@ -12,14 +12,17 @@ class ServiceNetwork final : public QObject {
   Q_OBJECT
 
  public:
-  // With NetworkReach::Sandbox no request leaves the sandbox. `configuration` is for the other servers.
+  // With NetworkReach::Sandbox no request leaves the sandbox. `configuration` is for the other servers; they
+  // are asked once the sandbox is there or lost, so that no name server hears of the sandbox's own hosts.
   explicit ServiceNetwork(NetworkReach reach, ExchangeConfiguration configuration = {});
 
   void useSandbox(const SandboxDescription& sandbox);
   void loseSandbox(const QString& reason);  // a sentence
 
   // Whether requests are possible now. If not, `missing` is the reason, in a sentence.
-  bool isReady() const { return m_reach == NetworkReach::Network || !m_sandbox.isEmpty(); }
+  bool isReady() const {
+    return m_state == State::Running || (m_state == State::Lost && m_reach == NetworkReach::Network);
+  }
   const QString& missing() const { return m_missing; }
   // Why this address must not be used, in a sentence; empty when it may be.
   QString refusalOf(const QUrl& address) const;
@@ -32,10 +35,13 @@ class ServiceNetwork final : public QObject {
   void changed();
 
  private:
+  enum class State { Starting, Running, Lost };
+
   const NetworkReach m_reach;
   const ExchangeConfiguration m_configuration;
-  QNetworkAccessManager m_network;
+  State m_state = State::Starting;
   SandboxDescription m_sandbox;  // empty while it is not running
+  QString m_sandboxDomain = QStringLiteral("sandbox.example");
   QString m_missing;
 };
 

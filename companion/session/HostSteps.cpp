@@ -143,6 +143,7 @@ StepResult steps::get(Step& step, StepContext& context) {
       {"token", getToken},
       {"pasteboard", getState<[] { return QGuiApplication::clipboard()->text(); }>},
       {"personalRoom", getPersonalRoom},
+      {"signIn", getState<[] { return describeSignIn(findSignInWindows().value(0)); }>},
       {"window", getState<[] { return describeWindow(findPreferencesWindow()); }>},
   };
   return dispatch(getters, "get", step, context);

@@ -33,7 +33,8 @@ Control* findControl(Step& step, const char* key, const char* kind) {
   const QString name = step.text(key);
   const Window* window = findPreferencesWindow();
   if (!step.isGood()) return nullptr;
-  const ControlFinder::Found found = ControlFinder(window ? contentViewOf(*window) : nullptr).find(name);
+  const ControlFinder finder(window ? contentViewOf(*window) : nullptr, findSignInWindows());
+  const ControlFinder::Found found = finder.find(name);
   if (!found.control) step.fail(found.error);
   auto* control = qobject_cast<Control*>(found.control);
   if (!control) step.fail(QStringLiteral("%1 is not %2").arg(name, QLatin1String(kind)));

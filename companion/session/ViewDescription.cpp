@@ -197,3 +197,20 @@ QJsonValue describeWindow(const Window* window) {
       {"content", describeView(*content)},
   };
 }
+
+QJsonValue describeSignIn(const QWidget* window) {
+  if (!window) return QJsonValue::Null;
+  const auto* message = window->findChild<QLabel*>(QStringLiteral("m_messageTxt"));
+  const auto* address = window->findChild<QLineEdit*>(QStringLiteral("m_addressTxt"));
+  const auto* code = window->findChild<QLineEdit*>(QStringLiteral("m_codeTxt"));
+  QJsonArray buttons;
+  for (const QPushButton* button : window->findChildren<QPushButton*>()) {
+    buttons.append(QJsonObject{
+        {"name", button->objectName()}, {"text", button->text()}, {"enabled", button->isEnabled()}});
+  }
+  return QJsonObject{{"title", window->windowTitle()},
+                     {"message", message ? message->text() : QString()},
+                     {"address", address ? address->text() : QString()},
+                     {"code", code ? QJsonValue(code->text()) : QJsonValue()},
+                     {"buttons", buttons}};
+}

@@ -58,13 +58,54 @@ TEST_F(ADSignInDialogTest, TakesThePastedCode) {
   EXPECT_EQ(result->status, ADAuthenticationStatus::Succeeded);
 }
 
-TEST_F(ADSignInDialogTest, PastedAddressOfAnotherRequestIsNotTaken) {
+TEST_F(ADSignInDialogTest, ReadsPastedAnswers) {
+  const QString answer = "?code=c1&state=STATE&iss=ISSUER";
+  const std::pair<QString, QString> cases[] = {
+      {"c1", "c1"},
+      {"a?b=c#d", "a?b=c#d"},
+      {"https://example.com/done" + answer, "c1"},
+      {"https://example.com/done" + answer + "#_=_", "c1"},
+      {answer, "c1"},
+      {"https://example.com/?code=c1&state=other", ""},
+      {"https://example.com/done", ""},
+      {"?error=access_denied&state=other", ""},
+  };
+  for (const auto& [text, code] : cases) {
+    SCOPED_TRACE(text.toStdString());
+    opened.clear();
+    result.reset();
+    startWith(pastedCode);
+    const qsizetype requests = authority->tokenRequests().size();
+    auto* const field = control<QLineEdit>("m_codeTxt");
+    QString pasted = text;
+    field->setText(
+        pasted.replace("STATE", queryValue(opened.last(), "state")).replace("ISSUER", authority->address()));
+    press("m_continueBtn");
+    if (!code.isEmpty()) {
+      EXPECT_TRUE(dialogs().isEmpty());
+      ASSERT_TRUE(waitFor(result));
+      ASSERT_EQ(authority->tokenRequests().size(), requests + 1);
+      EXPECT_EQ(authority->tokenRequests().last().queryItemValue("code", QUrl::FullyDecoded), code);
+      continue;
+    }
+    ASSERT_EQ(dialogs().size(), 1);
+    EXPECT_TRUE(control<QLabel>("m_messageTxt")->text().contains("not the expected answer"));
+    EXPECT_EQ(field->selectedText(), field->text()) << "pasting again replaces it";
+    press("m_cancelBtn");
+    ASSERT_TRUE(waitFor(result));
+    EXPECT_EQ(authority->tokenRequests().size(), requests);
+  }
+}
+
+TEST_F(ADSignInDialogTest, BlanksAreNoCode) {
   startWith(pastedCode);
-  QTest::keyClicks(control<QLineEdit>("m_codeTxt"), "https://example.com/?code=x&state=other");
-  press("m_continueBtn");
-  EXPECT_FALSE(result);
+  auto* const field = control<QLineEdit>("m_codeTxt");
+  QTest::keyClicks(field, "  ");
+  EXPECT_FALSE(control<QPushButton>("m_continueBtn")->isEnabled());
+  QTest::keyClick(field, Qt::Key_Return);
   ASSERT_EQ(dialogs().size(), 1);
-  EXPECT_TRUE(control<QLabel>("m_messageTxt")->text().contains("not the expected answer"));
+  QTest::keyClicks(field, "x");
+  EXPECT_TRUE(control<QPushButton>("m_continueBtn")->isEnabled());
   EXPECT_TRUE(authority->tokenRequests().isEmpty());
 }
 

@@ -10,6 +10,14 @@ QList<ADTokenCacheItem> twoItems() {
           refreshItem("bob@example.com", "https://login.example.com", "refresh-1")};
 }
 
+// What the first released version stored for twoItems.
+constexpr char storedByVersion1[] =
+    "S1pUQwABAAAAAgAAABNKw7xyZ2VuQGV4YW1wbGUuY29tAAAAGWh0dHBzOi8vbG9naW4uZXhhbXBsZS5jb20AAAAY"
+    "aHR0cHM6Ly9tYWlsLmV4YW1wbGUuY29tAAAACGNsaWVudC0xAAAAHWFjY2Vzcy1vZi1Kw7xyZ2VuQGV4YW1wbGUu"
+    "Y29t/////wABAAAGkpHgfAAAAAAPYm9iQGV4YW1wbGUuY29tAAAAGWh0dHBzOi8vbG9naW4uZXhhbXBsZS5jb23/"
+    "////AAAACGNsaWVudC0x/////wAAAAlyZWZyZXNoLTEBAAAAAAAAAAAAo0dfFdOdrt+2UUxcqtPsQivnHN1yPdLX"
+    "BZ9716ZOo/g=";
+
 QByteArray withCheckSum(const QByteArray& body) {
   return body + QCryptographicHash::hash(body, QCryptographicHash::Sha256);
 }
@@ -96,6 +104,54 @@ TEST(ADTokenCacheTest, UpdateTakesThePredecessorsPlace) {
   refresh.resource = "https://anywhere.example.com";
   ASSERT_FALSE(cache.addOrUpdateItems({newer, otherResource, refresh}));
   EXPECT_EQ(cache.allItems().items, (QList<ADTokenCacheItem>{newer, refresh, otherResource}));
+}
+
+TEST(ADTokenCacheTest, ASignInReplacesWhatItSupersedes) {
+  const QString old("https://old.example.com");
+  const QString now("https://login.example.com");
+  const auto of = [](ADTokenCacheItem item, const char* client, const char* resource = nullptr) {
+    item.clientId = client;
+    if (resource != nullptr) item.resource = resource;
+    return item;
+  };
+  const QString user("alice@example.com");
+  const QList<ADTokenCacheItem> others{accessItem("bob@example.com", old),
+                                       refreshItem("bob@example.com", old, "bobs")};
+  const QList<ADTokenCacheItem> otherResource{of(accessItem(user, old), "client-2", "files"),
+                                              of(refreshItem(user, old, "still-needed"), "client-2")};
+  const QList<ADTokenCacheItem> superseded{accessItem("Alice@example.com", now),
+                                           refreshItem("Alice@example.com", now, "before"),
+                                           of(accessItem(user, now), "client-2"),
+                                           of(refreshItem(user, now, "of-the-old-client"), "client-2"),
+                                           accessItem(user, old),
+                                           refreshItem(user, old, "of-the-old-authority"),
+                                           of(accessItem(user, old), "client-2")};
+  ADTokenCacheItem access = accessItem(user, now);
+  access.accessToken = "fresh";
+  const ADTokenCacheItem refresh = refreshItem(user, now, "fresh");
+
+  ADTokenCache cache;
+  ASSERT_FALSE(cache.replaceAllItems(superseded + others + otherResource));
+  ASSERT_FALSE(cache.addSignedInItems({refresh, access}));
+  EXPECT_EQ(cache.allItems().items, (QList{refresh, access} + others + otherResource));
+
+  // Without a refresh token of its own it uses the one that is stored.
+  access.accessToken = "fresher";
+  ASSERT_FALSE(cache.replaceAllItems(others + QList{of(accessItem(user, now), "client-2"), refresh}));
+  ASSERT_FALSE(cache.addSignedInItems({access}));
+  EXPECT_EQ(cache.allItems().items, (QList{refresh, access} + others));
+
+  // Where there is none, the pair of another client must not be taken from the user.
+  ASSERT_FALSE(cache.replaceAllItems(otherResource));
+  access.resource = "files";
+  ASSERT_FALSE(cache.addSignedInItems({access}));
+  EXPECT_EQ(cache.allItems().items, otherResource + QList{access});
+}
+
+TEST(ADTokenCacheTest, ReadsWhatAnEarlierVersionWrote) {
+  ADTokenCache cache;
+  ASSERT_FALSE(cache.deserialize(QByteArray::fromBase64(storedByVersion1)));
+  EXPECT_EQ(cache.allItems().items, twoItems());
 }
 
 TEST(ADTokenCacheTest, ThreadsLoseNothing) {

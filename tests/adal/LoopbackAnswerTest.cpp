@@ -138,6 +138,7 @@ TEST_F(LoopbackAnswerTest, TheBrowserWaitsForTheOutcomeAtAnAddressWithoutTheCode
   const std::optional<QByteArray> page = get("/done");
   ASSERT_TRUE(page);
   EXPECT_TRUE(page->contains("<h1>Sign-in did not work</h1>")) << page->constData();
+  EXPECT_TRUE(page->contains("<path d=\"M17 17l14 14"));
   EXPECT_TRUE(page->contains("\r\nContent-Security-Policy: default-src 'none'; style-src 'sha256-"));
   for (const char* absent : {"<script", "http:", "https:", "url("})
     EXPECT_FALSE(page->sliced(page->indexOf("\r\n\r\n")).contains(absent)) << absent;

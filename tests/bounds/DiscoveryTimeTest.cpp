@@ -19,12 +19,11 @@ class DiscoveryTimeTest : public DiscoveryFixture {
  protected:
   // The same requests alone: the time of network and server.
   void askBare() {
-    QNetworkAccessManager network;
     const QString usual("autodiscover.corp.sandbox.example");
     const QByteArray right = "Basic " + QString(username + ":" + password).toUtf8().toBase64();
-    askOne(network, "corp.sandbox.example", {});
-    askOne(network, usual, {});
-    askOne(network, usual, right);
+    askOne("corp.sandbox.example", {});
+    askOne(usual, {});
+    askOne(usual, right);
   }
 
   // Qt Test's own waiting sleeps between its checks, and the server runs in this thread.
@@ -42,9 +41,9 @@ class DiscoveryTimeTest : public DiscoveryFixture {
   }
 
  private:
-  void askOne(QNetworkAccessManager& network, const QString& host, const QByteArray& authorization) {
+  void askOne(const QString& host, const QByteArray& authorization) {
     bool isDone = false;
-    const HttpCall call(network, configuration.network,
+    const HttpCall call(configuration.network,
                         {.address = QUrl("https://" + host + "/autodiscover/autodiscover.xml"),
                          .body = autodiscoverRequest("onprem@corp.sandbox.example"),
                          .authorization = authorization},

@@ -54,8 +54,7 @@ TEST(IdleCompanion, SleepsWithItsWindowsOpen) {
   const QTemporaryDir state;
   const QTemporaryDir runtime;
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-  // With the offscreen platform it would play its demonstration.
-  environment.insert("QT_QPA_PLATFORM", "minimal");
+  environment.insert("QT_QPA_PLATFORM", "offscreen");
   environment.insert("XDG_RUNTIME_DIR", runtime.path());
   QProcess companion;
   companion.setProcessEnvironment(environment);

@@ -61,8 +61,7 @@ TEST(Companion, LeavesNoSandboxBehindWhenItIsKilled) {
   const QTemporaryDir folder;
   QProcess companion;
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-  // With the offscreen platform it would play its demonstration, which needs no sandbox.
-  environment.insert("QT_QPA_PLATFORM", "minimal");
+  environment.insert("QT_QPA_PLATFORM", "offscreen");
   companion.setProcessEnvironment(environment);
   companion.start(COMPANION, {"--plugin", FAKE_PLUGIN, "--state", folder.path()});
   QString processId;

@@ -121,8 +121,7 @@ class SecondCompanionTest : public SingleInstanceTest {
  protected:
   static void start(QProcess* companion, const QString& folder) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    // With the offscreen platform it would play its demonstration.
-    environment.insert("QT_QPA_PLATFORM", "minimal");
+    environment.insert("QT_QPA_PLATFORM", "offscreen");
     companion->setProcessEnvironment(environment);
     companion->start(COMPANION, {"--plugin", FAKE_PLUGIN, "--state", folder});
   }

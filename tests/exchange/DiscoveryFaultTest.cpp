@@ -101,6 +101,20 @@ TEST_F(DiscoveryResponseTest, NeverGoesOnUnencryptedOrToAForeignHostUnasked) {
   EXPECT_EQ(asked.size(), 1) << "asked twice about one host";
 }
 
+TEST_F(DiscoveryResponseTest, TellsWhatTheUserDeclinedBeforeWhatAnotherServerDid) {
+  configuration.network.endpoint = [this, others = configuration.network.endpoint](const QUrl& url) {
+    return url.host() == "autodiscover.evil.example" ? description.encrypted : others(url);
+  };
+  detect("x@autodiscover.evil.example");
+  EXPECT_TRUE(waitForMessage().contains("belongs to another name"));
+  response = {.body = account("<Action>redirectUrl</Action><RedirectUrl>https://corp.sandbox.example/x"
+                              "</RedirectUrl>")};
+  detect("x@evil.example");
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !openQuestions.isEmpty(); }));
+  openQuestions.takeFirst()(false);
+  EXPECT_TRUE(waitForMessage().contains("did not allow corp.sandbox.example"));
+}
+
 TEST_F(DiscoveryResponseTest, AsksBeforeMeetingsAreReadFromAForeignHost) {
   response = {.body = account("<Action>settings</Action><Protocol><Type>EXPR</Type><EwsUrl>"
                               "https://mail.corp.sandbox.example/x</EwsUrl></Protocol>")};

@@ -20,9 +20,9 @@ QByteArray recordIn(const QString& path) {
 // The companion as its users start it, without their session.
 class RecordedProcess : public testing::Test {
  protected:
-  void start(const char* platform, const QStringList& options) {
+  void start(const QStringList& options) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("QT_QPA_PLATFORM", platform);
+    environment.insert("QT_QPA_PLATFORM", "offscreen");
     environment.insert("XDG_RUNTIME_DIR", m_folder.path());
     environment.insert("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere");
     m_companion.setProcessEnvironment(environment);
@@ -38,7 +38,7 @@ class RecordedProcess : public testing::Test {
 };
 
 TEST_F(RecordedProcess, ADemonstrationPlaysAgain) {
-  start("offscreen", {"--demo", "--out", m_folder.filePath("pictures")});
+  start({"--demo", "--out", m_folder.filePath("pictures")});
   ASSERT_TRUE(m_companion.waitForFinished(kLongestRun));
   ASSERT_EQ(m_companion.exitCode(), 0) << m_companion.readAllStandardError().toStdString();
   const QStringList lines = linesOf(path());
@@ -52,9 +52,9 @@ TEST_F(RecordedProcess, ADemonstrationPlaysAgain) {
 }
 
 TEST_F(RecordedProcess, AKilledCompanionLeavesAWholeRecord) {
-  // Each time a little later, offscreen it would play its demonstration.
+  // Each time a little later.
   for (const int lines : {3, 8, 12}) {
-    start("minimal", {});
+    start({});
     EXPECT_TRUE(QTest::qWaitFor([&] { return recordIn(path()).count('\n') >= lines; }, 20'000))
         << recordIn(path()).toStdString();
     m_companion.kill();

@@ -27,8 +27,7 @@ class SandboxTest : public testing::Test {
 
   HttpResponse responseTo(const HttpRequest& request) {
     std::optional<HttpResponse> response;
-    const HttpCall call(network, configuration, request,
-                        [&response](const HttpResponse& got) { response = got; });
+    const HttpCall call(configuration, request, [&response](const HttpResponse& got) { response = got; });
     EXPECT_TRUE(kit::waitUntil([&response] { return response.has_value(); }));
     return response.value_or(HttpResponse());
   }
@@ -43,7 +42,6 @@ class SandboxTest : public testing::Test {
   std::unique_ptr<sandbox::Sandbox> played;
   SandboxDescription description;
   NetworkConfiguration configuration;
-  QNetworkAccessManager network;
 };
 
 TEST_F(SandboxTest, TheThirdRefusalLocksTheAccountUntilTheSandboxStartsAnew) {

@@ -93,4 +93,35 @@ TEST_F(SiteServiceTest, AGuestHearsOfNoRecord) {
   EXPECT_TRUE(store().preferenceInfo().value_or(Dictionary()).isEmpty());
 }
 
+TEST_F(SiteServiceTest, WithTheNetworkTheSandboxsHostsAreNeverLookedForThere) {
+  QStringList requested;
+  ExchangeConfiguration configuration = quickConfiguration();
+  configuration.network.endpoint = [&requested](const QUrl& address) {
+    requested.append(address.host());
+    return NetworkEndpoint{.address = "127.0.0.1", .port = 1};
+  };
+  ServiceNetwork both(NetworkReach::Network, configuration);
+  SiteService ofBoth(&host, &both, {});
+  const auto askFor = [&ofBoth](const QString& site) {
+    std::optional<SiteService::Result> answer;
+    ofBoth.lookUp(site, [&answer](const SiteService::Result& got) { answer = got; });
+    EXPECT_TRUE(kit::waitUntil([&answer] { return answer.has_value(); }));
+    return answer->failure;
+  };
+  store().setSiteName("meetings.sandbox.example");
+  ofBoth.refresh();
+  EXPECT_TRUE(askFor("meetings.real.example").contains("still starting"));
+  EXPECT_TRUE(requested.isEmpty()) << requested.join(' ').toStdString();
+  both.useSandbox(description);
+  EXPECT_EQ(askFor("meetings.sandbox.example"), "");
+  EXPECT_TRUE(requested.isEmpty());
+  EXPECT_TRUE(askFor("meetings.real.example").contains("cannot be reached"));
+  EXPECT_EQ(requested, QStringList{"meetings.real.example"});
+  both.loseSandbox("It has ended.");
+  EXPECT_TRUE(askFor("meetings.sandbox.example").startsWith("It has ended."));
+  EXPECT_TRUE(askFor("meetings.real.example").contains("cannot be reached"));
+  EXPECT_EQ(requested.count("meetings.real.example"), 2);
+  EXPECT_EQ(requested.size(), 2);
+}
+
 }  // namespace

@@ -48,6 +48,10 @@
         <translation>%1 lässt Sie nicht zu. Bitten Sie Ihre Administration um Zugang.</translation>
     </message>
     <message>
+        <source>%1 does not offer the encryption that is needed. Ask your administrator to mend it.</source>
+        <translation>%1 bietet nicht die nötige Verschlüsselung an. Bitten Sie Ihre Administration, das zu beheben.</translation>
+    </message>
+    <message>
         <source>%1 gave no usable answer. Check its name, or tell your administrator.</source>
         <translation>%1 hat keine brauchbare Antwort gegeben. Prüfen Sie den Namen oder wenden Sie sich an Ihre Administration.</translation>
     </message>
@@ -324,6 +328,14 @@
         <translation>Das Zertifikat von %1 gilt für einen anderen Namen. Bitten Sie Ihre Administration, das zu beheben.</translation>
     </message>
     <message>
+        <source>The certificate of %1 has expired. Check the date of this computer, or ask your administrator to renew it.</source>
+        <translation>Das Zertifikat von %1 ist abgelaufen. Prüfen Sie das Datum dieses Computers, oder bitten Sie Ihre Administration, es zu erneuern.</translation>
+    </message>
+    <message>
+        <source>The certificate of %1 is not valid yet. Check the date of this computer.</source>
+        <translation>Das Zertifikat von %1 ist noch nicht gültig. Prüfen Sie das Datum dieses Computers.</translation>
+    </message>
+    <message>
         <source>The certificate of %1 is not trusted. Ask your administrator before you go on.</source>
         <translation>Dem Zertifikat von %1 wird nicht vertraut. Fragen Sie Ihre Administration, bevor Sie fortfahren.</translation>
     </message>
@@ -580,8 +592,16 @@
         <translation>Einstellungen &amp;schließen</translation>
     </message>
     <message>
-        <source>Passwords cannot be kept: the keyring is locked or does not answer. They are known until Brenn Mivra Meetings quits. Unlock the keyring, then start again.</source>
-        <translation>Passwörter können nicht aufbewahrt werden: Der Schlüsselbund ist gesperrt oder antwortet nicht. Bis Brenn Mivra Meetings beendet wird, bleiben sie bekannt. Entsperren Sie den Schlüsselbund und starten Sie dann neu.</translation>
+        <source>Passwords cannot be kept: the keyring is locked. They are known until Brenn Mivra Meetings quits. Unlock the keyring; they are saved then.</source>
+        <translation>Passwörter können nicht aufbewahrt werden: Der Schlüsselbund ist gesperrt. Bis Brenn Mivra Meetings beendet wird, bleiben sie bekannt. Entsperren Sie den Schlüsselbund; dann werden sie gespeichert.</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be kept: there is no keyring. They are known until Brenn Mivra Meetings quits. Start or install one, such as GNOME Keyring; they are saved then.</source>
+        <translation>Passwörter können nicht aufbewahrt werden: Es gibt keinen Schlüsselbund. Bis Brenn Mivra Meetings beendet wird, bleiben sie bekannt. Starten oder installieren Sie einen, etwa GNOME Keyring; dann werden sie gespeichert.</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be kept: the keyring does not answer. They are known until Brenn Mivra Meetings quits. Wait, or restart the keyring; they are saved then.</source>
+        <translation>Passwörter können nicht aufbewahrt werden: Der Schlüsselbund antwortet nicht. Bis Brenn Mivra Meetings beendet wird, bleiben sie bekannt. Warten Sie, oder starten Sie den Schlüsselbund neu; dann werden sie gespeichert.</translation>
     </message>
     <message>
         <source>Settings cannot be saved: %1 is read-only. They are kept until Brenn Mivra Meetings quits. Make the folder writable; the next change saves them all.</source>
@@ -832,8 +852,8 @@
         <translation>Office 365, das auf die Anmeldung mit einer Webseite antwortet</translation>
     </message>
     <message>
-        <source>Office 365 that does not say how long the sign-in is valid</source>
-        <translation>Office 365, das nicht sagt, wie lange die Anmeldung gilt</translation>
+        <source>Office 365 that does not say how long the sign-in is valid: an hour is assumed</source>
+        <translation>Office 365, das nicht sagt, wie lange die Anmeldung gilt: eine Stunde wird angenommen</translation>
     </message>
     <message>
         <source>Redirects to onprem@corp.sandbox.example</source>

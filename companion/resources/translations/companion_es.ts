@@ -48,6 +48,10 @@
         <translation>%1 no le permite el acceso. Solicítelo a su administrador.</translation>
     </message>
     <message>
+        <source>%1 does not offer the encryption that is needed. Ask your administrator to mend it.</source>
+        <translation>%1 no ofrece el cifrado necesario. Pida a su administrador que lo corrija.</translation>
+    </message>
+    <message>
         <source>%1 gave no usable answer. Check its name, or tell your administrator.</source>
         <translation>%1 no dio una respuesta utilizable. Compruebe el nombre o avise a su administrador.</translation>
     </message>
@@ -324,6 +328,14 @@
         <translation>El certificado de %1 corresponde a otro nombre. Pida a su administrador que lo corrija.</translation>
     </message>
     <message>
+        <source>The certificate of %1 has expired. Check the date of this computer, or ask your administrator to renew it.</source>
+        <translation>El certificado de %1 ha caducado. Compruebe la fecha de este equipo o pida a su administrador que lo renueve.</translation>
+    </message>
+    <message>
+        <source>The certificate of %1 is not valid yet. Check the date of this computer.</source>
+        <translation>El certificado de %1 aún no es válido. Compruebe la fecha de este equipo.</translation>
+    </message>
+    <message>
         <source>The certificate of %1 is not trusted. Ask your administrator before you go on.</source>
         <translation>El certificado de %1 no es de confianza. Consulte a su administrador antes de continuar.</translation>
     </message>
@@ -580,8 +592,16 @@
         <translation>C&amp;errar Preferencias</translation>
     </message>
     <message>
-        <source>Passwords cannot be kept: the keyring is locked or does not answer. They are known until Brenn Mivra Meetings quits. Unlock the keyring, then start again.</source>
-        <translation>No se pueden guardar las contraseñas: el llavero está bloqueado o no responde. Se recordarán hasta que se cierre Brenn Mivra Meetings. Desbloquee el llavero y vuelva a iniciar.</translation>
+        <source>Passwords cannot be kept: the keyring is locked. They are known until Brenn Mivra Meetings quits. Unlock the keyring; they are saved then.</source>
+        <translation>No se pueden guardar las contraseñas: el llavero está bloqueado. Se recordarán hasta que se cierre Brenn Mivra Meetings. Desbloquee el llavero; entonces se guardarán.</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be kept: there is no keyring. They are known until Brenn Mivra Meetings quits. Start or install one, such as GNOME Keyring; they are saved then.</source>
+        <translation>No se pueden guardar las contraseñas: no hay ningún llavero. Se recordarán hasta que se cierre Brenn Mivra Meetings. Inicie o instale uno, como GNOME Keyring; entonces se guardarán.</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be kept: the keyring does not answer. They are known until Brenn Mivra Meetings quits. Wait, or restart the keyring; they are saved then.</source>
+        <translation>No se pueden guardar las contraseñas: el llavero no responde. Se recordarán hasta que se cierre Brenn Mivra Meetings. Espere o reinicie el llavero; entonces se guardarán.</translation>
     </message>
     <message>
         <source>Settings cannot be saved: %1 is read-only. They are kept until Brenn Mivra Meetings quits. Make the folder writable; the next change saves them all.</source>
@@ -832,8 +852,8 @@
         <translation>Office 365 que responde al inicio de sesión con una página web</translation>
     </message>
     <message>
-        <source>Office 365 that does not say how long the sign-in is valid</source>
-        <translation>Office 365 que no indica cuánto dura el inicio de sesión</translation>
+        <source>Office 365 that does not say how long the sign-in is valid: an hour is assumed</source>
+        <translation>Office 365 que no indica cuánto dura el inicio de sesión: se supone una hora</translation>
     </message>
     <message>
         <source>Redirects to onprem@corp.sandbox.example</source>

@@ -48,6 +48,10 @@
         <translation>%1 vous refuse l’accès. Demandez un accès à votre administrateur.</translation>
     </message>
     <message>
+        <source>%1 does not offer the encryption that is needed. Ask your administrator to mend it.</source>
+        <translation>%1 ne propose pas le chiffrement nécessaire. Demandez à votre administrateur de le corriger.</translation>
+    </message>
+    <message>
         <source>%1 gave no usable answer. Check its name, or tell your administrator.</source>
         <translation>%1 n’a pas donné de réponse exploitable. Vérifiez son nom ou prévenez votre administrateur.</translation>
     </message>
@@ -324,6 +328,14 @@
         <translation>Le certificat de %1 est établi pour un autre nom. Demandez à votre administrateur de le corriger.</translation>
     </message>
     <message>
+        <source>The certificate of %1 has expired. Check the date of this computer, or ask your administrator to renew it.</source>
+        <translation>Le certificat de %1 a expiré. Vérifiez la date de cet ordinateur ou demandez à votre administrateur de le renouveler.</translation>
+    </message>
+    <message>
+        <source>The certificate of %1 is not valid yet. Check the date of this computer.</source>
+        <translation>Le certificat de %1 n’est pas encore valable. Vérifiez la date de cet ordinateur.</translation>
+    </message>
+    <message>
         <source>The certificate of %1 is not trusted. Ask your administrator before you go on.</source>
         <translation>Le certificat de %1 n’est pas approuvé. Consultez votre administrateur avant de continuer.</translation>
     </message>
@@ -580,8 +592,16 @@
         <translation>&amp;Fermer les préférences</translation>
     </message>
     <message>
-        <source>Passwords cannot be kept: the keyring is locked or does not answer. They are known until Brenn Mivra Meetings quits. Unlock the keyring, then start again.</source>
-        <translation>Impossible de conserver les mots de passe : le trousseau est verrouillé ou ne répond pas. Ils restent connus jusqu’à la fermeture de Brenn Mivra Meetings. Déverrouillez le trousseau, puis redémarrez.</translation>
+        <source>Passwords cannot be kept: the keyring is locked. They are known until Brenn Mivra Meetings quits. Unlock the keyring; they are saved then.</source>
+        <translation>Impossible de conserver les mots de passe : le trousseau est verrouillé. Ils restent connus jusqu’à la fermeture de Brenn Mivra Meetings. Déverrouillez le trousseau ; ils seront alors enregistrés.</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be kept: there is no keyring. They are known until Brenn Mivra Meetings quits. Start or install one, such as GNOME Keyring; they are saved then.</source>
+        <translation>Impossible de conserver les mots de passe : il n’y a pas de trousseau. Ils restent connus jusqu’à la fermeture de Brenn Mivra Meetings. Démarrez ou installez-en un, par exemple GNOME Keyring ; ils seront alors enregistrés.</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be kept: the keyring does not answer. They are known until Brenn Mivra Meetings quits. Wait, or restart the keyring; they are saved then.</source>
+        <translation>Impossible de conserver les mots de passe : le trousseau ne répond pas. Ils restent connus jusqu’à la fermeture de Brenn Mivra Meetings. Attendez ou redémarrez le trousseau ; ils seront alors enregistrés.</translation>
     </message>
     <message>
         <source>Settings cannot be saved: %1 is read-only. They are kept until Brenn Mivra Meetings quits. Make the folder writable; the next change saves them all.</source>
@@ -832,8 +852,8 @@
         <translation>Office 365 qui répond à la connexion par une page web</translation>
     </message>
     <message>
-        <source>Office 365 that does not say how long the sign-in is valid</source>
-        <translation>Office 365 qui n’indique pas la durée de validité de la connexion</translation>
+        <source>Office 365 that does not say how long the sign-in is valid: an hour is assumed</source>
+        <translation>Office 365 qui n’indique pas la durée de validité de la connexion : une heure est supposée</translation>
     </message>
     <message>
         <source>Redirects to onprem@corp.sandbox.example</source>

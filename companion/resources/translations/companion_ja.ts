@@ -48,6 +48,10 @@
         <translation>%1 へのアクセスが許可されていません。管理者にアクセス権を依頼してください。</translation>
     </message>
     <message>
+        <source>%1 does not offer the encryption that is needed. Ask your administrator to mend it.</source>
+        <translation>%1 は必要な暗号化に対応していません。管理者に修正を依頼してください。</translation>
+    </message>
+    <message>
         <source>%1 gave no usable answer. Check its name, or tell your administrator.</source>
         <translation>%1 から有効な応答がありませんでした。名前を確認するか、管理者に連絡してください。</translation>
     </message>
@@ -324,6 +328,14 @@
         <translation>%1 の証明書は別の名前のものです。管理者に修正を依頼してください。</translation>
     </message>
     <message>
+        <source>The certificate of %1 has expired. Check the date of this computer, or ask your administrator to renew it.</source>
+        <translation>%1 の証明書は期限切れです。このコンピューターの日付を確認するか、管理者に更新を依頼してください。</translation>
+    </message>
+    <message>
+        <source>The certificate of %1 is not valid yet. Check the date of this computer.</source>
+        <translation>%1 の証明書はまだ有効期間に入っていません。このコンピューターの日付を確認してください。</translation>
+    </message>
+    <message>
         <source>The certificate of %1 is not trusted. Ask your administrator before you go on.</source>
         <translation>%1 の証明書は信頼されていません。続ける前に管理者に問い合わせてください。</translation>
     </message>
@@ -580,8 +592,16 @@
         <translation>環境設定を閉じる(&amp;C)</translation>
     </message>
     <message>
-        <source>Passwords cannot be kept: the keyring is locked or does not answer. They are known until Brenn Mivra Meetings quits. Unlock the keyring, then start again.</source>
-        <translation>パスワードを保存できません。キーリングがロックされているか、応答していません。パスワードは Brenn Mivra Meetings の終了まで保持されます。キーリングのロックを解除してから、起動し直してください。</translation>
+        <source>Passwords cannot be kept: the keyring is locked. They are known until Brenn Mivra Meetings quits. Unlock the keyring; they are saved then.</source>
+        <translation>パスワードを保存できません。キーリングがロックされています。パスワードは Brenn Mivra Meetings の終了まで保持されます。キーリングのロックを解除すると保存されます。</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be kept: there is no keyring. They are known until Brenn Mivra Meetings quits. Start or install one, such as GNOME Keyring; they are saved then.</source>
+        <translation>パスワードを保存できません。キーリングがありません。パスワードは Brenn Mivra Meetings の終了まで保持されます。GNOME Keyring などを起動またはインストールすると保存されます。</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be kept: the keyring does not answer. They are known until Brenn Mivra Meetings quits. Wait, or restart the keyring; they are saved then.</source>
+        <translation>パスワードを保存できません。キーリングが応答していません。パスワードは Brenn Mivra Meetings の終了まで保持されます。しばらく待つか、キーリングを再起動すると保存されます。</translation>
     </message>
     <message>
         <source>Settings cannot be saved: %1 is read-only. They are kept until Brenn Mivra Meetings quits. Make the folder writable; the next change saves them all.</source>
@@ -832,8 +852,8 @@
         <translation>サインインに Web ページを返す Office 365</translation>
     </message>
     <message>
-        <source>Office 365 that does not say how long the sign-in is valid</source>
-        <translation>サインインの有効期間を示さない Office 365</translation>
+        <source>Office 365 that does not say how long the sign-in is valid: an hour is assumed</source>
+        <translation>サインインの有効期間を示さない Office 365：1 時間とみなします</translation>
     </message>
     <message>
         <source>Redirects to onprem@corp.sandbox.example</source>

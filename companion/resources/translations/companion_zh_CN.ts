@@ -48,6 +48,10 @@
         <translation>%1 拒绝您访问。请向管理员申请访问权限。</translation>
     </message>
     <message>
+        <source>%1 does not offer the encryption that is needed. Ask your administrator to mend it.</source>
+        <translation>%1 不提供所需的加密。请让管理员修正。</translation>
+    </message>
+    <message>
         <source>%1 gave no usable answer. Check its name, or tell your administrator.</source>
         <translation>%1 未给出可用的响应。请检查名称或联系管理员。</translation>
     </message>
@@ -324,6 +328,14 @@
         <translation>%1 的证书属于其他名称。请让管理员修正。</translation>
     </message>
     <message>
+        <source>The certificate of %1 has expired. Check the date of this computer, or ask your administrator to renew it.</source>
+        <translation>%1 的证书已过期。请检查此计算机的日期，或让管理员更新证书。</translation>
+    </message>
+    <message>
+        <source>The certificate of %1 is not valid yet. Check the date of this computer.</source>
+        <translation>%1 的证书尚未生效。请检查此计算机的日期。</translation>
+    </message>
+    <message>
         <source>The certificate of %1 is not trusted. Ask your administrator before you go on.</source>
         <translation>%1 的证书不受信任。继续之前请咨询管理员。</translation>
     </message>
@@ -580,8 +592,16 @@
         <translation>关闭偏好设置(&amp;C)</translation>
     </message>
     <message>
-        <source>Passwords cannot be kept: the keyring is locked or does not answer. They are known until Brenn Mivra Meetings quits. Unlock the keyring, then start again.</source>
-        <translation>无法保存密码：密钥环已锁定或没有响应。密码仅保留到 Brenn Mivra Meetings 退出为止。请解锁密钥环，然后重新启动。</translation>
+        <source>Passwords cannot be kept: the keyring is locked. They are known until Brenn Mivra Meetings quits. Unlock the keyring; they are saved then.</source>
+        <translation>无法保存密码：密钥环已锁定。密码仅保留到 Brenn Mivra Meetings 退出为止。请解锁密钥环，之后会保存密码。</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be kept: there is no keyring. They are known until Brenn Mivra Meetings quits. Start or install one, such as GNOME Keyring; they are saved then.</source>
+        <translation>无法保存密码：没有密钥环。密码仅保留到 Brenn Mivra Meetings 退出为止。请启动或安装一个密钥环，例如 GNOME Keyring，之后会保存密码。</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be kept: the keyring does not answer. They are known until Brenn Mivra Meetings quits. Wait, or restart the keyring; they are saved then.</source>
+        <translation>无法保存密码：密钥环没有响应。密码仅保留到 Brenn Mivra Meetings 退出为止。请稍候，或重新启动密钥环，之后会保存密码。</translation>
     </message>
     <message>
         <source>Settings cannot be saved: %1 is read-only. They are kept until Brenn Mivra Meetings quits. Make the folder writable; the next change saves them all.</source>
@@ -832,8 +852,8 @@
         <translation>以网页回应登录的 Office 365</translation>
     </message>
     <message>
-        <source>Office 365 that does not say how long the sign-in is valid</source>
-        <translation>不说明登录有效期的 Office 365</translation>
+        <source>Office 365 that does not say how long the sign-in is valid: an hour is assumed</source>
+        <translation>不说明登录有效期的 Office 365：视为一小时</translation>
     </message>
     <message>
         <source>Redirects to onprem@corp.sandbox.example</source>
