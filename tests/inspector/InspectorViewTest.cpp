@@ -183,4 +183,17 @@ TEST_F(InspectorViewTest, WhatIsReadStaysWhenItsRowGoes) {
   EXPECT_EQ(m_log.eventAt(table()->rowAt(2)), first);
 }
 
+TEST_F(InspectorViewTest, TabBeginsAtTheNewestEventThatIsSeen) {
+  m_view.activateWindow();
+  add(60);
+  table()->setFocus(Qt::TabFocusReason);
+  EXPECT_EQ(table()->currentIndex().row(), 59);
+  table()->clearFocus();
+  table()->selectionModel()->clearCurrentIndex();
+  table()->scrollToTop();
+  table()->setFocus(Qt::TabFocusReason);
+  EXPECT_GT(table()->currentIndex().row(), 0);
+  EXPECT_LT(table()->currentIndex().row(), 30);
+}
+
 }  // namespace

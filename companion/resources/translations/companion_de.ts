@@ -852,8 +852,8 @@
         <translation>Office 365, das auf die Anmeldung mit einer Webseite antwortet</translation>
     </message>
     <message>
-        <source>Office 365 that does not say how long the sign-in is valid: an hour is assumed</source>
-        <translation>Office 365, das nicht sagt, wie lange die Anmeldung gilt: eine Stunde wird angenommen</translation>
+        <source>Office 365 that does not say how long the sign-in is valid</source>
+        <translation>Office 365, das nicht sagt, wie lange die Anmeldung gilt</translation>
     </message>
     <message>
         <source>Redirects to onprem@corp.sandbox.example</source>

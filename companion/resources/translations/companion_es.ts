@@ -852,8 +852,8 @@
         <translation>Office 365 que responde al inicio de sesión con una página web</translation>
     </message>
     <message>
-        <source>Office 365 that does not say how long the sign-in is valid: an hour is assumed</source>
-        <translation>Office 365 que no indica cuánto dura el inicio de sesión: se supone una hora</translation>
+        <source>Office 365 that does not say how long the sign-in is valid</source>
+        <translation>Office 365 que no indica cuánto dura el inicio de sesión</translation>
     </message>
     <message>
         <source>Redirects to onprem@corp.sandbox.example</source>

@@ -852,8 +852,8 @@
         <translation>Office 365 qui répond à la connexion par une page web</translation>
     </message>
     <message>
-        <source>Office 365 that does not say how long the sign-in is valid: an hour is assumed</source>
-        <translation>Office 365 qui n’indique pas la durée de validité de la connexion : une heure est supposée</translation>
+        <source>Office 365 that does not say how long the sign-in is valid</source>
+        <translation>Office 365 qui n’indique pas la durée de validité de la connexion</translation>
     </message>
     <message>
         <source>Redirects to onprem@corp.sandbox.example</source>

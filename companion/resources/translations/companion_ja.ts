@@ -852,8 +852,8 @@
         <translation>サインインに Web ページを返す Office 365</translation>
     </message>
     <message>
-        <source>Office 365 that does not say how long the sign-in is valid: an hour is assumed</source>
-        <translation>サインインの有効期間を示さない Office 365：1 時間とみなします</translation>
+        <source>Office 365 that does not say how long the sign-in is valid</source>
+        <translation>サインインの有効期間を示さない Office 365</translation>
     </message>
     <message>
         <source>Redirects to onprem@corp.sandbox.example</source>

@@ -852,8 +852,8 @@
         <translation>以网页回应登录的 Office 365</translation>
     </message>
     <message>
-        <source>Office 365 that does not say how long the sign-in is valid: an hour is assumed</source>
-        <translation>不说明登录有效期的 Office 365：视为一小时</translation>
+        <source>Office 365 that does not say how long the sign-in is valid</source>
+        <translation>不说明登录有效期的 Office 365</translation>
     </message>
     <message>
         <source>Redirects to onprem@corp.sandbox.example</source>
