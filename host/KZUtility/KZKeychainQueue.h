@@ -11,7 +11,7 @@
 // or removal counts at once. One worker thread carries reads, writes and removals to the keyring in their
 // order; of an item only the newest is carried out. What the keyring does not confirm is tried again, with
 // growing pauses and at every new change. Any thread.
-class KZ_HOST_EXPORT KZKeychainQueue final {
+class KZKeychainQueue final {
  public:
   using Item = KZKeychainBackend::Item;
   using Answer = KZKeychainBackend::Answer;
