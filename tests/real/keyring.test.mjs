@@ -44,7 +44,8 @@ function keyringTests(Keyring) {
   async function token() {
     const from = session.printed.length;
     await session.play(tokenRequest(user));
-    return (await session.waitFor('an answer', (line) => line.sent === 29, from)).content.QRT_ListingMeeting_exchOnlineToken;
+    const answer = await session.waitFor('an answer', (line) => line.sent === 29, from);
+    return answer.content.QRT_ListingMeeting_exchOnlineToken;
   }
 
   test('what one run keeps, the next finds', async () => {

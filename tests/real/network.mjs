@@ -92,7 +92,8 @@ async function makeCertificate({ host, days = 2, certificateName = host, signer 
   const request = ['-keyout', `${at}.key`, '-out', `${at}.csr`, '-subj', '/CN=host'];
   await openssl('req', '-new', '-newkey', 'rsa:2048', '-nodes', ...request);
   const by = ['-CA', `${folder}/${signer}.pem`, '-CAkey', `${folder}/${signer}.key`, '-CAcreateserial'];
-  await openssl('x509', '-req', '-in', `${at}.csr`, '-days', `${days}`, '-extfile', `${at}.ext`, '-out', `${at}.pem`, ...by);
+  const form = ['-days', `${days}`, '-extfile', `${at}.ext`, '-out', `${at}.pem`];
+  await openssl('x509', '-req', '-in', `${at}.csr`, ...by, ...form);
 }
 
 // Puts a file or folder of the tests in place of one of the system, for the programs of this test run.

@@ -68,7 +68,8 @@ export class Session {
     const from = this.printed.length;
     const marker = `played ${++this.#marker}`;
     for (const step of [...steps, { echo: marker }]) this.#child.stdin.write(JSON.stringify(step) + '\n');
-    await until(`steps are played: ${JSON.stringify(steps)}`, () => this.printed.slice(from).some((line) => line.echo === marker));
+    const isPlayed = () => this.printed.slice(from).some((line) => line.echo === marker);
+    await until(`played: ${JSON.stringify(steps)}`, isPlayed);
     return this.printed.slice(from).filter((line) => line.echo === undefined);
   }
 
