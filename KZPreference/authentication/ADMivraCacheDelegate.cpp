@@ -16,6 +16,7 @@ namespace {
 constexpr qint32 statusDone = 0;
 constexpr qint32 statusNotAvailable = -25291;
 constexpr qint32 statusItemNotFound = -25300;
+constexpr qint32 statusInteractionNotAllowed = -25308;
 
 KZKeychainBackend::Item tokenCacheItem() {
   return {QStringLiteral("Brenn Mivra Meetings"), QStringLiteral("OutlookAccount(Online)")};
@@ -27,7 +28,10 @@ qint32 keychainStatus(KZKeychainBackend::Status status) {
       return statusDone;
     case KZKeychainBackend::Status::NotFound:
       return statusItemNotFound;
-    case KZKeychainBackend::Status::Unavailable:
+    case KZKeychainBackend::Status::Locked:
+      return statusInteractionNotAllowed;
+    case KZKeychainBackend::Status::NoKeyring:
+    case KZKeychainBackend::Status::Silent:
       return statusNotAvailable;
   }
   return statusNotAvailable;
@@ -79,8 +83,14 @@ void ADMivraCacheDelegate::didWriteCache(ADTokenCache& cache) {
 
 void ADMivraCacheDelegate::fill(ADTokenCache& cache) {
   const ADTokenCache::Failure failure = cache.deserialize(_data);
-  // On failure the cache keeps its items, and the keychain its data until the next write.
-  if (failure) MVRNSErrorFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "error:%@", failure->text());
+  if (!failure) return;
+  // The cache keeps its items, and the keychain its data until the next write. Traced later, because a host's
+  // sink may look up a token, for which it needs the locks held here.
+  static const char* const method = Q_FUNC_INFO;
+  const auto trace = [text = failure->text()] {
+    MVRNSErrorFuncTraceIMPL("KZPreference", method, "error:%@", text);
+  };
+  QMetaObject::invokeMethod(&KZKeyChainHandle::sharedInstance(), trace, Qt::QueuedConnection);
 }
 
 qint32 ADMivraCacheDelegate::readFromKeychain() {

@@ -31,7 +31,8 @@ class ADMivraCacheDelegate final : public ADTokenCacheDelegate {
   qint32 readFromKeychain();
   qint32 writeToKeychain();
 
-  // Empties the default cache, then deletes the item. A missing item is no failure.
+  // Empties the default cache, then deletes the item. True only when the keychain has confirmed that it has
+  // none; otherwise it is deleted as soon as the keychain answers.
   [[nodiscard]] bool clearCacheWithError(OSStatusError* error);
 
   // Whether the file was read or written. A file that cannot be read leaves no data.

@@ -43,10 +43,24 @@ QString noticeOfSetAside(const QString& file) {
   return companionText("Settings could not be read and were set aside as %1. They start anew.").arg(file);
 }
 
-QString noticeOfSecrets() {
-  return companionText(
-      "Passwords cannot be kept: the keyring is locked or does not answer. They are known until Brenn Mivra "
-      "Meetings quits. Unlock the keyring, then start again.");
+QString noticeOfSecrets(KZKeyChainHandle::Hindrance hindrance) {
+  switch (hindrance) {
+    case KZKeyChainHandle::Hindrance::None:
+      break;
+    case KZKeyChainHandle::Hindrance::Locked:
+      return companionText(
+          "Passwords cannot be kept: the keyring is locked. They are known until Brenn Mivra Meetings quits. "
+          "Unlock the keyring; they are saved then.");
+    case KZKeyChainHandle::Hindrance::NoKeyring:
+      return companionText(
+          "Passwords cannot be kept: there is no keyring. They are known until Brenn Mivra Meetings quits. "
+          "Start or install one, such as GNOME Keyring; they are saved then.");
+    case KZKeyChainHandle::Hindrance::Silent:
+      return companionText(
+          "Passwords cannot be kept: the keyring does not answer. They are known until Brenn Mivra Meetings "
+          "quits. Wait, or restart the keyring; they are saved then.");
+  }
+  return {};
 }
 
 QString faultNotices() {
@@ -56,7 +70,8 @@ QString faultNotices() {
     notices.append(noticeOfSaving(store.saveProblem(), store.filePath()));
   }
   if (!store.setAsidePath().isNull()) notices.append(noticeOfSetAside(store.setAsidePath()));
-  if (KZKeyChainHandle::sharedInstance().hasFailed()) notices.append(noticeOfSecrets());
+  const QString secrets = noticeOfSecrets(KZKeyChainHandle::sharedInstance().hindrance());
+  if (!secrets.isEmpty()) notices.append(secrets);
   return notices.join(u'\n');
 }
 
@@ -81,7 +96,7 @@ QLabel* createFaultNotice(QWidget* parent) {
   };
   QObject::connect(&KZPlistFileHandle::sharedInstance(), &KZPlistFileHandle::saveProblemChanged, notice,
                    renew);
-  QObject::connect(&KZKeyChainHandle::sharedInstance(), &KZKeyChainHandle::failed, notice, renew);
+  QObject::connect(&KZKeyChainHandle::sharedInstance(), &KZKeyChainHandle::hindranceChanged, notice, renew);
   notice->hide();
   renew();
   return notice;

@@ -97,9 +97,19 @@ void sayWhenShown(const char* line) {
   std::fflush(stdout);
 }
 
+void chooseKeychain(const CompanionOptions& options) {
+  using Storage = KZKeyChainHandle::Storage;
+  using Unlocking = KZKeyChainHandle::Unlocking;
+  KZKeyChainHandle& keychain = KZKeyChainHandle::sharedInstance();
+  if (options.isDemo) return keychain.useStorage(Storage::Memory);
+  // Nobody sees a prompt elsewhere.
+  const QString platform = QGuiApplication::platformName();
+  const bool isOnDisplay = platform == "xcb" || platform.startsWith("wayland");
+  keychain.useStorage(Storage::System, isOnDisplay ? Unlocking::AskOnce : Unlocking::Never);
+}
+
 int runFirst(const CompanionOptions& options, const SingleInstance& instance) {
-  KZKeyChainHandle::sharedInstance().useStorage(options.isDemo ? KZKeyChainHandle::Storage::Memory
-                                                               : KZKeyChainHandle::Storage::System);
+  chooseKeychain(options);
   Companion companion(options);
   if (!options.recordPath.isEmpty() && !companion.record(options.recordPath)) {
     complain(QStringLiteral("cannot record to %1").arg(options.recordPath));

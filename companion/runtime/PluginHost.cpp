@@ -29,6 +29,7 @@ PluginHost::PluginHost(Opener opener) {
 
 PluginHost::~PluginHost() {
   shutDown();
+  KZKeyChainHandle::sharedInstance().finish();
   m_requests.reset();
   m_requestEnds.reset();
   m_responses.reset();
@@ -61,10 +62,8 @@ void PluginHost::observeHostLibrary(Opener opener) {
   const auto reportKeychain = [this](KeychainChange::Kind kind) {
     return [this, kind](const QString& account) { report(KeychainChange{account, kind}); };
   };
-  connect(&keychain, &KZKeyChainHandle::itemWritten, this, reportKeychain(KeychainChange::Kind::Written),
-          Qt::DirectConnection);
-  connect(&keychain, &KZKeyChainHandle::itemRemoved, this, reportKeychain(KeychainChange::Kind::Removed),
-          Qt::DirectConnection);
+  connect(&keychain, &KZKeyChainHandle::itemWritten, this, reportKeychain(KeychainChange::Kind::Written));
+  connect(&keychain, &KZKeyChainHandle::itemRemoved, this, reportKeychain(KeychainChange::Kind::Removed));
 }
 
 bool PluginHost::load(const QString& path) {

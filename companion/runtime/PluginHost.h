@@ -16,7 +16,7 @@
 
 // A host's side of the plug-in: loads it, triggers its commands, answers those that it sends, and reports
 // every event to observers. One at a time in a process; the application object must outlive it. Main thread
-// only; posted notifications, keychain changes and traces may come from any thread.
+// only; posted notifications and traces may come from any thread. Its end is the end of the keychain's run.
 class PluginHost final : public QObject, public KZPluginDelegate {
   Q_OBJECT
 

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "companion/session/EventPump.h"
+#include "host/KZUtility/KZKeyChainHandle.h"
 
 namespace {
 
@@ -91,6 +92,8 @@ bool Session::play(QIODevice* script) {
     }
     if (!result.line.isEmpty()) m_options.print(result.line);
     eventpump::settle();
+    // What a step has written is kept before the next one, as far as the keyring answers.
+    KZKeyChainHandle::sharedInstance().settle();
   }
 }
 

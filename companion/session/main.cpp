@@ -101,7 +101,10 @@ int playScript(const QCommandLineParser& options, QIODevice* script, Record* rec
     complain(host.errorText());
     return kPluginFailed;
   }
-  return session.play(script) ? kPlayed : kUnusable;
+  const bool isPlayed = session.play(script);
+  // While its events are still printed.
+  KZKeyChainHandle::sharedInstance().finish();
+  return isPlayed ? kPlayed : kUnusable;
 }
 
 void printDifference(const RecordDifference& difference) {

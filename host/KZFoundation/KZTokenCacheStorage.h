@@ -16,8 +16,8 @@ struct OSStatusError {
 //     save:     storage->readFromKeychain(), then storage->writeToFile(path)
 //     restore:  storage->readFromFile(path), then storage->writeToKeychain()
 //
-// Main thread only; make both calls in one go. A status is 0 for done, -25300 for no such item, and another
-// negative number for a keychain that refused or did not answer.
+// Main thread only; make both calls in one go. A status is 0 for done, -25300 for no such item, -25308 for a
+// locked keychain, and -25291 for one that is missing or does not answer.
 class KZTokenCacheStorage {
  public:
   KZTokenCacheStorage() = default;
@@ -41,8 +41,9 @@ class KZTokenCacheStorage {
   // Without a blob, -25300, and the keychain is left as it is.
   [[nodiscard]] virtual qint32 writeToKeychain() = 0;
 
-  // Removes every token, from the keychain too. False on failure, with the keychain's status in `error`
-  // unless that is null.
+  // Removes every token, from the keychain too: true when the keychain has confirmed that it has none. False
+  // with the status in `error`, unless that is null: the tokens are gone for this run, and the keychain's are
+  // removed when it answers.
   [[nodiscard]] virtual bool clearCacheWithError(OSStatusError* error) = 0;
 };
 

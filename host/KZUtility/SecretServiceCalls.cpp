@@ -6,6 +6,7 @@
 #include <libsecret/secret.h>
 
 #include <functional>
+#include <vector>
 
 namespace secretservice {
 
@@ -29,10 +30,8 @@ using Attributes = std::unique_ptr<GHashTable, FreeWith<g_hash_table_unref>>;
 using Value = std::unique_ptr<SecretValue, FreeWith<secret_value_unref>>;
 using ErrorText = std::unique_ptr<GError, FreeWith<g_error_free>>;
 
-void freeItems(GList* items) {
-  g_list_free_full(items, g_object_unref);
-}
-using Items = std::unique_ptr<GList, FreeWith<freeItems>>;
+using Text = std::unique_ptr<gchar, FreeWith<g_free>>;
+using Paths = std::unique_ptr<gchar*, FreeWith<g_strfreev>>;
 
 const SecretSchema& schema() {
   static const SecretSchema generic = [] {
@@ -50,106 +49,155 @@ Attributes attributesOf(const Item& item) {
                                             "account", item.account.toUtf8().constData(), nullptr));
 }
 
+// What a failed call says about the keyring.
+Status statusOf(const GError* error) {
+  if (g_error_matches(error, SECRET_ERROR, SECRET_ERROR_IS_LOCKED)) return Status::Locked;
+  const bool isLate = g_error_matches(error, G_IO_ERROR, G_IO_ERROR_CANCELLED) ||
+                      g_error_matches(error, G_IO_ERROR, G_IO_ERROR_TIMED_OUT);
+  return isLate ? Status::Silent : Status::NoKeyring;
+}
+
 // One try against a connected service; a failure leaves `error` set when a new connection may help.
 class Attempt final {
  public:
-  explicit Attempt(GCancellable* cancellable) : m_cancellable(cancellable) {}
+  explicit Attempt(const Watch& watch) : m_cancellable(watch.cancellable), m_answered(watch.answered) {}
   ~Attempt() { g_clear_error(&m_error); }
   Q_DISABLE_COPY_MOVE(Attempt)
 
   bool isFailed() const { return m_error != nullptr; }
+  Status failure() const { return statusOf(m_error); }
 
-  // False for a locked collection: using it would show a prompt.
   bool connect() {
-    m_service.reset(secret_service_get_sync(SECRET_SERVICE_OPEN_SESSION, m_cancellable, &m_error));
+    m_service.reset(secret_service_get_sync(SECRET_SERVICE_NONE, m_cancellable, &m_error));
     if (!m_service) return false;
     // By default the process exits when the bus closes the connection.
     g_dbus_connection_set_exit_on_close(bus(), FALSE);
-    const QByteArray collection = defaultCollection();
-    return !collection.isEmpty() && isUnlocked(collection);
+    m_answered();
+    const bool isOpen = secret_service_ensure_session_sync(m_service.get(), m_cancellable, &m_error);
+    m_answered();
+    return isOpen;
   }
 
   Answer read(const Item& item) {
-    const Items found = search(item, SECRET_SEARCH_LOAD_SECRETS);
-    if (m_error) return {.status = Status::Unavailable, .secret = {}};
-    if (!found) return {.status = Status::NotFound, .secret = {}};
-    const Value value(secret_item_get_secret(SECRET_ITEM(found->data)));
-    if (!value) return {.status = Status::Unavailable, .secret = {}};
+    const Status found = find(item);
+    if (found != Status::Done) return {.status = found, .secret = {}};
+    const Value value(secret_service_get_secret_for_dbus_path_sync(m_service.get(), *m_unlocked.get(),
+                                                                   m_cancellable, &m_error));
+    // Removed meanwhile, when there is no error.
+    if (!value) return {.status = isFailed() ? failure() : Status::NotFound, .secret = {}};
     gsize size = 0;
     const gchar* bytes = secret_value_get(value.get(), &size);
     return {.status = Status::Done, .secret = QByteArray(bytes ? bytes : "", static_cast<qsizetype>(size))};
   }
 
   Status write(const Item& item, const QByteArray& secret) {
+    const Status found = find(item);
+    if (found != Status::Done && found != Status::NotFound) return found;
+    if (const Status status = defaultCollection(); status != Status::Done) return status;
     const Value value(secret_value_new(secret.constData(), secret.size(), "application/octet-stream"));
     const Attributes attributes = attributesOf(item);
     const bool isStored =
         secret_service_store_sync(m_service.get(), &schema(), attributes.get(), SECRET_COLLECTION_DEFAULT,
                                   item.service.toUtf8().constData(), value.get(), m_cancellable, &m_error);
-    return isStored ? Status::Done : Status::Unavailable;
+    return isStored ? Status::Done : failure();
   }
 
   Status remove(const Item& item) {
-    const Items found = search(item, SECRET_SEARCH_ALL);
-    if (m_error) return Status::Unavailable;
-    for (GList* at = found.get(); at; at = at->next) {
-      auto* each = SECRET_ITEM(at->data);
-      if (secret_item_get_locked(each)) return Status::Unavailable;
-      if (!secret_item_delete_sync(each, m_cancellable, &m_error)) return Status::Unavailable;
+    const Status found = find(item);
+    if (found != Status::Done) return found;
+    for (gchar** path = m_unlocked.get(); *path; ++path) {
+      // Not cancelled: that would dismiss the question that a service may ask its user here.
+      if (!secret_service_delete_item_dbus_path_sync(m_service.get(), *path, nullptr, &m_error))
+        return isFailed() ? failure() : Status::Locked;
+      m_answered();
     }
-    return found ? Status::Done : Status::NotFound;
+    return *m_locked ? Status::Locked : Status::Done;
+  }
+
+  // What must be unlocked for the item.
+  QByteArray lockedPath(const Item& item) {
+    if (find(item) != Status::Locked) return {};
+    if (*m_locked) return *m_locked;
+    return m_collection.get();
+  }
+
+  void unlock(const QList<QByteArray>& paths) {
+    std::vector<const gchar*> list(paths.begin(), paths.end());
+    list.push_back(nullptr);
+    secret_service_unlock_dbus_paths_sync(m_service.get(), list.data(), m_cancellable, nullptr, &m_error);
   }
 
  private:
   GDBusConnection* bus() const { return g_dbus_proxy_get_connection(G_DBUS_PROXY(m_service.get())); }
 
-  // Empty when there is none. Called directly, because the library's collection object costs ten round trips.
-  QByteArray defaultCollection() {
-    const Variant answer(g_dbus_proxy_call_sync(G_DBUS_PROXY(m_service.get()), "ReadAlias",
-                                                g_variant_new("(s)", SECRET_COLLECTION_DEFAULT),
-                                                G_DBUS_CALL_FLAGS_NONE, -1, m_cancellable, &m_error));
-    if (!answer || !g_variant_is_of_type(answer.get(), G_VARIANT_TYPE("(o)"))) return {};
-    const gchar* path = nullptr;
-    g_variant_get(answer.get(), "(&o)", &path);
-    const QByteArray collection(path);
-    return collection == "/" ? QByteArray() : collection;
+  // Never prompts: what is locked is told as such. When nothing is found, the collection decides whether that
+  // means anything.
+  Status find(const Item& item) {
+    const Attributes attributes = attributesOf(item);
+    gchar** unlocked = nullptr;
+    gchar** locked = nullptr;
+    const bool isSearched = secret_service_search_for_dbus_paths_sync(
+        m_service.get(), &schema(), attributes.get(), m_cancellable, &unlocked, &locked, &m_error);
+    m_unlocked.reset(unlocked);
+    m_locked.reset(locked);
+    if (!isSearched) return failure();
+    m_answered();
+    if (*unlocked) return Status::Done;
+    if (*locked) return Status::Locked;
+    const Status status = defaultCollection();
+    return status == Status::Done ? Status::NotFound : status;
   }
 
-  bool isUnlocked(const QByteArray& collection) {
+  // Whether it is there and unlocked.
+  Status defaultCollection() {
+    m_collection.reset(secret_service_read_alias_dbus_path_sync(m_service.get(), SECRET_COLLECTION_DEFAULT,
+                                                                m_cancellable, &m_error));
+    if (isFailed()) return failure();
+    m_answered();
+    if (!m_collection) return Status::NoKeyring;
     const Variant answer(g_dbus_connection_call_sync(
-        bus(), g_dbus_proxy_get_name(G_DBUS_PROXY(m_service.get())), collection.constData(),
+        bus(), g_dbus_proxy_get_name(G_DBUS_PROXY(m_service.get())), m_collection.get(),
         "org.freedesktop.DBus.Properties", "Get",
         g_variant_new("(ss)", "org.freedesktop.Secret.Collection", "Locked"), G_VARIANT_TYPE("(v)"),
         G_DBUS_CALL_FLAGS_NONE, -1, m_cancellable, &m_error));
-    if (!answer) return false;
+    if (!answer) return failure();
+    m_answered();
     GVariant* inner = nullptr;
     g_variant_get(answer.get(), "(v)", &inner);
     const Variant locked(inner);
-    return g_variant_is_of_type(locked.get(), G_VARIANT_TYPE_BOOLEAN) && !g_variant_get_boolean(locked.get());
+    const bool isUnlocked =
+        g_variant_is_of_type(locked.get(), G_VARIANT_TYPE_BOOLEAN) && !g_variant_get_boolean(locked.get());
+    return isUnlocked ? Status::Done : Status::Locked;
   }
 
-  Items search(const Item& item, SecretSearchFlags flags) {
-    const Attributes attributes = attributesOf(item);
-    return Items(secret_service_search_sync(m_service.get(), &schema(), attributes.get(), flags,
-                                            m_cancellable, &m_error));
-  }
-
-  GCancellable* m_cancellable;
+  GCancellable* const m_cancellable;
+  const std::function<void()> m_answered;
   GError* m_error = nullptr;
   Object<SecretService> m_service;
+  Text m_collection;
+  Paths m_unlocked;
+  Paths m_locked;
 };
 
 // After a service has died, every call fails until the library has disconnected from it.
 template <typename Result>
-Result tried(GCancellable* cancellable, Result unavailable, const std::function<Result(Attempt&)>& call) {
-  for (int tries = 0; tries < 2; ++tries) {
-    Attempt attempt(cancellable);
-    const Result result = attempt.connect() ? call(attempt) : unavailable;
-    if (!attempt.isFailed()) return result;
+Result tried(const Watch& watch, const std::function<Result(Attempt&)>& call,
+             const std::function<Result(Status)>& failed) {
+  for (bool isFirst = true;; isFirst = false) {
+    Attempt attempt(watch);
+    if (attempt.connect()) {
+      Result result = call(attempt);
+      if (!attempt.isFailed()) return result;
+    }
+    const Status status = attempt.failure();
+    if (status == Status::Silent) return failed(status);
     secret_service_disconnect();
-    if (g_cancellable_is_cancelled(cancellable)) break;
+    if (!isFirst) return failed(status);
   }
-  return unavailable;
+}
+
+Status triedStatus(const Watch& watch, const std::function<Status(Attempt&)>& call) {
+  return tried<Status>(watch, call, [](Status status) { return status; });
 }
 
 }  // namespace
@@ -179,19 +227,30 @@ void OwnContext::dispatch() {
   while (g_main_context_iteration(static_cast<GMainContext*>(m_context), FALSE)) continue;
 }
 
-Answer read(const Item& item, GCancellable* cancellable) {
-  return tried<Answer>(cancellable, {.status = Status::Unavailable, .secret = {}},
-                       [&](Attempt& attempt) { return attempt.read(item); });
+Answer read(const Item& item, const Watch& watch) {
+  return tried<Answer>(
+      watch, [&](Attempt& attempt) { return attempt.read(item); },
+      [](Status status) { return Answer{.status = status, .secret = {}}; });
 }
 
-Status write(const Item& item, const QByteArray& secret, GCancellable* cancellable) {
-  return tried<Status>(cancellable, Status::Unavailable,
-                       [&](Attempt& attempt) { return attempt.write(item, secret); });
+Status write(const Item& item, const QByteArray& secret, const Watch& watch) {
+  return triedStatus(watch, [&](Attempt& attempt) { return attempt.write(item, secret); });
 }
 
-Status remove(const Item& item, GCancellable* cancellable) {
-  return tried<Status>(cancellable, Status::Unavailable,
-                       [&](Attempt& attempt) { return attempt.remove(item); });
+Status remove(const Item& item, const Watch& watch) {
+  return triedStatus(watch, [&](Attempt& attempt) { return attempt.remove(item); });
+}
+
+void unlock(const QList<Item>& items) {
+  OwnContext context;
+  Attempt attempt({.cancellable = nullptr, .answered = [] {}});
+  if (!attempt.connect()) return;
+  QList<QByteArray> paths;
+  for (const Item& item : items) {
+    const QByteArray path = attempt.lockedPath(item);
+    if (!path.isEmpty() && !paths.contains(path)) paths.append(path);
+  }
+  if (!paths.isEmpty() && !attempt.isFailed()) attempt.unlock(paths);
 }
 
 }  // namespace secretservice

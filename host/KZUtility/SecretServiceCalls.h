@@ -1,13 +1,14 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include "host/KZUtility/KZKeychainBackend.h"
 
 typedef struct _GCancellable GCancellable;
 
-// The calls that the worker of SecretServiceKeychain makes to the Secret Service. Each may block until it is
-// cancelled.
+// Calls to the Secret Service. Each may block until it is cancelled. Any thread that has a context of its
+// own.
 namespace secretservice {
 
 struct CancellableDeleter {
@@ -31,9 +32,18 @@ class OwnContext final {
   void* m_context;
 };
 
-KZKeychainBackend::Answer read(const KZKeychainBackend::Item& item, GCancellable* cancellable);
+// How a call is watched from another thread: cancelled, and told whenever the service has answered.
+struct Watch {
+  GCancellable* cancellable;
+  std::function<void()> answered;
+};
+
+KZKeychainBackend::Answer read(const KZKeychainBackend::Item& item, const Watch& watch);
 KZKeychainBackend::Status write(const KZKeychainBackend::Item& item, const QByteArray& secret,
-                                GCancellable* cancellable);
-KZKeychainBackend::Status remove(const KZKeychainBackend::Item& item, GCancellable* cancellable);
+                                const Watch& watch);
+KZKeychainBackend::Status remove(const KZKeychainBackend::Item& item, const Watch& watch);
+
+// Returns when the user has answered the prompt.
+void unlock(const QList<KZKeychainBackend::Item>& items);
 
 }  // namespace secretservice

@@ -1,5 +1,6 @@
 #include "host/KZUtility/SecretServiceKeychain.h"
 
+#include <algorithm>
 #include <condition_variable>
 #include <deque>
 #include <functional>
@@ -10,9 +11,9 @@
 
 class SecretServiceKeychain::Worker final {
  public:
-  using Call = std::function<Answer(GCancellable*)>;
+  using Call = std::function<Answer(const secretservice::Watch&)>;
 
-  explicit Worker(std::chrono::milliseconds deadline) : m_deadline(deadline) {}
+  explicit Worker(std::chrono::milliseconds deadline) : m_deadline(deadline), m_patience(deadline) {}
   ~Worker() {
     if (!m_thread.joinable()) return;
     if (stop()) {
@@ -31,18 +32,24 @@ class SecretServiceKeychain::Worker final {
     if (!m_thread.joinable()) m_thread = std::thread([queue = m_queue] { queue->run(); });
     m_queue->waiting.push_back(task);
     m_queue->wake.notify_one();
-    if (m_queue->done.wait_for(lock, m_deadline, [&] { return task->isDone; })) return task->answer;
+    for (int answers = -1; answers != task->answers && !task->isDone;) {
+      answers = task->answers;
+      m_queue->done.wait_for(lock, m_patience, [&] { return task->isDone || task->answers != answers; });
+    }
+    if (task->isDone) return task->answer;
+    m_patience = std::min(2 * m_patience, kLongestPatience);
     task->isAbandoned = true;
     lock.unlock();
     secretservice::cancel(task->cancellable.get());
-    return {.status = Status::Unavailable, .secret = {}};
+    return {.status = Status::Silent, .secret = {}};
   }
 
  private:
   struct Task {
     Call call;
     secretservice::Cancellable cancellable = secretservice::newCancellable();
-    Answer answer = {.status = Status::Unavailable, .secret = {}};
+    Answer answer;
+    int answers = 0;  // of the service, within the call
     bool isDone = false;
     bool isAbandoned = false;
   };
@@ -68,7 +75,11 @@ class SecretServiceKeychain::Worker final {
         waiting.pop_front();
         if (current->isAbandoned) continue;
         lock.unlock();
-        Answer answer = current->call(current->cancellable.get());
+        Answer answer = current->call({.cancellable = current->cancellable.get(), .answered = [this] {
+                                         const std::lock_guard counting(mutex);
+                                         ++current->answers;
+                                         done.notify_all();
+                                       }});
         context.dispatch();
         lock.lock();
         current->answer = std::move(answer);
@@ -93,7 +104,10 @@ class SecretServiceKeychain::Worker final {
     return m_queue->done.wait_for(lock, m_deadline, [this] { return m_queue->isStopped; });
   }
 
+  static constexpr std::chrono::milliseconds kLongestPatience = std::chrono::seconds(16);
+
   const std::chrono::milliseconds m_deadline;
+  std::chrono::milliseconds m_patience;  // under the queue's mutex
   const std::shared_ptr<Queue> m_queue = std::make_shared<Queue>();
   std::thread m_thread;
 };
@@ -104,19 +118,26 @@ SecretServiceKeychain::SecretServiceKeychain(std::chrono::milliseconds deadline)
 SecretServiceKeychain::~SecretServiceKeychain() = default;
 
 KZKeychainBackend::Answer SecretServiceKeychain::read(const Item& item) {
-  return m_worker->ask([item](GCancellable* cancellable) { return secretservice::read(item, cancellable); });
+  return m_worker->ask(
+      [item](const secretservice::Watch& watch) { return secretservice::read(item, watch); });
 }
 
 KZKeychainBackend::Status SecretServiceKeychain::write(const Item& item, const QByteArray& secret) {
-  const auto call = [item, secret](GCancellable* cancellable) {
-    return Answer{.status = secretservice::write(item, secret, cancellable), .secret = {}};
+  const auto call = [item, secret](const secretservice::Watch& watch) {
+    return Answer{.status = secretservice::write(item, secret, watch), .secret = {}};
   };
   return m_worker->ask(call).status;
 }
 
 KZKeychainBackend::Status SecretServiceKeychain::remove(const Item& item) {
-  const auto call = [item](GCancellable* cancellable) {
-    return Answer{.status = secretservice::remove(item, cancellable), .secret = {}};
+  const auto call = [item](const secretservice::Watch& watch) {
+    return Answer{.status = secretservice::remove(item, watch), .secret = {}};
   };
   return m_worker->ask(call).status;
+}
+
+// On the caller's thread: the user's answer may take longer than any deadline, and other calls go on
+// meanwhile.
+void SecretServiceKeychain::unlock(const QList<Item>& items) {
+  secretservice::unlock(items);
 }

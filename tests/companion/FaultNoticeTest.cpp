@@ -6,10 +6,10 @@
 #include <QLabel>
 #include <QTest>
 #include <QThread>
+#include <atomic>
 #include <memory>
 
 #include "host/KZUtility/KZKeyChainHandle.h"
-#include "host/KZUtility/SecretServiceKeychain.h"
 #include "tests/host/BrokenDisk.h"
 #include "tests/kit/StoreFolder.h"
 #include "tests/kit/TraceCollector.h"
@@ -74,19 +74,43 @@ TEST_F(FaultNoticeTest, ShowsWhereDamagedSettingsAreInTheRunThatFoundThem) {
   EXPECT_FALSE(createFaultNotice(&window)->isVisibleTo(&window));
 }
 
-TEST_F(FaultNoticeTest, ShowsAFailedKeychainFromAnyThread) {
-  const QByteArray before = qgetenv("DBUS_SESSION_BUS_ADDRESS");
-  qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent/bus");
+// Has nothing, and says what the test wants.
+struct SayingKeyring final : KZKeychainBackend {
+  Answer read(const Item&) override {
+    return {status == Status::Done ? Status::NotFound : status.load(), {}};
+  }
+  Status write(const Item&, const QByteArray&) override { return status; }
+  Status remove(const Item&) override { return status; }
+
+  std::atomic<Status> status = Status::Done;
+};
+
+TEST_F(FaultNoticeTest, NamesWhatHindersTheKeyringUntilItWorksAgain) {
+  struct Row {
+    KZKeychainBackend::Status status;
+    const char* what;
+  };
+  using Status = KZKeychainBackend::Status;
+  const Row rows[] = {{Status::Locked, "Unlock the keyring"},
+                      {Status::NoKeyring, "there is no keyring"},
+                      {Status::Silent, "does not answer"}};
   KZKeyChainHandle& keychain = KZKeyChainHandle::sharedInstance();
-  keychain.useBackend(std::make_shared<SecretServiceKeychain>());
-  const std::unique_ptr<QThread> worker(
-      QThread::create([&keychain] { keychain.commitOutlookUsername("ada", "s3cret"); }));
-  worker->start();
-  EXPECT_TRUE(QTest::qWaitFor([this] { return says("Unlock the keyring"); }));
-  worker->wait();
-  EXPECT_FALSE(notice->text().contains("s3cret"));
+  const auto keyring = std::make_shared<SayingKeyring>();
+  keychain.useBackend(keyring);
+  for (const Row& row : rows) {
+    keyring->status = row.status;
+    const std::unique_ptr<QThread> worker(
+        QThread::create([&keychain] { keychain.commitOutlookUsername("ada", "s3cret"); }));
+    worker->start();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return says(row.what); })) << row.what;
+    worker->wait();
+    EXPECT_FALSE(notice->text().contains("s3cret"));
+    EXPECT_EQ(createFaultNotice(&window)->text(), notice->text());
+    keyring->status = Status::Done;
+    keychain.commitOutlookUsername("ada", "other");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !notice->isVisibleTo(&window); }));
+  }
   keychain.useStorage(KZKeyChainHandle::Storage::Memory);
-  before.isNull() ? qunsetenv("DBUS_SESSION_BUS_ADDRESS") : qputenv("DBUS_SESSION_BUS_ADDRESS", before);
 }
 
 }  // namespace

@@ -588,8 +588,16 @@
         <translation>Einstellungen &amp;schließen</translation>
     </message>
     <message>
-        <source>Passwords cannot be kept: the keyring is locked or does not answer. They are known until Brenn Mivra Meetings quits. Unlock the keyring, then start again.</source>
-        <translation>Passwörter können nicht aufbewahrt werden: Der Schlüsselbund ist gesperrt oder antwortet nicht. Bis Brenn Mivra Meetings beendet wird, bleiben sie bekannt. Entsperren Sie den Schlüsselbund und starten Sie dann neu.</translation>
+        <source>Passwords cannot be kept: the keyring is locked. They are known until Brenn Mivra Meetings quits. Unlock the keyring; they are saved then.</source>
+        <translation>Passwörter können nicht aufbewahrt werden: Der Schlüsselbund ist gesperrt. Bis Brenn Mivra Meetings beendet wird, bleiben sie bekannt. Entsperren Sie den Schlüsselbund; dann werden sie gespeichert.</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be kept: there is no keyring. They are known until Brenn Mivra Meetings quits. Start or install one, such as GNOME Keyring; they are saved then.</source>
+        <translation>Passwörter können nicht aufbewahrt werden: Es gibt keinen Schlüsselbund. Bis Brenn Mivra Meetings beendet wird, bleiben sie bekannt. Starten oder installieren Sie einen, etwa GNOME Keyring; dann werden sie gespeichert.</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be kept: the keyring does not answer. They are known until Brenn Mivra Meetings quits. Wait, or restart the keyring; they are saved then.</source>
+        <translation>Passwörter können nicht aufbewahrt werden: Der Schlüsselbund antwortet nicht. Bis Brenn Mivra Meetings beendet wird, bleiben sie bekannt. Warten Sie, oder starten Sie den Schlüsselbund neu; dann werden sie gespeichert.</translation>
     </message>
     <message>
         <source>Settings cannot be saved: %1 is read-only. They are kept until Brenn Mivra Meetings quits. Make the folder writable; the next change saves them all.</source>

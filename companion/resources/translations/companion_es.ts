@@ -588,8 +588,16 @@
         <translation>C&amp;errar Preferencias</translation>
     </message>
     <message>
-        <source>Passwords cannot be kept: the keyring is locked or does not answer. They are known until Brenn Mivra Meetings quits. Unlock the keyring, then start again.</source>
-        <translation>No se pueden guardar las contraseñas: el llavero está bloqueado o no responde. Se recordarán hasta que se cierre Brenn Mivra Meetings. Desbloquee el llavero y vuelva a iniciar.</translation>
+        <source>Passwords cannot be kept: the keyring is locked. They are known until Brenn Mivra Meetings quits. Unlock the keyring; they are saved then.</source>
+        <translation>No se pueden guardar las contraseñas: el llavero está bloqueado. Se recordarán hasta que se cierre Brenn Mivra Meetings. Desbloquee el llavero; entonces se guardarán.</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be kept: there is no keyring. They are known until Brenn Mivra Meetings quits. Start or install one, such as GNOME Keyring; they are saved then.</source>
+        <translation>No se pueden guardar las contraseñas: no hay ningún llavero. Se recordarán hasta que se cierre Brenn Mivra Meetings. Inicie o instale uno, como GNOME Keyring; entonces se guardarán.</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be kept: the keyring does not answer. They are known until Brenn Mivra Meetings quits. Wait, or restart the keyring; they are saved then.</source>
+        <translation>No se pueden guardar las contraseñas: el llavero no responde. Se recordarán hasta que se cierre Brenn Mivra Meetings. Espere o reinicie el llavero; entonces se guardarán.</translation>
     </message>
     <message>
         <source>Settings cannot be saved: %1 is read-only. They are kept until Brenn Mivra Meetings quits. Make the folder writable; the next change saves them all.</source>

@@ -588,8 +588,16 @@
         <translation>&amp;Fermer les préférences</translation>
     </message>
     <message>
-        <source>Passwords cannot be kept: the keyring is locked or does not answer. They are known until Brenn Mivra Meetings quits. Unlock the keyring, then start again.</source>
-        <translation>Impossible de conserver les mots de passe : le trousseau est verrouillé ou ne répond pas. Ils restent connus jusqu’à la fermeture de Brenn Mivra Meetings. Déverrouillez le trousseau, puis redémarrez.</translation>
+        <source>Passwords cannot be kept: the keyring is locked. They are known until Brenn Mivra Meetings quits. Unlock the keyring; they are saved then.</source>
+        <translation>Impossible de conserver les mots de passe : le trousseau est verrouillé. Ils restent connus jusqu’à la fermeture de Brenn Mivra Meetings. Déverrouillez le trousseau ; ils seront alors enregistrés.</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be kept: there is no keyring. They are known until Brenn Mivra Meetings quits. Start or install one, such as GNOME Keyring; they are saved then.</source>
+        <translation>Impossible de conserver les mots de passe : il n’y a pas de trousseau. Ils restent connus jusqu’à la fermeture de Brenn Mivra Meetings. Démarrez ou installez-en un, par exemple GNOME Keyring ; ils seront alors enregistrés.</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be kept: the keyring does not answer. They are known until Brenn Mivra Meetings quits. Wait, or restart the keyring; they are saved then.</source>
+        <translation>Impossible de conserver les mots de passe : le trousseau ne répond pas. Ils restent connus jusqu’à la fermeture de Brenn Mivra Meetings. Attendez ou redémarrez le trousseau ; ils seront alors enregistrés.</translation>
     </message>
     <message>
         <source>Settings cannot be saved: %1 is read-only. They are kept until Brenn Mivra Meetings quits. Make the folder writable; the next change saves them all.</source>

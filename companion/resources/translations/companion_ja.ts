@@ -588,8 +588,16 @@
         <translation>環境設定を閉じる(&amp;C)</translation>
     </message>
     <message>
-        <source>Passwords cannot be kept: the keyring is locked or does not answer. They are known until Brenn Mivra Meetings quits. Unlock the keyring, then start again.</source>
-        <translation>パスワードを保存できません。キーリングがロックされているか、応答していません。パスワードは Brenn Mivra Meetings の終了まで保持されます。キーリングのロックを解除してから、起動し直してください。</translation>
+        <source>Passwords cannot be kept: the keyring is locked. They are known until Brenn Mivra Meetings quits. Unlock the keyring; they are saved then.</source>
+        <translation>パスワードを保存できません。キーリングがロックされています。パスワードは Brenn Mivra Meetings の終了まで保持されます。キーリングのロックを解除すると保存されます。</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be kept: there is no keyring. They are known until Brenn Mivra Meetings quits. Start or install one, such as GNOME Keyring; they are saved then.</source>
+        <translation>パスワードを保存できません。キーリングがありません。パスワードは Brenn Mivra Meetings の終了まで保持されます。GNOME Keyring などを起動またはインストールすると保存されます。</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be kept: the keyring does not answer. They are known until Brenn Mivra Meetings quits. Wait, or restart the keyring; they are saved then.</source>
+        <translation>パスワードを保存できません。キーリングが応答していません。パスワードは Brenn Mivra Meetings の終了まで保持されます。しばらく待つか、キーリングを再起動すると保存されます。</translation>
     </message>
     <message>
         <source>Settings cannot be saved: %1 is read-only. They are kept until Brenn Mivra Meetings quits. Make the folder writable; the next change saves them all.</source>

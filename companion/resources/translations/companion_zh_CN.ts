@@ -588,8 +588,16 @@
         <translation>关闭偏好设置(&amp;C)</translation>
     </message>
     <message>
-        <source>Passwords cannot be kept: the keyring is locked or does not answer. They are known until Brenn Mivra Meetings quits. Unlock the keyring, then start again.</source>
-        <translation>无法保存密码：密钥环已锁定或没有响应。密码仅保留到 Brenn Mivra Meetings 退出为止。请解锁密钥环，然后重新启动。</translation>
+        <source>Passwords cannot be kept: the keyring is locked. They are known until Brenn Mivra Meetings quits. Unlock the keyring; they are saved then.</source>
+        <translation>无法保存密码：密钥环已锁定。密码仅保留到 Brenn Mivra Meetings 退出为止。请解锁密钥环，之后会保存密码。</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be kept: there is no keyring. They are known until Brenn Mivra Meetings quits. Start or install one, such as GNOME Keyring; they are saved then.</source>
+        <translation>无法保存密码：没有密钥环。密码仅保留到 Brenn Mivra Meetings 退出为止。请启动或安装一个密钥环，例如 GNOME Keyring，之后会保存密码。</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be kept: the keyring does not answer. They are known until Brenn Mivra Meetings quits. Wait, or restart the keyring; they are saved then.</source>
+        <translation>无法保存密码：密钥环没有响应。密码仅保留到 Brenn Mivra Meetings 退出为止。请稍候，或重新启动密钥环，之后会保存密码。</translation>
     </message>
     <message>
         <source>Settings cannot be saved: %1 is read-only. They are kept until Brenn Mivra Meetings quits. Make the folder writable; the next change saves them all.</source>

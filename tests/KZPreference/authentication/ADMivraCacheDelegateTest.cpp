@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QTest>
+#include <atomic>
 #include <map>
 #include <thread>
 
@@ -15,27 +17,33 @@
 
 namespace {
 
+// Its secrets belong to the keychain's worker, and to the test while that has nothing to do.
 class FakeKeychain final : public KZKeychainBackend {
  public:
   Answer read(const Item& item) override {
+    if (fault != Status::Done) return {fault, {}};
     const auto found = secrets.find({item.service, item.account});
     if (found == secrets.end()) return {Status::NotFound, {}};
     return {Status::Done, found->second};
   }
   Status write(const Item& item, const QByteArray& secret) override {
+    if (fault != Status::Done) return fault;
     secrets[{item.service, item.account}] = secret;
     ++writes;
     return Status::Done;
   }
   Status remove(const Item& item) override {
+    if (fault != Status::Done) return fault;
     return secrets.erase({item.service, item.account}) > 0 ? Status::Done : Status::NotFound;
   }
 
   std::map<std::pair<QString, QString>, QByteArray> secrets;
   int writes = 0;
+  std::atomic<Status> fault = Status::Done;
 };
 
-const std::pair<QString, QString> tokenItem{"Brenn Mivra Meetings", "OutlookAccount(Online)"};
+const KZKeychainBackend::Item onlineItem{"Brenn Mivra Meetings", "OutlookAccount(Online)"};
+const std::pair<QString, QString> tokenItem{onlineItem.service, onlineItem.account};
 
 ADTokenCacheItem keptItem(const char* user) {
   ADTokenCacheItem item;
@@ -47,7 +55,7 @@ ADTokenCacheItem keptItem(const char* user) {
 class ADMivraCacheDelegateTest : public testing::Test {
  protected:
   ADMivraCacheDelegateTest() : keychain(std::make_shared<FakeKeychain>()) {
-    KZKeyChainHandle::sharedInstance().useBackend(keychain);
+    handle.useBackend(keychain);
     ADMivraCacheDelegate::load();
     ADAuthenticationSettings::sharedInstance().setDefaultStorageDelegate(&delegate);
     EXPECT_FALSE(cache.deserialize(std::nullopt));
@@ -55,10 +63,13 @@ class ADMivraCacheDelegateTest : public testing::Test {
   ~ADMivraCacheDelegateTest() override {
     EXPECT_FALSE(cache.deserialize(std::nullopt));
     ADAuthenticationSettings::sharedInstance().setDefaultStorageDelegate(nullptr);
-    KZKeyChainHandle::sharedInstance().useStorage(KZKeyChainHandle::Storage::Memory);
+    handle.useStorage(KZKeyChainHandle::Storage::Memory);
   }
 
-  void add(const char* user) { ASSERT_FALSE(cache.addOrUpdateItems({keptItem(user)})); }
+  void add(const char* user) {
+    ASSERT_FALSE(cache.addOrUpdateItems({keptItem(user)}));
+    handle.settle();
+  }
   QStringList users() {
     QStringList names;
     for (const ADTokenCacheItem& item : cache.allItems().items) names.append(item.userInformation.userId);
@@ -66,6 +77,7 @@ class ADMivraCacheDelegateTest : public testing::Test {
   }
 
   TraceCollector trace;
+  KZKeyChainHandle& handle = KZKeyChainHandle::sharedInstance();
   std::shared_ptr<FakeKeychain> keychain;
   ADTokenCache& cache = ADTokenCache::defaultCache();
   ADMivraCacheDelegate& delegate = ADMivraCacheDelegate::sharedInstance();
@@ -79,12 +91,12 @@ TEST_F(ADMivraCacheDelegateTest, KeychainIsReadBeforeEveryAccessAndWrittenAfterE
   EXPECT_EQ(users(), (QStringList{"one", "two"}));
   EXPECT_EQ(keychain->writes, 2) << "reading writes nothing";
 
-  keychain->secrets[tokenItem] = onlyOne;  // another process
+  handle.commitOutlookOnlineData(onlyOne);
   EXPECT_EQ(users(), QStringList{"one"});
   add("three");
   EXPECT_EQ(users(), (QStringList{"one", "three"}));
 
-  keychain->secrets.clear();
+  EXPECT_EQ(handle.deleteGenericPassword(onlineItem), KZKeychainBackend::Status::Done);
   EXPECT_EQ(users(), (QStringList{"one", "three"})) << "a read without an item keeps what is there";
   add("four");
   EXPECT_EQ(users(), QStringList{"four"}) << "a write without an item starts from nothing";
@@ -95,10 +107,12 @@ TEST_F(ADMivraCacheDelegateTest, UnreadableDataIsAnEmptyCacheAndStaysUntilAToken
   const QByteArray whole = keychain->secrets.at(tokenItem);
   for (const QByteArray& bad : {whole.chopped(5), QByteArray("{\"version\":0}"), QByteArray("")}) {
     ASSERT_FALSE(cache.deserialize(std::nullopt));
-    keychain->secrets[tokenItem] = bad;
-    const qsizetype tracedBefore = trace.lines().filter("error error:unreadable cache").size();
+    handle.commitOutlookOnlineData(bad);
+    const auto traced = [this] { return trace.lines().filter("error error:unreadable cache").size(); };
+    const qsizetype tracedBefore = traced();
     EXPECT_EQ(users(), QStringList());
-    EXPECT_GT(trace.lines().filter("error error:unreadable cache").size(), tracedBefore);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return traced() > tracedBefore; }));
+    handle.settle();
     EXPECT_EQ(keychain->secrets.at(tokenItem), bad);
     add("new");
     EXPECT_EQ(users(), QStringList{"new"});
@@ -118,6 +132,41 @@ TEST_F(ADMivraCacheDelegateTest, ClearingEmptiesTheCacheAndTheKeychain) {
   EXPECT_EQ(delegate.readFromKeychain(), -25300);
   EXPECT_EQ(delegate.writeToKeychain(), -25300);
   EXPECT_FALSE(keychain->secrets.contains(tokenItem));
+}
+
+TEST_F(ADMivraCacheDelegateTest, ClearingTellsWhatTheKeychainHasNotConfirmed) {
+  struct Row {
+    KZKeychainBackend::Status fault;
+    qint32 code;
+  };
+  using Status = KZKeychainBackend::Status;
+  for (const Row& row :
+       {Row{Status::Locked, -25308}, Row{Status::NoKeyring, -25291}, Row{Status::Silent, -25291}}) {
+    add("one");
+    keychain->fault = row.fault;
+    OSStatusError error;
+    EXPECT_FALSE(delegate.clearCacheWithError(&error));
+    EXPECT_FALSE(delegate.clearCacheWithError(nullptr));
+    EXPECT_EQ(error.domain, "NSOSStatusErrorDomain");
+    EXPECT_EQ(error.code, row.code);
+    EXPECT_EQ(users(), QStringList()) << "gone for this run";
+    keychain->fault = Status::Done;
+    EXPECT_TRUE(QTest::qWaitFor(
+        [] { return KZKeyChainHandle::sharedInstance().hindrance() == KZKeyChainHandle::Hindrance::None; }));
+    EXPECT_FALSE(keychain->secrets.contains(tokenItem)) << "and in the keychain when it answers";
+  }
+}
+
+TEST_F(ADMivraCacheDelegateTest, ATraceSinkMayLookUpATokenFromAnyThread) {
+  handle.commitOutlookOnlineData("unreadable");
+  int traced = 0;
+  setKZTraceSink([&](const KZTraceRecord&) {
+    if (traced++ > 0) return;
+    std::thread([this] { static_cast<void>(cache.allItems()); }).join();
+  });
+  EXPECT_EQ(users(), QStringList());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return traced > 1; }));
+  setKZTraceSink({});
 }
 
 TEST_F(ADMivraCacheDelegateTest, ClearingWhileAnotherThreadReadsDoesNotLockUp) {
@@ -142,7 +191,7 @@ TEST_F(ADMivraCacheDelegateTest, FilesHoldTheSameDataForTheirOwnerOnly) {
   copy->readFromFile(folder.filePath("missing"));
   EXPECT_EQ(copy->writeToKeychain(), -25300);
   copy->readFromFile(path);
-  keychain->secrets.clear();
+  EXPECT_EQ(handle.deleteGenericPassword(onlineItem), KZKeychainBackend::Status::Done);
   EXPECT_EQ(copy->writeToKeychain(), 0);
   EXPECT_EQ(users(), QStringList{"one"});
   EXPECT_EQ(defaultSavePath(), QDir::homePath() + "/Brenn Mivra Meetings.adalcache");

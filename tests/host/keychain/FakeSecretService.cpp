@@ -1,9 +1,13 @@
-// An empty Secret Service with one fault, named by the first argument:
-//   silent  never answers
-//   locked  its default collection is locked
-//   absent  it has no default collection
-//   slow    answers each call long after the deadline
-//   dies    ends in the middle of a call
+// A Secret Service with one fault, named by the first argument:
+//   silent    never answers
+//   locked    its default collection is locked
+//   absent    it has no default collection
+//   slow      answers each call after 0.9 s
+//   late      answers its first call after 2.5 s
+//   dies      ends in the middle of a call
+//   forgets   says that an item was created, and has none
+//   dismissed has one item, which is locked; its user dismisses the prompt
+//   accepted  has one item, which is locked; its user unlocks it at the prompt
 // It prints "ready" once it owns the name, and "prompt" when a call would prompt the user.
 
 #include <gio/gio.h>
@@ -15,10 +19,20 @@
 
 namespace {
 
-constexpr unsigned long kSlowMicroseconds = 700000;
+constexpr unsigned long kSlowMicroseconds = 900000;
+constexpr unsigned long kLateMicroseconds = 2500000;
+constexpr unsigned kUserMilliseconds = 1500;
+const char* const kItem = "/org/freedesktop/secrets/collection/login/1";
+const char* const kSession = "/org/freedesktop/secrets/session/1";
+const char* const kPrompt = "/org/freedesktop/secrets/prompt/1";
+const char* const kSecret = "kept";
 
 struct Fake {
   std::string_view fault;
+  GDBusConnection* bus = nullptr;
+  bool hasItem = false;
+  bool isItemLocked = false;
+  int calls = 0;
 };
 
 void say(const char* line) {
@@ -26,17 +40,49 @@ void say(const char* line) {
   std::fflush(stdout);
 }
 
-GVariant* answerTo(const Fake& fake, std::string_view member) {
+GVariant* paths(const char* path) {
+  return path ? g_variant_new_objv(&path, 1) : g_variant_new_objv(nullptr, 0);
+}
+
+GVariant* secret() {
+  GVariantBuilder secrets;
+  g_variant_builder_init(&secrets, G_VARIANT_TYPE("a{o(oayays)}"));
+  GVariant* none = g_variant_new_fixed_array(G_VARIANT_TYPE_BYTE, nullptr, 0, 1);
+  GVariant* value = g_variant_new_fixed_array(G_VARIANT_TYPE_BYTE, kSecret, std::strlen(kSecret), 1);
+  g_variant_builder_add(&secrets, "{o@(oayays)}", kItem,
+                        g_variant_new("(o@ay@ays)", kSession, none, value, "application/octet-stream"));
+  return g_variant_new("(a{o(oayays)})", &secrets);
+}
+
+gboolean answerPrompt(gpointer data) {
+  Fake& fake = *static_cast<Fake*>(data);
+  const bool isDismissed = fake.fault == "dismissed";
+  fake.isItemLocked = isDismissed;
+  g_dbus_connection_emit_signal(fake.bus, nullptr, kPrompt, "org.freedesktop.Secret.Prompt", "Completed",
+                                g_variant_new("(bv)", isDismissed, paths(isDismissed ? nullptr : kItem)),
+                                nullptr);
+  return G_SOURCE_REMOVE;
+}
+
+GVariant* answerTo(Fake& fake, std::string_view member) {
   if (member == "ReadAlias") {
     if (fake.fault == "dies") _exit(1);
     return g_variant_new("(o)", fake.fault == "absent" ? "/" : "/org/freedesktop/secrets/collection/login");
   }
   if (member == "Get") return g_variant_new("(v)", g_variant_new_boolean(fake.fault == "locked"));
   if (member == "GetAll") return g_variant_new("(a{sv})", nullptr);
-  if (member == "OpenSession") {
-    return g_variant_new("(vo)", g_variant_new_string(""), "/org/freedesktop/secrets/session/1");
+  if (member == "OpenSession") return g_variant_new("(vo)", g_variant_new_string(""), kSession);
+  if (member == "SearchItems") {
+    return g_variant_new("(@ao@ao)", paths(fake.hasItem && !fake.isItemLocked ? kItem : nullptr),
+                         paths(fake.hasItem && fake.isItemLocked ? kItem : nullptr));
   }
-  if (member == "SearchItems") return g_variant_new("(aoao)", nullptr, nullptr);
+  if (member == "GetSecrets") return secret();
+  if (member == "CreateItem" && fake.fault == "forgets") return g_variant_new("(oo)", kItem, "/");
+  if (member == "Unlock") return g_variant_new("(@aoo)", paths(nullptr), kPrompt);
+  if (member == "Prompt") {
+    g_timeout_add(kUserMilliseconds, answerPrompt, &fake);
+    return g_variant_new("()");
+  }
   return nullptr;
 }
 
@@ -50,7 +96,7 @@ bool isEncryptedSession(GDBusMessage* message, std::string_view member) {
   return std::strcmp(algorithm, "plain") != 0;
 }
 
-GDBusMessage* replyTo(const Fake& fake, GDBusMessage* message, std::string_view member) {
+GDBusMessage* replyTo(Fake& fake, GDBusMessage* message, std::string_view member) {
   if (isEncryptedSession(message, member)) {
     return g_dbus_message_new_method_error(message, "org.freedesktop.DBus.Error.NotSupported", "plain only");
   }
@@ -63,13 +109,15 @@ GDBusMessage* replyTo(const Fake& fake, GDBusMessage* message, std::string_view 
   return reply;
 }
 
+// Runs on the bus's own thread, one message after another.
 GDBusMessage* onMessage(GDBusConnection* bus, GDBusMessage* message, gboolean isIncoming, gpointer data) {
-  const Fake& fake = *static_cast<Fake*>(data);
+  Fake& fake = *static_cast<Fake*>(data);
   if (!isIncoming || g_dbus_message_get_message_type(message) != G_DBUS_MESSAGE_TYPE_METHOD_CALL)
     return message;
   const std::string_view member = g_dbus_message_get_member(message);
   if (member == "Unlock" || member == "Prompt" || member == "CreateCollection") say("prompt");
   if (fake.fault == "slow") g_usleep(kSlowMicroseconds);
+  if (fake.fault == "late" && fake.calls++ == 0) g_usleep(kLateMicroseconds);
   if (fake.fault != "silent") {
     GDBusMessage* reply = replyTo(fake, message, member);
     g_dbus_connection_send_message(bus, reply, G_DBUS_SEND_MESSAGE_FLAGS_NONE, nullptr, nullptr);
@@ -80,6 +128,7 @@ GDBusMessage* onMessage(GDBusConnection* bus, GDBusMessage* message, gboolean is
 }
 
 void onBus(GDBusConnection* bus, const gchar*, gpointer data) {
+  static_cast<Fake*>(data)->bus = bus;
   g_dbus_connection_add_filter(bus, onMessage, data, nullptr);
 }
 
@@ -95,6 +144,9 @@ void onNoName(GDBusConnection*, const gchar*, gpointer) {
 int main(int argc, char** argv) {
   if (argc != 2) return 2;
   Fake fake = {.fault = argv[1]};
+  fake.hasItem =
+      fake.fault == "slow" || fake.fault == "late" || fake.fault == "dismissed" || fake.fault == "accepted";
+  fake.isItemLocked = fake.fault == "dismissed" || fake.fault == "accepted";
   g_bus_own_name(G_BUS_TYPE_SESSION, "org.freedesktop.secrets", G_BUS_NAME_OWNER_FLAGS_NONE, onBus, onName,
                  onNoName, &fake, nullptr);
   g_main_loop_run(g_main_loop_new(nullptr, FALSE));

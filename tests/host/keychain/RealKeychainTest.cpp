@@ -1,23 +1,44 @@
 #include <gtest/gtest.h>
 
 #include <QElapsedTimer>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
 #include <atomic>
+#include <optional>
 #include <thread>
 
 #include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/SecretServiceKeychain.h"
 #include "tests/host/keychain/ServiceProcess.h"
+#include "tests/kit/SessionRun.h"
 #include "tests/kit/TraceCollector.h"
 
 namespace {
 
 using Status = KZKeychainBackend::Status;
+using Hindrance = KZKeyChainHandle::Hindrance;
+using Storage = KZKeyChainHandle::Storage;
 
 // A loaded machine must not turn a working keychain into a missing one.
 constexpr std::chrono::seconds kPatient(20);
 
 KZKeychainBackend::Item item(const QString& account) {
   return {QStringLiteral("test"), account};
+}
+
+const KZKeychainBackend::Item kOnline{QStringLiteral("Brenn Mivra Meetings"),
+                                      QStringLiteral("OutlookAccount(Online)")};
+
+void keep(const QByteArray& blob) {
+  SecretServiceKeychain keychain(kPatient);
+  ASSERT_EQ(keychain.write(kOnline, blob), Status::Done);
+}
+
+KZKeychainBackend::Answer kept() {
+  SecretServiceKeychain keychain(kPatient);
+  return keychain.read(kOnline);
 }
 
 QString everyPlane() {
@@ -87,9 +108,8 @@ TEST(RealKeychain, HoldsTheHostsCredentials) {
   KZKeyChainHandle& handle = KZKeyChainHandle::sharedInstance();
   const auto nextRun = [&] { handle.useBackend(std::make_shared<SecretServiceKeychain>(kPatient)); };
   nextRun();
-  const KZKeychainBackend::Item online{"Brenn Mivra Meetings", "OutlookAccount(Online)"};
-  handle.removeOutlookCredential();
-  (void)handle.deleteGenericPassword(online);
+  (void)handle.removeOutlookCredential();
+  (void)handle.deleteGenericPassword(kOnline);
   QString username = "x";
   QString password = "x";
   handle.getOutlookUsername(&username, &password);
@@ -103,17 +123,111 @@ TEST(RealKeychain, HoldsTheHostsCredentials) {
   EXPECT_EQ(username, "DOMAIN\\a:b\r\n");
   EXPECT_EQ(password, everyPlane());
   EXPECT_EQ(handle.getOutlookOnlineData(), QByteArray("blob"));
-  EXPECT_EQ(handle.copyGenericPassword(online).secret, "blob");
-  EXPECT_EQ(handle.deleteGenericPassword(online), Status::Done);
+  EXPECT_EQ(handle.copyGenericPassword(kOnline).secret, "blob");
+  EXPECT_EQ(handle.deleteGenericPassword(kOnline), Status::Done);
 
   handle.commitOutlookUsername("", "");
   nextRun();
   EXPECT_FALSE(handle.getOutlookOnlineData().has_value());
   handle.getOutlookUsername(&username, &password);
   EXPECT_TRUE(username.isEmpty() && !username.isNull());
-  handle.removeOutlookCredential();
+  EXPECT_EQ(handle.removeOutlookCredential(), Status::Done);
   handle.getOutlookUsername(&username, &password);
   EXPECT_TRUE(username.isNull() && password.isNull());
   EXPECT_TRUE(watch.records().empty());
-  handle.useStorage(KZKeyChainHandle::Storage::Memory);
+  handle.useStorage(Storage::Memory);
+}
+
+// A keyring that is away for three seconds at the start, then in the middle of a run. Nothing is lost, and
+// what is told has been confirmed.
+TEST(RealKeychain, IsStoppedForThreeSecondsAndGoesOn) {
+  const ServiceProcess keyring;
+  keep("before");
+  const TraceCollector watch;
+  KZKeyChainHandle& handle = KZKeyChainHandle::sharedInstance();
+  QSignalSpy written(&handle, &KZKeyChainHandle::itemWritten);
+  QSignalSpy removed(&handle, &KZKeyChainHandle::itemRemoved);
+  const auto pauseFor3s = [&] {
+    keyring.pause();
+    QTimer::singleShot(3000, &handle, [&] { keyring.resume(); });
+  };
+
+  pauseFor3s();
+  handle.useStorage(Storage::System);
+  EXPECT_FALSE(handle.getOutlookOnlineData().has_value());
+  EXPECT_EQ(handle.hindrance(), Hindrance::Silent);
+  handle.commitOutlookUsername("anna", "typed meanwhile");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return handle.getOutlookOnlineData() == QByteArray("before"); }, 20'000))
+      << "the late read is taken";
+  EXPECT_TRUE(QTest::qWaitFor([&] { return written.size() == 1; }, 20'000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return handle.hindrance() == Hindrance::None; }, 20'000));
+
+  pauseFor3s();
+  EXPECT_EQ(handle.deleteGenericPassword(kOnline), Status::Silent);
+  EXPECT_FALSE(handle.getOutlookOnlineData().has_value());
+  handle.commitOutlookUsername("anna", "changed");
+  EXPECT_EQ(removed.size(), 0);
+  EXPECT_EQ(written.size(), 1);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return removed.size() == 1 && written.size() == 2; }, 20'000));
+  handle.useStorage(Storage::Memory);
+  EXPECT_EQ(kept().status, Status::NotFound);
+}
+
+TEST(RealKeychain, IsLockedThenKilledThenUnlocked) {
+  { const ServiceProcess first; }  // makes the keyring
+  const TraceCollector watch;
+  KZKeyChainHandle& handle = KZKeyChainHandle::sharedInstance();
+  QSignalSpy written(&handle, &KZKeyChainHandle::itemWritten);
+  QSignalSpy changed(&handle, &KZKeyChainHandle::hindranceChanged);
+  std::optional<ServiceProcess> keyring(ServiceProcess::Keyring::Locked);
+  handle.useStorage(Storage::System);
+  EXPECT_FALSE(handle.getOutlookOnlineData().has_value());
+  handle.commitOutlookOnlineData("blob");
+  EXPECT_EQ(handle.removeOutlookCredential(), Status::Locked);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return changed.size() == 1; }));
+  EXPECT_EQ(handle.hindrance(), Hindrance::Locked);
+  keyring.reset();
+  EXPECT_EQ(handle.removeOutlookCredential(), Status::NoKeyring);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return handle.hindrance() == Hindrance::NoKeyring; }));
+  EXPECT_EQ(written.size(), 0);
+  keyring.emplace();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return written.size() == 1; }, 20'000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return handle.hindrance() == Hindrance::None; }, 20'000));
+  EXPECT_EQ(changed.size(), 3);
+  handle.useStorage(Storage::Memory);
+  EXPECT_EQ(kept().secret, "blob");
+}
+
+// A whole process: what was confirmed is there in the next run, what was not is named, and the end is
+// bounded.
+TEST(RealKeychain, IsStoppedAtTheEndOfARun) {
+  const ServiceProcess keyring;
+  const auto password = [](const char* text) {
+    return QStringLiteral(R"({"set": "keychain", "username": "ann", "password": "%1"})").arg(text);
+  };
+  const QStringList options = {"--keychain", "system", "--writes", "--trace"};
+  QProcess session;
+  session.start(PREFS_SESSION, QStringList{"--plugin", FAKE_PLUGIN} + options);
+  session.write(password("first").toUtf8() + '\n');
+  QByteArray output;
+  EXPECT_TRUE(QTest::qWaitFor([&] { return (output += session.readAll()).contains("kept"); }, 20'000));
+  keyring.pause();
+  QElapsedTimer timer;
+  timer.start();
+  session.write(password("second").toUtf8() + '\n');
+  session.closeWriteChannel();
+  EXPECT_TRUE(session.waitForFinished(20'000));
+  EXPECT_EQ(session.exitStatus(), QProcess::NormalExit);
+  EXPECT_EQ(session.exitCode(), 0);
+  // One deadline for the step, the last chance, and the end of the process.
+  EXPECT_LT(timer.elapsed(), 1000 + 2000 + 2500);
+  output += session.readAll();
+  EXPECT_EQ(output.count("kept"), 1) << output.constData();
+  EXPECT_EQ(output.count(R"("trace":"error")"), 1) << output.constData();
+  EXPECT_FALSE(output.contains("second"));
+  keyring.resume();
+  const SessionRun next = runSessionWith(FAKE_PLUGIN, {R"({"get": "keychain"})"}, options);
+  // The keyring may have carried out what it got and did not confirm.
+  const QString found = next.result().value("outlookPassword").toString();
+  EXPECT_TRUE(found == "first" || found == "second") << found.toStdString();
 }

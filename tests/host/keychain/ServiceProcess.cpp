@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
+
 #include <QElapsedTimer>
 
 namespace {
@@ -24,8 +26,10 @@ ServiceProcess::ServiceProcess(const QString& fault) {
   EXPECT_TRUE(m_process.waitForReadyRead(kStartMilliseconds));
 }
 
-ServiceProcess::ServiceProcess() {
-  m_process.start("gnome-keyring-daemon", {"--foreground", "--unlock", "--components=secrets"});
+ServiceProcess::ServiceProcess(Keyring keyring) {
+  QStringList options = {"--foreground", "--components=secrets"};
+  if (keyring == Keyring::Unlocked) options.append("--unlock");
+  m_process.start("gnome-keyring-daemon", options);
   m_process.write("password");
   m_process.closeWriteChannel();
   QElapsedTimer timer;
@@ -42,6 +46,14 @@ void ServiceProcess::kill() {
   if (m_process.state() == QProcess::NotRunning) return;
   m_process.kill();
   m_process.waitForFinished();
+}
+
+void ServiceProcess::pause() const {
+  EXPECT_EQ(::kill(static_cast<pid_t>(m_process.processId()), SIGSTOP), 0);
+}
+
+void ServiceProcess::resume() const {
+  EXPECT_EQ(::kill(static_cast<pid_t>(m_process.processId()), SIGCONT), 0);
 }
 
 QByteArray ServiceProcess::said() {
