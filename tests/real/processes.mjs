@@ -36,7 +36,9 @@ export async function end(child, signal) {
   if (!running.has(child)) return;
   const ended = once(child, 'exit');
   signal ? child.kill(signal) : child.stdin.end();
+  const impatient = setTimeout(() => child.kill('SIGKILL'), 10000);
   await ended;
+  clearTimeout(impatient);
 }
 
 export async function output(program, args, { input = '', env = process.env } = {}) {
