@@ -12,7 +12,8 @@ enum class ADAuthorityValidation { Off };
 
 // Gets tokens from one authority and stores them in the default cache. Main thread only; nothing blocks. Each
 // completion is called once, from the event loop, a sign-in's when no refresh is in progress. Destroying the
-// context cancels its requests without calling their completions.
+// context cancels its requests without calling their completions; a refresh token that was sent already is
+// still replaced by its successor.
 class ADAL_EXPORT ADAuthenticationContext final {
  public:
   // Null, with the reason in `error`, for a text that cannot be read as an address. Requests to an address

@@ -22,6 +22,7 @@ T& livingForEver() {
 
 struct RunningRefreshes {
   QList<std::weak_ptr<ADRefresh>> refreshes;  // in the order of their requests
+  QList<std::shared_ptr<ADRefresh>> sent;     // those whose token is on its way
   QList<std::function<void()>> heldBack;      // until there are none
 };
 
@@ -68,6 +69,8 @@ ADRefresh::ADRefresh(const ADRefreshRequest& request)
         return item.refreshToken == request.refreshToken;
       })) {
   Q_ASSERT(QThread::currentThread() == QCoreApplication::instance()->thread());
+  connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this,
+          [] { runningRefreshes().sent.clear(); });
 }
 
 ADRefresh::~ADRefresh() {
@@ -135,6 +138,8 @@ void ADRefresh::redeem() {
       return;
     }
   }
+  if (!runningRefreshes().sent.contains(shared_from_this()))
+    runningRefreshes().sent.append(shared_from_this());
   const QStringList scopesKey{m_endpoints.token.toString(), m_request.clientId, m_request.resource};
   const bool namesScopes = !refusedScopes().contains(scopesKey);
   ADParameters form{{QStringLiteral("grant_type"), QStringLiteral("refresh_token")},
@@ -218,6 +223,7 @@ void ADRefresh::finish(const ADAuthenticationResult& result) {
   QTimer::singleShot(0, this, [this, result] {
     const std::shared_ptr<ADRefresh> self = shared_from_this();
     runningRefreshes().refreshes.removeIf([&self](const auto& running) { return running.lock() == self; });
+    runningRefreshes().sent.removeAll(self);
     m_completions.call(result);
     goOnLater();
   });

@@ -15,7 +15,8 @@
 
 // One redemption of a refresh token, shared by equal requests. A stored token is redeemed once at a time:
 // another request for it waits, and then redeems what is stored by then. A token is sent only to the
-// authority and as the client that got it. When all of its owners have left, it is cancelled. A failure
+// authority and as the client that got it. When all of its owners have left before the token
+// is sent, it is cancelled; afterwards it still stores the successor, because the token is used up. A failure
 // leaves the stored tokens unchanged. Main thread only.
 class ADRefresh final : public QObject, public std::enable_shared_from_this<ADRefresh> {
  public:

@@ -3,13 +3,14 @@
 #include <QMutexLocker>
 #include <QScopedValueRollback>
 #include <algorithm>
+#include <mutex>
 
 #include "adal/ADTokenCacheDelegate.h"
 
 namespace {
 
 ADError cacheBusy() {
-  return {ADErrorCode::CacheBusy, QStringLiteral("asked from inside its storage delegate")};
+  return {ADErrorCode::CacheBusy, QStringLiteral("another access is not done")};
 }
 
 bool isSameData(const QByteArray& left, const QByteArray& right) {
@@ -54,8 +55,8 @@ void ADTokenCache::setDelegate(ADTokenCacheDelegate* delegate) {
 }
 
 ADTokenCache::Items ADTokenCache::allItems() {
-  const QMutexLocker lock(&m_mutex);
-  if (m_insideDelegate) return {{}, cacheBusy()};
+  const std::unique_lock lock(m_mutex, longestWait);
+  if (!lock || m_insideDelegate) return {{}, cacheBusy()};
   if (m_delegate == nullptr) return {m_items, {}};
   const QScopedValueRollback inside(m_insideDelegate, true);
   m_delegate->willAccessCache(*this);

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QList>
 #include <QRecursiveMutex>
+#include <chrono>
 #include <functional>
 #include <optional>
 
@@ -20,6 +21,10 @@ class ADAL_EXPORT ADTokenCache final {
     std::optional<ADError> error;
   };
   using Failure = std::optional<ADError>;  // empty on success
+
+  // For other threads' accesses. Whoever waits longer may be waited for by them: a storage delegate writes to
+  // the log, and a log's receiver may wait for a thread that looks up a token.
+  static constexpr std::chrono::seconds longestWait{2};
   // Changes the items. Returns whether they shall be written; if not, it has changed nothing.
   using Change = std::function<bool(QList<ADTokenCacheItem>& items)>;
 
@@ -33,7 +38,8 @@ class ADAL_EXPORT ADTokenCache final {
   // Not owned. Without one, the cache is in memory only.
   void setDelegate(ADTokenCacheDelegate* delegate);
 
-  // A snapshot; costs no copy of the items. Fails only from inside the storage delegate.
+  // A snapshot; costs no copy of the items. Fails from inside the storage delegate, and when another access
+  // takes too long.
   [[nodiscard]] Items allItems();
 
   // One write, so that an old token is never removed before its successor is stored. `change` sees what is

@@ -5,8 +5,8 @@
 #include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QRadioButton>
-#include <optional>
 
 #include "companion/runtime/PreferencesWindow.h"
 #include "host/KZUIExtension/SplitLineView.h"
@@ -17,43 +17,63 @@
 
 namespace {
 
-using Kind = ControlRecipe::Kind;
+using Maker = std::function<QWidget*()>;
 
-ControlRecipe recipeOfButton(const QAbstractButton& button) {
-  Kind kind = Kind::Button;
-  if (qobject_cast<const QCheckBox*>(&button)) kind = Kind::CheckBox;
-  if (qobject_cast<const QRadioButton*>(&button)) kind = Kind::RadioButton;
-  return {.kind = kind, .text = button.text()};
+template <typename Plain>
+Maker makerOf(const QString& text) {
+  return [text] { return new Plain(text); };
 }
 
-ControlRecipe recipeOfField(const QLineEdit& field) {
-  return {.kind = field.echoMode() == QLineEdit::Normal ? Kind::Field : Kind::SecretField,
-          .text = field.text()};
+Maker makerOfField(const QLineEdit& field) {
+  return [text = field.text(), mode = field.echoMode()] {
+    auto* plain = new QLineEdit(text);
+    plain->setEchoMode(mode);
+    return plain;
+  };
 }
 
-ControlRecipe recipeOfPopUp(const PopUpButton& popUp) {
-  ControlRecipe recipe{.kind = Kind::PopUp, .text = popUp.title()};
-  for (int item = 0; item < popUp.count(); ++item) recipe.items.append(popUp.itemText(item));
-  return recipe;
+Maker makerOfPopUp(const PopUpButton& popUp) {
+  QStringList items;
+  for (int item = 0; item < popUp.count(); ++item) items.append(popUp.itemText(item));
+  return [items, title = popUp.title()] {
+    auto* plain = new QComboBox;
+    plain->addItems(items);
+    plain->setCurrentText(title);
+    return plain;
+  };
+}
+
+QWidget* makeLine() {
+  auto* line = new QFrame;
+  line->setFrameShape(QFrame::HLine);
+  return line;
 }
 
 // Nothing for a view that only contains others.
-std::optional<ControlRecipe> recipeOfControl(const QWidget& view) {
-  if (const auto* button = qobject_cast<const QAbstractButton*>(&view)) return recipeOfButton(*button);
-  if (const auto* field = qobject_cast<const QLineEdit*>(&view)) return recipeOfField(*field);
-  if (const auto* popUp = qobject_cast<const PopUpButton*>(&view)) return recipeOfPopUp(*popUp);
-  if (const auto* label = qobject_cast<const QLabel*>(&view)) return ControlRecipe{.text = label->text()};
-  if (qobject_cast<const SplitLineView*>(&view)) return ControlRecipe{.kind = Kind::Line};
+Maker makerFor(const QWidget& view) {
+  if (const auto* box = qobject_cast<const QCheckBox*>(&view)) return makerOf<QCheckBox>(box->text());
+  if (const auto* radio = qobject_cast<const QRadioButton*>(&view))
+    return makerOf<QRadioButton>(radio->text());
+  if (const auto* button = qobject_cast<const QAbstractButton*>(&view))
+    return makerOf<QPushButton>(button->text());
+  if (const auto* field = qobject_cast<const QLineEdit*>(&view)) return makerOfField(*field);
+  if (const auto* popUp = qobject_cast<const PopUpButton*>(&view)) return makerOfPopUp(*popUp);
+  if (const auto* label = qobject_cast<const QLabel*>(&view)) return makerOf<QLabel>(label->text());
+  if (qobject_cast<const SplitLineView*>(&view)) return &makeLine;
   return {};
 }
 
-void collectControls(const QWidget& pane, const QWidget& view, QList<ControlRecipe>* controls) {
+void collectControls(const QWidget& pane, const QWidget& view, QList<PaneRecipe::ControlRecipe>* controls) {
   for (const QWidget* child : subviewsOf(&view)) {
-    if (auto recipe = recipeOfControl(*child)) {
-      recipe->place = QRect(child->mapTo(&pane, QPoint()), child->size());
-      recipe->isHidden = child->isHidden();
-      recipe->isEnabled = child->isEnabled();
-      controls->append(*recipe);
+    const QRect place(child->mapTo(&pane, QPoint()), child->size());
+    if (const Maker make = makerFor(*child)) {
+      controls->append([=, isEnabled = child->isEnabled(), isHidden = child->isHidden()](QWidget* plainPane) {
+        QWidget* control = make();
+        control->setParent(plainPane);
+        control->setGeometry(place);
+        control->setEnabled(isEnabled);
+        control->setVisible(!isHidden);
+      });
     }
     collectControls(pane, *child, controls);
   }
@@ -63,7 +83,9 @@ void collectControls(const QWidget& pane, const QWidget& view, QList<ControlReci
     const Frame& frame = drawn.frame;
     const QPoint corner(static_cast<int>(frame.x), static_cast<int>(view.height() - frame.maxY()));
     const QSize size(static_cast<int>(frame.width), static_cast<int>(frame.height));
-    controls->append({.text = drawn.text, .place = QRect(view.mapTo(&pane, corner), size)});
+    controls->append([text = drawn.text, place = QRect(view.mapTo(&pane, corner), size)](QWidget* plainPane) {
+      (new QLabel(text, plainPane))->setGeometry(place);
+    });
   }
 }
 

@@ -2,29 +2,21 @@
 
 #include <QIcon>
 #include <QList>
-#include <QRect>
+#include <QSize>
 #include <QString>
-#include <QStringList>
+#include <functional>
 
+class QWidget;
 class Window;
 
-// A pane's controls and their places, read from the plug-in's window to build a plain window of the same
-// controls.
-struct ControlRecipe {
-  enum class Kind { Label, CheckBox, RadioButton, Button, Field, SecretField, PopUp, Line };
-
-  Kind kind = Kind::Label;
-  QString text = {};
-  QStringList items = {};
-  QRect place = {};
-  bool isHidden = false;
-  bool isEnabled = true;
-};
-
+// How to make a pane's controls anew of Qt's own widgets: read from the plug-in's window, to build a plain
+// window of the same controls.
 struct PaneRecipe {
-  QString label = {};
-  QIcon icon = {};
-  QSize size = {};
+  using ControlRecipe = std::function<void(QWidget* pane)>;
+
+  QString label;
+  QIcon icon;
+  QSize size;
   QList<ControlRecipe> controls = {};
 };
 

@@ -17,8 +17,6 @@ class PlainWindow final : public QMainWindow {
   QWidget* shownPane() const { return m_panes.at(m_shown); }
 
  private:
-  QWidget* createPane(const PaneRecipe& recipe);
-
   QList<QWidget*> m_panes;
   qsizetype m_shown = 0;
 };

@@ -1,6 +1,5 @@
 #include "KZPreference/authentication/ADTokenCacheWrapper.h"
 
-#include <chrono>
 #include <mutex>
 
 #include "KZPreference/authentication/ADTokenCacheItem+Mivra.h"
@@ -10,9 +9,6 @@
 #include "host/KZUtility/KZTrace.h"
 
 namespace {
-
-// Reading the cache may write to the trace, and a trace sink may wait for a look-up on another thread.
-constexpr std::chrono::seconds kLongestWait{5};
 
 bool isSameUser(const QString& userId, const QString& name) {
   // The lengths are compared first, because that is much cheaper.
@@ -33,8 +29,8 @@ void ADTokenCacheWrapper::setRefreshTokenDelegate(ADTokenRefreshDelegate* delega
 Dictionary ADTokenCacheWrapper::getAccessTokenByEmail(const QString& email, const QString& username) {
   MVRNSInfoFuncTraceIMPL("KZPreference", Q_FUNC_INFO, "email:%@, username:%@", email, username);
   const ADTokenCache::Items cached = [this]() -> ADTokenCache::Items {
-    const std::unique_lock lock(m_monitor, kLongestWait);
-    if (!lock) return {{}, ADError{ADErrorCode::CacheBusy, QStringLiteral("another look-up")}};
+    const std::unique_lock lock(m_monitor, ADTokenCache::longestWait);
+    if (!lock) return {{}, ADError{ADErrorCode::CacheBusy, QStringLiteral("another look-up is not done")}};
     return ADTokenCache::defaultCache().allItems();
   }();
   if (cached.error) {

@@ -1,5 +1,6 @@
 #include "KZPreference/authentication/TokenRequests.h"
 
+#include <QTimer>
 #include <utility>
 
 #include "KZPreference/authentication/ADAuthenticationWrapper.h"
@@ -49,11 +50,16 @@ void TokenRequests::request(const Content& content) {
 void TokenRequests::wait(const Content& content, const QString& refreshToken) {
   if (m_refreshing != refreshToken && !m_waiting.contains(refreshToken)) m_turns.enqueue(refreshToken);
   m_waiting[refreshToken].append(content);
-  if (!m_refreshing) later([this] { takeTurn(); });
+  if (!m_refreshing) takeTurnLater();
+}
+
+// A sign-in's result waits until no refresh is out; a timer lets it in before the next one.
+void TokenRequests::takeTurnLater() {
+  QTimer::singleShot(0, this, &TokenRequests::takeTurn);
 }
 
 void TokenRequests::takeTurn() {
-  if (m_wrapper->hasUnreportedResult()) return later([this] { takeTurn(); });
+  if (m_wrapper->hasUnreportedResult()) return takeTurnLater();
   while (!m_refreshing && !m_turns.isEmpty()) {
     // Looked up anew, because a sign-in may have changed the tokens meanwhile.
     QList<Content> group = m_waiting.take(m_turns.dequeue());
@@ -90,7 +96,7 @@ void TokenRequests::onRefreshed(const ADAuthenticationResult& result) {
       answer(content, ADAuthenticationWrapper::refreshAnswer({}, result));
     });
   }
-  if (!m_turns.isEmpty()) later([this] { takeTurn(); });
+  if (!m_turns.isEmpty()) takeTurnLater();
 }
 
 void TokenRequests::answer(const Content& content, const Dictionary& token) {

@@ -26,6 +26,7 @@ class TokenRequests final : public QObject {
 
  private:
   void wait(const Content& content, const QString& refreshToken);
+  void takeTurnLater();
   void takeTurn();
   void refresh(const Content& content, const Dictionary& token);
   void onRefreshed(const ADAuthenticationResult& result);

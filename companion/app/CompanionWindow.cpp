@@ -133,7 +133,10 @@ void CompanionWindow::addPage(const QString& title, const PageMaker& make) {
 void CompanionWindow::showPage(int index) {
   const PageMaker make = std::exchange(m_pageMakers[index], {});
   if (make) m_pages->widget(index)->layout()->addWidget(make());
+  const bool isOther = m_pages->currentIndex() != index;
   m_pages->setCurrentIndex(index);
+  // A letter with Alt changes the page without the tab bar, which would tell it.
+  if (isOther && !m_tabs->hasFocus()) announce(m_tabs, m_tabs->tabText(index).remove(u'&'));
 }
 
 QWidget* CompanionWindow::createSwitch() {

@@ -46,6 +46,16 @@ constexpr GroupBox kGroupBoxes[] = {
     {Group::Telemetry, textKey("Telemetry"), textKey("What is reported about the use of the window")},
     {Group::Traces, textKey("Traces"), textKey("What the plug-in and the host library do inside")}};
 
+// Without a current row Tab begins at the newest event that is seen, not at the oldest one.
+class EventTable final : public QTableView {
+ protected:
+  QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override {
+    if (currentIndex().isValid()) return QTableView::moveCursor(action, modifiers);
+    const int seen = rowAt(viewport()->height() - 1);
+    return model()->index(seen < 0 ? model()->rowCount() - 1 : seen, 0);
+  }
+};
+
 // JSON Lines, readable by the owner alone; replaces the file as a whole or not at all. The reason when that
 // failed, else null.
 [[nodiscard]] QString writeEvents(const QString& path, const InspectorFilter& events) {
@@ -107,7 +117,7 @@ void keepPlace(QTableView* table, QAbstractItemModel* model) {
 }  // namespace
 
 InspectorView::InspectorView(InspectorLog* log)
-    : m_log(log), m_filter(new InspectorFilter(log)), m_table(new QTableView), m_details(createDetails()) {
+    : m_log(log), m_filter(new InspectorFilter(log)), m_table(new EventTable), m_details(createDetails()) {
   m_filter->setParent(this);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);

@@ -31,6 +31,16 @@ QString missingText(const QString& source, const Dictionary& account) {
   return isRefused ? refusedPasswordText() : QString();
 }
 
+// Why there is no token; %1 is the user.
+QString reasonOf(const Dictionary& answer) {
+  if (!isSet(answer, QStringLiteral("GetTokenFailed")))
+    return companionText("Nobody is signed in as %1. Detect the account again to sign in.");
+  const QString reason = textValue(answer, QStringLiteral("GetTokenFailedReason"));
+  return reason == QLatin1String("TryLater")
+             ? companionText("The sign-in of %1 cannot be renewed now. Refresh later.")
+             : companionText("The sign-in of %1 could not be renewed. Detect the account again to sign in.");
+}
+
 }  // namespace
 
 NextMeetings::NextMeetings(PluginHost* host, ServiceNetwork* network, std::chrono::milliseconds tokenTime)
@@ -118,10 +128,7 @@ void NextMeetings::takeToken(const Dictionary& values) {
   const QString email = std::exchange(m_tokenEmail, {});
   const QString token = textValue(values, QRT_ListingMeeting_exchOnlineToken);
   if (!isFailed && !token.isEmpty()) return list(token);
-  const QString reason =
-      isFailed ? companionText("The sign-in of %1 could not be renewed. Detect the account again to sign in.")
-               : companionText("Nobody is signed in as %1. Detect the account again to sign in.");
-  show({}, reason.arg(email));
+  show({}, reasonOf(values).arg(email));
 }
 
 // The token goes to the account that it was requested for, even if the store has changed since.

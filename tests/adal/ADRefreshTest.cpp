@@ -90,6 +90,20 @@ TEST_F(ADRefreshTest, WhoWaitsGoesOnWhenTheOthersAreGone) {
   EXPECT_EQ(provider.requests().size(), 1) << "nothing was sent for the one that left";
 }
 
+TEST_F(ADRefreshTest, ATokenThatWasSentIsReplacedThoughNobodyWaitsAnyMore) {
+  provider.setDelay(100ms);
+  Result left;
+  refreshAt(*context, left, refreshToken);
+  ASSERT_TRUE(waitForRequests(1));
+  context = contextFor(provider.authority());
+  Result next;
+  refreshAt(*context, next, refreshToken, files);
+  ASSERT_TRUE(waitFor(next));
+  EXPECT_EQ(next->status, ADAuthenticationStatus::Succeeded);
+  EXPECT_FALSE(left);
+  EXPECT_EQ(provider.reuses(), 0);
+}
+
 TEST_F(ADRefreshTest, EachOfManyGetsItsOwnAnswerWhateverTheOrder) {
   const QString bob("bob@example.com");
   const QString bobs = provider.grant(bob);

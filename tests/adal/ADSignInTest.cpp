@@ -36,7 +36,9 @@ TEST_F(ADSignInTest, SucceedsWithEitherGenerationAndWithoutConfiguration) {
     SCOPED_TRACE(wanted.scope.toStdString());
     authority->setGeneration(wanted.generation);
     authority->setHasConfiguration(wanted.hasConfiguration);
-    ASSERT_FALSE(ADTokenCache::defaultCache().replaceAllItems({}));
+    ADTokenCacheItem superseded = accessItem("alice@example.com", authority->address());
+    superseded.clientId = "client-before";
+    ASSERT_FALSE(ADTokenCache::defaultCache().replaceAllItems({superseded}));
     opened.clear();
     Result result;
     signIn(result, QUrl(wanted.redirect));

@@ -73,6 +73,8 @@ SignInFixture::~SignInFixture() {
   ADLogger::setLoggerCallback({});
   ADAuthenticationSettings::sharedInstance().setBrowserOpener({});
   ADAuthenticationSettings::sharedInstance().setDefaultStorageDelegate(nullptr);
+  // Nothing of this test is left for the next.
+  QCoreApplication::processEvents();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 

@@ -1,6 +1,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTabBar>
 #include <algorithm>
 
 #include "companion/app/CompanionWindow.h"
@@ -64,6 +65,21 @@ TEST_F(CompanionWindowTest, TellsANoticeAndForgetsItForAnotherUser) {
   EXPECT_TRUE(isShown());
   window.findChildren<QRadioButton*>().last()->click();
   EXPECT_FALSE(isShown());
+}
+
+TEST_F(CompanionWindowTest, TellsThePageThatALetterChose) {
+  for (const char* title : {"&One", "T&wo"}) window.addPage(title, [] { return new QLabel("page"); });
+  auto* tabs = window.findChild<QTabBar*>();
+  window.activateWindow();
+  kit::AssistiveTechnology reader;
+  kit::settle();
+  QTest::keyClick(window.windowHandle(), Qt::Key_W, Qt::AltModifier);
+  EXPECT_EQ(tabs->currentIndex(), 1);
+  EXPECT_EQ(reader.takeAnnounced(), QStringList{"Two"});
+  tabs->setFocus();
+  QTest::keyClick(tabs, Qt::Key_Left);
+  EXPECT_EQ(tabs->currentIndex(), 0);
+  EXPECT_TRUE(reader.takeAnnounced().isEmpty()) << "told by the tab bar already";
 }
 
 }  // namespace

@@ -12,18 +12,24 @@ namespace {
 const QString kName = QStringLiteral("Ada Lovelace");
 const QString kSite = QStringLiteral("meet.example.com");
 const QString kEmail = QStringLiteral("ada@example.com");
+const QString kRoom = QStringLiteral("https://meet.example.com/a-personal-room-with-a-long-name-of-its-own");
 
 // Opens both variants and compares the frames of their panes with the formulas for the measured texts.
 class FrameFormulaTest : public testing::Test {
  protected:
   // One run of prefs-session: measures the texts, then gets the window with each pane.
-  void play(bool isGuest, const QStringList& panes) {
+  void play(bool isGuest, const QStringList& panes, const QString& room = {}, const QString& video = {}) {
     QStringList script{QStringLiteral(R"({"set": "store", "values": {"displayName": "%1", "siteName": "%2",)"
-                                      R"("userName": "%3"}})")
-                           .arg(kName, kSite, kEmail)};
+                                      R"("userName": "%3", "preferenceInfo": {"QRT_Preference_PMRUrl": "%4",)"
+                                      R"("QRT_Preference_PMRSipUrl": "%5"}}})")
+                           .arg(kName, kSite, kEmail, room, video)};
     const QStringList texts{kName,
                             kSite,
                             kEmail,
+                            kRoom,
+                            "Personal Room:",
+                            "Video address:",
+                            "Copy",
                             "Start Brenn Mivra Meetings when my computer starts",
                             "Schedule or start Mivra meetings from Microsoft Outlook",
                             "Full name:",
@@ -59,6 +65,7 @@ class FrameFormulaTest : public testing::Test {
     }
     const SessionRun run = runSession(script);
     ASSERT_EQ(run.status, 0) << qPrintable(run.complaints + run.lines.join(u'\n'));
+    m_toolbar = 0;
     qsizetype at = 0;
     for (const auto& font : fonts)
       for (const QString& text : texts) {
@@ -75,14 +82,21 @@ class FrameFormulaTest : public testing::Test {
   double guestGeneralWidth() const {
     return 32 + system("Start Brenn Mivra Meetings when my computer starts") + 32 + 20;
   }
+  double meetingsWidth(const QString& room, const QString& video) const {
+    const double labels =
+        std::max(room.isEmpty() ? 0 : label("Personal Room:"), video.isEmpty() ? 0 : label("Video address:"));
+    return 32 + label("Copy") + 60 + (labels + 4) + (std::max(label(room), label(video)) + 4);
+  }
+  double calendarWidth() const {
+    return system("Number of days to show in meetings list:") + 4 + 60 + 50 + 32;
+  }
   // The width that both variants share.
   double commonWidth() const {
     const double minutes =
         std::max(label("minutes before scheduled start time."), label("minutes after Snooze.")) + 4;
     const double credential = std::max(system("Email:"), system("Password:")) + 4;
     return std::max({320.0, 60 + 50 + 6 + minutes + 32,
-                     label("Automatically discover nearby devices") + 4 + (32 + 18) + 4 + 32,
-                     system("Number of days to show in meetings list:") + 4 + 60 + 50 + 32,
+                     label("Automatically discover nearby devices") + 4 + (32 + 18) + 4 + 32, calendarWidth(),
                      96 + credential + 10 + 220 + (system("Apply") + 40) + 32});
   }
 
@@ -158,6 +172,36 @@ TEST_F(FrameFormulaTest, SignedIn) {
   expectNotificationsAndDevices(width);
 }
 
+TEST_F(FrameFormulaTest, AddressesOfThePersonalRoom) {
+  const struct {
+    QString room;
+    QString video;
+    double height;
+  } cases[] = {{kRoom, {}, 48}, {{}, kRoom, 48}, {kRoom, kEmail, 72}};
+  for (const auto& [room, video, height] : cases) {
+    ASSERT_NO_FATAL_FAILURE(play(false, {"Meetings"}, room, video));
+    expectPane("Meetings", "m_meetingView", meetingsWidth(room, video), 24 + height + 50 + 198 + 2 * 36 + 24);
+    const double lineHeight = m_height.value("labelCopy");
+    const double widest = std::max(label("Personal Room:"), label("Video address:"));
+    const bool hasBoth = !room.isEmpty() && !video.isEmpty();
+    const struct {
+      QString address;
+      const char* label;
+      const char* link;
+      double y;
+    } rows[] = {{room, "Personal Room:", "m_copyPmrurlBtn", hasBoth ? lineHeight + 8 : 0},
+                {video, "Video address:", "m_copySipurlBtn", 0}};
+    for (const auto& row : rows) {
+      if (row.address.isEmpty()) continue;
+      const double column = hasBoth ? widest : label(row.label);
+      expectFrame("Meetings", row.label, 60, row.y, column, lineHeight);
+      expectFrame("Meetings", row.address, 60 + column + 10, row.y, label(row.address), lineHeight);
+      expectFrame("Meetings", row.link, 60 + widest + 10 + label(row.address) + 10, row.y, label("Copy") + 4,
+                  lineHeight);
+    }
+  }
+}
+
 TEST_F(FrameFormulaTest, Guest) {
   ASSERT_NO_FATAL_FAILURE(play(true, kAllPanes));
   const double labels = std::max(system("Your name:"), system("Your email address:")) + 4;
@@ -186,6 +230,8 @@ TEST_F(FrameFormulaTest, Guest) {
   expectFrame("Account", "m_editBtn", 32 + headingWidth + 6, 136 - 24 - headingHeight * 0.5 - 8,
               system("Edit") + 4, 16);
   expectPane("Meetings", "m_meetingView", width, 24 + 50 + 172 + 36 + 24);
+  expectFrame("Meetings", "m_calendarView", 0, 24 + 172 + 36, calendarWidth(), 50);
+  expectFrame("Meetings", "m_splitline", 24, 24 + 172 + 18, width - 48, 1);
   expectNotificationsAndDevices(width);
 }
 

@@ -10,19 +10,12 @@
 namespace {
 
 QStringList s_announced;
-QString s_typed;
 
 void note(QAccessibleEvent* event) {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
   if (event->type() == QAccessible::Announcement)
     s_announced.append(static_cast<QAccessibleAnnouncementEvent*>(event)->message());
 #endif
-  if (event->type() == QAccessible::TextInserted)
-    s_typed.append(static_cast<QAccessibleTextInsertEvent*>(event)->textInserted());
-  if (event->type() == QAccessible::TextRemoved)
-    s_typed.append(u'-' + static_cast<QAccessibleTextRemoveEvent*>(event)->textRemoved());
-  if (event->type() == QAccessible::TextUpdated)
-    s_typed.append(u'=' + static_cast<QAccessibleTextUpdateEvent*>(event)->textInserted());
   if (event->type() != QAccessible::ObjectShow) return;
   const QAccessibleInterface* shown = event->accessibleInterface();
   if (shown && shown->role() == QAccessible::Notification) s_announced.append(shown->text(QAccessible::Name));
@@ -42,7 +35,6 @@ namespace kit {
 AssistiveTechnology::AssistiveTechnology() {
   // Later versions of Qt report while nobody listens, too.
   s_announced.clear();
-  s_typed.clear();
   setActive(true);
 }
 
@@ -52,10 +44,6 @@ AssistiveTechnology::~AssistiveTechnology() {
 
 QStringList AssistiveTechnology::takeAnnounced() {
   return std::exchange(s_announced, {});
-}
-
-QString AssistiveTechnology::takeTyped() {
-  return std::exchange(s_typed, {});
 }
 
 }  // namespace kit

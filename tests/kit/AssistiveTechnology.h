@@ -11,7 +11,6 @@ class AssistiveTechnology {
   ~AssistiveTechnology();
 
   QStringList takeAnnounced();
-  QString takeTyped();  // inserted texts, removed ones after "-", replaced ones after "="
 };
 
 }  // namespace kit

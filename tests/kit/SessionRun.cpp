@@ -26,7 +26,8 @@ SessionRun runSessionWith(const QString& plugin, const QStringList& script, cons
 }
 
 QJsonObject viewNamed(const QJsonObject& view, const QString& name) {
-  if (view.value("name") == name) return view;
+  if (view.value("name") == name || (view.value("class") == "drawn" && view.value("text") == name))
+    return view;
   for (const QJsonValue& child : view.value("children").toArray()) {
     const QJsonObject found = viewNamed(child.toObject(), name);
     if (!found.isEmpty()) return found;

@@ -142,18 +142,6 @@ TEST_F(RecordedInput, KeysThatAreNoText) {
   EXPECT_FALSE(window()->isVisible());
 }
 
-TEST_F(RecordedInput, TheUserClosesButACommandDoesNot) {
-  window()->windowHandle()->close();
-  eventpump::settle();
-  EXPECT_EQ(steps().toStdString(), "{\"close\":true}");
-  m_host.trigger(KZCommand::KZCmdShowPreference);
-  eventpump::settle();
-  m_lines.clear();
-  m_host.trigger(KZCommand::KZCmdDestroyPreference);
-  eventpump::settle();
-  EXPECT_EQ(steps().toStdString(), "{\"command\":3}");
-}
-
 TEST_F(RecordedInput, AKeyOfAPasswordIsNoStep) {
   showPane("Meetings");
   clickOn(control("m_outlookRadioBtn"));

@@ -80,8 +80,11 @@ TEST_F(NextMeetingsTest, TakesTheAnswerToItsQuestionAlone) {
   EXPECT_EQ(played.visits().first().authorization, "Bearer new");
 
   ask(meetings);
-  answer(kOnlineEmail, {{"GetTokenFailed", true}});
+  answer(kOnlineEmail, {{"GetTokenFailed", true}, {"GetTokenFailedReason", "SignInAgain"}});
   EXPECT_TRUE(says(meetings, "could not be renewed. Detect the account again"));
+  ask(meetings);
+  answer(kOnlineEmail, {{"GetTokenFailed", true}, {"GetTokenFailedReason", "TryLater"}});
+  EXPECT_TRUE(says(meetings, "cannot be renewed now. Refresh"));
 }
 
 TEST_F(NextMeetingsTest, ALateRenewalIsStillUsedAfterTheUserHasBeenTold) {

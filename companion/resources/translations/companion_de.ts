@@ -364,6 +364,10 @@
         <translation>Die Suche nach einem Exchange-Dienst wurde abgebrochen.</translation>
     </message>
     <message>
+        <source>The sign-in of %1 cannot be renewed now. Refresh later.</source>
+        <translation>Die Anmeldung von %1 kann gerade nicht erneuert werden. Aktualisieren Sie später.</translation>
+    </message>
+    <message>
         <source>The sign-in of %1 could not be renewed. Detect the account again to sign in.</source>
         <translation>Die Anmeldung von %1 konnte nicht erneuert werden. Suchen Sie das Konto erneut, um sich anzumelden.</translation>
     </message>
@@ -848,8 +852,8 @@
         <translation>Office 365, das auf die Anmeldung mit einer Webseite antwortet</translation>
     </message>
     <message>
-        <source>Office 365 that does not say how long the sign-in is valid: an hour is assumed</source>
-        <translation>Office 365, das nicht sagt, wie lange die Anmeldung gilt: eine Stunde wird angenommen</translation>
+        <source>Office 365 that does not say how long the sign-in is valid</source>
+        <translation>Office 365, das nicht sagt, wie lange die Anmeldung gilt</translation>
     </message>
     <message>
         <source>Redirects to onprem@corp.sandbox.example</source>

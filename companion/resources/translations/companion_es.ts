@@ -364,6 +364,10 @@
         <translation>Se abandonó la búsqueda de un servicio de Exchange.</translation>
     </message>
     <message>
+        <source>The sign-in of %1 cannot be renewed now. Refresh later.</source>
+        <translation>El inicio de sesión de %1 no se puede renovar ahora. Actualice más tarde.</translation>
+    </message>
+    <message>
         <source>The sign-in of %1 could not be renewed. Detect the account again to sign in.</source>
         <translation>No se pudo renovar el inicio de sesión de %1. Busque la cuenta de nuevo para iniciar sesión.</translation>
     </message>
@@ -848,8 +852,8 @@
         <translation>Office 365 que responde al inicio de sesión con una página web</translation>
     </message>
     <message>
-        <source>Office 365 that does not say how long the sign-in is valid: an hour is assumed</source>
-        <translation>Office 365 que no indica cuánto dura el inicio de sesión: se supone una hora</translation>
+        <source>Office 365 that does not say how long the sign-in is valid</source>
+        <translation>Office 365 que no indica cuánto dura el inicio de sesión</translation>
     </message>
     <message>
         <source>Redirects to onprem@corp.sandbox.example</source>

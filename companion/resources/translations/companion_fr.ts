@@ -364,6 +364,10 @@
         <translation>La recherche d’un service Exchange a été abandonnée.</translation>
     </message>
     <message>
+        <source>The sign-in of %1 cannot be renewed now. Refresh later.</source>
+        <translation>La connexion de %1 ne peut pas être renouvelée pour le moment. Actualisez plus tard.</translation>
+    </message>
+    <message>
         <source>The sign-in of %1 could not be renewed. Detect the account again to sign in.</source>
         <translation>La connexion de %1 n’a pas pu être renouvelée. Recherchez de nouveau le compte pour vous connecter.</translation>
     </message>
@@ -848,8 +852,8 @@
         <translation>Office 365 qui répond à la connexion par une page web</translation>
     </message>
     <message>
-        <source>Office 365 that does not say how long the sign-in is valid: an hour is assumed</source>
-        <translation>Office 365 qui n’indique pas la durée de validité de la connexion : une heure est supposée</translation>
+        <source>Office 365 that does not say how long the sign-in is valid</source>
+        <translation>Office 365 qui n’indique pas la durée de validité de la connexion</translation>
     </message>
     <message>
         <source>Redirects to onprem@corp.sandbox.example</source>

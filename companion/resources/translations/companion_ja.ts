@@ -364,6 +364,10 @@
         <translation>Exchange サービスの検索を中止しました。</translation>
     </message>
     <message>
+        <source>The sign-in of %1 cannot be renewed now. Refresh later.</source>
+        <translation>現在、%1 のサインインを更新できません。後で再読み込みしてください。</translation>
+    </message>
+    <message>
         <source>The sign-in of %1 could not be renewed. Detect the account again to sign in.</source>
         <translation>%1 のサインインを更新できませんでした。アカウントをもう一度検索して、サインインしてください。</translation>
     </message>
@@ -848,8 +852,8 @@
         <translation>サインインに Web ページを返す Office 365</translation>
     </message>
     <message>
-        <source>Office 365 that does not say how long the sign-in is valid: an hour is assumed</source>
-        <translation>サインインの有効期間を示さない Office 365：1 時間とみなします</translation>
+        <source>Office 365 that does not say how long the sign-in is valid</source>
+        <translation>サインインの有効期間を示さない Office 365</translation>
     </message>
     <message>
         <source>Redirects to onprem@corp.sandbox.example</source>

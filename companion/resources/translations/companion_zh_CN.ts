@@ -364,6 +364,10 @@
         <translation>已放弃查找 Exchange 服务。</translation>
     </message>
     <message>
+        <source>The sign-in of %1 cannot be renewed now. Refresh later.</source>
+        <translation>目前无法更新 %1 的登录状态。请稍后刷新。</translation>
+    </message>
+    <message>
         <source>The sign-in of %1 could not be renewed. Detect the account again to sign in.</source>
         <translation>无法更新 %1 的登录状态。请重新查找账户以登录。</translation>
     </message>
@@ -848,8 +852,8 @@
         <translation>以网页回应登录的 Office 365</translation>
     </message>
     <message>
-        <source>Office 365 that does not say how long the sign-in is valid: an hour is assumed</source>
-        <translation>不说明登录有效期的 Office 365：视为一小时</translation>
+        <source>Office 365 that does not say how long the sign-in is valid</source>
+        <translation>不说明登录有效期的 Office 365</translation>
     </message>
     <message>
         <source>Redirects to onprem@corp.sandbox.example</source>

@@ -10,6 +10,7 @@
 
 #include "KZPreference/authentication/AdalMivraLogDelegate.h"
 #include "KZPreference/authentication/MainThreadInvoker.h"
+#include "KZPreference/authentication/TokenRequests.h"
 #include "KZPreference/core/PreferenceActionDelegate.h"
 #include "adal/ADAuthenticationSettings.h"
 #include "adal/ADLogger.h"
@@ -191,6 +192,35 @@ TEST_F(ADAuthenticationWrapperTest, DestroyingItCancelsItsRequests) {
   wrapper.reset();
   QTest::qWait(100);
   EXPECT_EQ(host.calls(), 0);
+}
+
+// Between the result's arrival and its report.
+TEST_F(ADAuthenticationWrapperTest, ASignInsResultIsReportedAsItsOwnOrNotAtAll) {
+  ADTokenCacheItem access;
+  access.userInformation.userId = "bob@example.com";
+  access.authority = authority->address();
+  access.clientId = "client-1";
+  access.accessToken = "stale";
+  ADTokenCacheItem refresh = access;
+  refresh.refreshToken = authority->grantRefreshToken("client-1");
+  refresh.multiResource = true;
+  ASSERT_FALSE(ADTokenCache::defaultCache().replaceAllItems({access, refresh}));
+  TokenRequests requests(wrapper.get(), &host);
+  signIn();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return wrapper->hasUnreportedResult(); }));
+  const Dictionary exchange{{kKZCalendarIntegrationExchangeEmail, "bob@example.com"}};
+  requests.request(
+      Dictionary{{kKZCalendarIntegration, Dictionary{{kKZCalendarIntegrationExchange, exchange}}}});
+  ASSERT_TRUE(waitForCalls(2));
+  EXPECT_EQ(host.credentials.size(), 1);
+  EXPECT_EQ(host.tokens.size(), 1);
+
+  opened.clear();
+  signIn();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return wrapper->hasUnreportedResult(); }));
+  wrapper->cancelSignIn();
+  QTest::qWait(50);
+  EXPECT_EQ(host.calls(), 2);
 }
 
 TEST_F(ADAuthenticationWrapperTest, OnlyTheFirstCompletionIsDeliveredOnTheMainThread) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <thread>
+
 #include "KZPreference/authentication/ADTokenCacheItem+Mivra.h"
 #include "adal/ADAuthenticationSettings.h"
 #include "adal/ADTokenCache.h"
@@ -130,6 +132,44 @@ TEST_F(ADTokenCacheWrapperTest, ABusyCacheIsAnErrorTraceAndNoToken) {
   EXPECT_EQ(delegate.answer, Dictionary());
   EXPECT_EQ(trace.lines().filter("error error:cache busy").size(), 1)
       << trace.lines().join('\n').toStdString();
+}
+
+// Waits for a look-up on another thread while the cache is being used, as a trace sink may.
+class WaitingForLookUp final : public ADTokenCacheDelegate {
+ public:
+  void willAccessCache(ADTokenCache&) override { lookUp(); }
+  void didAccessCache(ADTokenCache&) override {}
+  void willWriteCache(ADTokenCache&) override { lookUp(); }
+  void didWriteCache(ADTokenCache&) override {}
+
+  int answers = 0;
+
+ private:
+  void lookUp() {
+    std::thread([] {
+      EXPECT_EQ(ADTokenCacheWrapper::sharedInstance().getAccessTokenByEmail("a@example.com", QString()),
+                Dictionary());
+    }).join();
+    ++answers;
+  }
+};
+
+TEST_F(ADTokenCacheWrapperTest, ALookUpThatIsWaitedForEnds) {
+  WaitingForLookUp delegate;
+  ADAuthenticationSettings::sharedInstance().setDefaultStorageDelegate(&delegate);
+  store({accessFor("a@example.com", "access"), refreshFor("a@example.com", "refresh")});
+  EXPECT_EQ(tokenOf(lookUp("a@example.com")), "access");
+  ADAuthenticationSettings::sharedInstance().setDefaultStorageDelegate(nullptr);
+  EXPECT_EQ(delegate.answers, 2);
+  EXPECT_EQ(trace.lines().filter("error error:cache busy").size(), 2);
+}
+
+TEST_F(ADTokenCacheWrapperTest, AMissingTextEndsTheRefreshInformation) {
+  ADTokenCacheItem access = accessFor("a@example.com", "access", 0);
+  access.resource = QString();
+  store({access, refreshFor("a@example.com", "refresh")});
+  EXPECT_EQ(dictionaryValue(lookUp("a@example.com"), "refreshTokenInfo"),
+            (Dictionary{{"authority", "https://login.example.com/common"}}));
 }
 
 }  // namespace

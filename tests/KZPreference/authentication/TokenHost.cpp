@@ -18,14 +18,11 @@ TokenHost::~TokenHost() {
 }
 
 void TokenHost::addUser(const QString& user, Token token) {
-  addUser(user, provider.authority(), provider.grant(user));
-  if (token == Token::Expired) return;
-  QList<ADTokenCacheItem> items = ADTokenCache::defaultCache().allItems().items;
-  items[items.size() - 2].expiresOn = adNow().addSecs(3600);
-  EXPECT_FALSE(ADTokenCache::defaultCache().replaceAllItems(items));
+  addUser(user, provider.authority(), provider.grant(user), token);
 }
 
-void TokenHost::addUser(const QString& user, const QString& authority, const QString& refreshToken) {
+void TokenHost::addUser(const QString& user, const QString& authority, const QString& refreshToken,
+                        Token token) {
   ADTokenCacheItem access;
   access.userInformation.userId = user;
   access.authority = authority;
@@ -33,7 +30,7 @@ void TokenHost::addUser(const QString& user, const QString& authority, const QSt
   access.clientId = QStringLiteral("client-1");
   ADTokenCacheItem refresh = access;
   access.accessToken = QStringLiteral("stored-of-") + user;
-  access.expiresOn = adNow().addSecs(-1);
+  access.expiresOn = adNow().addSecs(token == Token::Valid ? 3600 : -1);
   refresh.resource.clear();
   refresh.refreshToken = refreshToken;
   refresh.multiResource = true;

@@ -15,9 +15,10 @@ class TokenHost : public TestHost {
   TokenHost();
   ~TokenHost() override;
 
-  // Stores tokens of this user beside those that are stored already.
+  // Stores tokens of this user.
   void addUser(const QString& user, Token token = Token::Expired);
-  void addUser(const QString& user, const QString& authority, const QString& refreshToken);
+  void addUser(const QString& user, const QString& authority, const QString& refreshToken,
+               Token token = Token::Expired);
 
   // Sends command 28 and returns the request's number.
   int ask(const QString& user);

@@ -153,6 +153,25 @@ TEST_F(TokenRequestsTest, ARestartOfTheProviderFailsOnlyWhatWasOut) {
   EXPECT_EQ(outcomes(requests), (QStringList{"TryLater", "TryLater", "refreshed", "refreshed"}));
 }
 
+TEST_F(TokenRequestsTest, ATurnUsesWhatIsStoredByThen) {
+  for (const bool isEnded : {false, true}) {
+    m_core = &KZPreferenceCore::sharedInstance();
+    m_core->setDelegate(this);
+    addUser("a");
+    addUser("b");
+    order.clear();
+    onAnswer = [&](const Dictionary&) {
+      if (isEnded && order.size() == 2) KZPreferenceCore::shutDown();
+    };
+    const QList<int> requests = ask({"a", "b", "b"});
+    addUser("b", Token::Valid);
+    ASSERT_TRUE(waitForAnswers(isEnded ? 2 : 3));
+    QTest::qWait(30);
+    EXPECT_EQ(outcomes(requests), (QStringList{"refreshed", "stored", isEnded ? "unanswered" : "stored"}));
+    EXPECT_EQ(provider.redemptions("b"), 0);
+  }
+}
+
 TEST_F(TokenRequestsTest, AHostMayDoAnythingFromWithinAnAnswer) {
   const struct {
     const char* name;

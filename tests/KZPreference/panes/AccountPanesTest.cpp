@@ -1,7 +1,6 @@
-#include <QApplication>
 #include <QLineEdit>
 #include <QTest>
-#include <QWindow>
+#include <functional>
 
 #include "KZPreference/panes/account/NonSignInPrefAccountView.h"
 #include "KZPreference/panes/account/PrefAccountView.h"
@@ -10,7 +9,6 @@
 #include "platform/StaticText.h"
 #include "platform/WindowController.h"
 #include "tests/KZPreference/core/RecordingHost.h"
-#include "tests/kit/AssistiveTechnology.h"
 
 namespace {
 
@@ -69,12 +67,11 @@ TEST_F(GuestAccountPaneTest, AnInvalidEmailStaysInTheFieldUntilItChanges) {
 
 TEST_F(GuestAccountPaneTest, EmptyFieldsMeanTheStoredOnes) {
   clickLink();
-  takeSent();
   type(name(), "");
   type(email(), "");
   clickLink();
   EXPECT_FALSE(isEditing());
-  EXPECT_EQ(takeSent(), QStringList());
+  EXPECT_EQ(shownName(), "Ada");
   EXPECT_EQ(profile().userName(), "ada@example.com");
 }
 
@@ -88,49 +85,20 @@ TEST_F(GuestAccountPaneTest, LongEntriesAreCutToTheHostsLimit) {
   EXPECT_EQ(shownName(), profile().displayName());
 }
 
-TEST_F(GuestAccountPaneTest, AnotherPaneEndsTheEdit) {
-  clickLink();
-  type(name(), "Grace");
-  clickPane("General");
-  clickPane("Account");
-  EXPECT_FALSE(isEditing());
-  EXPECT_EQ(shownName(), "Ada");
-}
-
-TEST_F(GuestAccountPaneTest, TheKeyboardAloneEdits) {
-  const auto press = [](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-    QTest::keyClick(window()->windowHandle(), key, modifiers);
-    return QApplication::focusWidget();
-  };
-  kit::AssistiveTechnology reader;
-  link()->setFocus();
-  EXPECT_EQ(press(Qt::Key_Return), name());
-  EXPECT_EQ(press(Qt::Key_Tab), email());
-  EXPECT_EQ(press(Qt::Key_Tab), name());
-  EXPECT_EQ(press(Qt::Key_Tab, Qt::ControlModifier), link());
-  name()->setFocus();
-  QTest::keyClicks(name(), "x");
-  EXPECT_EQ(press(Qt::Key_Escape), link());
-  EXPECT_FALSE(isEditing());
-  EXPECT_EQ(profile().displayName(), "Ada");
-
-  press(Qt::Key_Return);
-  type(email(), "ada@@example.com");
-  EXPECT_EQ(press(Qt::Key_Return), email());
-  EXPECT_EQ(reader.takeAnnounced(), QStringList("Invalid email address"));
-  type(email(), "ada@brenn.example");
-  EXPECT_EQ(press(Qt::Key_Return), link());
-  EXPECT_EQ(profile().userName(), "ada@brenn.example");
+TEST_F(GuestAccountPaneTest, AnotherPaneAndEscapeGiveTheEditUp) {
+  const auto escape = [] { QTest::keyClick(name(), Qt::Key_Escape); };
+  const auto switchPanes = [] { clickPane("General"), clickPane("Account"); };
+  for (const std::function<void()>& giveUp : {std::function<void()>(escape), {switchPanes}}) {
+    clickLink();
+    type(name(), "Grace");
+    giveUp();
+    EXPECT_FALSE(isEditing());
+    EXPECT_EQ(shownName(), "Ada");
+    EXPECT_EQ(profile().displayName(), "Ada");
+  }
 }
 
 class AccountPaneTest : public RecordingHost {};
-
-TEST_F(AccountPaneTest, TheLinkSendsTheChangeSiteCommand) {
-  command(2, Dictionary{{"kOpenPrefsViewType", "kPrefsAccountView"}});
-  takeSent();
-  kit::click(*find<BRNHyperlinkTextField>("m_changeSiteBtn"));
-  EXPECT_EQ(takeSent(), QStringList{"14 nil"});
-}
 
 TEST_F(AccountPaneTest, MissingTextsLeaveTheirFields) {
   profile().setDisplayName("Ada");

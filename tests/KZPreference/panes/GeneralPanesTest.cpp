@@ -39,29 +39,6 @@ TEST_F(GeneralPanesTest, AStoredChoiceIsShownAndNoneCountsAsOn) {
   }
 }
 
-TEST_F(GeneralPanesTest, EachClickIsStoredAndSent) {
-  command(2);
-  click(login());
-  click(outlook());
-  click(outlook());
-  EXPECT_EQ(takeSent(),
-            (QStringList{R"(4 {"kLaunchAtLogin":false})", R"(4 {"kEnableOutlookKZPluginValue":false})",
-                         R"(4 {"kEnableOutlookKZPluginValue":true})"}));
-  EXPECT_FALSE(KZPlistFileHandle::sharedInstance().launchAtLogin());
-  EXPECT_TRUE(KZPlistFileHandle::sharedInstance().enableOutlookKZPlugin());
-}
-
-TEST_F(GeneralPanesTest, ASiteMayForbidOutlookWithoutTouchingTheChoice) {
-  KZPlistFileHandle::sharedInstance().setEnableOutlookKZPlugin(true);
-  KZApplicationHelper::sharedInstance().setSiteEnableOutlook(false);
-  command(2);
-  EXPECT_FALSE(outlook()->isChecked());
-  EXPECT_FALSE(outlook()->isEnabled());
-  click(outlook());
-  EXPECT_EQ(takeSent(), QStringList());
-  EXPECT_TRUE(KZPlistFileHandle::sharedInstance().enableOutlookKZPlugin());
-}
-
 TEST_F(GeneralPanesTest, EveryWarningMakesTheWindowTaller) {
   command(2);
   auto* pane = find<PrefGeneralView>("m_generalView");

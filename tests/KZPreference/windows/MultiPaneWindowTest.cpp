@@ -140,25 +140,6 @@ TEST_F(MultiPaneWindowTest, ASecondSwitchInMidFlightEndsOnTheLastPane) {
   EXPECT_EQ(window()->geometry().topLeft(), corner);
 }
 
-TEST_F(MultiPaneWindowTest, ShiftSlowsTheFade) {
-  show();
-  const struct {
-    const char* label;
-    bool shiftSlows;
-    Qt::KeyboardModifiers modifiers;
-    int duration;
-  } rows[] = {{"Tall", true, Qt::ShiftModifier, 1250},
-              {"Middle", true, {}, 250},
-              {"Short", true, Qt::ControlModifier, 250},
-              {"Tall", false, Qt::ShiftModifier, 250}};
-  for (const auto& row : rows) {
-    m_controller.setShiftSlowsAnimation(row.shiftSlows);
-    click(row.label, row.modifiers);
-    EXPECT_TRUE(isFading());
-    EXPECT_EQ(animation()->duration(), row.duration) << row.label;
-  }
-}
-
 TEST_F(MultiPaneWindowTest, WithoutFadeTheSizeIsAnimatedAndWithReducedMotionNothing) {
   show();
   m_controller.setCrossFade(false);
@@ -231,19 +212,6 @@ TEST(MultiPaneWindow, EveryPaneIsOnTheScreenAndScrollsOnlyWhenItIsTaller) {
     }
   }
   setKZTraceSink({});
-}
-
-TEST_F(MultiPaneWindowTest, ThePaneAskedForAtOnceIsTheFirstThatIsSeen) {
-  for (const char* label : {"Tall", "Middle"}) {
-    m_controller.showWindow();
-    const QPoint corner = window()->geometry().topLeft();
-    m_controller.loadViewForIdentifier(label, Animate::Yes);
-    EXPECT_FALSE(isFading());
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window()));
-    EXPECT_EQ(shown().last()->accessibleName(), label);
-    EXPECT_EQ(window()->geometry().topLeft(), corner);
-    m_controller.close();
-  }
 }
 
 TEST_F(MultiPaneWindowTest, IsNeverMaximised) {

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QAccessible>
 #include <QApplication>
 #include <QSignalSpy>
 #include <QTest>
@@ -56,6 +55,8 @@ TEST(HostControls, AreClickedByMouseAndKeyboardOnceEach) {
     for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {
       clicks.clear();
       QTest::keyClick(button, key);
+      QKeyEvent held(QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
+      QApplication::sendEvent(button, &held);
       EXPECT_EQ(clicks.count(), 1) << button->metaObject()->className() << ' ' << key;
     }
     clicks.clear();
@@ -89,15 +90,6 @@ TEST(HostControls, LookDifferentInEachState) {
     button->setEnabled(false);
     addState();
   }
-}
-
-TEST(HostControls, AScreenReaderHearsALink) {
-  Shown shown(newLink());
-  QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(shown.button);
-  ASSERT_NE(accessible, nullptr);
-  EXPECT_EQ(accessible->text(QAccessible::Name), "Change");
-  EXPECT_EQ(accessible->role(), QAccessible::Button);
-  EXPECT_TRUE(accessible->state().focusable);
 }
 
 TEST(HostControls, AnImageButtonWithoutImageIsHarmless) {

@@ -107,17 +107,13 @@ TEST_F(LookStyleTest, TheApplicationIsLeftAlone) {
   EXPECT_EQ(lookStyle()->parent(), qApp);
 }
 
-TEST_F(LookStyleTest, KeyboardFocusIsVisibleOnEveryControlInEveryScheme) {
-  QToolBar* toolbar = sampleToolbar(&m_window);
+// Of controls that the panes do not have.
+TEST_F(LookStyleTest, KeyboardFocusIsVisibleInEveryScheme) {
   auto* tabs = new QTabBar;
   tabs->addTab("Inspector");
-  const QList<QWidget*> controls{
-      add(new QRadioButton("Radio"), {20, 10, 100, 16}), add(new QCheckBox("Check"), {20, 40, 100, 16}),
-      add(new QPushButton("Push"), {20, 70, 80, 20}),    add(new QLineEdit("field"), {20, 100, 80, 22}),
-      add(new PopUpButton({"7"}), {20, 130, 50, 22}),    add(tabs, {120, 10, 100, 26}),
-      add(new QTableWidget(2, 2), {120, 40, 200, 120}),  toolbar->widgetForAction(toolbar->actions().at(0))};
+  const QList<QWidget*> controls{add(tabs, {120, 10, 100, 26}),
+                                 add(new QTableWidget(2, 2), {120, 40, 200, 120})};
   show();
-  toolbar->setGeometry(0, 0, 500, 60);
   for (const LookScheme scheme : allSchemes) {
     QApplication::setPalette(hostPalette(scheme));
     QApplication::processEvents();

@@ -59,32 +59,6 @@ class CalendarSources : public testing::Test {
   PreferenceHost host;
 };
 
-TEST_F(CalendarSources, TheStoredSourceIsShownIfItIsOffered) {
-  const struct {
-    QVariant stored;
-    bool none;
-    bool google;
-    QStringList chosen;
-  } cases[] = {
-      {kKZCalendarIntegrationSourceNone, true, true, {"m_noneRadioBtn"}},
-      {kKZCalendarIntegrationSourceNone, false, true, {}},
-      {kKZCalendarIntegrationSourceGoogle, true, true, {"m_googleRadioBtn"}},
-      {kKZCalendarIntegrationSourceGoogle, true, false, {}},
-      {kKZCalendarIntegrationSourceMivRa, false, false, {"m_mivraRadioBtn"}},
-      {kKZCalendarIntegrationSourceOutlook, false, false, {"m_outlookRadioBtn"}},
-      {QStringLiteral("kKZCalendarIntegrationSourceOther"), true, true, {"m_outlookRadioBtn"}},
-      {17, true, true, {"m_outlookRadioBtn"}},
-  };
-  for (const auto& tried : cases) {
-    host.command(KZCommand::KZCmdDestroyPreference);
-    storeSource(tried.stored);
-    offer(tried.none, tried.google);
-    host.openMeetings(Variant::SignedIn);
-    EXPECT_EQ(chosen(), tried.chosen) << qPrintable(tried.stored.toString());
-    EXPECT_EQ(isOn("m_emailInputTxt"), tried.chosen == QStringList("m_outlookRadioBtn"));
-  }
-}
-
 TEST_F(CalendarSources, AChoiceIsStoredAndReportedAtOnceAndTheChangeOnClose) {
   offer(true, true);
   host.openMeetings(Variant::SignedIn);

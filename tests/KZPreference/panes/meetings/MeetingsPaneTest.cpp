@@ -4,7 +4,6 @@
 #include <QRadioButton>
 
 #include "KZPreference/core/PreferenceActionDelegate.h"
-#include "KZPreference/panes/meetings/NonSignInPrefMeetingView.h"
 #include "KZPreference/panes/meetings/PrefMeetingView.h"
 #include "host/KZFoundation/KZConstants.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
@@ -119,16 +118,6 @@ TEST_F(MeetingsPaneTest, TheDaysPopUpShowsWhatIsStoredAndStoresWhatIsChosen) {
   Q_EMIT days->activated(2);
   EXPECT_EQ(KZPlistFileHandle::sharedInstance().calendarIntegration(),
             (Dictionary{{kKZCalendarIntegrationDays, "14"}}));
-}
-
-TEST_F(MeetingsPaneTest, TheGuestsPaneStacksTwoGroups) {
-  const Size size = NonSignInPrefMeetingView::caculateViewSize();
-  const NonSignInPrefMeetingView pane({.x = 0, .y = 0, .width = 700, .height = size.height}, &delegate);
-  EXPECT_EQ(size.height, 24 + 50 + 36 + 172 + 24);
-  EXPECT_EQ(frameIn(pane, "m_calendarView").y, 24 + 172 + 36);
-  EXPECT_EQ(frameIn(pane, "m_splitline"), (Frame{.x = 24, .y = 24 + 172 + 18, .width = 652, .height = 1}));
-  EXPECT_EQ(frameIn(pane, "m_outlookRadioBtn").y, 172 - 50);
-  EXPECT_EQ(pane.findChildren<QRadioButton*>().size(), 1);
 }
 
 }  // namespace

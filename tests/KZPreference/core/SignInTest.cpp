@@ -31,17 +31,18 @@ bool isDialogShown() {
   });
 }
 
-class SignInEndTest : public testing::Test, public TokenHost {
+class PreferencesSignIn : public testing::Test, public TokenHost {
  protected:
-  SignInEndTest() {
+  PreferencesSignIn() {
     EXPECT_TRUE(m_server.listen());
     authority = std::make_unique<sandbox::Authority>(m_server, "/common");
     KZWorkspace::sharedWorkspace().setOpener([this](const QUrl& address) {
       opened.append(address);
+      if (onOpen) onOpen();
       return true;
     });
   }
-  ~SignInEndTest() override {
+  ~PreferencesSignIn() override {
     KZPreferenceCore::shutDown();
     KZWorkspace::sharedWorkspace().setOpener({});
   }
@@ -75,36 +76,36 @@ class SignInEndTest : public testing::Test, public TokenHost {
 
   std::unique_ptr<sandbox::Authority> authority;
   QList<QUrl> opened;
+  std::function<void()> onOpen;  // from within the request to open a page
 
  private:
   sandbox::HttpServer m_server;
   QNetworkAccessManager m_browser;
 };
 
-TEST_F(SignInEndTest, WhatIsGivenUpEndsAndSendsNothing) {
+TEST_F(PreferencesSignIn, WhatIsGivenUpEndsAndSendsNothing) {
   const struct {
     const char* name;
+    bool hasWindow;
     std::function<void()> giveUp;
   } cases[] = {
-      {"the user closes Preferences", [] { window()->close(); }},
-      {"another address is applied",
+      {"the user closes Preferences", true, [] { window()->close(); }},
+      {"another address is applied", true,
        [] {
          PreferenceHost::click("m_outlookRadioBtn");
          PreferenceHost::type("m_emailInputTxt", "ann@brenn.example");
          PreferenceHost::click("m_detectBtn");
        }},
-      {"the host destroys the window", [this] { command(3); }},
-      {"the host destroys it again", [this] { command(3); }},
-      {"the host turns to the guest", [this] { command(1); }},
-      {"the host ends", [] { KZPreferenceCore::shutDown(); }},
+      {"the host destroys the window", true, [this] { command(3); }},
+      {"the host destroys no window", false, [this] { command(3); }},
+      {"the host turns to the guest", false, [this] { command(1); }},
+      {"the host ends", true, [] { KZPreferenceCore::shutDown(); }},
   };
-  addUser("a");
-  provider.setDelay(std::chrono::milliseconds(30));
   for (const auto& tried : cases) {
     // While the user is in the browser, and while the tokens are being fetched.
     for (const bool isAnswered : {false, true}) {
       SCOPED_TRACE(testing::Message() << tried.name << (isAnswered ? ", answered" : ""));
-      if (QLatin1String(tried.name) != "the host destroys it again") openMeetings();
+      if (tried.hasWindow) openMeetings();
       opened.clear();
       takeSent();
       authority->setFault(isAnswered ? sandbox::Authority::Fault::Silent : sandbox::Authority::Fault::None);
@@ -131,7 +132,48 @@ TEST_F(SignInEndTest, WhatIsGivenUpEndsAndSendsNothing) {
   }
 }
 
-TEST_F(SignInEndTest, ClosingPreferencesEndsNoRefresh) {
+// Tokens of a minute's life are always expired, so that each request is a refresh.
+TEST_F(PreferencesSignIn, GetsItsResultAmongRefreshesThatGetTheirs) {
+  constexpr int users = 8;
+  provider.setLifetime(60);
+  provider.setDelay(std::chrono::milliseconds(15));
+  for (int user = 0; user < users; ++user) addUser(QString::number(user));
+  int asked = 0;
+  for (int round = 1; round <= 3; ++round) {
+    opened.clear();
+    requestSignIn();
+    ASSERT_TRUE(waitForPage());
+    for (int user = 0; user < users; ++user, ++asked) ask(QString::number(user));
+    browse(opened.first());
+    ASSERT_TRUE(kit::waitUntil([&] { return credentials.size() == round; }));
+    EXPECT_LT(order.size(), asked) << "it waits for one refresh, not for all";
+    EXPECT_TRUE(authority->isGranted(textValue(credentials.last(), QRT_CredentialContent)));
+    ASSERT_TRUE(waitForAnswers(asked));
+  }
+  EXPECT_EQ(order.size(), asked);
+  for (int number = 1; number <= asked; ++number) {
+    const QString token =
+        textValue(answerTo(number).value_or(Dictionary()), QRT_ListingMeeting_exchOnlineToken);
+    EXPECT_TRUE(token.startsWith(QStringLiteral("access-of-%1-").arg((number - 1) % users))) << number;
+  }
+  EXPECT_EQ(provider.reuses(), 0);
+}
+
+TEST_F(PreferencesSignIn, MayBeGivenUpWhileItsPageIsBeingOpened) {
+  const std::function<void()> giveUp[] = {[] { window()->close(); }, [] { KZPreferenceCore::shutDown(); }};
+  for (const auto& act : giveUp) {
+    openMeetings();
+    opened.clear();
+    onOpen = act;
+    requestSignIn();
+    ASSERT_TRUE(kit::waitUntil([this] { return !opened.isEmpty(); }));
+    kit::settle();
+    EXPECT_FALSE(isDialogShown());
+    EXPECT_FALSE(isListening(opened.first()));
+  }
+}
+
+TEST_F(PreferencesSignIn, ClosingPreferencesEndsNoRefresh) {
   addUser("a");
   provider.setDelay(std::chrono::milliseconds(50));
   openMeetings();
@@ -142,7 +184,7 @@ TEST_F(SignInEndTest, ClosingPreferencesEndsNoRefresh) {
   EXPECT_TRUE(waitForAnswers(1));
 }
 
-TEST_F(SignInEndTest, AnEqualSignInJoinsAndAnotherOneReplaces) {
+TEST_F(PreferencesSignIn, AnEqualSignInJoinsAndAnotherOneReplaces) {
   requestSignIn();
   requestSignIn();
   ASSERT_TRUE(waitForPage());
