@@ -27,8 +27,8 @@ class KZTokenCacheStorage {
   // A path for the file, in the user's home folder. The plug-in itself uses no file.
   virtual QString defaultSavePath() const = 0;
 
-  // Takes the blob from the file, as it is: a damaged one counts as an empty cache when it is used, with an
-  // error trace. False, and no blob, when the file cannot be read.
+  // Takes the blob from the file, as it is. A damaged one is not used, with an error trace: the cache keeps
+  // what it has, and the next run starts without tokens. False, and no blob, when the file cannot be read.
   [[nodiscard]] virtual bool readFromFile(const QString& path) = 0;
 
   // Replaces the file, for its owner only. False, with a message in the system log and the old file
@@ -38,7 +38,8 @@ class KZTokenCacheStorage {
   // Takes the blob from the keychain; afterwards there is none when the status is not 0.
   [[nodiscard]] virtual qint32 readFromKeychain() = 0;
 
-  // Without a blob, -25300, and the keychain is left as it is.
+  // Without a blob, -25300, and the keychain is left as it is. Otherwise 0: the blob counts at once, and is
+  // carried to the keyring in the background.
   [[nodiscard]] virtual qint32 writeToKeychain() = 0;
 
   // Removes every token, from the keychain too: true when the keychain has confirmed that it has none. False

@@ -106,8 +106,7 @@ void KZKeyChainHandle::useBackend(std::shared_ptr<KZKeychainBackend> backend, Un
   finish();
   auto queue = d->newQueue(std::move(backend), unlocking);
   // Both at once, and before they are needed: a slow keyring then delays the start once.
-  queue->prefetch(kOnlineItem);
-  queue->prefetch(kOnpremiseItem);
+  queue->prefetch({kOnlineItem, kOnpremiseItem});
   {
     const QMutexLocker lock(&d->mutex);
     d->queue.swap(queue);

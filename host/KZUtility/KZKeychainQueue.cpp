@@ -37,6 +37,7 @@ struct KZKeychainQueue::State : std::enable_shared_from_this<State> {
   bool isCarrying = false;
   int rounds = 0;  // ended
   bool hasAsked = false;
+  int tellers = 0;
   bool isStopping = false;
 
   State(std::shared_ptr<KZKeychainBackend> used, Unlocking how, Listener told, Pace times)
@@ -83,9 +84,18 @@ struct KZKeychainQueue::State : std::enable_shared_from_this<State> {
   void setHindrance(Lock& lock, Status status) {
     if (std::exchange(hindrance, status) == status) return;
     changed.notify_all();
+    tell(lock, listener.hindranceChanged);
+  }
+
+  // Without the lock, and not after the queue is gone.
+  void tell(Lock& lock, const auto& what, const auto&... account) {
+    if (isStopping) return;
+    ++tellers;
     lock.unlock();
-    listener.hindranceChanged();
+    what(account...);
     lock.lock();
+    --tellers;
+    changed.notify_all();
   }
 
   template <typename Predicate>
@@ -94,14 +104,18 @@ struct KZKeychainQueue::State : std::enable_shared_from_this<State> {
     if (!changed.wait_for(lock, pace.deadline, isOver)) setHindrance(lock, Status::Silent);
   }
 
-  Answer carryOut(const Item& item, Wish wish, const QByteArray& secret, std::optional<Status> before) {
+  Answer carryOut(const Item& item, Wish wish, const QByteArray& secret) {
     if (wish == Wish::Read) return backend->read(item);
-    const bool isWrite = wish == Wish::Write;
-    const Status status = isWrite ? backend->write(item, secret) : backend->remove(item);
-    // A silent keyring may have removed it all the same.
+    return {.status = wish == Wish::Write ? backend->write(item, secret) : backend->remove(item),
+            .secret = {}};
+  }
+
+  void tellChange(Lock& lock, const QString& account, Wish wish, Status status,
+                  std::optional<Status> before) {
+    if (wish == Wish::Write && status == Status::Done) return tell(lock, listener.written, account);
+    // A keyring that was silent may have removed it all the same.
     const bool isLate = status == Status::NotFound && before == Status::Silent;
-    if (status == Status::Done || isLate) (isWrite ? listener.written : listener.removed)(item.account);
-    return {.status = status, .secret = {}};
+    if (wish == Wish::Remove && (status == Status::Done || isLate)) tell(lock, listener.removed, account);
   }
 
   // One try for everything that waits. Returns why something is left.
@@ -117,8 +131,9 @@ struct KZKeychainQueue::State : std::enable_shared_from_this<State> {
       const QByteArray secret = wish == Wish::Write ? entry.known->secret : QByteArray();
       const std::optional<Status> before = entry.said;
       lock.unlock();
-      const Answer answer = carryOut(itemOf(key), wish, secret, before);
+      const Answer answer = carryOut(itemOf(key), wish, secret);
       lock.lock();
+      tellChange(lock, key.second, wish, answer.status, before);
       if (isStopping) return left;
       if (!isConfirmed(answer.status)) setHindrance(lock, left = answer.status);
       if (entry.number == number) {
@@ -181,14 +196,15 @@ KZKeychainQueue::KZKeychainQueue(std::shared_ptr<KZKeychainBackend> backend, Unl
     : m_state(std::make_shared<State>(std::move(backend), unlocking, std::move(listener), pace)) {}
 
 KZKeychainQueue::~KZKeychainQueue() {
-  const State::Lock lock(m_state->mutex);
+  State::Lock lock(m_state->mutex);
   m_state->isStopping = true;
   m_state->changed.notify_all();
+  m_state->changed.wait(lock, [this] { return m_state->tellers == 0; });
 }
 
-void KZKeychainQueue::prefetch(const Item& item) {
+void KZKeychainQueue::prefetch(const QList<Item>& items) {
   const State::Lock lock(m_state->mutex);
-  m_state->known(State::keyOf(item));
+  for (const Item& item : items) m_state->known(State::keyOf(item));
 }
 
 KZKeychainBackend::Answer KZKeychainQueue::read(const Item& item) {

@@ -11,7 +11,7 @@
 // or removal counts at once. One worker thread carries reads, writes and removals to the keyring in their
 // order; of an item only the newest is carried out. What the keyring does not confirm is tried again, with
 // growing pauses and at every new change. Any thread.
-class KZ_HOST_EXPORT KZKeychainQueue final {
+class KZKeychainQueue final {
  public:
   using Item = KZKeychainBackend::Item;
   using Answer = KZKeychainBackend::Answer;
@@ -27,7 +27,8 @@ class KZ_HOST_EXPORT KZKeychainQueue final {
     std::chrono::milliseconds longestPause = std::chrono::minutes(1);
     std::chrono::milliseconds lastChance = std::chrono::seconds(2);  // of `finish`
   };
-  // Called without a lock, on the worker's thread or that of a call.
+  // Called without a lock, on the worker's thread or that of a call, while the queue exists; it must not
+  // destroy the queue.
   struct Listener {
     std::function<void(const QString& account)> written;  // confirmed by the keyring
     std::function<void(const QString& account)> removed;  // confirmed by the keyring
@@ -41,8 +42,8 @@ class KZ_HOST_EXPORT KZKeychainQueue final {
   ~KZKeychainQueue();
   Q_DISABLE_COPY_MOVE(KZKeychainQueue)
 
-  // Asks the keyring ahead for an item that will be read.
-  void prefetch(const Item& item);
+  // Asks the keyring ahead for items that will be read. The user is asked once for all that are locked.
+  void prefetch(const QList<Item>& items);
 
   // These two wait for the keyring's first answer, at most one deadline, and not at all while it is silent. A
   // status that is neither done nor not found says why the queue goes on trying.

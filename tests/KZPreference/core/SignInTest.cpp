@@ -173,6 +173,20 @@ TEST_F(PreferencesSignIn, MayBeGivenUpWhileItsPageIsBeingOpened) {
   }
 }
 
+TEST_F(PreferencesSignIn, FailsUnheardWhenItsWindowIsDestroyed) {
+  openMeetings();
+  command(3);
+  kit::settle();
+  authority->setConsent(sandbox::Authority::Consent::Refuse);
+  requestSignIn();
+  ASSERT_TRUE(waitForPage());
+  takeSent();
+  browse(opened.first());
+  ASSERT_TRUE(kit::waitUntil([] { return !isDialogShown(); }));
+  QTest::qWait(30);
+  EXPECT_EQ(takeSent(), QStringList());
+}
+
 TEST_F(PreferencesSignIn, ClosingPreferencesEndsNoRefresh) {
   addUser("a");
   provider.setDelay(std::chrono::milliseconds(50));

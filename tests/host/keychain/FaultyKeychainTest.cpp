@@ -3,6 +3,7 @@
 #include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 #include <functional>
 
 #include "host/KZUtility/KZKeyChainHandle.h"
@@ -175,4 +176,17 @@ TEST(NoBus, AnswersAtOnce) {
     expectMemoryAfterOneWarning(Hindrance::NoKeyring);
     expectStatus(Status::NoKeyring);
   }
+}
+
+TEST(NoBus, TheEndOfTheEventLoopNamesWhatIsLost) {
+  qputenv("DBUS_SESSION_BUS_ADDRESS", "garbage");
+  const TraceCollector watch;
+  handle().useStorage(Storage::System);
+  handle().commitOutlookUsername("anna", "s3cr3t");
+  QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+  QCoreApplication::exec();
+  EXPECT_EQ(watch.count(KZTraceLevel::Error), 1);
+  EXPECT_TRUE(watch.lastText().contains("OutlookAccount(Onpremise)")) << watch.lastText().toStdString();
+  handle().useStorage(Storage::Memory);
+  EXPECT_EQ(watch.count(KZTraceLevel::Error), 1) << "told once";
 }

@@ -138,8 +138,8 @@ TEST_F(KZKeychainQueueTest, CarriesTheNewestChangeOfEachItemInOrder) {
   ASSERT_TRUE(calls("write a 1"));
   queue->write(item("b"), "1");
   queue->write(item("c"), "1");
+  queue->write(item("d"), "1");
   queue->write(item("b"), "2");
-  queue->write(item("c"), "2");
   std::thread remover([&] { EXPECT_EQ(queue->remove(item("c")), Status::NotFound); });
   // Its own truth at once, whatever the keyring does.
   EXPECT_TRUE(QTest::qWaitFor([&] { return queue->read(item("c")).status == Status::NotFound; }));
@@ -147,8 +147,28 @@ TEST_F(KZKeychainQueueTest, CarriesTheNewestChangeOfEachItemInOrder) {
   EXPECT_EQ(takeTold(), QStringList());
   keyring->open();
   remover.join();
-  EXPECT_EQ(keyring->takeCalls(), (QStringList{"write b 2", "remove c"}));
-  EXPECT_EQ(takeTold(), (QStringList{"written a", "written b"}));
+  EXPECT_EQ(keyring->takeCalls(), (QStringList{"write d 1", "write b 2", "remove c"}));
+  EXPECT_EQ(takeTold(), (QStringList{"written a", "written d", "written b"}));
+}
+
+TEST_F(KZKeychainQueueTest, ALateAnswerChangesNothingThatIsNewer) {
+  keyring->secrets = {{"a", "old"}};
+  const auto queue = queueWith();
+  keyring->close();
+  queue->prefetch({item("a")});
+  ASSERT_TRUE(calls("read a"));
+  queue->write(item("a"), "1");
+  keyring->open();
+  ASSERT_TRUE(calls("write a 1"));
+  queue->settle();
+  keyring->close();
+  queue->write(item("a"), "2");
+  ASSERT_TRUE(calls("write a 2"));
+  queue->write(item("a"), "3");
+  keyring->open();
+  queue->settle();
+  EXPECT_TRUE(keyring->has("a", "3"));
+  EXPECT_EQ(queue->read(item("a")).secret, "3");
 }
 
 TEST_F(KZKeychainQueueTest, TriesUntilTheKeyringConfirms) {
@@ -176,11 +196,27 @@ TEST_F(KZKeychainQueueTest, TriesUntilTheKeyringConfirms) {
   }
 }
 
+TEST_F(KZKeychainQueueTest, ANewChangeAndTheEndAreTriedWithoutAPause) {
+  const auto queue = queueWith({.deadline = 5s, .firstPause = 1h, .longestPause = 1h, .lastChance = 5s});
+  const auto fail = [&](const char* secret) {
+    keyring->say(Status::NoKeyring);
+    queue->write(item("a"), secret);
+    queue->settle();
+    EXPECT_EQ(queue->hindrance(), Status::NoKeyring);
+    keyring->say(Status::Done);
+  };
+  fail("1");
+  queue->write(item("b"), "1");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return keyring->has("a", "1") && keyring->has("b", "1"); }));
+  fail("2");
+  EXPECT_EQ(queue->finish(), QStringList());
+  EXPECT_TRUE(keyring->has("a", "2"));
+}
+
 TEST_F(KZKeychainQueueTest, ASilentKeyringIsWaitedForOnce) {
   const auto queue = queueWith(kHasty);
   keyring->close();
-  queue->prefetch(item("a"));
-  queue->prefetch(item("b"));
+  queue->prefetch({item("a"), item("b")});
   QElapsedTimer timer;
   timer.start();
   EXPECT_EQ(queue->read(item("a")).status, Status::Silent);
@@ -217,9 +253,8 @@ TEST_F(KZKeychainQueueTest, ALockedItemHoldsUpNoOther) {
     keyring->isUserWilling = isWilling;
     keyring->takeCalls();
     const auto queue = queueWith(kPace, Unlocking::AskOnce);
+    queue->prefetch({item("a"), item("b")});
     queue->write(item("c"), "1");
-    queue->prefetch(item("a"));
-    queue->prefetch(item("b"));
     queue->settle();
     EXPECT_TRUE(keyring->has("c", "1"));
     seen.clear();
@@ -248,7 +283,7 @@ TEST_F(KZKeychainQueueTest, TheEndIsBoundedAndNamesWhatIsLost) {
   EXPECT_TRUE(keyring->has("kept", "1"));
   keyring->close();
   queue->write(item("lost"), "1");
-  queue->prefetch(item("read"));
+  queue->prefetch({item("read")});
   EXPECT_EQ(queue->remove(item("kept")), Status::Silent);
   QElapsedTimer timer;
   timer.start();
