@@ -5,6 +5,7 @@
 #include <sanitizer/tsan_interface.h>
 
 #include <QObject>
+#include <cstdarg>
 
 #define REPLACEMENT extern "C" __attribute__((visibility("default")))
 
@@ -115,4 +116,18 @@ void release(void* semaphore, int count) {
   static auto* const original = replaced(release, RELEASE);
   __tsan_release(semaphore);
   original(semaphore, count);
+}
+
+extern "C" int __clone(int (*function)(void*), void* stack, int flags, void* argument, ...);
+
+// QProcess starts a program with clone, in this process's memory until the program runs. ThreadSanitizer
+// would take that for a fork, and see no locks of this thread any more.
+REPLACEMENT int clone(int (*function)(void*), void* stack, int flags, void* argument, ...) {
+  va_list more;
+  va_start(more, argument);
+  auto* const parentId = va_arg(more, void*);
+  auto* const threadData = va_arg(more, void*);
+  auto* const childId = va_arg(more, void*);
+  va_end(more);
+  return __clone(function, stack, flags, argument, parentId, threadData, childId);
 }

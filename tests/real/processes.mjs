@@ -70,7 +70,10 @@ export class Session {
     const from = this.printed.length;
     const marker = `played ${++this.#marker}`;
     for (const step of [...steps, { echo: marker }]) this.#child.stdin.write(JSON.stringify(step) + '\n');
-    const isPlayed = () => this.printed.slice(from).some((line) => line.echo === marker);
+    const isPlayed = () => {
+      if (!running.has(this.#child)) throw new Error(`prefs-session has ended: ${this.#child.signalCode ?? this.#child.exitCode}`);
+      return this.printed.slice(from).some((line) => line.echo === marker);
+    };
     await until(`played: ${JSON.stringify(steps)}`, isPlayed);
     return this.printed.slice(from).filter((line) => line.echo === undefined);
   }
