@@ -1,5 +1,6 @@
 #include "KZPreference/authentication/ADMivraCacheDelegate.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -90,7 +91,7 @@ void ADMivraCacheDelegate::fill(ADTokenCache& cache) {
   const auto trace = [text = failure->text()] {
     MVRNSErrorFuncTraceIMPL("KZPreference", method, "error:%@", text);
   };
-  QMetaObject::invokeMethod(&KZKeyChainHandle::sharedInstance(), trace, Qt::QueuedConnection);
+  if (qApp) QMetaObject::invokeMethod(qApp, trace, Qt::QueuedConnection);
 }
 
 qint32 ADMivraCacheDelegate::readFromKeychain() {

@@ -18,6 +18,8 @@ using Unlocking = KZKeychainQueue::Unlocking;
 // Long enough for a loaded machine; a keyring that is silent is silent at once here.
 constexpr KZKeychainQueue::Pace kPace = {
     .deadline = 5s, .firstPause = 20ms, .longestPause = 80ms, .lastChance = 5s};
+constexpr KZKeychainQueue::Pace kPausing = {
+    .deadline = 5s, .firstPause = 1h, .longestPause = 1h, .lastChance = 5s};
 constexpr KZKeychainQueue::Pace kHasty = {
     .deadline = 50ms, .firstPause = 20ms, .longestPause = 80ms, .lastChance = 100ms};
 
@@ -186,6 +188,7 @@ TEST_F(KZKeychainQueueTest, TriesUntilTheKeyringConfirms) {
     EXPECT_EQ(queue->read(item("replaced")).secret, "new");
     EXPECT_EQ(queue->read(item("removed")).status, Status::NotFound);
     EXPECT_EQ(takeTold(), QStringList());
+    QTest::qWait(50);  // several pauses
     keyring->say(Status::Done);
     EXPECT_TRUE(QTest::qWaitFor([&] { return queue->hindrance() == Status::Done; }));
     EXPECT_EQ(queue->read(item("read")).secret, "late");
@@ -197,7 +200,7 @@ TEST_F(KZKeychainQueueTest, TriesUntilTheKeyringConfirms) {
 }
 
 TEST_F(KZKeychainQueueTest, ANewChangeAndTheEndAreTriedWithoutAPause) {
-  const auto queue = queueWith({.deadline = 5s, .firstPause = 1h, .longestPause = 1h, .lastChance = 5s});
+  const auto queue = queueWith(kPausing);
   const auto fail = [&](const char* secret) {
     keyring->say(Status::NoKeyring);
     queue->write(item("a"), secret);
@@ -252,7 +255,7 @@ TEST_F(KZKeychainQueueTest, ALockedItemHoldsUpNoOther) {
     keyring->locked = {"a", "b"};
     keyring->isUserWilling = isWilling;
     keyring->takeCalls();
-    const auto queue = queueWith(kPace, Unlocking::AskOnce);
+    const auto queue = queueWith(kPausing, Unlocking::AskOnce);
     queue->prefetch({item("a"), item("b")});
     queue->write(item("c"), "1");
     queue->settle();
@@ -291,7 +294,10 @@ TEST_F(KZKeychainQueueTest, TheEndIsBoundedAndNamesWhatIsLost) {
   EXPECT_EQ(queue->finish(), QStringList()) << "told once";
   queue.reset();
   EXPECT_LT(timer.elapsed(), 2000) << "nobody waits for a call that hangs";
+  takeTold();
   keyring->open();
+  QTest::qWait(50);
+  EXPECT_EQ(takeTold(), QStringList()) << "nobody is there to be told";
 }
 
 TEST_F(KZKeychainQueueTest, WithoutAKeyringMemoryConfirmsAtOnce) {
