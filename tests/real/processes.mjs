@@ -71,7 +71,8 @@ export class Session {
     const marker = `played ${++this.#marker}`;
     for (const step of [...steps, { echo: marker }]) this.#child.stdin.write(JSON.stringify(step) + '\n');
     const isPlayed = () => {
-      if (!running.has(this.#child)) throw new Error(`prefs-session has ended: ${this.#child.signalCode ?? this.#child.exitCode}`);
+      const { exitCode, signalCode } = this.#child;
+      if (!running.has(this.#child)) throw new Error(`prefs-session ended with ${signalCode ?? exitCode}`);
       return this.printed.slice(from).some((line) => line.echo === marker);
     };
     await until(`played: ${JSON.stringify(steps)}`, isPlayed);
