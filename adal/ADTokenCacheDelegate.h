@@ -5,7 +5,8 @@
 class ADTokenCache;
 
 // Stores a token cache's contents. Called before and after every access, on its thread and under the cache's
-// lock. It may serialize and deserialize the given cache, and nothing else.
+// lock. It may serialize and deserialize the given cache, and nothing else. A write that turns out to change
+// nothing ends without didWriteCache.
 class ADAL_EXPORT ADTokenCacheDelegate {
  public:
   ADTokenCacheDelegate() = default;
