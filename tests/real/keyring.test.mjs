@@ -66,7 +66,7 @@ function keyringTests(Keyring, { isLockedAsAWhole }) {
     await keyring.run('locked');
     await nextRun();
     assert.equal(await token(), undefined);
-    assert.match(JSON.stringify(session.printed), /locked/i);
+    assert.match(JSON.stringify(session.printed), /the keyring is locked/);
     await keyring.run('unlocked');
     // It is tried again at least once a minute.
     assert.equal(await until('the tokens are read', token, 90000), signedIn);
