@@ -1,5 +1,6 @@
 #include "KZPreference/authentication/TokenRequests.h"
 
+#include <QAbstractEventDispatcher>
 #include <QTimer>
 #include <utility>
 
@@ -109,6 +110,12 @@ void TokenRequests::answer(const Content& content, const Dictionary& token) {
   m_sender->sendPluginCommand(KZCommand::KZCmdExchOnlineTokenGot, reply);
 }
 
-void TokenRequests::later(std::function<void()> step) {
-  QMetaObject::invokeMethod(this, std::move(step), Qt::QueuedConnection);
+void TokenRequests::later(const std::function<void()>& step) {
+  const auto run = [step] {
+    // Otherwise an event loop that the host runs from within an answer could wait before it delivers the
+    // next.
+    QAbstractEventDispatcher::instance()->wakeUp();
+    step();
+  };
+  QMetaObject::invokeMethod(this, run, Qt::QueuedConnection);
 }

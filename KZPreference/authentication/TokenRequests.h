@@ -31,7 +31,7 @@ class TokenRequests final : public QObject {
   void refresh(const Content& content, const Dictionary& token);
   void onRefreshed(const ADAuthenticationResult& result);
   void answer(const Content& content, const Dictionary& token);
-  void later(std::function<void()> step);
+  void later(const std::function<void()>& step);
 
   ADAuthenticationWrapper* m_wrapper;
   PluginCommandSender* m_sender;

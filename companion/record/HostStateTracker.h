@@ -8,8 +8,7 @@
 // Finds what changed in the host's own state, as the steps that change it again. Main thread only.
 class HostStateTracker final {
  public:
-  // A keychain outside this process is too slow to be read at every step; this host's own writes to it come
-  // from the plug-in.
+  // Read once where only the plug-in changes secrets: what a keyring answers late is no change by the host.
   enum class Keychain { ReadOnce, Followed };
 
   explicit HostStateTracker(Keychain keychain) : m_keychain(keychain) {}

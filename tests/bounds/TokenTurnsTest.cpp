@@ -19,11 +19,6 @@ class TokenTurnsTest : public testing::Test, public TokenHost {
  protected:
   static QString userNumber(int index) { return QStringLiteral("user%1@example.com").arg(index); }
 
-  // Qt Test's own waiting sleeps between its checks.
-  static void spinUntil(const std::function<bool()>& isDone) {
-    while (!isDone()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-  }
-
   // Microseconds.
   qint64 refreshesAlone() {
     QElapsedTimer clock;
@@ -36,7 +31,7 @@ class TokenTurnsTest : public testing::Test, public TokenHost {
       context->acquireTokenWithRefreshToken(provider.grant(userNumber(user)), "https://mail.example.com",
                                             "client-1", QUrl(),
                                             [&](const ADAuthenticationResult&) { isDone = true; });
-      spinUntil([&] { return isDone; });
+      while (!isDone) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
     return clock.nsecsElapsed() / 1000;
   }
@@ -48,7 +43,7 @@ class TokenTurnsTest : public testing::Test, public TokenHost {
     QElapsedTimer clock;
     clock.start();
     for (int number = 0; number < kTokenRequests; ++number) ask(userNumber(number % kTokenUsers));
-    spinUntil([this] { return order.size() == kTokenRequests; });
+    EXPECT_TRUE(waitForAnswers(kTokenRequests));
     return clock.nsecsElapsed() / 1000;
   }
 };

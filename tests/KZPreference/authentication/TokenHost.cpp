@@ -2,10 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QTimer>
+
 #include "adal/ADAuthenticationSettings.h"
 #include "adal/ADTokenCache.h"
 #include "host/KZFoundation/KZConstants.h"
-#include "tests/kit/Input.h"
 
 TokenHost::TokenHost() {
   ADAuthenticationSettings::sharedInstance().setDefaultStorageDelegate(nullptr);
@@ -52,8 +55,14 @@ std::optional<Dictionary> TokenHost::answerTo(int request) const {
   return found == m_answers.constEnd() ? std::nullopt : std::optional(*found);
 }
 
+// Qt Test's own waiting sleeps between its checks, which would cost more than the refreshes.
 bool TokenHost::waitForAnswers(int count, int milliseconds) const {
-  return kit::waitUntil([&] { return order.size() >= count; }, milliseconds);
+  const QDeadlineTimer deadline(milliseconds);
+  QTimer wakeUp;
+  wakeUp.start(100);
+  while (order.size() < count && !deadline.hasExpired())
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+  return order.size() >= count;
 }
 
 quint64 TokenHost::sendPluginCommand(const KZEventIdentify& event, const Content& content) {

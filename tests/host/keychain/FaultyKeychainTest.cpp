@@ -18,7 +18,7 @@ using Hindrance = KZKeyChainHandle::Hindrance;
 using Storage = KZKeyChainHandle::Storage;
 
 constexpr std::chrono::milliseconds kDeadline(400);
-constexpr qint64 kMargin = 300;
+constexpr qint64 kMargin = 700;
 constexpr int kPatience = 20'000;
 
 const KZKeychainBackend::Item kOnlineItem{QStringLiteral("Brenn Mivra Meetings"),
