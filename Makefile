@@ -7,13 +7,16 @@ MAKEFLAGS += --no-print-directory
 JOBS ?= $(shell nproc)
 BUILD ?= build
 SANITIZE_BUILD ?= build-sanitize
+THREADS_BUILD ?= build-threads
+# The keychain's, each on a bus of its own, without a test that only starts another program; and all others.
+THREADS_SUITES = 'RealKeychain.*-*.IsStoppedAtTheEndOfARun' 'FaultyKeychain.*:SlowKeychain.*' '-*Keychain.*'
 # Tests wait more than they compute.
 TEST_JOBS ?= $(shell expr 2 \* $(JOBS))
 
 CONFIGURE = cmake -S . -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo
 NINJA = ninja -C $(BUILD) -j $(JOBS)
 
-.PHONY: run build test test-debian13 test-real lint sanitize bench pictures documents package clean packages
+.PHONY: run build test test-debian13 test-real lint sanitize threads bench pictures documents package clean packages
 
 run: $(BUILD)/build.ninja
 	@$(NINJA) companion
@@ -32,7 +35,7 @@ test-debian13:
 # Against programs that others wrote: providers, a browser, keyrings, name and web servers.
 test-real: $(BUILD)/build.ninja
 	@tools/install-packages.sh real
-	@$(NINJA) KZPreference discover prefs-session
+	@$(NINJA) companion discover prefs-session
 	@tools/test-real.sh $(BUILD)
 
 lint: $(BUILD)/build.ninja
@@ -42,6 +45,14 @@ lint: $(BUILD)/build.ninja
 sanitize: $(SANITIZE_BUILD)/build.ninja
 	@ninja -C $(SANITIZE_BUILD) -j $(JOBS)
 	@tools/run-tests.sh $(SANITIZE_BUILD) $(TEST_JOBS)
+
+# The tests of what several threads use, under ThreadSanitizer.
+threads: $(THREADS_BUILD)/build.ninja
+	@ninja -C $(THREADS_BUILD) -j $(JOBS) threads_tests
+	@export TSAN_OPTIONS=suppressions=tests/threads-suppressions.txt:atexit_sleep_ms=0; \
+	for suites in $(THREADS_SUITES); do \
+	  tests/host/keychain/with-private-bus.sh $(THREADS_BUILD)/tests/threads_tests --gtest_brief=1 --gtest_filter=$$suites; \
+	done
 
 bench: $(BUILD)/build.ninja
 	@$(NINJA) bench/all bounds_tests
@@ -64,7 +75,7 @@ package: build
 	@cd $(BUILD) && cpack -G DEB
 
 clean:
-	rm -rf $(BUILD) $(SANITIZE_BUILD)
+	rm -rf $(BUILD) $(SANITIZE_BUILD) $(THREADS_BUILD)
 
 packages:
 	@tools/install-packages.sh
@@ -75,3 +86,6 @@ $(BUILD)/build.ninja: | packages
 
 $(SANITIZE_BUILD)/build.ninja: | packages
 	@$(CONFIGURE) -B $(SANITIZE_BUILD) -DKZ_SANITIZE=ON
+
+$(THREADS_BUILD)/build.ninja: | packages
+	@$(CONFIGURE) -B $(THREADS_BUILD) -DKZ_SANITIZE=thread

@@ -1,6 +1,6 @@
-// discover EMAIL [--allow] [USERNAME PASSWORD]: looks for the Exchange service of an email in the network as it is, as a
-// host does. Prints one JSON object on each line: each question to the user, whose answer is no without --allow; the
-// result; and the longest time for which the event loop stood still.
+// discover EMAIL [--allow] [USERNAME PASSWORD]: looks for the Exchange service of an email in the network as
+// it is, as a host does. Prints one JSON object on each line: each question to the user, whose answer is no
+// without --allow; the result; and the longest time for which the event loop stood still.
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QJsonDocument>
@@ -30,9 +30,9 @@ void answerChallenges(const QString& username, const QString& password) {
           printLine({{"refused", username}});
           QCoreApplication::quit();
         }
-        center.post({.name = "HTTPAuthenticationDatasource",
-                     .userInfo = {{"Username", isRefused ? "" : username},
-                                  {"Password", isRefused ? "" : password}}});
+        center.post(
+            {.name = "HTTPAuthenticationDatasource",
+             .userInfo = {{"Username", isRefused ? "" : username}, {"Password", isRefused ? "" : password}}});
       });
 }
 
@@ -60,7 +60,8 @@ int main(int argc, char** argv) {
   QElapsedTimer sinceTurn;
   sinceTurn.start();
   QTimer turns;
-  QObject::connect(&turns, &QTimer::timeout, [&] { longestPause = std::max(longestPause, sinceTurn.restart()); });
+  QObject::connect(&turns, &QTimer::timeout,
+                   [&] { longestPause = std::max(longestPause, sinceTurn.restart()); });
   turns.start(1);
   const int status = QCoreApplication::exec();
   printLine({{"longestPauseMs", longestPause}});

@@ -2,7 +2,7 @@ import assert from 'node:assert/strict';
 import { after, before, test } from 'node:test';
 import { describeWith } from './counterparts.mjs';
 import { serviceUrl, startNetwork } from './network.mjs';
-import { output, programs } from './processes.mjs';
+import { end, output, pause, programs, start } from './processes.mjs';
 
 const credential = ['ann', 'a password'];
 
@@ -53,7 +53,7 @@ await describeWith(['nginx -v', 'dnsmasq --version', 'openssl version'], () => {
     ['hosted.test', 'http leads to https elsewhere: declined', /did not allow autodiscover\.elsewhere\.test/],
     ['expired.test', 'an expired certificate', /certificate of autodiscover\.expired\.test .*expired/],
     ['other.test', 'a certificate for another name', /certificate of autodiscover\.other\.test .*another name/],
-    ['untrusted.test', 'a certificate of an unknown authority', /certificate of autodiscover\.untrusted\.test .*not trusted/],
+    ['untrusted.test', 'an unknown authority', /certificate of autodiscover\.untrusted\.test .*not trusted/],
     ['nowhere.test', 'a domain without Exchange', /nowhere\.test was not found/],
   ]) {
     test(`${what}: told so`, async () => {
@@ -62,4 +62,12 @@ await describeWith(['nginx -v', 'dnsmasq --version', 'openssl version'], () => {
       assert.ok(longestPause < 500, `${longestPause} ms`);
     });
   }
+
+  test('the companion with --network asks for no name at its start', async () => {
+    const before = (await network.names()).length;
+    const companion = start(`${programs}/companion`, ['--network', '--state', `${process.cwd()}/companion-state`]);
+    await pause(3000);
+    await end(companion, 'SIGTERM');
+    assert.deepEqual((await network.names()).slice(before), []);
+  });
 });

@@ -1,7 +1,7 @@
 // Keyrings on a session bus of their own, each with a default collection of the password "password".
 import { mkdir, writeFile } from 'node:fs/promises';
 import { once } from 'node:events';
-import { end, output, start, until } from './processes.mjs';
+import { end, output, pause, start, until } from './processes.mjs';
 
 const password = 'password';
 const name = 'org.freedesktop.secrets';
@@ -77,6 +77,12 @@ export class KeePassXC extends Keyring {
     const child = start('keepassxc', ['--pw-stdin', this.database], { env: this.env });
     child.stdin.end(`${password}\n`);
     return child;
+  }
+
+  async end() {
+    // It saves a moment after each change.
+    if (this.child) await pause(2000);
+    await super.end();
   }
 }
 

@@ -77,22 +77,25 @@ srv-host=_autodiscover._tcp.record.test,mail.record.test,8443
 ${hosts.map(({ host }) => `address=/${host}/${address}`).join('\n')}
 `;
 
+const newKey = ['-newkey', 'ec', '-pkeyopt', 'ec_paramgen_curve:P-256', '-nodes'];
+
 async function openssl(...args) {
   await output('openssl', args);
 }
 
 async function makeAuthority(name) {
   const files = ['-keyout', `${folder}/${name}.key`, '-out', `${folder}/${name}.pem`];
-  await openssl('req', '-x509', '-newkey', 'rsa:2048', '-nodes', '-days', '2', '-subj', `/CN=${name}`, ...files);
+  await openssl('req', '-x509', ...newKey, '-days', '2', '-subj', `/CN=${name}`, ...files);
 }
 
 async function makeCertificate({ host, days = 2, certificateName = host, signer = 'trusted' }) {
   const at = `${folder}/${host}`;
   await writeFile(`${at}.ext`, `subjectAltName=DNS:${certificateName}\n`);
   const request = ['-keyout', `${at}.key`, '-out', `${at}.csr`, '-subj', '/CN=host'];
-  await openssl('req', '-new', '-newkey', 'rsa:2048', '-nodes', ...request);
+  await openssl('req', '-new', ...newKey, ...request);
   const by = ['-CA', `${folder}/${signer}.pem`, '-CAkey', `${folder}/${signer}.key`, '-CAcreateserial'];
-  await openssl('x509', '-req', '-in', `${at}.csr`, '-days', `${days}`, '-extfile', `${at}.ext`, '-out', `${at}.pem`, ...by);
+  const form = ['-days', `${days}`, '-extfile', `${at}.ext`, '-out', `${at}.pem`];
+  await openssl('x509', '-req', '-in', `${at}.csr`, ...by, ...form);
 }
 
 // Puts a file or folder of the tests in place of one of the system, for the programs of this test run.

@@ -40,15 +40,15 @@ await describeWith(['oidc-provider', 'playwright-core', 'chromium --version'], (
   }
 
   for (const { name, notification, redirectUri, scheme } of [
-    { name: 'random port of 127.0.0.1', notification: 26, redirectUri: 'http://127.0.0.1/done', scheme: 'light' },
-    { name: 'fixed port, dark', notification: 25, redirectUri: `http://127.0.0.1:${fixedPort}/done`, scheme: 'dark' },
-    { name: 'localhost', notification: 26, redirectUri: 'http://localhost/done', scheme: 'light' },
+    { name: '127.0.0.1, light', notification: 26, redirectUri: 'http://127.0.0.1/done', scheme: 'light' },
+    { name: 'fixed port, light', notification: 25, redirectUri: `http://127.0.0.1:${fixedPort}/done`, scheme: 'light' },
+    { name: 'localhost, dark', notification: 26, redirectUri: 'http://localhost/done', scheme: 'dark' },
     { name: '[::1], dark', notification: 25, redirectUri: 'http://[::1]/done', scheme: 'dark' },
   ]) {
     test(`sign-in by notification ${notification}, ${name}; refresh`, async () => {
       const page = await openPage(scheme);
       const address = await applyAccount(session, provider.authority, { email, redirectUri, notification });
-      const pictureName = `sign-in-${name.replaceAll(/[^a-z0-9]+/g, '-')}`;
+      const pictureName = `sign-in-${scheme}-${notification}`;
       await signIn(page, address, email, pictureName);
       const credential = (await session.waitFor('the credential', (line) => line.sent === 27)).content;
       assert.equal(credential.QRT_CredentialType, 'QRT_CredentialTypeOAuthToken');

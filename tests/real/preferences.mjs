@@ -39,10 +39,8 @@ export async function applyAccount(session, authority, options) {
 }
 
 export function tokenRequest(email) {
-  return {
-    command: 28,
-    content: { kKZCalendarIntegration: { kKZCalendarIntegrationExchange: { kKZCalendarIntegrationExchangeEmail: email } } },
-  };
+  const account = { kKZCalendarIntegrationExchangeEmail: email };
+  return { command: 28, content: { kKZCalendarIntegration: { kKZCalendarIntegrationExchange: account } } };
 }
 
 // Notification 15: the mailbox could be opened with the token.
@@ -50,6 +48,7 @@ export function resolved(email) {
   const account = {
     kKZCalendarIntegrationExchangeEmail: email,
     kKZCalendarIntegrationExchangeUsername: email,
+    kKZCalendarIntegrationExchangeExternalUrl: `${resource}/ews`,
     kKZCalendarIntegrationIsOnline: true,
   };
   return { notify: 15, content: { kKZResult: 'kKZSuccess', QRT_ExchangeDiscover_Exchange: account } };

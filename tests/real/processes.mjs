@@ -36,7 +36,9 @@ export async function end(child, signal) {
   if (!running.has(child)) return;
   const ended = once(child, 'exit');
   signal ? child.kill(signal) : child.stdin.end();
+  const impatient = setTimeout(() => child.kill('SIGKILL'), 10000);
   await ended;
+  clearTimeout(impatient);
 }
 
 export async function output(program, args, { input = '', env = process.env } = {}) {
@@ -68,7 +70,12 @@ export class Session {
     const from = this.printed.length;
     const marker = `played ${++this.#marker}`;
     for (const step of [...steps, { echo: marker }]) this.#child.stdin.write(JSON.stringify(step) + '\n');
-    await until(`steps are played: ${JSON.stringify(steps)}`, () => this.printed.slice(from).some((line) => line.echo === marker));
+    const isPlayed = () => {
+      const { exitCode, signalCode } = this.#child;
+      if (!running.has(this.#child)) throw new Error(`prefs-session ended with ${signalCode ?? exitCode}`);
+      return this.printed.slice(from).some((line) => line.echo === marker);
+    };
+    await until(`played: ${JSON.stringify(steps)}`, isPlayed);
     return this.printed.slice(from).filter((line) => line.echo === undefined);
   }
 

@@ -192,8 +192,8 @@ TEST(RealKeychain, IsLockedThenKilledThenUnlocked) {
   EXPECT_EQ(written.size(), 0);
   keyring.emplace();
   EXPECT_TRUE(QTest::qWaitFor([&] { return written.size() == 1; }, 20'000));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return handle.hindrance() == Hindrance::None; }, 20'000));
-  EXPECT_EQ(changed.size(), 3);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return changed.size() == 3; }, 20'000));
+  EXPECT_EQ(handle.hindrance(), Hindrance::None);
   handle.useStorage(Storage::Memory);
   EXPECT_EQ(kept().secret, "blob");
 }
