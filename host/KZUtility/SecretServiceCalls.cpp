@@ -102,16 +102,20 @@ class Attempt final {
     return isStored ? Status::Done : failure();
   }
 
-  Status remove(const Item& item) {
+  std::optional<Status> remove(const Item& item) {
     const Status found = find(item);
     if (found != Status::Done) return found;
+    // Not cancelled: that would dismiss the question that a service may ask its user here.
+    m_cancellable = nullptr;
     for (gchar** path = m_unlocked.get(); *path; ++path) {
-      // Not cancelled: that would dismiss the question that a service may ask its user here.
-      if (!secret_service_delete_item_dbus_path_sync(m_service.get(), *path, nullptr, &m_error))
-        return isFailed() ? failure() : Status::Locked;
+      if (!secret_service_delete_item_dbus_path_sync(m_service.get(), *path, m_cancellable, &m_error))
+        return isFailed() ? std::optional(failure()) : std::nullopt;
       m_answered();
     }
-    return *m_locked ? Status::Locked : Status::Done;
+    // The library does not tell a removal from one that the user has refused.
+    const Status left = find(item);
+    if (left == Status::Done) return std::nullopt;
+    return left == Status::NotFound ? Status::Done : left;
   }
 
   // What must be unlocked for the item.
@@ -170,7 +174,7 @@ class Attempt final {
     return isUnlocked ? Status::Done : Status::Locked;
   }
 
-  GCancellable* const m_cancellable;
+  GCancellable* m_cancellable;
   const std::function<void()> m_answered;
   GError* m_error = nullptr;
   Object<SecretService> m_service;
@@ -194,10 +198,6 @@ Result tried(const Watch& watch, const std::function<Result(Attempt&)>& call,
     secret_service_disconnect();
     if (!isFirst) return failed(status);
   }
-}
-
-Status triedStatus(const Watch& watch, const std::function<Status(Attempt&)>& call) {
-  return tried<Status>(watch, call, [](Status status) { return status; });
 }
 
 }  // namespace
@@ -234,11 +234,13 @@ Answer read(const Item& item, const Watch& watch) {
 }
 
 Status write(const Item& item, const QByteArray& secret, const Watch& watch) {
-  return triedStatus(watch, [&](Attempt& attempt) { return attempt.write(item, secret); });
+  return tried<Status>(
+      watch, [&](Attempt& attempt) { return attempt.write(item, secret); }, std::identity());
 }
 
-Status remove(const Item& item, const Watch& watch) {
-  return triedStatus(watch, [&](Attempt& attempt) { return attempt.remove(item); });
+std::optional<Status> remove(const Item& item, const Watch& watch) {
+  return tried<std::optional<Status>>(
+      watch, [&](Attempt& attempt) { return attempt.remove(item); }, std::identity());
 }
 
 void unlock(const QList<Item>& items) {

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "host/KZUtility/KZKeychainBackend.h"
 
@@ -41,7 +42,8 @@ struct Watch {
 KZKeychainBackend::Answer read(const KZKeychainBackend::Item& item, const Watch& watch);
 KZKeychainBackend::Status write(const KZKeychainBackend::Item& item, const QByteArray& secret,
                                 const Watch& watch);
-KZKeychainBackend::Status remove(const KZKeychainBackend::Item& item, const Watch& watch);
+// Nothing when the service has asked its user, who said no.
+std::optional<KZKeychainBackend::Status> remove(const KZKeychainBackend::Item& item, const Watch& watch);
 
 // Returns when the user has answered the prompt.
 void unlock(const QList<KZKeychainBackend::Item>& items);

@@ -5,6 +5,7 @@
 #include <deque>
 #include <functional>
 #include <mutex>
+#include <optional>
 #include <thread>
 
 #include "host/KZUtility/SecretServiceCalls.h"
@@ -38,7 +39,7 @@ class SecretServiceKeychain::Worker final {
     }
     if (task->isDone) return task->answer;
     m_patience = std::min(2 * m_patience, kLongestPatience);
-    task->isAbandoned = true;
+    std::erase(m_queue->waiting, task);
     lock.unlock();
     secretservice::cancel(task->cancellable.get());
     return {.status = Status::Silent, .secret = {}};
@@ -51,7 +52,6 @@ class SecretServiceKeychain::Worker final {
     Answer answer;
     int answers = 0;  // of the service, within the call
     bool isDone = false;
-    bool isAbandoned = false;
   };
 
   // Shared by the callers and the thread, so that it outlives the worker for a thread whose call never
@@ -73,7 +73,6 @@ class SecretServiceKeychain::Worker final {
         if (isStopping) break;
         current = std::move(waiting.front());
         waiting.pop_front();
-        if (current->isAbandoned) continue;
         lock.unlock();
         Answer answer = current->call({.cancellable = current->cancellable.get(), .answered = [this] {
                                          const std::lock_guard counting(mutex);
@@ -123,15 +122,21 @@ KZKeychainBackend::Answer SecretServiceKeychain::read(const Item& item) {
 }
 
 KZKeychainBackend::Status SecretServiceKeychain::write(const Item& item, const QByteArray& secret) {
-  const auto call = [item, secret](const secretservice::Watch& watch) {
-    return Answer{.status = secretservice::write(item, secret, watch), .secret = {}};
+  const auto call = [item, secret, refused = m_refused](const secretservice::Watch& watch) {
+    const Status status = secretservice::write(item, secret, watch);
+    if (status == Status::Done) refused->erase({item.service, item.account});
+    return Answer{.status = status, .secret = {}};
   };
   return m_worker->ask(call).status;
 }
 
 KZKeychainBackend::Status SecretServiceKeychain::remove(const Item& item) {
-  const auto call = [item](const secretservice::Watch& watch) {
-    return Answer{.status = secretservice::remove(item, watch), .secret = {}};
+  const auto call = [item, refused = m_refused](const secretservice::Watch& watch) {
+    const std::pair key(item.service, item.account);
+    std::optional<Status> status;
+    if (!refused->contains(key)) status = secretservice::remove(item, watch);
+    if (!status) refused->insert(key);
+    return Answer{.status = status.value_or(Status::Locked), .secret = {}};
   };
   return m_worker->ask(call).status;
 }

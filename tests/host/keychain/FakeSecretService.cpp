@@ -8,6 +8,7 @@
 //   forgets   says that an item was created, and has none
 //   dismissed has one item, which is locked; its user dismisses the prompt
 //   accepted  has one item, which is locked; its user unlocks it at the prompt
+//   keeping   has one item; it asks its user before it removes it, who says no
 // It prints "ready" once it owns the name, and "prompt" when a call would prompt the user.
 
 #include <gio/gio.h>
@@ -56,8 +57,8 @@ GVariant* secret() {
 
 gboolean answerPrompt(gpointer data) {
   Fake& fake = *static_cast<Fake*>(data);
-  const bool isDismissed = fake.fault == "dismissed";
-  fake.isItemLocked = isDismissed;
+  const bool isDismissed = fake.fault != "accepted";
+  fake.isItemLocked = fake.fault == "dismissed";
   g_dbus_connection_emit_signal(fake.bus, nullptr, kPrompt, "org.freedesktop.Secret.Prompt", "Completed",
                                 g_variant_new("(bv)", isDismissed, paths(isDismissed ? nullptr : kItem)),
                                 nullptr);
@@ -79,6 +80,7 @@ GVariant* answerTo(Fake& fake, std::string_view member) {
   if (member == "GetSecrets") return secret();
   if (member == "CreateItem" && fake.fault == "forgets") return g_variant_new("(oo)", kItem, "/");
   if (member == "Unlock") return g_variant_new("(@aoo)", paths(nullptr), kPrompt);
+  if (member == "Delete") return g_variant_new("(o)", kPrompt);
   if (member == "Prompt") {
     g_timeout_add(kUserMilliseconds, answerPrompt, &fake);
     return g_variant_new("()");
@@ -144,8 +146,8 @@ void onNoName(GDBusConnection*, const gchar*, gpointer) {
 int main(int argc, char** argv) {
   if (argc != 2) return 2;
   Fake fake = {.fault = argv[1]};
-  fake.hasItem =
-      fake.fault == "slow" || fake.fault == "late" || fake.fault == "dismissed" || fake.fault == "accepted";
+  for (const char* fault : {"slow", "late", "dismissed", "accepted", "keeping"})
+    fake.hasItem = fake.hasItem || fake.fault == fault;
   fake.isItemLocked = fake.fault == "dismissed" || fake.fault == "accepted";
   g_bus_own_name(G_BUS_TYPE_SESSION, "org.freedesktop.secrets", G_BUS_NAME_OWNER_FLAGS_NONE, onBus, onName,
                  onNoName, &fake, nullptr);

@@ -169,6 +169,20 @@ TEST(LockedItem, IsUnlockedByTheUserWhoIsAskedOnce) {
   }
 }
 
+TEST(SlowKeychain, AsksOnceBeforeItRemoves) {
+  ServiceProcess service("keeping");
+  const TraceCollector watch;
+  handle().useStorage(Storage::System);
+  EXPECT_EQ(handle().getOutlookOnlineData(), QByteArray("kept"));
+  EXPECT_EQ(handle().deleteGenericPassword(kOnlineItem), Status::Silent) << "the user takes 1.5 s";
+  EXPECT_FALSE(handle().getOutlookOnlineData());
+  EXPECT_TRUE(QTest::qWaitFor([] { return handle().hindrance() == Hindrance::Locked; }, kPatience));
+  QTest::qWait(1500);  // time for more tries
+  EXPECT_EQ(handle().deleteGenericPassword(kOnlineItem), Status::Locked);
+  EXPECT_EQ(service.said().count("prompt"), 1);
+  handle().useStorage(Storage::Memory);
+}
+
 TEST(NoBus, AnswersAtOnce) {
   for (const char* address : {"unix:path=/nonexistent/bus", "garbage", ""}) {
     SCOPED_TRACE(address);
