@@ -6,6 +6,7 @@
 #include "companion/texts/CompanionText.h"
 #include "host/KZFoundation/KZCommands.h"
 #include "host/KZFoundation/KZConstants.h"
+#include "host/KZUtility/KZKeyChainHandle.h"
 #include "host/KZUtility/KZPlistFileHandle.h"
 
 namespace {
@@ -61,6 +62,11 @@ NextMeetings::NextMeetings(PluginHost* host, ServiceNetwork* network, std::chron
           [this](const QString& key) {
             if (key == QLatin1String("calendarIntegration")) refresh();
           });
+  // What was missing can be read now.
+  const KZKeyChainHandle& keychain = KZKeyChainHandle::sharedInstance();
+  connect(&keychain, &KZKeyChainHandle::hindranceChanged, this, [this, &keychain] {
+    if (keychain.hindrance() == KZKeyChainHandle::Hindrance::None) refresh();
+  });
   watch(host);
 }
 

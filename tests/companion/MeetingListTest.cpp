@@ -12,8 +12,11 @@
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTest>
+#include <atomic>
+#include <memory>
 
 #include "adal/ADAuthenticationSettings.h"
+#include "adal/ADTokenCache.h"
 #include "companion/app/CompanionExchange.h"
 #include "companion/app/DemoUser.h"
 #include "companion/app/MeetingsView.h"
@@ -98,6 +101,12 @@ class MeetingListTest : public testing::Test {
         8000);
   }
 
+  void applyOnlineAccount() {
+    if (auto* field = qobject_cast<QLineEdit*>(shown("m_emailInputTxt"))) field->selectAll();
+    type("m_emailInputTxt", "online@cloud.sandbox.example");
+    click("m_detectBtn");
+  }
+
   const QTemporaryDir folder;
   QNetworkAccessManager browser;
   PluginHost host{[this](const QUrl& url) {
@@ -153,9 +162,39 @@ TEST_F(MeetingListTest, AFailedOnlineSignInIsShownAndStoresNothing) {
     EXPECT_NE(shown("m_detectBtn"), nullptr) << email;
     EXPECT_TRUE(listText().contains("enter your email address")) << email << ": " << listText().toStdString();
   }
-  if (auto* field = qobject_cast<QLineEdit*>(shown("m_emailInputTxt"))) field->selectAll();
-  type("m_emailInputTxt", "online@cloud.sandbox.example");
-  click("m_detectBtn");
+  applyOnlineAccount();
+  EXPECT_TRUE(lists("Stand-up")) << listText().toStdString();
+}
+
+// Holds one secret, and is locked at first.
+struct LockedKeyring final : KZKeychainBackend {
+  explicit LockedKeyring(QByteArray kept) : secret(std::move(kept)) {}
+  Answer read(const Item& /*item*/) override {
+    return isLocked ? Answer{.status = Status::Locked, .secret = {}}
+                    : Answer{.status = Status::Done, .secret = secret};
+  }
+  Status write(const Item& /*item*/, const QByteArray& /*secret*/) override { return Status::Locked; }
+  Status remove(const Item& /*item*/) override { return Status::Locked; }
+
+  const QByteArray secret;
+  std::atomic<bool> isLocked = true;
+};
+
+TEST_F(MeetingListTest, ListsAsSoonAsTheKeyringIsUnlocked) {
+  if (IsSkipped()) return;
+  click("m_outlookRadioBtn");
+  applyOnlineAccount();
+  ASSERT_TRUE(lists("Stand-up")) << listText().toStdString();
+  KZKeyChainHandle& keychain = KZKeyChainHandle::sharedInstance();
+  const auto keyring =
+      std::make_shared<LockedKeyring>(keychain.getOutlookOnlineData().value_or(QByteArray()));
+  keychain.useBackend(keyring);
+  // As in a new run, which has only what it reads.
+  EXPECT_FALSE(ADTokenCache::defaultCache().deserialize(std::nullopt));
+  services.meetings().refresh();
+  EXPECT_TRUE(QTest::qWaitFor([this] { return listText().contains("Nobody is signed in"); }, 8000))
+      << listText().toStdString();
+  keyring->isLocked = false;
   EXPECT_TRUE(lists("Stand-up")) << listText().toStdString();
 }
 
