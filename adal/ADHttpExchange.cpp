@@ -16,6 +16,8 @@ using namespace std::chrono_literals;
 constexpr auto nextAddressDelay = 250ms;
 constexpr qint64 longestLine = 16 * 1024;
 constexpr qint64 mostHeaderBytes = 64 * 1024;
+// Read in one go: a server that sends faster than its lines are understood does not hold up the thread.
+constexpr qint64 readBufferBytes = 2 * longestLine;
 
 bool isEncrypted(const QUrl& address) {
   return address.scheme() == QLatin1String("https");
@@ -104,13 +106,14 @@ void ADHttpExchange::start() {
   const QString host = m_request.peer ? m_request.peer->address : hostOf(m_request.address);
   // A look-up of an address would ask for its name.
   const QHostAddress literal(host);
-  const bool isLocal = literal.isLoopback() || host == QLatin1String("localhost");
-  const QNetworkProxy proxy = isLocal ? QNetworkProxy::NoProxy : proxyFor(m_request.address);
+  // Nobody is asked where this is, and nobody can name another machine.
+  const bool isLocalhost = host == QLatin1String("localhost");
+  const bool isDirect = m_request.peer || isLocalhost || literal.isLoopback();
+  const QNetworkProxy proxy = isDirect ? QNetworkProxy::NoProxy : proxyFor(m_request.address);
   if (proxy.type() != QNetworkProxy::NoProxy) return connectThroughProxy(proxy);
-  if (!literal.isNull()) {
-    m_waiting = {literal};
-    return connectToNext();
-  }
+  if (isLocalhost) m_waiting = {QHostAddress::LocalHostIPv6, QHostAddress::LocalHost};
+  if (!literal.isNull()) m_waiting = {literal};
+  if (!m_waiting.isEmpty()) return connectToNext();
   QHostInfo::lookupHost(host, this, [this](const QHostInfo& found) {
     if (m_done == nullptr) return;
     m_waiting = found.addresses();
@@ -165,6 +168,7 @@ void ADHttpExchange::onConnected(QSslSocket* socket) {
   for (QSslSocket* const other : std::exchange(m_attempts, {})) {
     if (other != socket) release(other);
   }
+  socket->setReadBufferSize(readBufferBytes);
   connect(socket, &QSslSocket::readyRead, this, &ADHttpExchange::read);
   connect(socket, &QSslSocket::disconnected, this, &ADHttpExchange::onClosed);
   if (!isEncrypted(m_request.address)) return send();
@@ -223,7 +227,9 @@ bool ADHttpExchange::readLine() {
     return false;
   }
   QByteArray line = m_socket->readLine(longestLine);
-  if (!line.endsWith('\n')) {
+  // The lines between chunks are bounded by the body.
+  if (m_part != Part::ChunkSize && m_part != Part::ChunkEnd) m_headerBytes += line.size();
+  if (!line.endsWith('\n') || m_headerBytes > mostHeaderBytes) {
     fail(ADHttpFailure::Malformed);
     return false;
   }
@@ -256,12 +262,9 @@ void ADHttpExchange::readStatus(const QByteArray& line) {
 }
 
 void ADHttpExchange::readHeader(const QByteArray& line) {
-  m_headerBytes += line.size();
   const qsizetype colon = line.indexOf(':');
   const bool isContinued = line.startsWith(' ') || line.startsWith('\t');
-  if (m_headerBytes > mostHeaderBytes || (isContinued ? m_response.headers.isEmpty() : colon <= 0)) {
-    return fail(ADHttpFailure::Malformed);
-  }
+  if (isContinued ? m_response.headers.isEmpty() : colon <= 0) return fail(ADHttpFailure::Malformed);
   if (isContinued) {
     m_response.headers.last().second += ' ' + line.trimmed();
     return;

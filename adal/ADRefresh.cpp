@@ -35,16 +35,9 @@ QSet<QStringList>& refusedScopes() {
   return livingForEver<QSet<QStringList>>();
 }
 
-template <typename Predicate>
-std::optional<ADTokenCacheItem> refreshItem(const Predicate& isWanted) {
-  const QList<ADTokenCacheItem> items = ADTokenCache::defaultCache().allItems().items;
-  const auto found = std::find_if(items.begin(), items.end(), [&](const ADTokenCacheItem& item) {
-    return item.isMultiResourceRefreshToken() && isWanted(item);
-  });
-  return found == items.end() ? std::nullopt : std::optional(*found);
+ADError noLongerStored() {
+  return {ADErrorCode::InvalidGrant, QStringLiteral("the refresh token is no longer stored")};
 }
-
-constexpr char noLongerStored[] = "the refresh token is no longer stored";
 
 }  // namespace
 
@@ -64,13 +57,14 @@ void ADRefresh::whenNoneIsInProgress(const std::function<void()>& action) {
   goOnLater();
 }
 
-ADRefresh::ADRefresh(const ADRefreshRequest& request)
-    : m_request(request), m_holder(refreshItem([&request](const ADTokenCacheItem& item) {
-        return item.refreshToken == request.refreshToken;
-      })) {
+ADRefresh::ADRefresh(const ADRefreshRequest& request) : m_request(request) {
   Q_ASSERT(QThread::currentThread() == QCoreApplication::instance()->thread());
-  connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this,
-          [] { runningRefreshes().sent.clear(); });
+  m_holder =
+      stored([&request](const ADTokenCacheItem& item) { return item.refreshToken == request.refreshToken; });
+  connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, [this] {
+    m_web = {};
+    runningRefreshes().sent.clear();
+  });
 }
 
 ADRefresh::~ADRefresh() {
@@ -110,19 +104,34 @@ bool ADRefresh::usesTokenOf(const ADRefresh& other) const {
   return m_request.refreshToken == other.m_request.refreshToken;
 }
 
-std::optional<ADTokenCacheItem> ADRefresh::storedHolder() const {
-  return refreshItem([this](const ADTokenCacheItem& item) { return item.isSameEntry(*m_holder); });
+std::optional<ADTokenCacheItem> ADRefresh::stored(
+    const std::function<bool(const ADTokenCacheItem&)>& isWanted) {
+  const ADTokenCache::Items stored = ADTokenCache::defaultCache().allItems();
+  m_cacheFailure = stored.error;
+  const auto found = std::find_if(
+      stored.items.begin(), stored.items.end(),
+      [&](const ADTokenCacheItem& item) { return item.isMultiResourceRefreshToken() && isWanted(item); });
+  return found == stored.items.end() ? std::nullopt : std::optional(*found);
+}
+
+std::optional<ADTokenCacheItem> ADRefresh::storedHolder() {
+  return stored([this](const ADTokenCacheItem& item) { return item.isSameEntry(*m_holder); });
 }
 
 void ADRefresh::start() {
+  // Without the stored item nobody knows where the token may be sent.
+  if (m_cacheFailure) {
+    fail(*m_cacheFailure);
+    return;
+  }
   if (m_holder && (!isSameOrigin(QUrl(m_holder->authority), QUrl(m_request.authority)) ||
                    m_holder->clientId != m_request.clientId)) {
-    fail(ADErrorCode::InvalidArgument, QStringLiteral("a refresh token of another authority or client"));
+    fail({ADErrorCode::InvalidArgument, QStringLiteral("a refresh token of another authority or client")});
     return;
   }
   findEndpoints(m_web, m_request.authority, [this](const ADEndpointsOrError& found) {
     if (found.error) {
-      finish(ADAuthenticationResult::failed(*found.error));
+      fail(*found.error);
       return;
     }
     m_endpoints = found.endpoints;
@@ -134,7 +143,7 @@ void ADRefresh::redeem() {
   if (m_holder) {
     m_holder = storedHolder();
     if (!m_holder) {
-      fail(ADErrorCode::InvalidGrant, QLatin1String(noLongerStored));
+      fail(m_cacheFailure.value_or(noLongerStored()));
       return;
     }
   }
@@ -176,7 +185,7 @@ void ADRefresh::onAnswer(const ADTokenAnswerOrError& answer) {
     redeem();
     return;
   }
-  finish(ADAuthenticationResult::failed(*answer.error));
+  fail(*answer.error);
 }
 
 ADAuthenticationResult ADRefresh::store(const ADTokenAnswer& answer) const {
@@ -205,13 +214,12 @@ ADAuthenticationResult ADRefresh::store(const ADTokenAnswer& answer) const {
   const ADTokenCache::Failure failure = ADTokenCache::defaultCache().change(replace);
   if (failure) return ADAuthenticationResult::failed(*failure);
   // The tokens were removed meanwhile, and must not come back.
-  if (!isHeld)
-    return ADAuthenticationResult::failed({ADErrorCode::InvalidGrant, QLatin1String(noLongerStored)});
+  if (!isHeld) return ADAuthenticationResult::failed(noLongerStored());
   return ADAuthenticationResult::succeeded(access);
 }
 
-void ADRefresh::fail(ADErrorCode code, const QString& details) {
-  finish(ADAuthenticationResult::failed({code, details}));
+void ADRefresh::fail(const ADError& error) {
+  finish(ADAuthenticationResult::failed(error));
 }
 
 void ADRefresh::finish(const ADAuthenticationResult& result) {

@@ -15,9 +15,9 @@
 
 // One redemption of a refresh token, shared by equal requests. A stored token is redeemed once at a time:
 // another request for it waits, and then redeems what is stored by then. A token is sent only to the
-// authority and as the client that got it. When all of its owners have left before the token
-// is sent, it is cancelled; afterwards it still stores the successor, because the token is used up. A failure
-// leaves the stored tokens unchanged. Main thread only.
+// authority and as the client that got it. When all of its owners have left before the token is sent, it is
+// cancelled; afterwards it still stores the successor, because the token is used up. A failure leaves the
+// stored tokens unchanged. Main thread only.
 class ADRefresh final : public QObject, public std::enable_shared_from_this<ADRefresh> {
  public:
   // The refresh in progress for an equal request, or a new one.
@@ -37,13 +37,14 @@ class ADRefresh final : public QObject, public std::enable_shared_from_this<ADRe
 
   bool answers(const ADRefresh& other) const;
   bool usesTokenOf(const ADRefresh& other) const;
-  std::optional<ADTokenCacheItem> storedHolder() const;
+  std::optional<ADTokenCacheItem> stored(const std::function<bool(const ADTokenCacheItem&)>& isWanted);
+  std::optional<ADTokenCacheItem> storedHolder();
   QString token() const { return m_holder ? m_holder->refreshToken : m_request.refreshToken; }
   void start();
   void redeem();
   void onAnswer(const ADTokenAnswerOrError& answer);
   [[nodiscard]] ADAuthenticationResult store(const ADTokenAnswer& answer) const;
-  void fail(ADErrorCode code, const QString& details);
+  void fail(const ADError& error);
   void finish(const ADAuthenticationResult& result);
 
   const ADRefreshRequest m_request;
@@ -51,6 +52,7 @@ class ADRefresh final : public QObject, public std::enable_shared_from_this<ADRe
   ADWebClient m_web;
   ADEndpoints m_endpoints;
   std::optional<ADTokenCacheItem> m_holder;  // the stored item whose refresh token is redeemed
+  std::optional<ADError> m_cacheFailure;     // of the last look for a stored item
   bool m_hasStarted = false;
   bool m_isFinished = false;
   bool m_hasTriedSuccessor = false;

@@ -171,12 +171,10 @@ void ADSignIn::openBrowser() {
 
 bool ADSignIn::isExpected(const ADParameters& answer) const {
   if (onlyValue(answer, QStringLiteral("state")) != QString::fromLatin1(m_state)) return false;
-  if (!m_endpoints.issuer.isEmpty()) {
-    // Another authority's answer must not be redeemed at this one.
-    const bool hasIssuer = contains(answer, QStringLiteral("iss"));
-    const QString issuer = onlyValue(answer, QStringLiteral("iss")).value_or(QString());
-    if (hasIssuer ? !isIssuer(issuer, m_endpoints.issuer) : m_endpoints.namesIssuer) return false;
-  }
+  // Another authority's answer must not be redeemed at this one.
+  const bool hasIssuer = contains(answer, QStringLiteral("iss"));
+  const QString issuer = onlyValue(answer, QStringLiteral("iss")).value_or(QString());
+  if (hasIssuer ? !isIssuer(issuer, m_request.authority) : m_endpoints.namesIssuer) return false;
   const std::optional<QString> code = onlyValue(answer, QStringLiteral("code"));
   return onlyValue(answer, QStringLiteral("error")) || (code && !code->isEmpty());
 }
@@ -264,6 +262,7 @@ void ADSignIn::stopWaiting() {
 
 // Ends at once, also in the browser.
 void ADSignIn::giveUp() {
+  m_web = {};
   stopWaiting();
   if (m_listener) ADLoopbackListener::close(std::move(m_listener), ADBrowserPage::Failed);
 }

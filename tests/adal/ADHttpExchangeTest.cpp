@@ -91,6 +91,8 @@ TEST_F(ADHttpExchangeTest, RefusesWhatIsMalformedTooLongOrCutOff) {
       {chunked + "1\r\nxyz\r\n", ADHttpFailure::Malformed},
       {QByteArray(70'000, 'x'), ADHttpFailure::Malformed},
       {ok + QByteArray("X: y\r\n").repeated(20'000), ADHttpFailure::Malformed},
+      {QByteArray("HTTP/1.1 100 Continue\r\n\r\n").repeated(20'000), ADHttpFailure::Malformed},
+      {chunked + "0\r\n" + QByteArray("X: y\r\n").repeated(20'000), ADHttpFailure::Malformed},
       {ok + "Content-Length: 9999999999\r\n\r\n", ADHttpFailure::TooLong},
       {ok + "\r\n" + kilobyte, ADHttpFailure::TooLong},
       {chunked + "3e9\r\n" + kilobyte, ADHttpFailure::TooLong},

@@ -134,6 +134,12 @@ TEST_F(ADRefreshTest, ATokenIsSentOnlyToItsOwnAuthorityAsItsOwnClient) {
     EXPECT_TRUE(provider.requests().isEmpty());
     EXPECT_EQ(items().last(), holder);
   }
+  Result busy;
+  ASSERT_FALSE(
+      ADTokenCache::defaultCache().change([&](auto&) { return refresh(busy, refreshToken), false; }));
+  ASSERT_TRUE(waitFor(busy));
+  EXPECT_EQ(busy->error->code, ADErrorCode::CacheBusy) << "whose it is cannot be seen";
+  EXPECT_TRUE(provider.requests().isEmpty());
   ADTokenCacheItem sameOrigin = held(refreshToken);
   sameOrigin.authority.replace("/common", "/tenant");
   store({sameOrigin});

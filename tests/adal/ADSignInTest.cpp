@@ -141,6 +141,14 @@ TEST_F(ADSignInTest, DestroyedContextIsNotAnswered) {
   EXPECT_EQ(authority->tokenRequests().size(), 1);
 }
 
+TEST_F(ADSignInTest, OpensNothingAfterTheApplicationsEnd) {
+  Result result;
+  signIn(result);
+  ASSERT_TRUE(QMetaObject::invokeMethod(QCoreApplication::instance(), "aboutToQuit"));
+  QTest::qWait(100);
+  EXPECT_TRUE(opened.isEmpty());
+}
+
 TEST_F(ADSignInTest, AuthorityMustBeProtectedOrLocal) {
   const char* const notAllowed[] = {
       "http://login.example.com/common",
