@@ -63,7 +63,8 @@ void TokenRequests::takeTurn() {
   if (m_wrapper->hasUnreportedResult()) return takeTurnLater();
   while (!m_refreshing && !m_turns.isEmpty()) {
     // Looked up anew, because a sign-in may have changed the tokens meanwhile.
-    QList<Content> group = m_waiting.take(m_turns.dequeue());
+    const QString turn = m_turns.dequeue();
+    QList<Content> group = m_waiting.take(turn);
     while (!m_refreshing && !group.isEmpty()) {
       const Content content = group.takeFirst();
       const Dictionary token = tokenFor(content);
@@ -73,7 +74,9 @@ void TokenRequests::takeTurn() {
         later([this, content, token] { answer(content, token); });
       }
     }
-    if (m_refreshing) m_waiting[*m_refreshing] += group;
+    // Another token than they waited for may be another user's.
+    for (const Content& left : std::as_const(group))
+      wait(left, m_refreshing == turn ? turn : refreshTokenIn(tokenFor(left)));
   }
 }
 

@@ -40,13 +40,14 @@ void TokenHost::addUser(const QString& user, const QString& authority, const QSt
   EXPECT_FALSE(ADTokenCache::defaultCache().addOrUpdateItems({access, refresh}));
 }
 
-int TokenHost::ask(const QString& user) {
+int TokenHost::ask(const QString& user, const QString& username) {
   const int number = ++m_asked;
   command(KZCommand::KZCmdGetExchOnlineToken,
           Dictionary{{QStringLiteral("number"), number},
                      {kKZCalendarIntegration,
                       Dictionary{{kKZCalendarIntegrationExchange,
-                                  Dictionary{{kKZCalendarIntegrationExchangeEmail, user}}}}}});
+                                  Dictionary{{kKZCalendarIntegrationExchangeEmail, user},
+                                             {kKZCalendarIntegrationExchangeUsername, username}}}}}});
   return number;
 }
 

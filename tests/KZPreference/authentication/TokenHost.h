@@ -21,7 +21,7 @@ class TokenHost : public TestHost {
                Token token = Token::Expired);
 
   // Sends command 28 and returns the request's number.
-  int ask(const QString& user);
+  int ask(const QString& user, const QString& username = {});
   std::optional<Dictionary> answerTo(int request) const;
   bool waitForAnswers(int count, int milliseconds = 8000) const;
 

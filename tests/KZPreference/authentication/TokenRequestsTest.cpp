@@ -3,6 +3,7 @@
 #include <QEventLoop>
 #include <QTest>
 #include <QTimer>
+#include <algorithm>
 
 #include "KZPreference/core/KZPreferenceCore.h"
 #include "adal/ADTokenCache.h"
@@ -171,6 +172,21 @@ TEST_F(TokenRequestsTest, ATurnUsesWhatIsStoredByThen) {
     EXPECT_EQ(outcomes(requests), (QStringList{"refreshed", "stored", isEnded ? "unanswered" : "stored"}));
     EXPECT_EQ(provider.redemptions("b"), 0);
   }
+}
+
+TEST_F(TokenRequestsTest, ASignInSeparatesWhoWaitedForOneToken) {
+  addUser("out");
+  addUser("a");
+  ask({"out"});
+  TokenHost::ask("a", "b");
+  ask({"a"});
+  addUser("b");
+  QList<ADTokenCacheItem> items = ADTokenCache::defaultCache().allItems().items;
+  std::rotate(items.begin(), items.end() - 2, items.end());
+  EXPECT_FALSE(ADTokenCache::defaultCache().replaceAllItems(items));
+  ASSERT_TRUE(waitForAnswers(3));
+  EXPECT_TRUE(textValue(answerTo(2).value(), QRT_ListingMeeting_exchOnlineToken).startsWith("access-of-b-"));
+  EXPECT_EQ(outcome(answerTo(3)), "refreshed");
 }
 
 TEST_F(TokenRequestsTest, AHostMayDoAnythingFromWithinAnAnswer) {
