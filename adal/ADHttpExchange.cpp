@@ -16,7 +16,7 @@ using namespace std::chrono_literals;
 constexpr auto nextAddressDelay = 250ms;
 constexpr qint64 longestLine = 16 * 1024;
 constexpr qint64 mostHeaderBytes = 64 * 1024;
-// Read in one go: a server that sends faster than its lines are understood does not hold up the thread.
+// As much as is read before other events have their turn, however fast a server sends.
 constexpr qint64 readBufferBytes = 2 * longestLine;
 
 bool isEncrypted(const QUrl& address) {
@@ -106,7 +106,7 @@ void ADHttpExchange::start() {
   const QString host = m_request.peer ? m_request.peer->address : hostOf(m_request.address);
   // A look-up of an address would ask for its name.
   const QHostAddress literal(host);
-  // Nobody is asked where this is, and nobody can name another machine.
+  // This machine by definition: a name server need not be asked, and cannot send it elsewhere.
   const bool isLocalhost = host == QLatin1String("localhost");
   const bool isDirect = m_request.peer || isLocalhost || literal.isLoopback();
   const QNetworkProxy proxy = isDirect ? QNetworkProxy::NoProxy : proxyFor(m_request.address);

@@ -19,7 +19,7 @@ class QSslSocket;
 
 using ADHttpHeaders = QList<std::pair<QByteArray, QByteArray>>;
 
-// Where to connect in place of where an address points.
+// Where to connect in place of where an address points; without a proxy.
 struct ADHttpPeer {
   QString address;
   quint16 port = 0;
@@ -27,7 +27,7 @@ struct ADHttpPeer {
 };
 
 struct ADHttpRequest {
-  QUrl address;
+  QUrl address;          // https, or http, which the caller has to allow
   QByteArray body = {};  // empty: the address is read (GET), else the body is sent (POST)
   ADHttpHeaders headers = {};
   std::chrono::milliseconds time{10'000};  // from its start to the response's last byte
