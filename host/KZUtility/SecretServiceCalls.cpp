@@ -57,6 +57,20 @@ Status statusOf(const GError* error) {
   return isLate ? Status::Silent : Status::NoKeyring;
 }
 
+// For the library's own handler, which crashes when a collection appears before the service has told its
+// properties. Nothing here needs the signals.
+void stopSignal(GDBusProxy* service, const gchar*, const gchar*, GVariant*, gpointer) {
+  g_signal_stop_emission_by_name(service, "g-signal");
+}
+
+void ignoreSignals(SecretService* service) {
+  const auto handler = G_CALLBACK(stopSignal);
+  if (g_signal_handler_find(service, G_SIGNAL_MATCH_FUNC, 0, 0, nullptr, reinterpret_cast<gpointer>(handler),
+                            nullptr) == 0) {
+    g_signal_connect(service, "g-signal", handler, nullptr);
+  }
+}
+
 // One try against a connected service; a failure leaves `error` set when a new connection may help.
 class Attempt final {
  public:
@@ -72,6 +86,7 @@ class Attempt final {
     if (!m_service) return false;
     // By default the process exits when the bus closes the connection.
     g_dbus_connection_set_exit_on_close(bus(), FALSE);
+    ignoreSignals(m_service.get());
     m_answered();
     const bool isOpen = secret_service_ensure_session_sync(m_service.get(), m_cancellable, &m_error);
     m_answered();
@@ -91,9 +106,9 @@ class Attempt final {
   }
 
   Status write(const Item& item, const QByteArray& secret) {
-    const Status found = find(item);
-    if (found != Status::Done && found != Status::NotFound) return found;
     if (const Status status = defaultCollection(); status != Status::Done) return status;
+    const Status found = search(item);
+    if (found != Status::Done && found != Status::NotFound) return found;
     const Value value(secret_value_new(secret.constData(), secret.size(), "application/octet-stream"));
     const Attributes attributes = attributesOf(item);
     const bool isStored =
@@ -121,8 +136,7 @@ class Attempt final {
   // What must be unlocked for the item.
   QByteArray lockedPath(const Item& item) {
     if (find(item) != Status::Locked) return {};
-    if (*m_locked) return *m_locked;
-    return m_collection.get();
+    return m_locked && *m_locked ? *m_locked : m_collection.get();
   }
 
   void unlock(const QList<QByteArray>& paths) {
@@ -134,9 +148,17 @@ class Attempt final {
  private:
   GDBusConnection* bus() const { return g_dbus_proxy_get_connection(G_DBUS_PROXY(m_service.get())); }
 
-  // Never prompts: what is locked is told as such. When nothing is found, the collection decides whether that
-  // means anything.
+  // Never prompts. A keyring may ask its user to unlock it before it searches: a locked one is not searched.
+  // When nothing is found, the collection decides whether that means anything.
   Status find(const Item& item) {
+    m_locked.reset();
+    const Status collection = defaultCollection();
+    if (isFailed() || collection == Status::Locked) return collection;
+    const Status found = search(item);
+    return found == Status::NotFound && collection != Status::Done ? collection : found;
+  }
+
+  Status search(const Item& item) {
     const Attributes attributes = attributesOf(item);
     gchar** unlocked = nullptr;
     gchar** locked = nullptr;
@@ -147,9 +169,7 @@ class Attempt final {
     if (!isSearched) return failure();
     m_answered();
     if (*unlocked) return Status::Done;
-    if (*locked) return Status::Locked;
-    const Status status = defaultCollection();
-    return status == Status::Done ? Status::NotFound : status;
+    return *locked ? Status::Locked : Status::NotFound;
   }
 
   // Whether it is there and unlocked.

@@ -1,6 +1,6 @@
 // A Secret Service with one fault, named by the first argument:
 //   silent    never answers
-//   locked    its default collection is locked
+//   locked    its default collection is locked; it asks its user, who is away, before it searches
 //   absent    it has no default collection
 //   slow      answers each call after 0.9 s
 //   late      answers its first call after 2.5 s
@@ -9,7 +9,8 @@
 //   dismissed has one item, which is locked; its user dismisses the prompt
 //   accepted  has one item, which is locked; its user unlocks it at the prompt
 //   keeping   has one item; it asks its user before it removes it, who says no
-// It prints "ready" once it owns the name, and "prompt" when a call would prompt the user.
+// All say that a collection appears, before they tell that they have any. It prints "ready" once it owns the
+// name, and "prompt" when a call would prompt the user.
 
 #include <gio/gio.h>
 #include <unistd.h>
@@ -23,6 +24,7 @@ namespace {
 constexpr unsigned long kSlowMicroseconds = 900000;
 constexpr unsigned long kLateMicroseconds = 2500000;
 constexpr unsigned kUserMilliseconds = 1500;
+const char* const kCollection = "/org/freedesktop/secrets/collection/login";
 const char* const kItem = "/org/freedesktop/secrets/collection/login/1";
 const char* const kSession = "/org/freedesktop/secrets/session/1";
 const char* const kPrompt = "/org/freedesktop/secrets/prompt/1";
@@ -68,11 +70,16 @@ gboolean answerPrompt(gpointer data) {
 GVariant* answerTo(Fake& fake, std::string_view member) {
   if (member == "ReadAlias") {
     if (fake.fault == "dies") _exit(1);
-    return g_variant_new("(o)", fake.fault == "absent" ? "/" : "/org/freedesktop/secrets/collection/login");
+    return g_variant_new("(o)", fake.fault == "absent" ? "/" : kCollection);
   }
   if (member == "Get") return g_variant_new("(v)", g_variant_new_boolean(fake.fault == "locked"));
   if (member == "GetAll") return g_variant_new("(a{sv})", nullptr);
-  if (member == "OpenSession") return g_variant_new("(vo)", g_variant_new_string(""), kSession);
+  if (member == "OpenSession") {
+    g_dbus_connection_emit_signal(fake.bus, nullptr, "/org/freedesktop/secrets",
+                                  "org.freedesktop.Secret.Service", "CollectionCreated",
+                                  g_variant_new("(o)", kCollection), nullptr);
+    return g_variant_new("(vo)", g_variant_new_string(""), kSession);
+  }
   if (member == "SearchItems") {
     return g_variant_new("(@ao@ao)", paths(fake.hasItem && !fake.isItemLocked ? kItem : nullptr),
                          paths(fake.hasItem && fake.isItemLocked ? kItem : nullptr));
@@ -117,10 +124,12 @@ GDBusMessage* onMessage(GDBusConnection* bus, GDBusMessage* message, gboolean is
   if (!isIncoming || g_dbus_message_get_message_type(message) != G_DBUS_MESSAGE_TYPE_METHOD_CALL)
     return message;
   const std::string_view member = g_dbus_message_get_member(message);
-  if (member == "Unlock" || member == "Prompt" || member == "CreateCollection") say("prompt");
+  const bool isAskedToSearch = fake.fault == "locked" && member == "SearchItems";
+  if (isAskedToSearch || member == "Unlock" || member == "Prompt" || member == "CreateCollection")
+    say("prompt");
   if (fake.fault == "slow") g_usleep(kSlowMicroseconds);
   if (fake.fault == "late" && fake.calls++ == 0) g_usleep(kLateMicroseconds);
-  if (fake.fault != "silent") {
+  if (fake.fault != "silent" && !isAskedToSearch) {
     GDBusMessage* reply = replyTo(fake, message, member);
     g_dbus_connection_send_message(bus, reply, G_DBUS_SEND_MESSAGE_FLAGS_NONE, nullptr, nullptr);
     g_object_unref(reply);
