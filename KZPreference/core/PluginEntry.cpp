@@ -25,6 +25,13 @@ Dictionary PluginEntry::getAccessTokenByEmail(const QString& email, const QStrin
   return ADTokenCacheWrapper::sharedInstance().getAccessTokenByEmail(email, username);
 }
 
+bool PluginEntry::clearCacheWithError(QString* error) {
+  OSStatusError status;
+  const bool isCleared = clearCacheWithError(&status);
+  if (!isCleared && error) *error = QStringLiteral("%1 %2").arg(status.domain).arg(status.code);
+  return isCleared;
+}
+
 QString PluginEntry::defaultSavePath() const {
   return ::defaultSavePath();
 }

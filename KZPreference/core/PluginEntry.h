@@ -23,6 +23,7 @@ class PluginEntry final : public QObject,
   void shutDown() override;
 
   Dictionary getAccessTokenByEmail(const QString& email, const QString& username) override;
+  bool clearCacheWithError(QString* error) override;
 
   QString defaultSavePath() const override;
   bool readFromFile(const QString& path) override;
