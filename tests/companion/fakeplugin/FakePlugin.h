@@ -42,6 +42,7 @@ class FakePlugin final : public QObject, public KZPluginFactory, public KZTokenL
   KZPluginCoreMgr* core() override;
   void shutDown() override { m_core.reset(); }
   Dictionary getAccessTokenByEmail(const QString& email, const QString& username) override;
+  bool clearCacheWithError(QString*) override { return true; }
 
  private:
   std::unique_ptr<FakeCore> m_core;
