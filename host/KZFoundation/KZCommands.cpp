@@ -59,7 +59,8 @@ constexpr auto kCommands = std::to_array<KZCommandRow>({
      "`kKZCalendarIntegration` / `kKZCalendarIntegrationExchange` / `kKZCalendarIntegrationExchangeEmail`, "
      "`kKZCalendarIntegrationExchangeUsername`"},
     {KZCmdExchOnlineTokenGot, "KZCmdExchOnlineTokenGot", ToHost, "The response to command 28",
-     "the request with `QRT_ListingMeeting_exchOnlineToken` and \"isTokenExpired\", or with \"GetTokenFailed\" "
+     "the request with `QRT_ListingMeeting_exchOnlineToken` and \"isTokenExpired\", or with "
+     "\"GetTokenFailed\" "
      "and \"GetTokenFailedReason\""},
 });
 

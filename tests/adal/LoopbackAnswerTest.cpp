@@ -178,7 +178,7 @@ TEST_F(LoopbackAnswerTest, AGivenUpSignInTellsTheBrowserAndFreesThePort) {
   authority->setFault(sandbox::Authority::Fault::Silent);
   QNetworkReply* const page = visit(opened.first());
   ASSERT_TRUE(QTest::qWaitFor([this] { return !authority->tokenRequests().isEmpty(); }));
-  ASSERT_TRUE(QTest::qWaitFor([this, page] { return page->url().path() == "/done" || page->isFinished(); }));
+  ASSERT_TRUE(QTest::qWaitFor([page] { return page->url().path() == "/done" || page->isFinished(); }));
   QTest::qWait(50);
   ASSERT_FALSE(page->isFinished());
   context.reset();
