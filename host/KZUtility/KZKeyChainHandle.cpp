@@ -63,10 +63,8 @@ struct KZKeyChainHandle::Private {
             handle, [this, signal, account...] { (handle->*signal)(account...); }, Qt::QueuedConnection);
       };
     };
-    const auto asking = unlocking == Unlocking::AskOnce ? KZKeychainQueue::Unlocking::AskOnce
-                                                        : KZKeychainQueue::Unlocking::Never;
     return std::make_shared<KZKeychainQueue>(
-        std::move(backend), asking,
+        std::move(backend), unlocking,
         KZKeychainQueue::Listener{.written = later(&KZKeyChainHandle::itemWritten),
                                   .removed = later(&KZKeyChainHandle::itemRemoved),
                                   .hindranceChanged = later(&KZKeyChainHandle::tellHindrance)},

@@ -18,10 +18,9 @@ class KZ_HOST_EXPORT KZKeyChainHandle : public QObject {
 
  public:
   using Status = KZKeychainBackend::Status;
+  using Unlocking = KZKeychainBackend::Unlocking;
 
   enum class Storage { Memory, System };
-  // Whether the user may be asked to unlock what is locked, once in a run. Only where somebody can answer.
-  enum class Unlocking { Never, AskOnce };
   // Why secrets are not kept in the keyring at present.
   enum class Hindrance { None, Locked, NoKeyring, Silent };
 

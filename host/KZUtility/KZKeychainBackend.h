@@ -18,6 +18,8 @@ class KZ_HOST_EXPORT KZKeychainBackend {
     NoKeyring,  // there is none, or it refuses
     Silent,     // it did not answer in time; it may still carry the call out
   };
+  // Whether the user may be asked to unlock what is locked, once in a run. Only where somebody can answer.
+  enum class Unlocking { Never, AskOnce };
   struct Item {
     QString service;
     QString account;

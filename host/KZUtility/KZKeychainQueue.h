@@ -16,11 +16,8 @@ class KZKeychainQueue final {
   using Item = KZKeychainBackend::Item;
   using Answer = KZKeychainBackend::Answer;
   using Status = KZKeychainBackend::Status;
+  using Unlocking = KZKeychainBackend::Unlocking;
 
-  enum class Unlocking {
-    Never,
-    AskOnce,  // the user, the first time that something is locked
-  };
   struct Pace {
     std::chrono::milliseconds deadline = std::chrono::seconds(1);  // the longest wait of a caller
     std::chrono::milliseconds firstPause = std::chrono::seconds(1);
